@@ -1,0 +1,20 @@
+#pragma once
+
+#include "run/ParamsCfgTask.h"
+
+namespace orda_batchCfg {
+
+/// Sets the audio input and output of one device.
+class AudioParamsCfgTask : public ParamsCfgTask
+{
+    Q_OBJECT
+
+public:
+    enum Flag { AudioIn = 1, AudioOut = 2 };
+
+    /// @param values "bEnable", "encType", "sampleRate", "bitWidth", "aiGain", "aoGain"; each goes to every object that has it
+    /// @param flags the Flags of the objects to touch
+    AudioParamsCfgTask(const QString &devId, const QJsonObject &values, int flags, QObject *parent);
+};
+
+} // namespace orda_batchCfg

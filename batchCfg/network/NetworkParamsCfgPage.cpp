@@ -1,0 +1,10 @@
+#include "network/NetworkParamsCfgPage.h"
+
+namespace orda_batchCfg {
+
+NetworkParamsCfgPage::NetworkParamsCfgPage(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+} // namespace orda_batchCfg

@@ -1,0 +1,112 @@
+#include "run/CfgResultsRecorder.h"
+
+#include <orda_base/BaseTools.h>
+#include <orda_data/DevsMgrData.h>
+
+#include <QDateTime>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QStandardPaths>
+#include <QTextStream>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orda_batchCfg {
+
+namespace {
+
+Q_LOGGING_CATEGORY(logRecord, "orda.record", QtWarningMsg)
+
+constexpr int ipWidth = 16; // a column that holds every IPv4 address
+
+} // namespace
+
+CfgResultsRecorder::CfgResultsRecorder(const QString &fileName, QObject *parent)
+    : QObject(parent)
+    , m_filePath(QStandardPaths::writableLocation(QStandardPaths::TempLocation) + QLatin1Char('/') + fileName)
+{
+}
+
+bool CfgResultsRecorder::open()
+{
+    close();
+    m_reported = false;
+    m_file = new QFile(m_filePath, this);
+    return openSafely();
+}
+
+bool CfgResultsRecorder::openSafely()
+{
+    const auto fail = [this](const QString &why) {
+        reportOnce(QStringLiteral("cannot open the record file %1: %2").arg(m_filePath, why));
+        return false;
+    };
+
+    const int fd = ::open(QFile::encodeName(m_filePath).constData(),
+                          O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, S_IRUSR | S_IWUSR);
+    if (fd < 0) {
+        return fail(errno == ELOOP ? QStringLiteral("it is a symbolic link") : qt_error_string(errno));
+    }
+    struct stat info = {};
+    QString why;
+    if (::fstat(fd, &info) != 0) {
+        why = qt_error_string(errno);
+    } else if (!S_ISREG(info.st_mode)) {
+        why = QStringLiteral("it is not a regular file");
+    } else if (info.st_uid != ::geteuid()) {
+        why = QStringLiteral("it belongs to another user");
+    } else if (info.st_nlink != 1) {
+        why = QStringLiteral("it has more than one name");
+    } else if (::fchmod(fd, S_IRUSR | S_IWUSR) != 0 || ::ftruncate(fd, 0) != 0) {
+        why = qt_error_string(errno);
+    } else if (!m_file->open(fd, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+        why = m_file->errorString();
+    }
+    if (!why.isEmpty()) {
+        ::close(fd);
+        return fail(why);
+    }
+    return true;
+}
+
+void CfgResultsRecorder::record(const QString &devId, const QString &msg)
+{
+    if (!m_file) {
+        return;
+    }
+    const vms_sdk::DevInfo dev = orda_data::DevsMgrData::instance().getDevInfoById(devId);
+    const QString time = orda_base::BaseTools::instance().strDatetime(QDateTime::currentDateTime(), false, false);
+    // All five go in at once: a name that holds a "%1" of its own is left alone.
+    const QString entry = QStringLiteral("%1    %2    %3    %4                %5\n\n")
+                              .arg(time, dev.serialNumber, dev.ip.leftJustified(ipWidth), msg, dev.name);
+    if (!m_file->isOpen()) {
+        return; // open() has said why
+    }
+    QTextStream stream(m_file);
+    stream << entry;
+    stream.flush();
+    if (stream.status() != QTextStream::Ok || !m_file->flush()) {
+        reportOnce(QStringLiteral("cannot write the record file %1: %2").arg(m_filePath, m_file->errorString()));
+    }
+}
+
+void CfgResultsRecorder::close()
+{
+    if (m_file) {
+        m_file->close();
+        m_file->deleteLater();
+        m_file = nullptr;
+    }
+}
+
+void CfgResultsRecorder::reportOnce(const QString &what)
+{
+    if (!std::exchange(m_reported, true)) {
+        qCWarning(logRecord).noquote() << what;
+    }
+}
+
+} // namespace orda_batchCfg

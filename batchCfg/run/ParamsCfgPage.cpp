@@ -1,0 +1,294 @@
+#include "run/ParamsCfgPage.h"
+
+#include "run/BatchCfgContact.h"
+#include "run/CfgResultsRecorder.h"
+#include "run/ParamsCfgTask.h"
+
+#include <orda_base/DisabledWaitingWt.h>
+#include <orda_base/DisabledWaitingWtManager.h>
+#include <orda_worker/AssistantSignals.h>
+#include <orda_worker/DictDef.h>
+#include <orda_worker/SystemAssistant.h>
+#include <vms_client_sdk/Requests.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QEventLoop>
+#include <QMap>
+#include <QPointer>
+#include <QPushButton>
+#include <QUrl>
+#include <QUuid>
+
+#include <algorithm>
+
+namespace orda_batchCfg {
+
+namespace {
+
+// One run at a time in the whole process: all runs wait in nested event loops on one stack, where an older one could only end
+// after the younger ones.
+class RunLock
+{
+public:
+    RunLock() { s_running = true; }
+    ~RunLock() { s_running = false; }
+    Q_DISABLE_COPY_MOVE(RunLock)
+
+    static bool isHeld() { return s_running; }
+
+private:
+    static bool s_running;
+};
+
+bool RunLock::s_running = false;
+
+void alert(const QString &text)
+{
+    orda_worker::SystemAssistant::instance().messageAlert(orda_worker::DictDef::instance().alertTitle(), text);
+}
+
+} // namespace
+
+// All that the handlers of a run share. It outlives the page when the page is deleted in mid-run.
+struct ParamsCfgPage::Run
+{
+    int total = 0;
+    int success = 0;
+    int failure = 0;
+    QMap<int, QString> pending; // request ids of the running tasks, by place in the run
+    QPointer<orda_base::DisabledWaitingWt> overlay;
+    QUuid overlayId;
+    QEventLoop loop;
+
+    int finished() const { return success + failure; }
+};
+
+ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QWidget *parent)
+    : QWidget(parent)
+    , m_title(title)
+    , m_recorder(new CfgResultsRecorder(recordFile, this))
+{
+    connect(&orda_worker::AssistantSignals::instance(),
+            &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked, this,
+            [this](const QString &uuid, int button) {
+                if (uuid == m_confirmUuid && button == 0) {
+                    m_reportBt->click();
+                }
+            });
+}
+
+ParamsCfgPage::~ParamsCfgPage()
+{
+    if (const std::shared_ptr<Run> run = m_run.lock()) {
+        orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(run->overlayId);
+        run->loop.quit();
+    }
+}
+
+void ParamsCfgPage::setParams(const QVector<Param> &params)
+{
+    m_params = params;
+    QList<QCheckBox *> boxes;
+    for (const Param &param : params) {
+        if (param.box && !boxes.contains(param.box)) {
+            boxes.append(param.box);
+            connect(param.box, &QCheckBox::clicked, this, &ParamsCfgPage::slotSelectedParamsChanged);
+        }
+    }
+    addSelection(findChild<QCheckBox *>(QStringLiteral("allParams")), boxes,
+                 tr("Please select the parameters to be configured"));
+    updateFlags();
+
+    m_okBt = findChild<QPushButton *>(QStringLiteral("okBt"));
+    m_reportBt = findChild<QPushButton *>(QStringLiteral("reportBt"));
+    m_reportBt->hide();
+    connect(m_okBt, &QPushButton::clicked, this, &ParamsCfgPage::configure);
+    connect(m_reportBt, &QPushButton::clicked, this, &ParamsCfgPage::openReport);
+}
+
+void ParamsCfgPage::addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes, const QString &noneAlert)
+{
+    m_selections.append({all, boxes, noneAlert});
+    connect(all, &QCheckBox::clicked, this, [this, all, boxes](bool checked) {
+        all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+        for (QCheckBox *box : boxes) {
+            box->setChecked(checked);
+        }
+        refresh();
+    });
+}
+
+void ParamsCfgPage::slotSelectedParamsChanged()
+{
+    updateSelection(m_selections.constLast().all);
+}
+
+void ParamsCfgPage::updateSelection(const QCheckBox *all)
+{
+    for (const Selection &selection : qAsConst(m_selections)) {
+        if (selection.all == all) {
+            const auto ticked = std::count_if(selection.boxes.begin(), selection.boxes.end(),
+                                              [](const QCheckBox *box) { return box->isChecked(); });
+            const bool isWhole = ticked == selection.boxes.size();
+            selection.all->setCheckState(isWhole ? Qt::Checked : ticked == 0 ? Qt::Unchecked : Qt::PartiallyChecked);
+        }
+    }
+    refresh();
+}
+
+ParamsCfgPage::Value ParamsCfgPage::switchState(const QAbstractButton *button)
+{
+    return [button] { return button->isChecked(); };
+}
+
+ParamsCfgPage::Value ParamsCfgPage::itemData(const QComboBox *combo)
+{
+    return [combo] { return QJsonValue::fromVariant(combo->currentData()); };
+}
+
+void ParamsCfgPage::updateFlags()
+{
+    m_flags = 0;
+    for (const Param &param : qAsConst(m_params)) {
+        if (param.box && param.box->isChecked()) {
+            m_flags |= param.bit;
+        }
+    }
+}
+
+void ParamsCfgPage::refresh()
+{
+    m_okBt->setEnabled(isSelectionComplete(nullptr));
+    updateFlags();
+    for (const Param &param : qAsConst(m_params)) {
+        for (QWidget *panel : param.panels) {
+            panel->setVisible((m_flags & param.bit) != 0);
+        }
+    }
+}
+
+bool ParamsCfgPage::isSelectionComplete(QString *alertText) const
+{
+    for (const Selection &selection : m_selections) {
+        if (selection.all->checkState() == Qt::Unchecked) {
+            if (alertText) {
+                *alertText = selection.noneAlert;
+            }
+            return false;
+        }
+    }
+    return true;
+}
+
+QJsonObject ParamsCfgPage::values() const
+{
+    QJsonObject object;
+    for (const Param &param : m_params) {
+        if ((m_flags & param.bit) != 0) {
+            const QJsonValue value = param.value();
+            if (!value.isUndefined()) {
+                object.insert(param.key, value);
+            }
+        }
+    }
+    return object;
+}
+
+void ParamsCfgPage::configure()
+{
+    if (RunLock::isHeld()) {
+        return;
+    }
+    QString missing;
+    if (!isSelectionComplete(&missing)) {
+        alert(missing);
+        return;
+    }
+    const QStringList devIds = BatchCfgContact::instance().checkedDevIds();
+    if (devIds.isEmpty()) {
+        alert(tr("Please select the devices to be configured"));
+        return;
+    }
+
+    const RunLock lock;
+    const auto run = std::make_shared<Run>();
+    m_run = run;
+    run->total = devIds.size();
+    startTasks(run, devIds);
+
+    const QPointer<ParamsCfgPage> self(this); // the form may be deleted while the loop turns
+    run->loop.exec();
+    if (!self) {
+        return; // nothing of ours is left to touch
+    }
+    if (run->finished() < run->total) {
+        abandonRun(); // the application is quitting
+    }
+    orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(run->overlayId);
+}
+
+void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringList &devIds)
+{
+    const QJsonObject runValues = values();
+    run->overlay =
+        new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));
+    run->overlayId = run->overlay->getUuid();
+    run->overlay->show();
+    m_recorder->open();
+
+    for (int place = 0; place < devIds.size(); ++place) {
+        ParamsCfgTask *task = createTask(devIds.at(place), runValues);
+        run->pending.insert(place, task->requestId());
+        connect(task, &ParamsCfgTask::signalCfgResult, this,
+                [this, run, place, task](const QString &devId, const QString &msg, int errorCode) {
+                    if (run->pending.remove(place) > 0) {
+                        task->deleteLater();
+                        handleResult(*run, devId, msg, errorCode);
+                    }
+                });
+    }
+}
+
+void ParamsCfgPage::handleResult(Run &run, const QString &devId, const QString &msg, int errorCode)
+{
+    // A device that answers shows that the line is working: all the others get their whole waiting time again.
+    for (const QString &requestId : qAsConst(run.pending)) {
+        vms_sdk::renewal_request_id(requestId);
+    }
+    m_recorder->record(devId, msg);
+    ++(errorCode == ParamsCfgTask::Success ? run.success : run.failure);
+    if (run.finished() >= run.total) {
+        run.loop.quit();
+        finishRun(run);
+    }
+    if (run.overlay) {
+        run.overlay->updateDescription(tr("Configuring(%1/%2)...").arg(run.finished()).arg(run.total));
+    }
+}
+
+void ParamsCfgPage::finishRun(const Run &run)
+{
+    m_recorder->close();
+    m_reportBt->show();
+    m_confirmUuid = QUuid::createUuid().toString();
+    const QString text = tr("A total of %1 devices have been configured, success:%2, failure:%3")
+                             .arg(run.total)
+                             .arg(run.success)
+                             .arg(run.failure);
+    orda_worker::SystemAssistant::instance().eventConfirm({m_confirmUuid, m_title, text, {tr("Detail"), tr("Cancel")}});
+}
+
+void ParamsCfgPage::abandonRun()
+{
+    qDeleteAll(findChildren<ParamsCfgTask *>());
+    m_recorder->close();
+}
+
+void ParamsCfgPage::openReport()
+{
+    QDesktopServices::openUrl(QUrl(m_recorder->filePath()));
+}
+
+} // namespace orda_batchCfg

@@ -1,0 +1,190 @@
+#include "run/ParamsCfgTask.h"
+
+#include "run/TaskRouter.h"
+
+#include <orda_base/BaseTools.h>
+#include <vms_client_sdk/Requests.h>
+
+#include <QJsonDocument>
+#include <QLoggingCategory>
+#include <QTimer>
+#include <QUuid>
+
+#include <chrono>
+
+namespace orda_batchCfg {
+
+namespace {
+
+Q_LOGGING_CATEGORY(logRun, "orda.run", QtWarningMsg)
+
+// The next request leaves after the handling of the answer is over, never from inside it.
+constexpr std::chrono::milliseconds stepPause {10};
+
+} // namespace
+
+ParamsCfgTask::ParamsCfgTask(const QString &devId, const QJsonObject &values, const QVector<CfgExchange> &exchanges,
+                             const QString &timeoutText, QObject *parent, int flags)
+    : QObject(parent)
+    , m_requestId(QUuid::createUuid().toString())
+    , m_devId(devId)
+    , m_flags(flags)
+    , m_values(values)
+    , m_exchanges(exchanges)
+    , m_timeoutText(timeoutText)
+{
+}
+
+ParamsCfgTask::~ParamsCfgTask()
+{
+    TaskRouter::instance().remove(this);
+}
+
+void ParamsCfgTask::start()
+{
+    const int first = selectedFrom(0);
+    sendRead(first >= 0 ? first : m_exchanges.size() - 1);
+    TaskRouter::instance().add(this);
+}
+
+int ParamsCfgTask::selectedFrom(int from) const
+{
+    for (int i = from; i < m_exchanges.size(); ++i) {
+        const int flag = m_exchanges.at(i).flag;
+        if (flag == 0 || (m_flags & flag) != 0) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+void ParamsCfgTask::sendRead(int exchange)
+{
+    send(m_exchanges.at(exchange).getMethod, m_exchanges.at(exchange).getParam);
+}
+
+void ParamsCfgTask::sendWrite(int exchange)
+{
+    m_written = exchange;
+    const CfgExchange &e = m_exchanges.at(exchange);
+    send(e.setMethod, e.setParam(m_values, m_devParams));
+}
+
+void ParamsCfgTask::send(const QString &method, const std::optional<QJsonObject> &param)
+{
+    QJsonObject request {{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
+    if (param) {
+        request.insert(QStringLiteral("param"), *param);
+    }
+    m_answered.remove(method);
+    qCDebug(logRun) << m_requestId << m_devId << "sends" << method;
+    vms_sdk::common_req(m_requestId, m_devId, QString::fromUtf8(QJsonDocument(request).toJson()));
+}
+
+void ParamsCfgTask::sendLater(void (ParamsCfgTask::*step)(int), int exchange)
+{
+    QTimer::singleShot(stepPause, this, [this, step, exchange] {
+        if (!m_finished) {
+            (this->*step)(exchange);
+        }
+    });
+}
+
+void ParamsCfgTask::handleAnswer(const QString &text)
+{
+    QJsonParseError parseError {};
+    const QJsonObject answer = QJsonDocument::fromJson(text.toUtf8(), &parseError).object();
+    if (parseError.error != QJsonParseError::NoError) {
+        finish(tr("Failed to parse json data"), NotJson);
+        return;
+    }
+    const QString method = answer.value(QLatin1String("method")).toString();
+    const int errorCode =
+        answer.value(QLatin1String("error")).toObject().value(QLatin1String("errorcode")).toInt(0);
+
+    for (int i = 0; i < m_exchanges.size(); ++i) {
+        const CfgExchange &exchange = m_exchanges.at(i);
+        const bool isRead = method == exchange.getMethod;
+        if (!isRead && method != exchange.setMethod) {
+            continue;
+        }
+        if (m_answered.contains(method)) {
+            qCDebug(logRun) << m_requestId << m_devId << "second answer to one" << method << "dropped";
+            return;
+        }
+        m_answered.insert(method);
+        qCDebug(logRun) << m_requestId << m_devId << "answers" << method << errorCode;
+        if (isRead) {
+            handleRead(i, answer.value(QLatin1String("result")).toObject(), errorCode);
+        } else {
+            handleWritten(i, errorCode);
+        }
+        return;
+    }
+    qCDebug(logRun) << m_requestId << m_devId << "answer to a method that is none of ours dropped:" << method;
+}
+
+void ParamsCfgTask::handleRead(int exchange, const QJsonObject &result, int errorCode)
+{
+    const CfgExchange &e = m_exchanges.at(exchange);
+    if (errorCode != 0) {
+        finish(e.getFailure.arg(errorCode), errorCode);
+        return;
+    }
+    m_devParams = e.resultKey.isEmpty() ? result : result.value(e.resultKey).toObject();
+    if (e.checkWhenBack && m_written == exchange) {
+        checkSettings(exchange);
+    } else {
+        sendLater(&ParamsCfgTask::sendWrite, exchange);
+    }
+}
+
+void ParamsCfgTask::handleWritten(int exchange, int errorCode)
+{
+    if (errorCode != 0) {
+        finish(m_exchanges.at(exchange).setFailure.arg(errorCode), errorCode);
+        return;
+    }
+    const int next = selectedFrom(exchange + 1);
+    if (next >= 0) {
+        sendLater(&ParamsCfgTask::sendRead, next);
+    } else {
+        finish(tr("success"), Success);
+    }
+}
+
+void ParamsCfgTask::checkSettings(int exchange)
+{
+    for (auto it = m_values.constBegin(); it != m_values.constEnd(); ++it) {
+        if (it.value() != m_devParams.value(it.key())) {
+            finish(m_exchanges.at(exchange).setFailure.arg(int(NotVerified)), NotVerified);
+            return;
+        }
+    }
+    finish(tr("success"), Success);
+}
+
+void ParamsCfgTask::handleTimeout()
+{
+    finish(m_timeoutText, TimedOut);
+}
+
+void ParamsCfgTask::handleDevStatus(vms_sdk::DevStatus status)
+{
+    if (m_written >= 0 && m_exchanges.at(m_written).checkWhenBack
+        && orda_base::BaseTools::instance().isDevOnline(status)) {
+        sendRead(m_written);
+    }
+}
+
+void ParamsCfgTask::finish(const QString &msg, int errorCode)
+{
+    if (std::exchange(m_finished, true)) {
+        return; // the first result stands, whatever else the device sends
+    }
+    TaskRouter::instance().remove(this);
+    qCDebug(logRun) << m_requestId << m_devId << "ends:" << msg << errorCode;
+    emit signalCfgResult(m_devId, msg, errorCode);
+}
+
+} // namespace orda_batchCfg

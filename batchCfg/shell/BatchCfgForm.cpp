@@ -1,0 +1,344 @@
+#include "shell/BatchCfgForm.h"
+
+#include "run/BatchCfgContact.h"
+#include "ui_BatchCfgForm.h"
+
+#include <XCOMMON/PwdStrength.h>
+#include <XCOMMON/XMenu.h>
+#include <orda_base/BaseTools.h>
+#include <orda_base/IpTableItem.h>
+#include <orda_base/NameTableItem.h>
+#include <orda_base/NavigationActionInfo.h>
+#include <orda_base/TableOperWtStyle.h>
+#include <orda_data/DataSignals.h>
+#include <orda_data/DevsMgrData.h>
+#include <orda_saas/LoginSignals.h>
+#include <orda_saas/SaasWorker.h>
+
+#include <QCursor>
+#include <QEvent>
+#include <QHeaderView>
+
+namespace orda_batchCfg {
+
+namespace {
+
+// The number that tells the client which of its forms this is.
+constexpr int batchCfgFormType = 8;
+
+constexpr int devIdRole = Qt::UserRole + 1;
+
+enum Column { OrderNum, Name, SerialNumber, Ip, ColumnCount };
+
+constexpr int orderNumWidth = 80; // that of orderNumWt in the header row
+
+// Codes of DevInfo that the list tests.
+constexpr int reachedDirectly = 1;
+constexpr int kindCamera = 1;
+constexpr int kindRecorder = 6;
+
+QTableWidgetItem *centred(QTableWidgetItem *item)
+{
+    item->setTextAlignment(Qt::AlignCenter);
+    return item;
+}
+
+} // namespace
+
+BatchCfgForm::BatchCfgForm(QWidget *parent)
+    : orda_base::BaseForm(parent)
+    , m_ui(std::make_unique<Ui::BatchCfgForm>())
+    , m_tableOperStyle(new orda_base::TableOperWtStyle(this))
+{
+    m_ui->setupUi(this);
+    BatchCfgContact::instance().setForm(this);
+    initContextMenu();
+    initNavigation();
+    initDevTable();
+    connect(m_ui->searchBox, &orda_base::SearchBox::signalSearchByKeyword, this,
+            &BatchCfgForm::slotSearchDevsFromTable);
+    connect(m_ui->navigationWt, &orda_base::NavigationWidget::signalCurAction, this, &BatchCfgForm::showPage);
+    connectStore();
+}
+
+BatchCfgForm::~BatchCfgForm() = default;
+
+int BatchCfgForm::formType() const
+{
+    return batchCfgFormType;
+}
+
+void BatchCfgForm::initContextMenu()
+{
+    m_contextMenu = new XCOMMON::XMenu(m_ui->devsTableWt);
+    const QAction *remoteSet = m_contextMenu->addAction(tr("Remote Set"));
+    connect(remoteSet, &QAction::triggered, this, [this] {
+        if (m_contextItem) { // its row may have gone while the menu was open
+            const QTableWidgetItem *first = m_ui->devsTableWt->item(m_contextItem->row(), OrderNum);
+            orda_base::BaseTools::instance().openDevRemoteConfig(first->data(devIdRole).toString());
+        }
+    });
+    connect(m_ui->devsTableWt, &QWidget::customContextMenuRequested, this, [this](const QPoint &pos) {
+        m_contextItem = m_ui->devsTableWt->itemAt(pos);
+        if (m_contextItem) {
+            m_contextMenu->exec(QCursor::pos()); // the form may be gone afterwards: nothing may follow
+        }
+    });
+}
+
+void BatchCfgForm::initNavigation()
+{
+    using orda_base::NavigationActionInfo;
+    const auto addBar = [this](const QString &title, const QString &key, const QList<NavigationActionInfo> &entries) {
+        const QString icon = QStringLiteral(":/batchCfg_images/images/%1_%2.png");
+        m_ui->navigationWt->addNavigationBar(icon.arg(key, QStringLiteral("n")), icon.arg(key, QStringLiteral("h")),
+                                             {title, key}, entries, this);
+    };
+    const QString audio = QStringLiteral("audio_param");
+    const QString video = QStringLiteral("video_param");
+    const QString image = QStringLiteral("image_param");
+    const QString cloud = QStringLiteral("cloud_service_param");
+    const QString platform9100 = QStringLiteral("9100_param");
+    const QString network = QStringLiteral("network_param");
+    const QString osd = QStringLiteral("osd_param");
+    addBar(tr("Audio-Video Parameters"), QStringLiteral("audio_video_param"),
+           {{tr("Audio Parameters"), audio}, {tr("Video Parameters"), video}});
+    addBar(tr("Image Parameters"), image, {});
+    addBar(tr("Platform Parameters"), QStringLiteral("platform_param"),
+           {{tr("Cloud Service Parameters"), cloud}, {tr("Platform 9100 Parameters"), platform9100}});
+    addBar(tr("Network Parameters"), network, {});
+    addBar(tr("OSD Parameters"), osd, {});
+
+    const auto addPage = [this](const QString &key, QWidget *page) {
+        m_pageIndexByKey.insert(key, m_ui->stackedWidget->indexOf(page));
+    };
+    addPage(audio, m_ui->audioParametersPage);
+    addPage(video, m_ui->videoParametersPage);
+    addPage(image, m_ui->imageParametersPage);
+    addPage(cloud, m_ui->platformParametersPage);
+    addPage(platform9100, m_ui->platform9100ParametersPage);
+    addPage(network, m_ui->networkParamsCfgPage);
+    addPage(osd, m_ui->osdParamsCfgPage);
+
+    showPage(m_ui->navigationWt->setDefaultAction(video));
+}
+
+void BatchCfgForm::showPage(const QString &key)
+{
+    const auto index = m_pageIndexByKey.constFind(key);
+    if (index != m_pageIndexByKey.constEnd()) {
+        m_ui->stackedWidget->setCurrentIndex(*index);
+    }
+}
+
+void BatchCfgForm::initDevTable()
+{
+    auto *table = m_ui->devsTableWt;
+    table->setColumnCount(ColumnCount);
+    table->horizontalHeader()->hide();
+    table->verticalHeader()->hide();
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setShowGrid(false);
+    table->setContextMenuPolicy(Qt::CustomContextMenu);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->horizontalHeader()->setSectionResizeMode(OrderNum, QHeaderView::Fixed);
+    table->setColumnWidth(OrderNum, orderNumWidth);
+    m_tableOperStyle->setWts(m_ui->selAll, table, m_ui->headerLayout, {});
+
+    m_headerSortWidgets = {m_ui->orderNumWt, m_ui->devName, m_ui->devSn, m_ui->devIp};
+    for (int column = Name; column < ColumnCount; ++column) {
+        m_headerSortWidgets.at(column)->installEventFilter(this);
+    }
+    addEligibleDevs();
+}
+
+void BatchCfgForm::connectStore()
+{
+    const auto &store = orda_data::DataSignals::instance();
+    connect(&store, &orda_data::DataSignals::signalDevStatusChanged, this, &BatchCfgForm::updateDevStatus);
+    connect(&store, &orda_data::DataSignals::signalUpdateDevs, this,
+            [this](const QList<vms_sdk::DevInfo> &devs, bool recordsChanged) {
+                if (recordsChanged) {
+                    updateDevs(devs);
+                }
+            });
+    connect(&store, &orda_data::DataSignals::signalDeleteDevs, this, [this](const QStringList &devIds, bool deleted) {
+        if (deleted) {
+            removeDevs(devIds);
+        }
+    });
+    const auto &login = orda_saas::LoginSignals::instance();
+    connect(&login, &orda_saas::LoginSignals::signalSaasLogoutSuccess, this, &BatchCfgForm::removeIneligibleDevs);
+    connect(&login, &orda_saas::LoginSignals::signalEnterpriseStatus, this, &BatchCfgForm::addEligibleDevs);
+}
+
+bool BatchCfgForm::isDevEligible(const vms_sdk::DevInfo &dev) const
+{
+    if (dev.id.isEmpty()) {
+        return false;
+    }
+    const vms_sdk::DevStatus status = orda_data::DevsMgrData::instance().getDevStatus(dev.id);
+    if (dev.accessCode != reachedDirectly || (dev.kindCode != kindCamera && dev.kindCode != kindRecorder)
+        || !orda_base::BaseTools::instance().isDevOnline(status)) {
+        return false;
+    }
+    if (orda_saas::SaasWorker::instance().canOperateDevFreely(dev.serialNumber) || !dev.ip.isEmpty()) {
+        return true;
+    }
+    if (status == vms_sdk::DevDefaultPassword || status == vms_sdk::DevLocked) {
+        return false;
+    }
+    const XCOMMON::PwdStrength strength = XCOMMON::checkPwdStrength(dev.password);
+    return strength != XCOMMON::PwdInvalid && strength != XCOMMON::PwdWeak;
+}
+
+bool BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)
+{
+    if (m_devItemById.contains(dev.id)) {
+        return false;
+    }
+    auto *table = m_ui->devsTableWt;
+    const int row = table->rowCount();
+
+    auto *orderNum = new QTableWidgetItem(QString::number(row + 1));
+    orderNum->setFlags(orderNum->flags() | Qt::ItemIsUserCheckable);
+    orderNum->setCheckState(Qt::Unchecked);
+    orderNum->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    orderNum->setData(devIdRole, dev.id);
+    auto *name = new orda_base::NameTableItem(dev.name.isEmpty() ? dev.serialNumber : dev.name);
+    name->setToolTip(name->text());
+    auto *ip = new orda_base::IpTableItem(dev.ip, dev.ipNumber, 0);
+    ip->setToolTip(QString());
+
+    table->insertRow(row);
+    table->setItem(row, OrderNum, orderNum);
+    table->setItem(row, Name, centred(name));
+    table->setItem(row, SerialNumber, centred(new QTableWidgetItem(dev.serialNumber)));
+    table->setItem(row, Ip, centred(ip));
+    m_devItemById.insert(dev.id, orderNum);
+    return true;
+}
+
+void BatchCfgForm::removeDevs(const QStringList &devIds)
+{
+    auto *table = m_ui->devsTableWt;
+    for (const QString &devId : devIds) {
+        if (const QTableWidgetItem *item = m_devItemById.take(devId)) {
+            const int row = item->row();
+            if (m_contextItem && m_contextItem->row() == row) {
+                m_contextItem = nullptr;
+            }
+            table->removeRow(row);
+        }
+    }
+    orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
+}
+
+QStringList BatchCfgForm::checkedDevIds() const
+{
+    QStringList ids;
+    const auto *table = m_ui->devsTableWt;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QTableWidgetItem *item = table->item(row, OrderNum);
+        if (!table->isRowHidden(row) && item->checkState() == Qt::Checked) {
+            ids.append(item->data(devIdRole).toString());
+        }
+    }
+    return ids;
+}
+
+bool BatchCfgForm::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const int column = m_headerSortWidgets.indexOf(qobject_cast<QWidget *>(watched));
+        if (column >= Name) {
+            m_ui->devsTableWt->sortItems(column, Qt::AscendingOrder);
+            orda_base::BaseTools::instance().updateTableOrderNum(m_ui->devsTableWt, 1);
+        }
+    }
+    return orda_base::BaseForm::eventFilter(watched, event);
+}
+
+void BatchCfgForm::slotSearchDevsFromTable(const QString &keyword)
+{
+    auto *table = m_ui->devsTableWt;
+    const auto hasKeyword = [table, &keyword](int row, Column column) {
+        return table->item(row, column)->text().contains(keyword, Qt::CaseInsensitive);
+    };
+    table->setUpdatesEnabled(false); // a shown table lays itself out anew for every row that is hidden
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const bool isMatch = hasKeyword(row, Name) || hasKeyword(row, SerialNumber) || hasKeyword(row, Ip);
+        table->setRowHidden(row, !isMatch);
+    }
+    table->setUpdatesEnabled(true);
+    orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
+}
+
+void BatchCfgForm::searchAgain()
+{
+    const QString keyword = m_ui->searchBox->text();
+    if (!keyword.isEmpty()) {
+        slotSearchDevsFromTable(keyword);
+    }
+}
+
+void BatchCfgForm::updateDevStatus(const QString &devId)
+{
+    const vms_sdk::DevInfo dev = orda_data::DevsMgrData::instance().getDevInfoById(devId);
+    const bool isListed = m_devItemById.contains(devId);
+    const bool isEligible = isDevEligible(dev);
+    if (isEligible && !isListed) {
+        addDevToTable(dev);
+        searchAgain();
+    } else if (!isEligible && isListed) {
+        removeDevs({devId});
+    }
+}
+
+void BatchCfgForm::updateDevs(const QList<vms_sdk::DevInfo> &devs)
+{
+    auto *table = m_ui->devsTableWt;
+    bool isAnyListed = false;
+    for (const vms_sdk::DevInfo &dev : devs) {
+        if (const QTableWidgetItem *item = m_devItemById.value(dev.id)) {
+            const int row = item->row();
+            table->item(row, Name)->setText(dev.name);
+            table->item(row, Name)->setToolTip(dev.name);
+            table->item(row, SerialNumber)->setText(dev.serialNumber);
+            table->item(row, Ip)->setText(dev.ip);
+            isAnyListed = true;
+        }
+    }
+    if (isAnyListed) {
+        searchAgain();
+    }
+}
+
+void BatchCfgForm::removeIneligibleDevs()
+{
+    QStringList gone;
+    for (auto it = m_devItemById.cbegin(); it != m_devItemById.cend(); ++it) {
+        if (!isDevEligible(orda_data::DevsMgrData::instance().getDevInfoById(it.key()))) {
+            gone.append(it.key());
+        }
+    }
+    removeDevs(gone);
+}
+
+void BatchCfgForm::addEligibleDevs()
+{
+    bool isAnyAdded = false;
+    const QList<vms_sdk::DevInfo> devs = orda_data::DevsMgrData::instance().getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : devs) {
+        if (isDevEligible(dev)) {
+            isAnyAdded = addDevToTable(dev) || isAnyAdded;
+        }
+    }
+    if (isAnyAdded) {
+        searchAgain();
+    }
+}
+
+} // namespace orda_batchCfg

@@ -1,0 +1,115 @@
+#include "ClientOptions.h"
+
+#include "Families.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ClientOptions", text);
+}
+
+QString familyList()
+{
+    return familyNames().join(QStringLiteral(", "));
+}
+
+// 127.0.0.0/8 has room for more, the process's descriptors have not.
+constexpr int maxDemoDevices = 100000;
+
+} // namespace
+
+ClientOptions parseOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Configures many online cameras and recorders at once.\n\n"
+           "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption demo(QStringLiteral("demo"), tr("Bring N simulated devices along."), QStringLiteral("N"));
+    const QCommandLineOption inventory(QStringLiteral("inventory"), tr("Connect to the devices of this inventory file."),
+                                       QStringLiteral("FILE"));
+    const QCommandLineOption faults(QStringLiteral("faults"), tr("Faults of the simulated devices (with --demo)."),
+                                    QStringLiteral("FILE"));
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      tr("Language of the window, such as \"en\"; the system's when not given."),
+                                      QStringLiteral("CODE"));
+    const QCommandLineOption run(QStringLiteral("run"),
+                                 tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
+                                 QStringLiteral("FAMILY"));
+    const QCommandLineOption devices(QStringLiteral("devices"),
+                                     tr("Devices to configure with --run: \"all\" (default) or ids with commas."),
+                                     QStringLiteral("IDS"));
+    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
+                                         tr("Save pictures of the pages, the run and its summary here (with --run)."),
+                                         QStringLiteral("DIR"));
+    parser.addOptions({demo, inventory, faults, language, run, devices, screenshots});
+
+    ClientOptions options;
+    if (!parser.parse(arguments)) {
+        options.error = parser.errorText();
+        return options;
+    }
+    if (parser.isSet(help)) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        std::exit(ExitOk);
+    }
+    if (parser.isSet(version)) {
+        parser.showVersion();
+    }
+
+    options.inventoryFile = parser.value(inventory);
+    options.faultsFile = parser.value(faults);
+    options.language = parser.value(language);
+    options.family = parser.value(run);
+    options.screenshotsDir = parser.value(screenshots);
+    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all")) {
+        options.deviceIds = parser.value(devices).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    }
+
+    const auto fail = [&options](const QString &why) {
+        options.error = why;
+        return options;
+    };
+    if (!parser.positionalArguments().isEmpty()) {
+        return fail(tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
+    }
+    if (parser.isSet(demo)) {
+        bool isNumber = false;
+        options.demoDevices = parser.value(demo).toInt(&isNumber);
+        if (!isNumber || options.demoDevices < 1 || options.demoDevices > maxDemoDevices) {
+            return fail(tr("--demo takes a number of devices from 1 to %1, not \"%2\"")
+                            .arg(QString::number(maxDemoDevices), parser.value(demo)));
+        }
+    }
+    if (parser.isSet(demo) && parser.isSet(inventory)) {
+        return fail(tr("--demo and --inventory exclude each other"));
+    }
+    if (parser.isSet(faults) && !parser.isSet(demo)) {
+        return fail(tr("--faults needs --demo: only simulated devices have faults to order"));
+    }
+    if (parser.isSet(run) && !findFamily(options.family)) {
+        return fail(tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family));
+    }
+    if (parser.isSet(run) && !parser.isSet(demo) && !parser.isSet(inventory)) {
+        return fail(tr("--run needs devices: --demo N or --inventory FILE"));
+    }
+    if (!parser.isSet(run) && (parser.isSet(devices) || parser.isSet(screenshots))) {
+        return fail(tr("--devices and --screenshots need --run"));
+    }
+    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all") && options.deviceIds.isEmpty()) {
+        return fail(tr("--devices takes \"all\" or device ids with commas between them"));
+    }
+    if (parser.isSet(screenshots) && !QDir().mkpath(options.screenshotsDir)) {
+        return fail(tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir));
+    }
+    return options;
+}

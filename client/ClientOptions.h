@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// Exit codes of orda_client.
+enum ExitCode { ExitOk = 0, ExitSomeFailed = 1, ExitUsage = 2, ExitInput = 3, ExitNoDevice = 4 };
+
+/// What the command line asks for.
+struct ClientOptions
+{
+    int demoDevices = 0; ///< 0: no embedded fleet
+    QString inventoryFile;
+    QString faultsFile; ///< for the embedded fleet
+    QString language; ///< empty: the system's
+    QString family; ///< to drive without a person; empty: a person drives
+    QStringList deviceIds; ///< for the driven run; empty: all
+    QString screenshotsDir;
+
+    QString error; ///< not empty: the command line is wrong; the text names what and what would be right
+};
+
+/// @param arguments the application's, program name first. --help and --version print and end the program here.
+ClientOptions parseOptions(const QStringList &arguments);

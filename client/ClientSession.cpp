@@ -1,0 +1,92 @@
+#include "ClientSession.h"
+
+#include <EmbeddedFleet.h>
+#include <FaultPlan.h>
+#include <orda_data/DataSignals.h>
+#include <orda_data/DevsMgrData.h>
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/Inventory.h>
+#include <vms_client_sdk/WebSocketTransport.h>
+
+ClientSession::ClientSession(QObject *parent)
+    : QObject(parent)
+{
+    auto transport = std::make_unique<vms_sdk::WebSocketTransport>();
+    m_transport = transport.get();
+    vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+
+    const auto &data = orda_data::DataSignals::instance();
+    connect(&data, &orda_data::DataSignals::signalUpdateDevs, this, &ClientSession::followStore);
+    connect(&data, &orda_data::DataSignals::signalDeleteDevs, this, &ClientSession::followStore);
+}
+
+ClientSession::~ClientSession()
+{
+    vms_sdk::ClientSdk::instance().setTransport(nullptr);
+}
+
+QString ClientSession::startDemo(int devices, const QString &faultsFile)
+{
+    device_fleet::FaultPlan faults;
+    if (!faultsFile.isEmpty()) {
+        QString error;
+        QStringList warnings;
+        faults = device_fleet::FaultPlan::read(faultsFile, &error, &warnings);
+        if (!error.isEmpty()) {
+            return error;
+        }
+        for (const QString &warning : qAsConst(warnings)) {
+            emit signalWarning(warning);
+        }
+    }
+    device_fleet::FleetOptions options;
+    options.devices = devices;
+    m_fleet = std::make_unique<device_fleet::EmbeddedFleet>(options, faults);
+    const QString error = m_fleet->start();
+    if (error.isEmpty()) {
+        replaceDevices(m_fleet->inventory());
+    }
+    return error;
+}
+
+QString ClientSession::openInventory(const QString &file)
+{
+    const vms_sdk::Inventory inventory = vms_sdk::readInventory(file);
+    for (const QString &warning : inventory.warnings) {
+        emit signalWarning(warning);
+    }
+    if (inventory.error.isEmpty()) {
+        replaceDevices(inventory.devices);
+    }
+    return inventory.error;
+}
+
+void ClientSession::replaceDevices(const QList<vms_sdk::DevInfo> &devices)
+{
+    auto &store = orda_data::DevsMgrData::instance();
+    QSet<QString> kept;
+    for (const vms_sdk::DevInfo &dev : devices) {
+        kept.insert(dev.id);
+    }
+    QStringList gone;
+    const QList<vms_sdk::DevInfo> known = store.getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : known) {
+        if (!kept.contains(dev.id)) {
+            gone.append(dev.id);
+        }
+    }
+    if (!gone.isEmpty()) {
+        store.deleteDevs(gone);
+    }
+    store.updateDevs(devices);
+}
+
+void ClientSession::followStore()
+{
+    m_transport->setDevices(orda_data::DevsMgrData::instance().getAllDevs(false));
+}
+
+void ClientSession::connectAgain()
+{
+    m_transport->connectAgain();
+}

@@ -1,0 +1,167 @@
+#include "ClientWindow.h"
+
+#include "ClientSession.h"
+
+#include <orda_base/BaseForm.h>
+#include <orda_base/BaseTools.h>
+#include <orda_data/DataSignals.h>
+#include <orda_data/DevsMgrData.h>
+#include <orda_worker/AssistantSignals.h>
+#include <orda_worker/SystemAssistant.h>
+#include <shell/BatchCfgInit.h>
+
+#include <QDateTime>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTimer>
+
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+QString statusText(vms_sdk::DevStatus status)
+{
+    switch (status) {
+    case vms_sdk::DevOffline:
+        return ClientWindow::tr("off line");
+    case vms_sdk::DevOnline:
+        return ClientWindow::tr("on line");
+    case vms_sdk::DevConnecting:
+        return ClientWindow::tr("connecting");
+    case vms_sdk::DevRefused:
+        return ClientWindow::tr("sign-on refused");
+    case vms_sdk::DevDefaultPassword:
+        return ClientWindow::tr("on line with the factory password");
+    case vms_sdk::DevLocked:
+        return ClientWindow::tr("on line, locked");
+    }
+    return {};
+}
+
+QString displayName(const vms_sdk::DevInfo &dev)
+{
+    return dev.name.isEmpty() ? dev.serialNumber : dev.name;
+}
+
+} // namespace
+
+ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
+    : QMainWindow(parent)
+    , m_session(session)
+    , m_onlineCount(new QLabel(this))
+    , m_last(new QLabel(this))
+{
+    setWindowTitle(tr("Batch Configuration"));
+    setCentralWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
+    buildMenu();
+    buildStatusBar();
+    resize(1500, 850);
+
+    connect(session, &ClientSession::signalWarning, this, &ClientWindow::showLast);
+    connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,
+            &ClientWindow::showRemoteConfig);
+    const auto &assistant = orda_worker::AssistantSignals::instance();
+    connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
+            [this](const QString &, const QString &text) { showLast(text); });
+    connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
+            [this](const orda_worker::EventConfirmInfo &info) { showLast(info.text); });
+}
+
+void ClientWindow::buildMenu()
+{
+    QMenu *devices = menuBar()->addMenu(tr("&Devices"));
+    const QAction *open = devices->addAction(tr("&Open inventory…"), QKeySequence::Open);
+    connect(open, &QAction::triggered, this, &ClientWindow::openInventory);
+    QAction *again = devices->addAction(tr("&Connect again"));
+    again->setStatusTip(tr("Tries the devices again that refused the sign-on"));
+    connect(again, &QAction::triggered, m_session, &ClientSession::connectAgain);
+    devices->addSeparator();
+    const QAction *quit = devices->addAction(tr("&Quit"), QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void ClientWindow::buildStatusBar()
+{
+    statusBar()->addWidget(m_last, 1);
+    statusBar()->addPermanentWidget(m_onlineCount);
+
+    // Thousands of devices come on line in one go: the label is counted anew at most ten times a second.
+    auto *countSoon = new QTimer(this);
+    countSoon->setSingleShot(true);
+    countSoon->setInterval(100ms);
+    connect(countSoon, &QTimer::timeout, this, &ClientWindow::updateOnlineCount);
+    const auto scheduleCount = [countSoon] {
+        if (!countSoon->isActive()) {
+            countSoon->start();
+        }
+    };
+    const auto &data = orda_data::DataSignals::instance();
+    connect(&data, &orda_data::DataSignals::signalUpdateDevs, countSoon, scheduleCount);
+    connect(&data, &orda_data::DataSignals::signalDeleteDevs, countSoon, scheduleCount);
+    connect(&data, &orda_data::DataSignals::signalDevStatusChanged, countSoon,
+            [this, scheduleCount](const QString &devId, vms_sdk::DevStatus status) {
+                scheduleCount();
+                if (status != vms_sdk::DevConnecting) {
+                    const vms_sdk::DevInfo dev = orda_data::DevsMgrData::instance().getDevInfoById(devId);
+                    showLast(QStringLiteral("%1: %2").arg(displayName(dev), statusText(status)));
+                }
+            });
+    updateOnlineCount();
+}
+
+void ClientWindow::openInventory()
+{
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Open inventory"), {}, tr("Inventories (*.json);;All files (*)"));
+    if (file.isEmpty()) {
+        return;
+    }
+    const QString error = m_session->openInventory(file);
+    if (!error.isEmpty()) {
+        orda_worker::SystemAssistant::instance().messageAlert(tr("Open inventory"), error);
+    }
+}
+
+void ClientWindow::updateOnlineCount()
+{
+    const auto &store = orda_data::DevsMgrData::instance();
+    m_onlineCount->setText(
+        tr("%1 of %2 devices on line").arg(store.getAllDevs(true).size()).arg(store.getAllDevs(false).size()));
+}
+
+void ClientWindow::showLast(const QString &text)
+{
+    m_last->setText(QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), text));
+}
+
+void ClientWindow::showRemoteConfig(const QString &devId)
+{
+    const auto &store = orda_data::DevsMgrData::instance();
+    const vms_sdk::DevInfo dev = store.getDevInfoById(devId);
+    auto *dialog = new QDialog(this);
+    dialog->setObjectName(QStringLiteral("remoteConfigDialog"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(tr("Remote configuration of %1").arg(displayName(dev)));
+    auto *form = new QFormLayout(dialog);
+    const auto addRow = [form](const QString &caption, const QString &text) {
+        auto *value = new QLabel(text.isEmpty() ? QStringLiteral("–") : text);
+        value->setTextFormat(Qt::PlainText);
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        form->addRow(caption, value);
+    };
+    addRow(tr("Name"), dev.name);
+    addRow(tr("Serial number"), dev.serialNumber);
+    addRow(tr("IP address"), dev.ip);
+    addRow(tr("State"), statusText(store.getDevStatus(devId)));
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::close);
+    form->addRow(buttons);
+    dialog->open();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QMainWindow>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+QT_END_NAMESPACE
+
+class ClientSession;
+
+/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are on line and what
+/// happened last.
+class ClientWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit ClientWindow(ClientSession *session, QWidget *parent = nullptr);
+
+private:
+    void buildMenu();
+    void buildStatusBar();
+    void openInventory();
+    void updateOnlineCount();
+    void showLast(const QString &text);
+    void showRemoteConfig(const QString &devId);
+
+    ClientSession *m_session;
+    QLabel *m_onlineCount;
+    QLabel *m_last;
+};

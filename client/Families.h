@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// A parameter family as a program meets it from outside: where its page is, and where its record lies.
+struct Family
+{
+    QString name; ///< as the command line takes it
+    QString navigationKey; ///< object name of its entry in the form's navigation
+    QString pageName; ///< object name of its page in the form
+    QString recordFile; ///< in the temporary directory
+};
+
+/// All families of the form, in the order of its pages.
+const QList<Family> &families();
+/// Null when there is none of that name.
+const Family *findFamily(const QString &name);
+QStringList familyNames();

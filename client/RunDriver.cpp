@@ -1,0 +1,227 @@
+#include "RunDriver.h"
+
+#include "Families.h"
+
+#include <orda_base/DisabledWaitingWt.h>
+#include <orda_data/DataSignals.h>
+#include <orda_data/DevsMgrData.h>
+#include <orda_worker/AssistantSignals.h>
+#include <orda_worker/EventConfirmInfo.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QMainWindow>
+#include <QRegularExpression>
+#include <QTableWidget>
+#include <QTextStream>
+#include <QTimer>
+
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// Longer than the SDK's limit for one connection attempt, and than 32 attempts at a time take for many silent devices.
+constexpr auto settleLimit = 60s;
+constexpr auto progressInterval = 50ms;
+constexpr int devIdRole = Qt::UserRole + 1;
+
+QTextStream &out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+void printError(const QString &text)
+{
+    QTextStream(stderr) << "orda_client: " << text << Qt::endl;
+}
+
+} // namespace
+
+RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+    , m_family(findFamily(options.family))
+    , m_window(window)
+{
+    const auto &assistant = orda_worker::AssistantSignals::instance();
+    connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this, &RunDriver::handleSummary);
+    connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
+            [](const QString &, const QString &text) {
+                printError(text);
+                end(ExitNoDevice);
+            });
+}
+
+void RunDriver::start()
+{
+    const auto &store = orda_data::DevsMgrData::instance();
+    const QList<vms_sdk::DevInfo> devices = store.getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : devices) {
+        if (m_options.deviceIds.isEmpty() || m_options.deviceIds.contains(dev.id)) {
+            m_unsettled.insert(dev.id);
+        }
+    }
+    for (const QString &id : qAsConst(m_options.deviceIds)) {
+        if (!m_unsettled.contains(id)) {
+            printError(tr("--devices: there is no device \"%1\"").arg(id));
+            end(ExitUsage);
+            return;
+        }
+    }
+    connect(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged, this,
+            &RunDriver::handleDevStatus);
+    QTimer::singleShot(settleLimit, this, &RunDriver::whenSettled);
+}
+
+void RunDriver::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)
+{
+    if (status != vms_sdk::DevConnecting && m_unsettled.remove(devId) && m_unsettled.isEmpty()) {
+        // The list hears of the same change; it goes first.
+        QTimer::singleShot(0ms, this, &RunDriver::whenSettled);
+    }
+}
+
+void RunDriver::whenSettled()
+{
+    if (std::exchange(m_started, true)) {
+        return;
+    }
+    const auto &store = orda_data::DevsMgrData::instance();
+    out() << tr("%1 of %2 devices on line").arg(store.getAllDevs(true).size()).arg(store.getAllDevs(false).size())
+          << Qt::endl;
+    picturePages();
+    openPage(*m_family);
+    const int ticked = tickDevices();
+    out() << tr("%1 devices ticked").arg(ticked) << Qt::endl;
+    const int missing = m_options.deviceIds.size() - ticked;
+    if (missing > 0) {
+        printError(tr("%1 of the given devices are off line or may not be configured").arg(missing));
+    }
+    QTimer::singleShot(0ms, this, &RunDriver::configure);
+}
+
+void RunDriver::picturePages()
+{
+    if (m_options.screenshotsDir.isEmpty()) {
+        return;
+    }
+    for (const Family &family : families()) {
+        openPage(family);
+        picture(m_window, QStringLiteral("page-") + family.name);
+    }
+}
+
+void RunDriver::openPage(const Family &family)
+{
+    m_window->findChild<QAbstractButton *>(family.navigationKey)->click();
+}
+
+int RunDriver::tickDevices()
+{
+    auto *table = m_window->findChild<QTableWidget *>(QStringLiteral("devsTableWt"));
+    if (m_options.deviceIds.isEmpty()) {
+        auto *all = m_window->findChild<QCheckBox *>(QStringLiteral("selAll"));
+        if (all->isEnabled() && !all->isChecked()) {
+            all->click();
+        }
+    }
+    int ticked = 0;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QTableWidgetItem *item = table->item(row, 0);
+        if (m_options.deviceIds.contains(item->data(devIdRole).toString())) {
+            item->setCheckState(Qt::Checked);
+        }
+        ticked += item->checkState() == Qt::Checked ? 1 : 0;
+    }
+    return ticked;
+}
+
+void RunDriver::configure()
+{
+    auto *progress = new QTimer(this);
+    connect(progress, &QTimer::timeout, this, &RunDriver::followProgress);
+    progress->start(progressInterval);
+    m_duration.start();
+    const QWidget *page = m_window->findChild<QWidget *>(m_family->pageName);
+    page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click(); // comes back when the run is over
+    progress->stop();
+    if (m_hasSummary) { // else the application is quitting
+        answerSummary();
+        end(m_isAllDone ? ExitOk : ExitSomeFailed);
+    }
+}
+
+void RunDriver::followProgress()
+{
+    const auto *overlay = m_window->findChild<orda_base::DisabledWaitingWt *>();
+    if (!overlay || overlay->description() == m_lastProgress) {
+        return;
+    }
+    if (m_lastProgress.isEmpty()) {
+        picture(m_window, QStringLiteral("run"));
+    }
+    m_lastProgress = overlay->description();
+    out() << m_lastProgress << Qt::endl;
+}
+
+void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
+{
+    const qint64 duration = m_duration.elapsed();
+    out() << info.title << Qt::endl << info.text << Qt::endl << "run: " << duration << " ms" << Qt::endl;
+    printRecord();
+
+    // Total, success, failure, in every language.
+    QList<int> counts;
+    auto numbers = QRegularExpression(QStringLiteral("\\d+")).globalMatch(info.text);
+    while (numbers.hasNext()) {
+        counts.append(numbers.next().captured().toInt());
+    }
+    m_hasSummary = true;
+    m_isAllDone = counts.value(0) == counts.value(1) && counts.value(0) >= m_options.deviceIds.size();
+}
+
+void RunDriver::answerSummary()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *widget : windows) {
+        if (auto *dialog = qobject_cast<QDialog *>(widget); dialog && dialog->isVisible()) {
+            picture(m_window, QStringLiteral("page-after-run"));
+            picture(dialog, QStringLiteral("summary"));
+            dialog->reject();
+        }
+    }
+}
+
+void RunDriver::printRecord() const
+{
+    QFile file(QDir::temp().filePath(m_family->recordFile));
+    out() << "record: " << file.fileName() << Qt::endl;
+    if (file.open(QIODevice::ReadOnly)) {
+        out() << QString::fromLocal8Bit(file.readAll()) << Qt::flush;
+    } else {
+        printError(tr("cannot read the record file %1: %2").arg(file.fileName(), file.errorString()));
+    }
+}
+
+void RunDriver::picture(QWidget *widget, const QString &name) const
+{
+    if (m_options.screenshotsDir.isEmpty()) {
+        return;
+    }
+    const QString path = QDir(m_options.screenshotsDir).filePath(name + QStringLiteral(".png"));
+    if (!widget->grab().save(path)) {
+        printError(tr("cannot write the picture %1").arg(path));
+    }
+}
+
+void RunDriver::end(ExitCode code)
+{
+    QCoreApplication::exit(code);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ClientOptions.h"
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QSet>
+
+QT_BEGIN_NAMESPACE
+class QMainWindow;
+QT_END_NAMESPACE
+
+namespace orda_worker {
+struct EventConfirmInfo;
+}
+struct Family;
+
+/// Drives the form as an operator would, without one: waits until the devices have come on line, opens the family's page, ticks
+/// devices, presses Configure, prints progress, summary, duration and record, answers the summary and ends the application.
+class RunDriver : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param window has the form in it and must outlive the driver
+    RunDriver(const ClientOptions &options, QMainWindow *window, QObject *parent = nullptr);
+
+    /// Returns at once; the application ends with an ExitCode when the run is over.
+    void start();
+
+private:
+    void handleDevStatus(const QString &devId, vms_sdk::DevStatus status);
+    void whenSettled();
+    void picturePages();
+    void openPage(const Family &family);
+    int tickDevices();
+    void configure();
+    void followProgress();
+    void handleSummary(const orda_worker::EventConfirmInfo &info);
+    void answerSummary();
+    void printRecord() const;
+    void picture(QWidget *widget, const QString &name) const;
+    static void end(ExitCode code);
+
+    ClientOptions m_options;
+    const Family *m_family;
+    QMainWindow *m_window;
+    QSet<QString> m_unsettled; // devices whose first connection attempt has no outcome yet
+    bool m_started = false;
+    bool m_hasSummary = false;
+    bool m_isAllDone = false;
+    QElapsedTimer m_duration;
+    QString m_lastProgress;
+};

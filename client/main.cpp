@@ -1,0 +1,61 @@
+#include "ClientOptions.h"
+#include "ClientSession.h"
+#include "ClientWindow.h"
+#include "RunDriver.h"
+
+#include <orda_base/Theme.h>
+#include <vms_client_sdk/OpenFiles.h>
+
+#include <QApplication>
+#include <QTextStream>
+#include <QTimer>
+
+#include <chrono>
+
+namespace {
+
+int fail(const QString &error, ExitCode code)
+{
+    QTextStream(stderr) << "orda_client: " << error << Qt::endl;
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // GLib's dispatcher looks at every socket on every wake-up, which thousands of devices turn into seconds.
+    qputenv("QT_NO_GLIB", "1");
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("orda_client"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORDA_VERSION));
+    vms_sdk::raiseOpenFileLimit();
+
+    const ClientOptions options = parseOptions(QCoreApplication::arguments());
+    if (!options.error.isEmpty()) {
+        return fail(options.error + QStringLiteral(" (see orda_client --help)"), ExitUsage);
+    }
+    orda_base::Theme::apply(app);
+
+    ClientSession session;
+    ClientWindow window(&session);
+    window.show();
+
+    QString error;
+    if (options.demoDevices > 0) {
+        error = session.startDemo(options.demoDevices, options.faultsFile);
+    } else if (!options.inventoryFile.isEmpty()) {
+        error = session.openInventory(options.inventoryFile);
+    }
+    if (!error.isEmpty()) {
+        return fail(error, ExitInput);
+    }
+
+    RunDriver driver(options, &window);
+    if (!options.family.isEmpty()) {
+        QTimer::singleShot(std::chrono::milliseconds(0), &driver, &RunDriver::start);
+    }
+    return QApplication::exec();
+}

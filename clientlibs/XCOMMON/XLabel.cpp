@@ -1,0 +1,1 @@
+#include "XCOMMON/XLabel.h"

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QLabel>
+
+namespace XCOMMON {
+
+/// The client's label, which the theme tells from other labels by its class.
+class XLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+};
+
+} // namespace XCOMMON

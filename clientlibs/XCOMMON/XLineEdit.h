@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace XCOMMON {
+
+/// The client's line edit, which the theme tells from other line edits by its class.
+class XLineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    using QLineEdit::QLineEdit;
+};
+
+} // namespace XCOMMON

@@ -1,0 +1,1 @@
+#include "XCOMMON/XMenu.h"

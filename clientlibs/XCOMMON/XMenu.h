@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QMenu>
+
+namespace XCOMMON {
+
+/// The client's context menu, which the theme tells from other menus by its class.
+class XMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    using QMenu::QMenu;
+};
+
+} // namespace XCOMMON

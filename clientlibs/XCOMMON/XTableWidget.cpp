@@ -1,0 +1,25 @@
+#include "XCOMMON/XTableWidget.h"
+
+namespace XCOMMON {
+
+void XTableWidget::insertRow(int row)
+{
+    QTableWidget::insertRow(row);
+    emit signalRowsChanged();
+}
+
+void XTableWidget::removeRow(int row)
+{
+    QTableWidget::removeRow(row);
+    emit signalRowsChanged();
+}
+
+void XTableWidget::setRowHidden(int row, bool hide)
+{
+    if (isRowHidden(row) != hide) {
+        QTableWidget::setRowHidden(row, hide);
+        emit signalRowsChanged();
+    }
+}
+
+} // namespace XCOMMON

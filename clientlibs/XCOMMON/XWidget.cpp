@@ -1,0 +1,1 @@
+#include "XCOMMON/XWidget.h"

@@ -1,0 +1,154 @@
+#include "orda_base/DisabledWaitingWt.h"
+
+#include "orda_base/BusyIndicator.h"
+#include "orda_base/DisabledWaitingWtManager.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace orda_base {
+
+namespace {
+
+constexpr QColor veil(20, 30, 45, 90);
+constexpr int cardMinWidth = 260;
+constexpr int cardMargin = 24;
+
+bool isInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ContextMenu:
+    case QEvent::TabletPress:
+    case QEvent::TouchBegin:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+DisabledWaitingWt::DisabledWaitingWt(QWidget *parent, const QString &description, const QString &text, bool flag)
+    : QWidget(parent)
+    , m_uuid(QUuid::createUuid())
+    , m_keepsBright(flag)
+    , m_card(new QWidget(this))
+    , m_description(new QLabel(description, m_card))
+{
+    setObjectName(QStringLiteral("disabledWaitingWt"));
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(description);
+    m_card->setObjectName(QStringLiteral("waitingCard"));
+    m_card->setProperty("page_card", true);
+    m_card->setMinimumWidth(cardMinWidth);
+    m_description->setTextFormat(Qt::PlainText);
+    m_description->setAlignment(Qt::AlignCenter);
+
+    auto *cardLayout = new QVBoxLayout(m_card);
+    cardLayout->setContentsMargins(cardMargin, cardMargin, cardMargin, cardMargin);
+    cardLayout->setSpacing(cardMargin / 2);
+    cardLayout->addWidget(new BusyIndicator(m_card), 0, Qt::AlignHCenter);
+    cardLayout->addWidget(m_description);
+    if (!text.isEmpty()) {
+        auto *hint = new QLabel(text, m_card);
+        hint->setTextFormat(Qt::PlainText);
+        hint->setAlignment(Qt::AlignCenter);
+        cardLayout->addWidget(hint);
+    }
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_card, 0, Qt::AlignCenter);
+
+    if (parent) {
+        parent->installEventFilter(this);
+        setGeometry(parent->rect());
+    }
+    DisabledWaitingWtManager::instance().add(this);
+}
+
+DisabledWaitingWt::~DisabledWaitingWt()
+{
+    DisabledWaitingWtManager::instance().remove(m_uuid);
+}
+
+void DisabledWaitingWt::updateDescription(const QString &description)
+{
+    m_description->setText(description);
+    setAccessibleName(description);
+}
+
+QString DisabledWaitingWt::description() const
+{
+    return m_description->text();
+}
+
+bool DisabledWaitingWt::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride || isInput(event->type())) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+bool DisabledWaitingWt::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget()) {
+        if (event->type() == QEvent::Resize) {
+            setGeometry(parentWidget()->rect());
+        }
+    } else if (event->type() == QEvent::Shortcut || event->type() == QEvent::ShortcutOverride || isInput(event->type())) {
+        // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic.
+        const auto *widget = qobject_cast<QWidget *>(watched);
+        const QWidget *covered = parentWidget();
+        const bool isBelow = widget && covered && widget != this && !isAncestorOf(widget)
+                             && (widget == covered || covered->isAncestorOf(widget));
+        if (isBelow) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool DisabledWaitingWt::focusNextPrevChild(bool)
+{
+    return true; // the focus stays here
+}
+
+void DisabledWaitingWt::paintEvent(QPaintEvent *)
+{
+    if (!m_keepsBright) {
+        QPainter(this).fillRect(rect(), veil);
+    }
+}
+
+void DisabledWaitingWt::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_focusBefore = window()->focusWidget();
+    raise();
+    setFocus();
+    qApp->installEventFilter(this);
+}
+
+void DisabledWaitingWt::hideEvent(QHideEvent *event)
+{
+    qApp->removeEventFilter(this);
+    const QWidget *focus = window()->focusWidget();
+    if (m_focusBefore && (!focus || focus == this)) {
+        m_focusBefore->setFocus();
+    }
+    QWidget::hideEvent(event);
+}
+
+} // namespace orda_base

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QPointer>
+#include <QUuid>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+QT_END_NAMESPACE
+
+namespace orda_base {
+
+/// Covers a widget while something goes on: shows that it does, and lets no mouse, key or shortcut through. Destroyed through
+/// DisabledWaitingWtManager, or with its parent. GUI thread only.
+class DisabledWaitingWt : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param parent covered wholly, also when it changes its size
+    /// @param description what goes on, updated as it does
+    /// @param text a second line that stays, such as a hint how long it may take
+    /// @param flag true: what is covered stays as bright as it is
+    explicit DisabledWaitingWt(QWidget *parent, const QString &description, const QString &text = {}, bool flag = false);
+    ~DisabledWaitingWt() override;
+
+    QUuid getUuid() const { return m_uuid; }
+    void updateDescription(const QString &description);
+    QString description() const;
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    QUuid m_uuid;
+    bool m_keepsBright;
+    QWidget *m_card;
+    QLabel *m_description;
+    QPointer<QWidget> m_focusBefore;
+};
+
+} // namespace orda_base

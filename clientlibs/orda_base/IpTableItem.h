@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QTableWidgetItem>
+
+namespace orda_base {
+
+/// A cell that sorts by the number of its IP address; cells without one come last.
+class IpTableItem : public QTableWidgetItem
+{
+public:
+    /// @param number the address in host byte order, for texts that are no IPv4 address; a text that is one has the number of its own
+    ///        at all times, so that a changed address sorts right
+    /// @param type of the item, as QTableWidgetItem takes it
+    IpTableItem(const QString &ip, quint32 number, int type);
+
+    bool operator<(const QTableWidgetItem &other) const override;
+    void setData(int role, const QVariant &value) override;
+
+private:
+
+    quint32 m_number;
+};
+
+} // namespace orda_base

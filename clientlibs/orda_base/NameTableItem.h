@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QTableWidgetItem>
+
+namespace orda_base {
+
+/// A cell that sorts as people read names: by the rules of the locale, numbers by their value ("cam 2" before "cam 10").
+class NameTableItem : public QTableWidgetItem
+{
+public:
+    explicit NameTableItem(const QString &name);
+
+    bool operator<(const QTableWidgetItem &other) const override;
+};
+
+} // namespace orda_base

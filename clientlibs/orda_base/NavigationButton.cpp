@@ -1,0 +1,107 @@
+#include "orda_base/NavigationButton.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace orda_base {
+
+namespace {
+
+constexpr int barHeight = 48;
+constexpr int entryHeight = 40;
+constexpr int iconPixels = 24;
+constexpr int iconLeft = 14;
+constexpr int textLeft = 48; // of bars and of their entries, so that they stand in line
+constexpr int markWidth = 3;
+constexpr int textRight = 8;
+constexpr int arrowRight = 18;
+constexpr int arrowSize = 5;
+
+} // namespace
+
+NavigationButton::NavigationButton(Kind kind, const QString &title, QWidget *parent)
+    : QAbstractButton(parent)
+    , m_kind(kind)
+{
+    setText(title);
+    setAccessibleName(title);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void NavigationButton::setIcons(const QIcon &normal, const QIcon &highlighted)
+{
+    m_normal = normal;
+    m_highlighted = highlighted;
+    update();
+}
+
+void NavigationButton::setHighlighted(bool highlighted)
+{
+    m_isHighlighted = highlighted;
+    update();
+}
+
+void NavigationButton::setUnfolded(bool unfolded)
+{
+    m_isUnfolded = unfolded;
+    update();
+}
+
+QSize NavigationButton::sizeHint() const
+{
+    return {textLeft + fontMetrics().horizontalAdvance(text()) + 2 * arrowRight, m_kind == Entry ? entryHeight : barHeight};
+}
+
+QRect NavigationButton::textRect() const
+{
+    const int right = m_kind == FoldingBar ? 2 * arrowRight : textRight;
+    return {textLeft, 0, width() - textLeft - right, height()};
+}
+
+bool NavigationButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) { // the whole text where it is cut off
+        setToolTip(fontMetrics().horizontalAdvance(text()) > textRect().width() ? text() : QString());
+    }
+    return QAbstractButton::event(event);
+}
+
+void NavigationButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = palette().color(QPalette::Highlight);
+    const bool isCurrent = m_isHighlighted && m_kind != FoldingBar;
+
+    QColor background = accent;
+    background.setAlphaF(isCurrent ? 0.12 : underMouse() || isDown() ? 0.06 : 0.0);
+    painter.fillRect(rect(), background);
+    if (isCurrent) {
+        painter.fillRect(0, 0, markWidth, height(), accent);
+    }
+    if (hasFocus()) {
+        painter.setPen(accent);
+        painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+    }
+
+    const QIcon &icon = m_isHighlighted ? m_highlighted : m_normal;
+    icon.paint(&painter, QRect(iconLeft, (height() - iconPixels) / 2, iconPixels, iconPixels));
+
+    painter.setPen(isCurrent ? accent : palette().color(QPalette::WindowText));
+    painter.drawText(textRect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, textRect().width()));
+
+    if (m_kind == FoldingBar) {
+        painter.setPen(QPen(palette().color(QPalette::WindowText), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const QPointF centre(width() - arrowRight, height() / 2.0);
+        const qreal rise = m_isUnfolded ? arrowSize / 2.0 : -arrowSize / 2.0;
+        const QPointF tip = centre - QPointF(0, rise);
+        painter.drawLine(centre + QPointF(-arrowSize, rise), tip);
+        painter.drawLine(tip, centre + QPointF(arrowSize, rise));
+    }
+}
+
+} // namespace orda_base

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QIcon>
+
+namespace orda_base {
+
+/// A bar of the navigation, or an entry under one.
+class NavigationButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    enum Kind { Bar, FoldingBar, Entry };
+
+    NavigationButton(Kind kind, const QString &title, QWidget *parent);
+
+    void setIcons(const QIcon &normal, const QIcon &highlighted);
+    void setHighlighted(bool highlighted);
+    /// Of a folding bar: which way its arrow points.
+    void setUnfolded(bool unfolded);
+    bool isUnfolded() const { return m_isUnfolded; }
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    QRect textRect() const;
+
+    Kind m_kind;
+    QIcon m_normal, m_highlighted;
+    bool m_isHighlighted = false;
+    bool m_isUnfolded = true;
+};
+
+} // namespace orda_base

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace orda_base {
+
+/// An editor for a port number: takes 0 to 65535, or nothing.
+class PortEditWt : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit PortEditWt(QWidget *parent = nullptr);
+};
+
+} // namespace orda_base

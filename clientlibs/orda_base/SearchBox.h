@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QLineEdit;
+QT_END_NAMESPACE
+
+namespace orda_base {
+
+/// A line to search by: looks at every key stroke and at Return, and has a button that clears it. GUI thread only.
+class SearchBox : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SearchBox(QWidget *parent = nullptr);
+
+    QString text() const;
+
+signals:
+    /// @param keyword the text as it stands; empty when it was cleared
+    void signalSearchByKeyword(const QString &keyword);
+
+private:
+    QLineEdit *m_edit;
+};
+
+} // namespace orda_base

@@ -1,0 +1,120 @@
+#include "orda_base/TableOperWtStyle.h"
+
+#include <XCOMMON/XTableWidget.h>
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QLayout>
+
+#include <chrono>
+
+namespace orda_base {
+
+namespace {
+
+constexpr int checkColumn = 0;
+
+bool isCheckable(const QTableWidgetItem *item)
+{
+    return item && (item->flags() & Qt::ItemIsUserCheckable) != 0;
+}
+
+} // namespace
+
+TableOperWtStyle::TableOperWtStyle(QObject *parent)
+    : QObject(parent)
+{
+    m_updateSoon.setSingleShot(true);
+    m_updateSoon.setInterval(std::chrono::milliseconds(0));
+    connect(&m_updateSoon, &QTimer::timeout, this, &TableOperWtStyle::updateAllBox);
+}
+
+void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLayout *header,
+                              const QList<int> &hiddenColumns)
+{
+    m_all = all;
+    m_table = table;
+    m_header = header;
+    for (const int column : hiddenColumns) {
+        table->setColumnHidden(column, true);
+        QLayoutItem *item = header ? header->itemAt(column) : nullptr;
+        if (item && item->widget()) {
+            item->widget()->hide();
+        }
+    }
+
+    connect(table->model(), &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex &topLeft, const QModelIndex &, const QVector<int> &roles) {
+                if (topLeft.column() == checkColumn && roles.contains(Qt::CheckStateRole) && !m_isTickingAll) {
+                    updateAllBox();
+                }
+            });
+    connect(table, &XCOMMON::XTableWidget::signalRowsChanged, this, [this] {
+        if (!m_updateSoon.isActive()) {
+            m_updateSoon.start();
+        }
+    });
+    // A tri-state box would go to "partly" at every third click; a click on it means all or none.
+    connect(all, &QCheckBox::clicked, this, [this](bool checked) {
+        m_all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+        setVisibleRows(checked);
+    });
+    table->viewport()->installEventFilter(this);
+    alignHeader();
+    updateAllBox();
+}
+
+void TableOperWtStyle::setVisibleRows(bool checked)
+{
+    m_isTickingAll = true;
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        QTableWidgetItem *item = m_table->item(row, checkColumn);
+        if (isCheckable(item) && !m_table->isRowHidden(row)) {
+            item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+        }
+    }
+    m_isTickingAll = false;
+    updateAllBox();
+}
+
+void TableOperWtStyle::updateAllBox()
+{
+    if (!m_all || !m_table) {
+        return;
+    }
+    int visible = 0;
+    int checked = 0;
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        const QTableWidgetItem *item = m_table->item(row, checkColumn);
+        if (isCheckable(item) && !m_table->isRowHidden(row)) {
+            ++visible;
+            checked += item->checkState() == Qt::Checked ? 1 : 0;
+        }
+    }
+    if (checked == 0) {
+        m_all->setCheckState(Qt::Unchecked);
+    } else {
+        m_all->setCheckState(checked == visible ? Qt::Checked : Qt::PartiallyChecked);
+    }
+}
+
+void TableOperWtStyle::alignHeader()
+{
+    if (m_header && m_table) {
+        const QRect viewport = m_table->viewport()->geometry();
+        QMargins margins = m_header->contentsMargins();
+        margins.setLeft(viewport.left());
+        margins.setRight(qMax(0, m_table->width() - viewport.right() - 1));
+        m_header->setContentsMargins(margins);
+    }
+}
+
+bool TableOperWtStyle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize) { // the scroll bar comes and goes
+        alignHeader();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace orda_base

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QApplication;
+QT_END_NAMESPACE
+
+namespace orda_base {
+
+/// The one look of all windows. What a module asks for by dynamic properties (their presence counts, not their value):
+/// "common_bt_style1" and "common_bt_style2" on a push button: the main action, and the one beside it;
+/// "page_caption" on a label: a heading; "page_card" on a widget: a framed area.
+class Theme
+{
+public:
+    /// Called once, before the first window is shown.
+    static void apply(QApplication &app);
+};
+
+} // namespace orda_base

@@ -1,0 +1,11 @@
+#include "DataSignals.h"
+
+namespace orda_data {
+
+DataSignals &DataSignals::instance()
+{
+    static DataSignals signalsOfTheStore;
+    return signalsOfTheStore;
+}
+
+} // namespace orda_data

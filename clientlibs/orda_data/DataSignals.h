@@ -1,0 +1,29 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QObject>
+#include <QStringList>
+
+namespace orda_data {
+
+/// Changes of the device store (DevsMgrData), raised on the GUI thread after the store has changed.
+class DataSignals : public QObject
+{
+    Q_OBJECT
+
+public:
+    static DataSignals &instance();
+
+signals:
+    void signalDevStatusChanged(const QString &devId, vms_sdk::DevStatus status);
+    /// Records were added or replaced. The store raises both flags set; listeners act on the first.
+    void signalUpdateDevs(const QList<vms_sdk::DevInfo> &devs, bool recordsChanged, bool listChanged);
+    /// Records were removed. The store raises the flag set.
+    void signalDeleteDevs(const QStringList &devIds, bool recordsRemoved);
+
+private:
+    DataSignals() = default;
+};
+
+} // namespace orda_data

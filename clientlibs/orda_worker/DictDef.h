@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+namespace orda_worker {
+
+/// Texts that all modules share. GUI thread only.
+class DictDef
+{
+    Q_DECLARE_TR_FUNCTIONS(DictDef)
+
+public:
+    static DictDef &instance();
+
+    /// The title of alerts.
+    QString alertTitle() const;
+
+private:
+    DictDef() = default;
+};
+
+} // namespace orda_worker

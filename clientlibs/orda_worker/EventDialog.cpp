@@ -1,0 +1,61 @@
+#include "orda_worker/EventDialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVariant>
+
+namespace orda_worker {
+
+namespace {
+
+constexpr int minWidth = 480;
+constexpr int margin = 24;
+constexpr int buttonWidth = 96;
+
+} // namespace
+
+EventDialog::EventDialog(const QString &title, const QString &text, const QStringList &buttons, QWidget *parent)
+    : QDialog(parent)
+    , m_answer(buttons.size() - 1)
+{
+    setWindowTitle(title);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setMinimumWidth(minWidth);
+
+    auto *caption = new QLabel(title, this);
+    caption->setTextFormat(Qt::PlainText);
+    caption->setProperty("dialog_caption", true);
+    auto *message = new QLabel(text, this);
+    message->setTextFormat(Qt::PlainText); // device names and file paths may look like mark-up
+    message->setWordWrap(true);
+    message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    for (int i = 0; i < buttons.size(); ++i) {
+        auto *button = new QPushButton(buttons.at(i), this);
+        button->setMinimumWidth(buttonWidth);
+        button->setProperty(i == 0 ? "common_bt_style1" : "common_bt_style2", true);
+        button->setDefault(i == 0);
+        connect(button, &QPushButton::clicked, this, [this, i] {
+            m_answer = i;
+            accept();
+        });
+        row->addWidget(button);
+        if (i == 0) {
+            button->setFocus();
+        }
+    }
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin / 2);
+    layout->addWidget(caption);
+    layout->addWidget(message);
+    layout->addSpacing(margin / 2);
+    layout->addLayout(row);
+    connect(this, &QDialog::finished, this, [this] { emit signalAnswered(m_answer); });
+}
+
+} // namespace orda_worker

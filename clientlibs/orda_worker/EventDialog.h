@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QDialog>
+
+namespace orda_worker {
+
+/// A text with buttons. Deletes itself when it is closed.
+class EventDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    EventDialog(const QString &title, const QString &text, const QStringList &buttons, QWidget *parent);
+
+signals:
+    /// Once, for the button that was clicked; for the last one when the dialog was closed without.
+    void signalAnswered(int button);
+
+private:
+    int m_answer;
+};
+
+} // namespace orda_worker

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/PendingRequests.h>
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <memory>
+
+namespace vms_sdk {
+
+class DeviceTransport;
+
+/// The SDK itself: hands requests to the transport, raises answers, states and time-outs (ClientSignals). GUI thread
+/// only.
+class ClientSdk
+{
+public:
+    static ClientSdk &instance();
+
+    /// Takes the transport over and deletes the one before. All pending ids, and whatever the old transport raised that
+    /// has not been passed on yet, are dropped; device states that were passed on stand until the new transport reports
+    /// others. Without a transport every request ends by its time-out. Safe from inside every signal of ClientSignals.
+    void setTransport(std::unique_ptr<DeviceTransport> transport);
+
+    /// The waiting time of requests and renewals from now on; 15 s unless set.
+    void setRequestTimeout(std::chrono::milliseconds timeout);
+
+    void send(const QString &requestId, const QString &devId, const QString &text); ///< see common_req()
+    void renew(const QString &requestId) { m_pending.renew(requestId); } ///< see renewal_request_id()
+
+private:
+    ClientSdk();
+
+    void passOnAnswer(const QString &requestId, const QString &text);
+    void checkTimeouts();
+    void startTimer();
+
+    std::unique_ptr<DeviceTransport> m_transport;
+    std::unique_ptr<QObject>
+        m_transportContext; ///< receiver of the transport's queued signals: dies with it, and they with it
+    PendingRequests m_pending;
+    QStringList m_timedOut; ///< taken out of m_pending, time-out not raised yet
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+};
+
+} // namespace vms_sdk

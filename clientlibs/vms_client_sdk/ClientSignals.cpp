@@ -1,0 +1,19 @@
+#include "ClientSignals.h"
+
+namespace vms_sdk {
+
+ClientSignals::ClientSignals()
+{
+    // By name, for queued connections and whoever looks the types up as text.
+    qRegisterMetaType<DevStatus>("vms_sdk::DevStatus");
+    qRegisterMetaType<DevInfo>("vms_sdk::DevInfo");
+    qRegisterMetaType<QList<DevInfo>>("QList<vms_sdk::DevInfo>");
+}
+
+ClientSignals &ClientSignals::instance()
+{
+    static ClientSignals signalsOfTheSdk;
+    return signalsOfTheSdk;
+}
+
+} // namespace vms_sdk

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QObject>
+#include <QVariant>
+
+namespace vms_sdk {
+
+/// What the SDK has to tell. Every signal is raised on the GUI thread, from its event loop.
+class ClientSignals : public QObject
+{
+    Q_OBJECT
+
+public:
+    static ClientSignals &instance();
+
+signals:
+    /// A device's answer, verbatim. Comes for every answer, those to ids that nobody awaits included, and as often as
+    /// the device answers.
+    void signalCommonRes(const QString &requestId, const QString &text);
+    /// The waiting time of @p requestId is over, answered or not. The second argument is empty.
+    void signalRequestTimeout(const QString &requestId, const QVariant &);
+    void signalDevStatusChanged(const QString &devId, vms_sdk::DevStatus status);
+
+private:
+    ClientSignals();
+};
+
+} // namespace vms_sdk

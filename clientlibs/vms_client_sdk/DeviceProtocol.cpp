@@ -1,0 +1,29 @@
+#include "DeviceProtocol.h"
+
+namespace vms_sdk {
+
+QString toFrameText(const DeviceFrame &frame)
+{
+    return frame.requestId + QLatin1Char('\n') + frame.text;
+}
+
+std::optional<DeviceFrame> parseFrame(const QString &frameText)
+{
+    const int end = frameText.indexOf(QLatin1Char('\n'));
+    if (end < 0)
+        return std::nullopt;
+    return DeviceFrame{frameText.left(end), frameText.mid(end + 1)};
+}
+
+QUrl deviceUrl(const DevInfo &device)
+{
+    if (!device.url.isEmpty())
+        return QUrl(device.url, QUrl::StrictMode);
+    if (device.ip.isEmpty() || device.port == 0)
+        return {};
+    const QString scheme = device.tls ? QStringLiteral("wss") : QStringLiteral("ws");
+    return QUrl(QStringLiteral("%1://%2:%3%4").arg(scheme, device.ip).arg(device.port).arg(device.path),
+                QUrl::StrictMode);
+}
+
+} // namespace vms_sdk

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QString>
+#include <QUrl>
+#include <optional>
+
+/// Names, numbers and framing that both sides of a device connection share (docs/device-protocol.md).
+namespace vms_sdk {
+
+inline constexpr char deviceSubProtocol[] = "vms-device.v1";
+
+/// Close code of a sign-on that was refused, by either side. From the range that WebSocket leaves to applications.
+inline constexpr int signOnRefusedCode = 4401;
+
+/// Largest message in bytes, either way; a larger one ends the connection.
+inline constexpr qint64 maxFrameBytes = 1024 * 1024;
+
+/// A message after the sign-on: `<request id>\n<text>`. An empty request id marks a notice of the device.
+struct DeviceFrame
+{
+    QString requestId;
+    QString text;
+};
+
+QString toFrameText(const DeviceFrame &frame);
+
+/// Nothing when there is no line break.
+std::optional<DeviceFrame> parseFrame(const QString &frameText);
+
+/// Where the device is dialled; invalid when the record gives no address.
+QUrl deviceUrl(const DevInfo &device);
+
+} // namespace vms_sdk

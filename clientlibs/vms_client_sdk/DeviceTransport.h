@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QObject>
+
+namespace vms_sdk {
+
+/// Carries texts to devices and back. The SDK owns the transport that it is given (ClientSdk::setTransport).
+class DeviceTransport : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DeviceTransport(QObject *parent = nullptr);
+    ~DeviceTransport() override;
+
+    /// Called on the GUI thread. Must not block. A text that cannot be delivered is dropped: the request then ends by
+    /// its time-out.
+    virtual void send(const QString &requestId, const QString &devId, const QString &text) = 0;
+
+signals:
+    // May be raised on any thread, from inside send() too: the SDK always queues them.
+    void answered(const QString &requestId, const QString &text);
+    void devStatusChanged(const QString &devId, vms_sdk::DevStatus status);
+};
+
+} // namespace vms_sdk

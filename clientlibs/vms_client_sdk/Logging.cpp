@@ -1,0 +1,7 @@
+#include "Logging.h"
+
+namespace vms_sdk {
+
+Q_LOGGING_CATEGORY(sdkLog, "orda.sdk", QtWarningMsg)
+
+} // namespace vms_sdk

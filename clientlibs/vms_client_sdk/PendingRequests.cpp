@@ -1,0 +1,76 @@
+#include "PendingRequests.h"
+
+#include <algorithm>
+
+namespace vms_sdk {
+
+void PendingRequests::setTimeout(std::chrono::milliseconds timeout)
+{
+    m_timeout = std::max<qint64>(timeout.count(), 1);
+    m_tick = std::max<qint64>(m_timeout / 10, 1);
+    advanceTo(m_now);
+}
+
+void PendingRequests::advanceTo(qint64 now)
+{
+    m_now = now;
+    m_newDeadline = (now + m_timeout + m_tick - 1) / m_tick * m_tick;
+}
+
+void PendingRequests::add(const QString &id)
+{
+    const auto known = m_index.constFind(id);
+    if (known != m_index.constEnd()) {
+        m_entries[*known].deadline = m_newDeadline;
+        return;
+    }
+    m_index.insert(id, m_entries.size());
+    m_entries.push_back({id, m_newDeadline});
+}
+
+void PendingRequests::renew(const QString &id)
+{
+    if (m_next >= m_entries.size() || m_entries[m_next].id != id) {
+        const auto known = m_index.constFind(id);
+        if (known == m_index.constEnd())
+            return;
+        m_next = *known;
+    }
+    m_entries[m_next].deadline = m_newDeadline;
+    if (++m_next == m_entries.size())
+        m_next = 0;
+}
+
+QStringList PendingRequests::takeDue()
+{
+    const auto isWaiting = [this](const Entry &entry) { return entry.deadline > m_now; };
+    const auto firstDue = std::stable_partition(m_entries.begin(), m_entries.end(), isWaiting);
+    if (firstDue == m_entries.end())
+        return {};
+
+    QStringList due;
+    due.reserve(int(m_entries.end() - firstDue));
+    for (auto entry = firstDue; entry != m_entries.end(); ++entry) {
+        m_index.remove(entry->id);
+        due.append(entry->id);
+    }
+    m_entries.erase(firstDue, m_entries.end());
+    for (std::size_t i = 0; i < m_entries.size(); ++i)
+        m_index[m_entries[i].id] = i;
+    m_next = 0;
+    return due;
+}
+
+void PendingRequests::clear()
+{
+    m_entries.clear();
+    m_index.clear();
+    m_next = 0;
+}
+
+qint64 PendingRequests::untilNextTick() const
+{
+    return m_tick - m_now % m_tick;
+}
+
+} // namespace vms_sdk

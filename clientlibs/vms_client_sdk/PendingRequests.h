@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QHash>
+#include <QStringList>
+#include <chrono>
+#include <vector>
+
+namespace vms_sdk {
+
+/// The ids that are waiting, and until when. Knows no clock: the owner passes the time in, milliseconds on any steady
+/// scale.
+///
+/// Deadlines are rounded up to a tick, a tenth of the waiting time, so that ids sent together end together.
+/// A run renews all its ids after each result, 10^8 renewals for 10,000 devices. So the deadline that a renewal sets is
+/// worked out once per advanceTo(), and the ids stand in the order of sending, in which they are renewed too: the one
+/// after the last renewed is tried before the hash is asked.
+class PendingRequests
+{
+public:
+    /// For requests and renewals from now on; at least 1 ms.
+    void setTimeout(std::chrono::milliseconds timeout);
+
+    /// The time that add(), renew() and takeDue() go by, until the next call.
+    void advanceTo(qint64 now);
+
+    void add(const QString &id); ///< a pending id starts its waiting time again
+    void renew(const QString &id); ///< an id that is not pending is left alone
+    QStringList takeDue(); ///< removes what is due and returns it in the order of sending
+    void clear();
+
+    bool isEmpty() const { return m_entries.empty(); }
+    qint64 untilNextTick() const; ///< milliseconds to the first moment at which something may be due
+
+private:
+    struct Entry
+    {
+        QString id;
+        qint64 deadline;
+    };
+
+    qint64 m_timeout = 15'000;
+    qint64 m_tick = 1'500;
+    qint64 m_now = 0;
+    qint64 m_newDeadline = 15'000;
+    std::vector<Entry> m_entries; ///< in the order of sending
+    QHash<QString, std::size_t> m_index; ///< id -> position in m_entries
+    std::size_t m_next = 0; ///< position after the last renewed one
+};
+
+} // namespace vms_sdk

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/WebSocketOptions.h>
+
+#include <QThread>
+
+namespace vms_sdk {
+
+class NetworkWorker;
+
+/// One WebSocket per device, kept up in a network thread of its own (docs/device-protocol.md). The public functions are
+/// called on the GUI thread and do not block; the signals come from the network thread. The programs set QT_NO_GLIB=1
+/// before the application object: GLib's dispatcher looks at every socket on every wake-up.
+class WebSocketTransport final : public DeviceTransport
+{
+    Q_OBJECT
+
+public:
+    explicit WebSocketTransport(QObject *parent = nullptr, const WebSocketOptions &options = {});
+    ~WebSocketTransport() override;
+
+    /// A request to a device that is not online is dropped, never sent later.
+    void send(const QString &requestId, const QString &devId, const QString &text) override;
+
+    /// The devices to keep connections to, all of them, whatever their access and kind codes. Unchanged records keep
+    /// their connection, changed ones connect anew, missing ones are dropped and reported off line.
+    void setDevices(const QList<DevInfo> &devices);
+
+    /// Devices that refused the sign-on are tried once more.
+    void connectAgain();
+
+    /// Closes all connections and ends the network thread; no signal comes after it. Called when the application is
+    /// about to quit and by the destructor; every call after the first does nothing.
+    void shutdown();
+
+private:
+    QThread m_thread;
+    NetworkWorker *m_worker; ///< lives in m_thread and is deleted there; null after shutdown()
+};
+
+} // namespace vms_sdk

@@ -1,0 +1,73 @@
+#include "ClientSignOn.h"
+
+#include "../SignOn.h"
+
+#include <QDebug>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace vms_sdk {
+
+namespace {
+
+/// What a stranger says goes into the log with its control characters escaped, and not at any length.
+QString quoted(const QString &text)
+{
+    QString result;
+    QDebug(&result).nospace() << text.left(64);
+    return result;
+}
+
+} // namespace
+
+std::optional<DevStatus> onlineStateFrom(const QJsonValue &reported)
+{
+    const auto status = DevStatus(reported.toInt(DevOffline));
+    return isOnlineStatus(status) ? std::optional(status) : std::nullopt;
+}
+
+ClientSignOn::ClientSignOn(const DevInfo &device)
+    : m_device(device)
+{
+}
+
+ClientSignOn::Outcome ClientSignOn::take(const QString &message)
+{
+    const QJsonObject object = QJsonDocument::fromJson(message.toUtf8()).object();
+    const QLatin1String expected(m_deviceNonce.isEmpty() ? "hello" : "welcome");
+    const QJsonValue content = object.value(expected);
+    if (!content.isObject())
+        return {Step::Broken, QStringLiteral("no \"%1\" where it is due").arg(expected)};
+    return m_deviceNonce.isEmpty() ? takeHello(content.toObject()) : takeWelcome(content.toObject());
+}
+
+ClientSignOn::Outcome ClientSignOn::takeHello(const QJsonObject &hello)
+{
+    const QString serial = hello.value(QLatin1String("serial")).toString();
+    if (!m_device.serialNumber.isEmpty() && serial != m_device.serialNumber)
+        return {Step::Refused,
+                QStringLiteral("its serial number is %1, not %2").arg(quoted(serial), quoted(m_device.serialNumber))};
+
+    m_deviceNonce = hello.value(QLatin1String("nonce")).toString().toUtf8();
+    if (!isNonceLongEnough(m_deviceNonce))
+        return {Step::Refused, QStringLiteral("its nonce is too short or not base64")};
+
+    m_clientNonce = makeNonce();
+    const QByteArray proof = signOnProof(SignOnSide::Client, m_device.password, m_deviceNonce, m_clientNonce);
+    const QJsonObject auth{{QStringLiteral("user"), m_device.userName},
+                           {QStringLiteral("nonce"), QString::fromLatin1(m_clientNonce)},
+                           {QStringLiteral("proof"), QString::fromLatin1(proof)}};
+    const QJsonDocument answer(QJsonObject{{QStringLiteral("auth"), auth}});
+    return {Step::Answer, QString::fromUtf8(answer.toJson(QJsonDocument::Compact))};
+}
+
+ClientSignOn::Outcome ClientSignOn::takeWelcome(const QJsonObject &welcome)
+{
+    const QByteArray proof = welcome.value(QLatin1String("proof")).toString().toUtf8();
+    if (!isSameProof(proof, signOnProof(SignOnSide::Device, m_device.password, m_deviceNonce, m_clientNonce)))
+        return {Step::Refused, QStringLiteral("it does not prove that it knows the password")};
+    m_state = onlineStateFrom(welcome.value(QLatin1String("state")));
+    return {Step::Welcome, {}};
+}
+
+} // namespace vms_sdk

@@ -1,0 +1,58 @@
+#include "NetworkWorker.h"
+
+#include "../Logging.h"
+#include "DeviceLink.h"
+#include "LinkHost.h"
+
+namespace vms_sdk {
+
+NetworkWorker::NetworkWorker(const WebSocketOptions &options)
+    : m_host(new LinkHost(options, this))
+{
+}
+
+NetworkWorker::~NetworkWorker() = default;
+
+void NetworkWorker::setDevices(const QList<DevInfo> &devices)
+{
+    Links previous = std::exchange(m_links, {});
+    for (const DevInfo &device : devices) {
+        const auto known = previous.find(device.id);
+        if (known != previous.end() && known->second->device() == device)
+            m_links.insert(previous.extract(known));
+    }
+    for (const auto &[id, link] : previous)
+        link->end();
+    for (const DevInfo &device : devices) {
+        std::unique_ptr<DeviceLink> &link = m_links[device.id];
+        if (!link) {
+            link = makeLink(device);
+            link->start();
+        }
+    }
+}
+
+std::unique_ptr<DeviceLink> NetworkWorker::makeLink(const DevInfo &device)
+{
+    auto link = std::make_unique<DeviceLink>(device, *m_host);
+    connect(link.get(), &DeviceLink::answered, this, &NetworkWorker::answered);
+    connect(link.get(), &DeviceLink::statusChanged, this, &NetworkWorker::devStatusChanged);
+    return link;
+}
+
+void NetworkWorker::connectAgain()
+{
+    for (const auto &[id, link] : m_links)
+        link->connectAgain();
+}
+
+void NetworkWorker::send(const QString &requestId, const QString &devId, const QString &text)
+{
+    const auto known = m_links.find(devId);
+    if (known != m_links.end())
+        known->second->send(requestId, text);
+    else
+        qCDebug(sdkLog) << "request" << requestId << "dropped: device" << devId << "is unknown";
+}
+
+} // namespace vms_sdk

@@ -1,0 +1,35 @@
+# What every target of this tree has in common.
+
+# orda_target(<name>): language level, warnings, moc and uic, where the result lies.
+function(orda_target name)
+  target_compile_features(${name} PUBLIC cxx_std_17)
+  target_compile_options(${name} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+  target_compile_definitions(${name} PRIVATE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
+    QT_DEPRECATED_WARNINGS QT_STRICT_ITERATORS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+  if(ORDA_WERROR)
+    target_compile_options(${name} PRIVATE -Werror)
+  endif()
+  if(ORDA_SANITIZE)
+    target_compile_options(${name} PRIVATE -fsanitize=${ORDA_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(${name} PRIVATE -fsanitize=${ORDA_SANITIZE})
+  endif()
+  set_target_properties(${name} PROPERTIES
+    AUTOMOC ON AUTOUIC ON AUTORCC ON
+    CXX_EXTENSIONS OFF
+    POSITION_INDEPENDENT_CODE ON
+    RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin"
+    LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib"
+    ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+endfunction()
+
+# orda_client_library(<name> LINKS <targets> SOURCES <files>): one of the six client libraries, with clientlibs/ as its include root.
+function(orda_client_library name)
+  cmake_parse_arguments(arg "" "" "LINKS;PRIVATE_LINKS;SOURCES" ${ARGN})
+  add_library(${name} SHARED ${arg_SOURCES})
+  add_library(orda::${name} ALIAS ${name})
+  orda_target(${name})
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/clientlibs> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
+endfunction()

@@ -1,0 +1,457 @@
+#include "support/FormFixture.h"
+#include "support/OrdaTest.h"
+
+#include <orda_base/DisabledWaitingWt.h>
+#include <orda_data/DevsMgrData.h>
+#include <orda_worker/AssistantSignals.h>
+#include <orda_worker/EventConfirmInfo.h>
+#include <run/BatchCfgContact.h>
+#include <run/ParamsCfgTask.h>
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTimer>
+
+#include <sys/stat.h>
+
+using namespace std::chrono_literals;
+using orda_worker::AssistantSignals;
+using Request = ScriptedTransport::Request;
+
+namespace {
+
+QStringList healthy(const Request &request)
+{
+    return {answer(request.method(), {{QStringLiteral("bEnable"), true}, {QStringLiteral("aoGain"), 3}})};
+}
+
+QStringList silent(const Request &)
+{
+    return {};
+}
+
+QString recordPath()
+{
+    return QDir::tempPath() + QStringLiteral("/vms_audio_params_batch_cfg_record.txt");
+}
+
+// The entries of the record file as it lies on the disk now.
+QStringList recordEntries()
+{
+    QFile file(recordPath());
+    return file.open(QIODevice::ReadOnly)
+               ? QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"), Qt::SkipEmptyParts)
+               : QStringList();
+}
+
+// Runs a step in the midst of a run, when the condition holds; a run that never gets there is ended by its time-outs.
+template <typename Condition, typename Step>
+void onceInRun(QObject *context, Condition condition, Step step)
+{
+    auto *timer = new QTimer(context);
+    QObject::connect(timer, &QTimer::timeout, context, [timer, condition, step] {
+        if (condition()) {
+            timer->deleteLater();
+            timer->stop();
+            step();
+        }
+    });
+    timer->start(2ms);
+}
+
+} // namespace
+
+/// A run from the press of Configure to the summary, over the real form, and what may happen to it meanwhile.
+class RunTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void asksForParametersAndDevices();
+    void selectionDrivesPanelsAndRequests_data();
+    void selectionDrivesPanelsAndRequests();
+    void configuresTheTickedDevicesAndReports();
+    void detailOpensTheRecordOfTheLatestRunOnly();
+    void countsEveryDeviceOnceWhateverItSends();
+    void deadDevicesEndTogether();
+    void everyResultRenewsTheOthers();
+    void secondPressDoesNothing();
+    void formMayBeDeletedOrClosedInARun_data();
+    void formMayBeDeletedOrClosedInARun();
+    void quittingEndsARunQuietly();
+    void resultsAreOnTheDiskAtOnce();
+    void recordIsNeverWrittenThroughALink();
+    void deviceThatLeavesTheStoreIsStillReported();
+
+    void slotUrlOpened(const QUrl &url) { m_openedUrls.append(url); }
+
+private:
+    std::unique_ptr<QSignalSpy> m_summaries, m_alerts;
+    QList<QUrl> m_openedUrls;
+
+    orda_worker::EventConfirmInfo summary() const
+    {
+        return m_summaries->value(0).value(0).value<orda_worker::EventConfirmInfo>();
+    }
+};
+
+void RunTest::initTestCase()
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+void RunTest::init()
+{
+    OrdaTest::init();
+    QFile::remove(recordPath());
+    m_openedUrls.clear();
+    const auto *assistant = &AssistantSignals::instance();
+    m_summaries = std::make_unique<QSignalSpy>(assistant, &AssistantSignals::signalEventConfirmRaised);
+    m_alerts = std::make_unique<QSignalSpy>(assistant, &AssistantSignals::signalMessageAlerted);
+}
+
+void RunTest::cleanup()
+{
+    OrdaTest::cleanup();
+}
+
+void RunTest::asksForParametersAndDevices()
+{
+    const FormFixture f(1, healthy);
+    f.configureAudio();
+    QCOMPARE(m_alerts->count(), 1);
+    QCOMPARE(m_alerts->at(0).at(1).toString(), QStringLiteral("Please select the devices to be configured"));
+
+    f.tickAll();
+    QWidget *page = f.page("audioParametersPage");
+    page->findChild<QCheckBox *>(QStringLiteral("allParams"))->click();
+    auto *okBt = page->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+    QVERIFY(!okBt->isEnabled());
+    okBt->setEnabled(true); // a press that was under way when the last parameter went
+    f.configureAudio();
+    QCOMPARE(m_alerts->count(), 2);
+    QCOMPARE(m_alerts->at(1).at(1).toString(), QStringLiteral("Please select the parameters to be configured"));
+
+    QVERIFY(f.transport->requests.isEmpty());
+    QVERIFY(!QFile::exists(recordPath()));
+    QCOMPARE(m_summaries->count(), 0);
+}
+
+void RunTest::selectionDrivesPanelsAndRequests_data()
+{
+    QTest::addColumn<QStringList>("clicked"); // from the initial "all ticked"
+    QTest::addColumn<Qt::CheckState>("all");
+    QTest::addColumn<QStringList>("panels");
+    QTest::addColumn<QStringList>("methods");
+
+    const QString ai = QStringLiteral("ai_get_param,ai_set_param");
+    const QString ao = QStringLiteral("ao_get_param,ao_set_param");
+    const auto list = [](const QString &text) { return text.split(QLatin1Char(','), Qt::SkipEmptyParts); };
+    const auto row = [&](const char *name, const char *clicked, Qt::CheckState all, const char *panels, const QString &methods) {
+        QTest::newRow(name) << list(QString::fromLatin1(clicked)) << all << list(QString::fromLatin1(panels)) << list(methods);
+    };
+    const char *everything = "audioEnablePanel,encodingFormatPanel,audioInVolumePanel,alarmOutVolumePanel,samplingRatePanel,"
+                             "bitWidePanel";
+    row("everything", "", Qt::Checked, everything, ai + QLatin1Char(',') + ao);
+    row("output only", "allParams,alarmOutVolume", Qt::PartiallyChecked, "alarmOutVolumePanel", ao);
+    row("input only", "alarmOutVolume", Qt::PartiallyChecked,
+        "audioEnablePanel,encodingFormatPanel,audioInVolumePanel,samplingRatePanel,bitWidePanel", ai);
+    row("sampling rate alone", "allParams,samplingRate", Qt::PartiallyChecked, "samplingRatePanel,bitWidePanel", ai);
+    row("partial goes to all", "alarmOutVolume,allParams", Qt::Checked, everything, ai + QLatin1Char(',') + ao);
+    row("last box back", "audioEnable,audioEnable", Qt::Checked, everything, ai + QLatin1Char(',') + ao);
+    row("nothing", "allParams", Qt::Unchecked, "", QString());
+}
+
+void RunTest::selectionDrivesPanelsAndRequests()
+{
+    QFETCH(QStringList, clicked);
+    QFETCH(Qt::CheckState, all);
+    QFETCH(QStringList, panels);
+    QFETCH(QStringList, methods);
+
+    const FormFixture f(1, healthy);
+    QWidget *page = f.page("audioParametersPage");
+    for (const QString &box : qAsConst(clicked)) {
+        page->findChild<QCheckBox *>(box)->click();
+    }
+    QCOMPARE(page->findChild<QCheckBox *>(QStringLiteral("allParams"))->checkState(), all);
+    QStringList shown;
+    const auto widgets = page->findChildren<QWidget *>(QRegularExpression(QStringLiteral("Panel$")));
+    for (const QWidget *widget : widgets) {
+        if (widget->isVisibleTo(page)) {
+            shown.append(widget->objectName());
+        }
+    }
+    QCOMPARE(shown, panels);
+    f.tickAll();
+    f.configureAudio();
+    QCOMPARE(f.transport->methods(), methods);
+}
+
+void RunTest::configuresTheTickedDevicesAndReports()
+{
+    const FormFixture f(3, healthy);
+    f.tickAll();
+    f.table()->item(1, 0)->setCheckState(Qt::Unchecked);
+    QWidget *page = f.page("audioParametersPage");
+    auto *report = page->findChild<QAbstractButton *>(QStringLiteral("reportBt"));
+    page->findChild<QAbstractButton *>(QStringLiteral("audioSwitch"))->click();
+    QVERIFY(!report->isVisibleTo(page));
+    QStringList progress;
+    onceInRun(f.form, [&] { return f.form->findChild<orda_base::DisabledWaitingWt *>(); },
+              [&] { progress.append(f.form->findChild<orda_base::DisabledWaitingWt *>()->description()); });
+
+    f.configureAudio();
+
+    QCOMPARE(progress, QStringList {QStringLiteral("Configuring...")});
+    QCOMPARE(m_summaries->count(), 1);
+    QCOMPARE(summary().title, QStringLiteral("Audio Parameters Configuration Result"));
+    QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
+    QCOMPARE(summary().buttons, (QStringList {QStringLiteral("Detail"), QStringLiteral("Cancel")}));
+    QVERIFY(report->isVisibleTo(page));
+    QVERIFY(f.form->findChild<orda_base::DisabledWaitingWt *>() == nullptr
+            || !f.form->findChild<orda_base::DisabledWaitingWt *>()->isVisible());
+
+    QSet<QString> devices;
+    for (const Request &request : qAsConst(f.transport->requests)) {
+        devices.insert(request.devId);
+        if (request.method() == QLatin1String("ai_set_param")) {
+            QCOMPARE(request.json().value(QLatin1String("param")).toObject(),
+                     QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"bEnable": true, "aoGain": 50}})").object());
+        }
+    }
+    QCOMPARE(devices, (QSet<QString> {QStringLiteral("dev0"), QStringLiteral("dev2")}));
+
+    const QStringList entries = recordEntries();
+    QCOMPARE(entries.size(), 2);
+    const QRegularExpression format(QStringLiteral(
+        "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d {4}SN0 {4}10\\.0\\.0\\.1 {8} {4}success {16}Cam 0$"));
+    QVERIFY2(format.match(entries.at(0)).hasMatch(), qPrintable(entries.at(0)));
+}
+
+void RunTest::detailOpensTheRecordOfTheLatestRunOnly()
+{
+    QDesktopServices::setUrlHandler(QString(), this, "slotUrlOpened");
+    const FormFixture f(1, healthy);
+    f.tickAll();
+    f.configureAudio();
+    f.configureAudio();
+    QCOMPARE(m_summaries->count(), 2);
+    const auto uuid = [this](int i) { return m_summaries->at(i).at(0).value<orda_worker::EventConfirmInfo>().uuid; };
+    auto &assistant = AssistantSignals::instance();
+    emit assistant.signalEventConfirmOperBtClicked(uuid(0), 0); // replaced by the second run
+    emit assistant.signalEventConfirmOperBtClicked(uuid(1), 1);
+    QVERIFY(m_openedUrls.isEmpty());
+    emit assistant.signalEventConfirmOperBtClicked(uuid(1), 0);
+    QCOMPARE(m_openedUrls, QList<QUrl> {QUrl(recordPath())});
+    QCOMPARE(recordEntries().size(), 1); // the last run's only
+    QDesktopServices::unsetUrlHandler(QString());
+}
+
+void RunTest::countsEveryDeviceOnceWhateverItSends()
+{
+    const FormFixture f(
+        6,
+        [](const Request &request) -> QStringList {
+            switch (request.devId.midRef(3).toInt()) {
+            case 0:
+                return healthy(request);
+            case 1:
+                return healthy(request) + healthy(request);
+            case 2:
+                return {QStringLiteral("no json")};
+            case 3:
+                return {QStringLiteral("{}")};
+            case 4:
+                return {answer(request.method(), {}, 7), answer(request.method()), QStringLiteral("no json")};
+            default:
+                return {};
+            }
+        },
+        200ms);
+    f.tickAll();
+    f.configureAudio();
+    QTest::qWait(300); // the late ones come after the summary
+
+    QCOMPARE(m_summaries->count(), 1);
+    QCOMPARE(summary().text, QStringLiteral("A total of 6 devices have been configured, success:2, failure:4"));
+    QStringList outcomes;
+    for (const QString &entry : recordEntries()) {
+        const QStringList fields = entry.split(QRegularExpression(QStringLiteral(" {4,}")));
+        outcomes.append(fields.at(1) + QLatin1Char(' ') + fields.at(3));
+    }
+    // In the order in which they arrived.
+    QCOMPARE(outcomes.mid(0, 2), (QStringList {QStringLiteral("SN2 Failed to parse json data"),
+                                              QStringLiteral("SN4 Failed to get audio in parameters(7)")}));
+    outcomes.sort();
+    QCOMPARE(outcomes, (QStringList {QStringLiteral("SN0 success"), QStringLiteral("SN1 success"),
+                                     QStringLiteral("SN2 Failed to parse json data"),
+                                     QStringLiteral("SN3 set audio parameters time out"),
+                                     QStringLiteral("SN4 Failed to get audio in parameters(7)"),
+                                     QStringLiteral("SN5 set audio parameters time out")}));
+}
+
+void RunTest::deadDevicesEndTogether()
+{
+    const FormFixture f(100, silent, 400ms);
+    f.tickAll();
+    QElapsedTimer clock;
+    clock.start();
+    f.configureAudio();
+    QVERIFY2(clock.elapsed() < 2 * 400, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(summary().text, QStringLiteral("A total of 100 devices have been configured, success:0, failure:100"));
+    QCOMPARE(recordEntries().size(), 100);
+}
+
+void RunTest::everyResultRenewsTheOthers()
+{
+    // dev0 is refused late in the waiting time of dev1, which then has a whole one again.
+    const FormFixture f(2, silent, 500ms);
+    f.tickAll();
+    QTimer::singleShot(400ms, f.form, [&f] {
+        emit f.transport->answered(f.transport->requests.at(0).requestId, QStringLiteral("no json"));
+    });
+    QElapsedTimer clock;
+    clock.start();
+    f.configureAudio();
+    QVERIFY2(clock.elapsed() >= 850, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(recordEntries().size(), 2);
+}
+
+void RunTest::secondPressDoesNothing()
+{
+    const FormFixture f(5, healthy);
+    f.tickAll();
+    auto *okBt = f.page("audioParametersPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+    onceInRun(f.form, [&] { return !f.transport->requests.isEmpty(); },
+              [okBt] {
+                  okBt->click(); // as an accessibility tool does
+                  QTest::mouseClick(okBt, Qt::LeftButton);
+                  QTest::keyClick(okBt, Qt::Key_Space);
+              });
+    f.configureAudio();
+    QCOMPARE(m_summaries->count(), 1);
+    QCOMPARE(f.transport->requests.size(), 5 * 4);
+    f.configureAudio(); // and the next run is free to start
+    QCOMPARE(m_summaries->count(), 2);
+}
+
+void RunTest::formMayBeDeletedOrClosedInARun_data()
+{
+    QTest::addColumn<bool>("isDeleted");
+    QTest::addColumn<int>("summaries");
+    QTest::newRow("deleted: nobody is left to tell") << true << 0;
+    QTest::newRow("closed: the run goes on") << false << 1;
+}
+
+void RunTest::formMayBeDeletedOrClosedInARun()
+{
+    QFETCH(bool, isDeleted);
+    QFETCH(int, summaries);
+    const FormFixture f(3, healthy);
+    f.tickAll();
+    QObject context;
+    onceInRun(&context, [&] { return f.transport->requests.size() > 3; },
+              [&] {
+                  if (isDeleted) {
+                      delete f.form;
+                  } else {
+                      f.form->close();
+                  }
+              });
+    f.configureAudio();
+    QCOMPARE(m_summaries->count(), summaries);
+    QCOMPARE(f.form.isNull(), isDeleted);
+    QCOMPARE(orda_batchCfg::BatchCfgContact::instance().form() == nullptr, isDeleted);
+    if (isDeleted) {
+        QVERIFY(orda_batchCfg::BatchCfgContact::instance().checkedDevIds().isEmpty());
+        const FormFixture next(1, healthy);
+        next.tickAll();
+        next.configureAudio();
+        QCOMPARE(m_summaries->count(), 1);
+    }
+}
+
+void RunTest::quittingEndsARunQuietly()
+{
+    const FormFixture f(4, [](const Request &request) { return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request); });
+    f.tickAll();
+    onceInRun(f.form, [] { return recordEntries().size() == 1; }, [] { QCoreApplication::quit(); });
+    bool isBack = false;
+    QTimer::singleShot(0, f.form, [&] {
+        f.configureAudio();
+        isBack = true;
+    });
+    QApplication::exec();
+    QVERIFY(isBack);
+    QCOMPARE(m_summaries->count(), 0);
+    QVERIFY(f.page("audioParametersPage")->findChildren<orda_batchCfg::ParamsCfgTask *>().isEmpty());
+    QTRY_VERIFY(!f.form->findChild<orda_base::DisabledWaitingWt *>());
+    QCOMPARE(recordEntries().size(), 1);
+}
+
+void RunTest::resultsAreOnTheDiskAtOnce()
+{
+    const FormFixture f(2, [](const Request &request) { return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request); }, 600ms);
+    f.tickAll();
+    QStringList inRun;
+    onceInRun(f.form, [&] { return !recordEntries().isEmpty(); },
+              [&] {
+                  inRun = recordEntries();
+                  QCOMPARE(m_summaries->count(), 0);
+              });
+    f.configureAudio();
+    QCOMPARE(inRun.size(), 1);
+    QVERIFY(inRun.at(0).contains(QLatin1String("SN0")));
+    struct stat info = {};
+    QCOMPARE(::stat(QFile::encodeName(recordPath()).constData(), &info), 0);
+    QCOMPARE(int(info.st_mode & 0777), 0600);
+}
+
+void RunTest::recordIsNeverWrittenThroughALink()
+{
+    const QString target = QDir::tempPath() + QStringLiteral("/precious.txt");
+    QFile file(target);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("keep me");
+    file.close();
+    QVERIFY(QFile::link(target, recordPath()));
+    expectWarning(QStringLiteral("cannot open the record file .*vms_audio_params_batch_cfg_record.txt: it is a symbolic link"));
+
+    const FormFixture f(2, healthy);
+    f.tickAll();
+    f.configureAudio();
+    QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("keep me"));
+    QFile::remove(recordPath());
+}
+
+void RunTest::deviceThatLeavesTheStoreIsStillReported()
+{
+    const FormFixture f(2, silent, 200ms);
+    auto dev = FormFixture::device(0);
+    dev.name = QStringLiteral("%1 %5");
+    dev.ip = QStringLiteral("an address of more than 16 characters");
+    orda_data::DevsMgrData::instance().updateDevs({dev});
+    f.tickAll();
+    onceInRun(f.form, [&] { return !f.transport->requests.isEmpty(); },
+              [] { orda_data::DevsMgrData::instance().deleteDevs({QStringLiteral("dev1")}); });
+    f.configureAudio();
+    QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:0, failure:2"));
+    const QStringList entries = recordEntries();
+    const QString timeout = QStringLiteral("    set audio parameters time out                ");
+    QVERIFY2(entries.at(0).endsWith(QStringLiteral("    SN0    ") + dev.ip + timeout + dev.name), qPrintable(entries.at(0)));
+    QVERIFY2(entries.at(1).endsWith(QStringLiteral("        ") + QString(16, QLatin1Char(' ')) + timeout), qPrintable(entries.at(1)));
+}
+
+ORDA_TEST_MAIN(RunTest)
+#include "run_test.moc"

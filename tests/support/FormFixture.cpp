@@ -1,0 +1,77 @@
+#include "support/FormFixture.h"
+
+#include <orda_data/DevsMgrData.h>
+#include <vms_client_sdk/ClientSdk.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
+
+FormFixture::FormFixture(int devices, const ScriptedTransport::Script &script, std::chrono::milliseconds waitingTime)
+{
+    auto scripted = std::make_unique<ScriptedTransport>(script);
+    transport = scripted.get();
+    vms_sdk::ClientSdk::instance().setTransport(std::move(scripted));
+    vms_sdk::ClientSdk::instance().setRequestTimeout(waitingTime);
+
+    auto &store = orda_data::DevsMgrData::instance();
+    QList<vms_sdk::DevInfo> devs;
+    for (int i = 0; i < devices; ++i) {
+        devs.append(device(i));
+    }
+    store.updateDevs(devs);
+    for (const vms_sdk::DevInfo &dev : qAsConst(devs)) {
+        store.setDevStatus(dev.id, vms_sdk::DevOnline);
+    }
+    form = new orda_batchCfg::BatchCfgForm;
+    form->show();
+}
+
+FormFixture::~FormFixture()
+{
+    delete form;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (auto *dialog = qobject_cast<QDialog *>(window)) {
+            dialog->reject();
+        }
+    }
+    auto &store = orda_data::DevsMgrData::instance();
+    QStringList ids;
+    const QList<vms_sdk::DevInfo> devs = store.getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : devs) {
+        ids.append(dev.id);
+    }
+    store.deleteDevs(ids);
+    vms_sdk::ClientSdk::instance().setTransport(nullptr);
+}
+
+vms_sdk::DevInfo FormFixture::device(int number)
+{
+    vms_sdk::DevInfo dev;
+    dev.id = QStringLiteral("dev%1").arg(number);
+    dev.name = QStringLiteral("Cam %1").arg(number);
+    dev.serialNumber = QStringLiteral("SN%1").arg(number);
+    dev.ip = QStringLiteral("10.0.%1.%2").arg(number / 200).arg(number % 200 + 1);
+    dev.accessCode = 1;
+    dev.kindCode = 1;
+    return dev;
+}
+
+QStringList FormFixture::column(int number) const
+{
+    QStringList texts;
+    for (int row = 0; row < table()->rowCount(); ++row) {
+        if (!table()->isRowHidden(row)) {
+            texts.append(table()->item(row, number)->text());
+        }
+    }
+    return texts;
+}
+
+void FormFixture::configure(const char *navigationKey, const char *pageName) const
+{
+    form->findChild<QAbstractButton *>(QLatin1String(navigationKey))->click();
+    auto *okBt = page(pageName)->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+    QTest::mouseClick(okBt, Qt::LeftButton);
+}

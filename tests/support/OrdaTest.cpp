@@ -1,0 +1,60 @@
+#include "support/OrdaTest.h"
+
+#include <QMutex>
+#include <cstring>
+
+namespace {
+
+QtMessageHandler previousHandler = nullptr;
+QMutex mutex; // warnings come from the network and fleet threads too
+
+struct Warnings
+{
+    QStringList expected, unexpected;
+};
+
+Warnings &warnings()
+{
+    static Warnings instance;
+    return instance;
+}
+
+void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    const bool ours = context.category && std::strncmp(context.category, "orda.", 5) == 0;
+    if (ours && (type == QtWarningMsg || type == QtCriticalMsg)) {
+        const QMutexLocker lock(&mutex);
+        QStringList &expected = warnings().expected;
+        for (int i = 0; i < expected.size(); ++i) {
+            if (QRegularExpression(expected.at(i)).match(text).hasMatch()) {
+                expected.removeAt(i);
+                return;
+            }
+        }
+        warnings().unexpected.append(text);
+    }
+    previousHandler(type, context, text);
+}
+
+} // namespace
+
+void OrdaTest::expectWarning(const QString &pattern)
+{
+    const QMutexLocker lock(&mutex);
+    warnings().expected.append(pattern);
+}
+
+void OrdaTest::init()
+{
+    const QMutexLocker lock(&mutex);
+    warnings() = {};
+    previousHandler = qInstallMessageHandler(handleMessage);
+}
+
+void OrdaTest::cleanup()
+{
+    qInstallMessageHandler(previousHandler);
+    const QMutexLocker lock(&mutex);
+    QVERIFY2(warnings().unexpected.isEmpty(), qPrintable(warnings().unexpected.join(QLatin1Char('\n'))));
+    QVERIFY2(warnings().expected.isEmpty(), qPrintable(QStringLiteral("missing: ") + warnings().expected.join(QLatin1Char('\n'))));
+}

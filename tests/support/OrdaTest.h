@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QTest>
+
+/// Base of every test class: a warning of ours (category "orda.*") that the test has not announced fails the test function.
+/// A class with an init() or cleanup() of its own calls these.
+class OrdaTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Announces a warning for the running test function; one that does not come fails the function too.
+    static void expectWarning(const QString &pattern);
+
+protected slots:
+    void init();
+    void cleanup();
+};
+
+/// The main function of a test program: Qt's own event dispatcher, as the programs use it.
+#define ORDA_TEST_MAIN(TestClass)                                                                                      \
+    int main(int argc, char *argv[])                                                                                   \
+    {                                                                                                                  \
+        qputenv("QT_NO_GLIB", "1");                                                                                    \
+        QApplication app(argc, argv);                                                                                  \
+        TestClass test;                                                                                                \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }

@@ -1,0 +1,213 @@
+#include "support/OrdaTest.h"
+#include "support/ScriptedTransport.h"
+
+#include <audio/AudioParamsCfgTask.h>
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/ClientSignals.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+
+using orda_batchCfg::AudioParamsCfgTask;
+using Request = ScriptedTransport::Request;
+
+namespace {
+
+constexpr std::chrono::milliseconds waitingTime {100};
+
+const QJsonObject values {{QStringLiteral("encType"), QStringLiteral("g711a")},
+                          {QStringLiteral("aoGain"), 7},
+                          {QStringLiteral("unknownHere"), true}};
+
+QJsonObject deviceAudio(const Request &request)
+{
+    QJsonObject audio {{QStringLiteral("encType"), QStringLiteral("g711u")}, {QStringLiteral("mask"), 3}};
+    if (request.method() == QLatin1String("ao_get_param")) {
+        audio.insert(QStringLiteral("aoGain"), 50);
+    }
+    return audio;
+}
+
+QStringList healthy(const Request &request)
+{
+    return {answer(request.method(), deviceAudio(request))};
+}
+
+// A healthy device but for one method.
+ScriptedTransport::Script except(const QString &method, const QStringList &answers)
+{
+    return [=](const Request &request) { return request.method() == method ? answers : healthy(request); };
+}
+
+const QString aiGet = QStringLiteral("ai_get_param");
+const QString aiSet = QStringLiteral("ai_set_param");
+const QString aoGet = QStringLiteral("ao_get_param");
+const QString aoSet = QStringLiteral("ao_set_param");
+
+} // namespace
+
+Q_DECLARE_METATYPE(ScriptedTransport::Script)
+
+/// The request channel of a task, told on audio, the family with two exchanges.
+class TaskTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void endsOnceAsTheDeviceAnswers_data();
+    void endsOnceAsTheDeviceAnswers();
+    void sendsTheWholeObjectWithTheChosenMembers();
+    void pausesBetweenAnAnswerAndTheNextRequest();
+    void hearsOnlyItsOwnAnswers();
+
+private:
+    static ScriptedTransport *use(const ScriptedTransport::Script &script)
+    {
+        auto transport = std::make_unique<ScriptedTransport>(script);
+        ScriptedTransport *raw = transport.get();
+        vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+        vms_sdk::ClientSdk::instance().setRequestTimeout(waitingTime);
+        return raw;
+    }
+};
+
+void TaskTest::endsOnceAsTheDeviceAnswers_data()
+{
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<ScriptedTransport::Script>("script");
+    QTest::addColumn<QStringList>("methods");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("code");
+
+    const auto row = [](const char *name, int flags, const ScriptedTransport::Script &script, const QStringList &methods,
+                        const char *message, int code) {
+        QTest::newRow(name) << flags << script << methods << QString::fromLatin1(message) << code;
+    };
+    const QString timeout = QStringLiteral("set audio parameters time out");
+    const QStringList allFour {aiGet, aiSet, aoGet, aoSet};
+    row("input only", 1, healthy, {aiGet, aiSet}, "success", 0);
+    row("output only", 2, healthy, {aoGet, aoSet}, "success", 0);
+    row("both", 3, healthy, allFour, "success", 0);
+    row("input read refused", 3, except(aiGet, {answer(aiGet, {}, -5)}), {aiGet},
+        "Failed to get audio in parameters(-5)", -5);
+    row("input write refused", 3, except(aiSet, {answer(aiSet, {}, 9)}), {aiGet, aiSet},
+        "Failed to set audio in parameters(9)", 9);
+    row("output read refused", 3, except(aoGet, {answer(aoGet, {}, 9)}), {aiGet, aiSet, aoGet},
+        "Failed to get audio out parameters(9)", 9);
+    row("output write refused", 3, except(aoSet, {answer(aoSet, {}, 9)}), allFour,
+        "Failed to set audio out parameters(9)", 9);
+    row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}), {aiGet, aiSet},
+        "success", 0);
+    row("an error code that is no number is success", 1,
+        except(aiSet, {QStringLiteral(R"({"method": "ai_set_param", "error": {"errorcode": "7"}})")}), {aiGet, aiSet},
+        "success", 0);
+    row("garbage", 1, except(aiSet, {QStringLiteral("<html>")}), {aiGet, aiSet}, "Failed to parse json data", -61003);
+    row("an empty text", 1, except(aiGet, {QString()}), {aiGet}, "Failed to parse json data", -61003);
+    row("silent on the read", 1, except(aiGet, {}), {aiGet}, "set audio parameters time out", -61004);
+    row("silent on the write", 3, except(aoSet, {}), allFour, "set audio parameters time out", -61004);
+    row("an empty object is no answer", 1, except(aiGet, {QStringLiteral("{}")}), {aiGet},
+        "set audio parameters time out", -61004);
+    row("an array is no answer", 1, except(aiGet, {QStringLiteral("[]")}), {aiGet}, "set audio parameters time out",
+        -61004);
+    row("a foreign method is no answer", 1, except(aiGet, {answer(QStringLiteral("AI_GET_PARAM"))}), {aiGet},
+        "set audio parameters time out", -61004);
+    row("each answer twice", 3,
+        [](const Request &request) { return healthy(request) + healthy(request); }, allFour, "success", 0);
+    row("success, then a refusal of the same write", 1, except(aiSet, {answer(aiSet), answer(aiSet, {}, 4)}),
+        {aiGet, aiSet}, "success", 0);
+}
+
+void TaskTest::endsOnceAsTheDeviceAnswers()
+{
+    QFETCH(int, flags);
+    QFETCH(ScriptedTransport::Script, script);
+    QFETCH(QStringList, methods);
+    QFETCH(QString, message);
+    QFETCH(int, code);
+
+    const ScriptedTransport *transport = use(script);
+    AudioParamsCfgTask task(QStringLiteral("cam"), values, flags, nullptr);
+    QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
+    QTRY_COMPARE(results.count(), 1);
+    const QVariantList result = results.constFirst();
+    QCOMPARE(result.at(0).toString(), QStringLiteral("cam"));
+    QCOMPARE(result.at(1).toString(), message);
+    QCOMPARE(result.at(2).toInt(), code);
+    QCOMPARE(transport->methods(), methods);
+
+    // Nothing follows, neither a second result nor a request, until long after the id's waiting time.
+    QTest::qWait(2 * int(waitingTime.count()));
+    QCOMPARE(results.count(), 1);
+    QCOMPARE(transport->methods(), methods);
+    for (const Request &request : transport->requests) {
+        QCOMPARE(request.requestId, task.requestId());
+    }
+}
+
+void TaskTest::sendsTheWholeObjectWithTheChosenMembers()
+{
+    const ScriptedTransport *transport = use(healthy);
+    AudioParamsCfgTask task(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut,
+                            nullptr);
+    QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
+    QTRY_COMPARE(results.count(), 1);
+
+    QCOMPARE(transport->requests.at(0).text, QStringLiteral(R"({
+    "level": "Operator",
+    "method": "ai_get_param",
+    "param": {
+        "channelid": 0
+    }
+}
+)"));
+    QCOMPARE(transport->requests.at(1).text, QStringLiteral(R"({
+    "level": "Operator",
+    "method": "ai_set_param",
+    "param": {
+        "audioAttr": {
+            "encType": "g711a",
+            "mask": 3
+        },
+        "channelid": 0
+    }
+}
+)"));
+    // The output has a gain as well, and what was read of the input is not written to it.
+    QCOMPARE(transport->requests.at(3).json().value(QLatin1String("param")).toObject(),
+             QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"encType": "g711a", "mask": 3, "aoGain": 7}})").object());
+}
+
+void TaskTest::pausesBetweenAnAnswerAndTheNextRequest()
+{
+    const ScriptedTransport *transport = use(healthy);
+    AudioParamsCfgTask task(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn, nullptr);
+    QElapsedTimer sinceAnswer;
+    connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, &task, [&] {
+        if (transport->requests.size() == 1) {
+            sinceAnswer.start();
+        }
+    });
+    QTRY_COMPARE(transport->requests.size(), 2);
+    QVERIFY2(sinceAnswer.elapsed() >= 9, qPrintable(QString::number(sinceAnswer.elapsed())));
+}
+
+void TaskTest::hearsOnlyItsOwnAnswers()
+{
+    use([](const Request &) { return QStringList(); });
+    AudioParamsCfgTask first(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn, nullptr);
+    AudioParamsCfgTask second(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn, nullptr);
+    QVERIFY(first.requestId() != second.requestId());
+    QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
+    QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);
+
+    auto &sdk = vms_sdk::ClientSignals::instance();
+    emit sdk.signalCommonRes(first.requestId().toUpper() + QLatin1Char('x'), answer(aiGet, {}, 1));
+    emit sdk.signalRequestTimeout(QString(), {});
+    emit sdk.signalCommonRes(second.requestId(), answer(aiGet, {}, 1));
+    QCOMPARE(firstResults.count(), 0);
+    QCOMPARE(secondResults.count(), 1);
+}
+
+ORDA_TEST_MAIN(TaskTest)
+#include "task_test.moc"
