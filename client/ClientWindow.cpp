@@ -77,13 +77,15 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
 void ClientWindow::buildMenu()
 {
     QMenu *devices = menuBar()->addMenu(tr("&Devices"));
-    const QAction *open = devices->addAction(tr("&Open inventory…"), QKeySequence::Open);
+    QAction *open = devices->addAction(tr("&Open inventory…"));
+    open->setShortcut(QKeySequence::Open);
     connect(open, &QAction::triggered, this, &ClientWindow::openInventory);
     QAction *again = devices->addAction(tr("&Connect again"));
     again->setStatusTip(tr("Tries the devices again that refused the sign-on"));
     connect(again, &QAction::triggered, m_session, &ClientSession::connectAgain);
     devices->addSeparator();
-    const QAction *quit = devices->addAction(tr("&Quit"), QKeySequence::Quit);
+    QAction *quit = devices->addAction(tr("&Quit"));
+    quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
@@ -102,10 +104,10 @@ void ClientWindow::buildStatusBar()
             countSoon->start();
         }
     };
-    const auto &data = orda_data::DataSignals::instance();
-    connect(&data, &orda_data::DataSignals::signalUpdateDevs, countSoon, scheduleCount);
-    connect(&data, &orda_data::DataSignals::signalDeleteDevs, countSoon, scheduleCount);
-    connect(&data, &orda_data::DataSignals::signalDevStatusChanged, countSoon,
+    const auto &changes = orda_data::DataSignals::instance();
+    connect(&changes, &orda_data::DataSignals::signalUpdateDevs, countSoon, scheduleCount);
+    connect(&changes, &orda_data::DataSignals::signalDeleteDevs, countSoon, scheduleCount);
+    connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, countSoon,
             [this, scheduleCount](const QString &devId, vms_sdk::DevStatus status) {
                 scheduleCount();
                 if (status != vms_sdk::DevConnecting) {

@@ -106,18 +106,22 @@ bool DisabledWaitingWt::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::Resize) {
             setGeometry(parentWidget()->rect());
         }
-    } else if (event->type() == QEvent::Shortcut || event->type() == QEvent::ShortcutOverride || isInput(event->type())) {
-        // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic.
-        const auto *widget = qobject_cast<QWidget *>(watched);
-        const QWidget *covered = parentWidget();
-        const bool isBelow = widget && covered && widget != this && !isAncestorOf(widget)
-                             && (widget == covered || covered->isAncestorOf(widget));
-        if (isBelow) {
+    } else if (covers(qobject_cast<QWidget *>(watched))) {
+        // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic, a focus set by a program.
+        if (event->type() == QEvent::FocusIn) {
+            setFocus();
+        } else if (event->type() == QEvent::Shortcut || event->type() == QEvent::ShortcutOverride
+                   || isInput(event->type())) {
             event->accept();
             return true;
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+bool DisabledWaitingWt::covers(const QWidget *widget) const
+{
+    return widget && parentWidget() && parentWidget()->isAncestorOf(widget) && widget != this && !isAncestorOf(widget);
 }
 
 bool DisabledWaitingWt::focusNextPrevChild(bool)

@@ -37,6 +37,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    bool covers(const QWidget *widget) const;
+
     QUuid m_uuid;
     bool m_keepsBright;
     QWidget *m_card;

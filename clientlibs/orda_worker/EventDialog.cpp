@@ -55,7 +55,11 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
     layout->addWidget(message);
     layout->addSpacing(margin / 2);
     layout->addLayout(row);
-    connect(this, &QDialog::finished, this, [this] { emit signalAnswered(m_answer); });
+    connect(this, &QDialog::finished, this, [this] {
+        if (!std::exchange(m_isAnswered, true)) { // a button may be clicked again before the dialog is deleted
+            emit signalAnswered(m_answer);
+        }
+    });
 }
 
 } // namespace orda_worker

@@ -18,6 +18,7 @@ signals:
 
 private:
     int m_answer;
+    bool m_isAnswered = false;
 };
 
 } // namespace orda_worker

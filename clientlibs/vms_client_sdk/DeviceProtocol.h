@@ -15,7 +15,7 @@ inline constexpr char deviceSubProtocol[] = "vms-device.v1";
 inline constexpr int signOnRefusedCode = 4401;
 
 /// Largest message in bytes, either way; a larger one ends the connection.
-inline constexpr qint64 maxFrameBytes = 1024 * 1024;
+inline constexpr qint64 maxFrameBytes = 1'048'576;
 
 /// A message after the sign-on: `<request id>\n<text>`. An empty request id marks a notice of the device.
 struct DeviceFrame

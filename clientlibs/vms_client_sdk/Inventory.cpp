@@ -22,8 +22,8 @@ class EntryReader
     Q_DECLARE_TR_FUNCTIONS(Inventory)
 
 public:
-    explicit EntryReader(const QJsonObject &entry)
-        : m_entry(entry)
+    explicit EntryReader(QJsonObject entry)
+        : m_entry(std::move(entry))
     {
     }
 
@@ -74,7 +74,7 @@ QString EntryReader::text(const QString &key, const QString &absent)
 QString EntryReader::printableText(const QString &key)
 {
     static const QRegularExpression unprintable(QStringLiteral("[\\p{Cc}\\p{Zl}\\p{Zp}]"));
-    const QString value = text(key);
+    QString value = text(key);
     if (value.contains(unprintable))
         fail(key, tr("must not hold line breaks, tabs or control characters"));
     return value;
@@ -104,7 +104,7 @@ bool EntryReader::flag(const QString &key)
 QString EntryReader::ipText()
 {
     const QString key = QStringLiteral("ip");
-    const QString ip = printableText(key);
+    QString ip = printableText(key);
     // Back to text and compared: "10.1" and "010.0.0.1" are addresses too, but not the ones that people take them for.
     if (!ip.isEmpty()
         && (QHostAddress(ip).protocol() != QAbstractSocket::IPv4Protocol || QHostAddress(ip).toString() != ip))
@@ -116,7 +116,7 @@ QString EntryReader::fingerprint()
 {
     static const QRegularExpression sha256(QStringLiteral("^[0-9a-f]{64}$"));
     const QString key = QStringLiteral("fingerprint");
-    const QString digits = text(key).remove(QLatin1Char(':')).toLower();
+    QString digits = text(key).remove(QLatin1Char(':')).toLower();
     if (!digits.isEmpty() && !sha256.match(digits).hasMatch())
         fail(key, tr("must be a SHA-256: 64 hexadecimal digits, with or without colons"));
     return digits;
@@ -165,7 +165,7 @@ void EntryReader::checkAddress(const DevInfo &device)
             fail(QStringLiteral("path"), tr("must be the path of an address and begin with \"/\""));
     }
     if (!device.fingerprint.isEmpty() && !secure)
-        fail(QStringLiteral("fingerprint"), tr("has no use without TLS: set \"tls\" to true or give a wss: \"url\""));
+        fail(QStringLiteral("fingerprint"), tr("has no use without TLS: set tls to true or give a wss: url"));
 }
 
 QStringList EntryReader::unknownKeys() const
@@ -183,8 +183,8 @@ class InventoryReader
     Q_DECLARE_TR_FUNCTIONS(Inventory)
 
 public:
-    explicit InventoryReader(const QString &path)
-        : m_path(path)
+    explicit InventoryReader(QString path)
+        : m_path(std::move(path))
     {
     }
 

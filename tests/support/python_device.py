@@ -20,7 +20,7 @@ SUB_PROTOCOL = "vms-device.v1"
 MAX_MESSAGE = 1024 * 1024
 REFUSED = 4401
 MIN_NONCE_BYTES = 16
-UNKNOWN_METHOD, BAD_PARAM = -1, -2
+UNKNOWN_METHOD, BAD_PARAM = -2, -3
 NOT_STORED = ("channelid", "bdefault", "clienttype")
 
 

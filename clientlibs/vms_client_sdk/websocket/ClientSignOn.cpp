@@ -26,8 +26,8 @@ std::optional<DevStatus> onlineStateFrom(const QJsonValue &reported)
     return isOnlineStatus(status) ? std::optional(status) : std::nullopt;
 }
 
-ClientSignOn::ClientSignOn(const DevInfo &device)
-    : m_device(device)
+ClientSignOn::ClientSignOn(DevInfo device)
+    : m_device(std::move(device))
 {
 }
 

@@ -30,7 +30,7 @@ public:
         QString text; ///< without secrets unless it is to be sent
     };
 
-    explicit ClientSignOn(const DevInfo &device);
+    explicit ClientSignOn(DevInfo device);
 
     Outcome take(const QString &message);
     std::optional<DevStatus> state() const { return m_state; }

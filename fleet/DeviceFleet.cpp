@@ -1,0 +1,209 @@
+#include "DeviceFleet.h"
+
+#include "DeviceConnection.h"
+#include "DeviceListener.h"
+#include "Logging.h"
+#include "Reaction.h"
+#include "SimulatedDevice.h"
+#include "Site.h"
+
+#include <QJsonDocument>
+#include <QPointer>
+#include <QTimer>
+#include <QWebSocket>
+
+#include <algorithm>
+
+namespace device_fleet {
+
+namespace {
+
+bool hasOwnAddresses(const FleetOptions &options)
+{
+    return options.listenAddress.isNull() || options.listenAddress == QHostAddress(QHostAddress::AnyIPv4);
+}
+
+} // namespace
+
+struct DeviceFleet::Device
+{
+    explicit Device(const SiteDevice &made)
+        : info(made.info)
+        , state(made.state)
+        , isOnline(made.online)
+        , simulated(made.info.id, made.parameters)
+    {
+    }
+
+    vms_sdk::DevInfo info;
+    vms_sdk::DevStatus state;
+    bool isOnline;
+    SimulatedDevice simulated;
+    QPointer<DeviceConnection> connection; // signed on
+};
+
+DeviceFleet::DeviceFleet(const FleetOptions &options, const FaultPlan &faults, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+    , m_faults(faults)
+    , m_listener(new DeviceListener([this](const QString &path) { return admission(path); }, this))
+{
+    connect(m_listener, &DeviceListener::dialled, this, &DeviceFleet::greet);
+    m_devices.reserve(std::size_t(options.devices));
+    m_deviceById.reserve(options.devices);
+    for (int i = 0; i < options.devices; ++i) {
+        m_devices.push_back(std::make_unique<Device>(makeSiteDevice(options.seed, i)));
+        m_deviceById.insert(m_devices.back()->info.id, m_devices.back().get());
+    }
+    const QStringList faultyIds = faults.deviceIds();
+    for (const QString &id : faultyIds) {
+        if (!find(id))
+            qCWarning(fleetLog).noquote() << tr("no device is called \"%1\": its faults have no effect").arg(id);
+    }
+}
+
+DeviceFleet::~DeviceFleet() = default;
+
+QString DeviceFleet::start()
+{
+    return m_listener->start(m_options);
+}
+
+QString DeviceFleet::address() const
+{
+    const QString host =
+        m_options.listenAddress.isNull() ? QStringLiteral("127.0.0.0/8") : m_options.listenAddress.toString();
+    return QStringLiteral("%1:%2").arg(host).arg(m_listener->serverPort());
+}
+
+QList<vms_sdk::DevInfo> DeviceFleet::inventory() const
+{
+    QList<vms_sdk::DevInfo> records;
+    records.reserve(int(m_devices.size()));
+    for (const auto &device : m_devices)
+        records.append(inventoryRecord(*device));
+    return records;
+}
+
+vms_sdk::DevInfo DeviceFleet::inventoryRecord(const Device &device) const
+{
+    vms_sdk::DevInfo record = device.info;
+    record.fingerprint = m_listener->fingerprint();
+    const bool isSecure = !record.fingerprint.isEmpty();
+    const QHostAddress shared =
+        hasOwnAddresses(m_options) ? QHostAddress(QHostAddress::LocalHost) : m_options.listenAddress;
+    if (record.ip.isEmpty()) {
+        record.url = QStringLiteral("%1://%2:%3%4")
+                         .arg(isSecure ? QStringLiteral("wss") : QStringLiteral("ws"), shared.toString())
+                         .arg(m_listener->serverPort())
+                         .arg(record.path);
+        return record;
+    }
+    record.tls = isSecure;
+    record.port = m_listener->serverPort();
+    if (!hasOwnAddresses(m_options)) {
+        record.ip = shared.toString();
+        record.ipNumber = shared.toIPv4Address();
+    }
+    return record;
+}
+
+QJsonObject DeviceFleet::dump() const
+{
+    QJsonObject devices;
+    for (const auto &device : m_devices)
+        devices.insert(device->info.id, device->simulated.parameters());
+    return {{QStringLiteral("devices"), devices}};
+}
+
+int DeviceFleet::connectedDevices() const
+{
+    return int(
+        std::count_if(m_devices.begin(), m_devices.end(), [](const auto &device) { return device->connection; }));
+}
+
+void DeviceFleet::setFault(const QString &deviceId, const QString &method, const FaultSpec &fault)
+{
+    m_faults.set(deviceId, method, fault);
+}
+
+void DeviceFleet::clearFaults()
+{
+    m_faults.clear();
+}
+
+void DeviceFleet::setOnline(const QString &deviceId, bool online)
+{
+    Device *device = find(deviceId);
+    if (!device)
+        return;
+    device->isOnline = online;
+    if (!online && device->connection)
+        device->connection->cut();
+}
+
+DeviceFleet::Device *DeviceFleet::find(const QString &deviceId) const
+{
+    return m_deviceById.value(deviceId);
+}
+
+Admission DeviceFleet::admission(const QString &path) const
+{
+    const Device *device = find(path.mid(1));
+    if (!device)
+        return Admission::Unknown;
+    return device->isOnline ? Admission::Welcome : Admission::OffLine;
+}
+
+void DeviceFleet::greet(QWebSocket *socket)
+{
+    Device &device = *find(socket->requestUrl().path().mid(1));
+    auto *connection = new DeviceConnection(socket, device.info, device.state, this);
+    connect(connection, &DeviceConnection::closed, connection, &QObject::deleteLater);
+    connect(connection, &DeviceConnection::signedOn, this,
+            [this, connection, &device] { takeOver(device, connection); });
+    connect(connection, &DeviceConnection::requestReceived, this,
+            [this, connection, &device](const vms_sdk::DeviceFrame &request) {
+                if (connection == device.connection) // not one that a newer connection has replaced
+                    handleRequest(device, request);
+            });
+}
+
+/// The newest connection is the device's: a client that dials again has lost the one before, whether that is closed or
+/// not.
+void DeviceFleet::takeOver(Device &device, DeviceConnection *connection)
+{
+    if (device.connection)
+        device.connection->cut();
+    device.connection = connection;
+    if (!device.isOnline) // since the handshake
+        connection->cut();
+}
+
+void DeviceFleet::handleRequest(Device &device, const vms_sdk::DeviceFrame &request)
+{
+    const QJsonObject json = QJsonDocument::fromJson(request.text.toUtf8()).object();
+    const QString method = json.value(QLatin1String("method")).toString();
+    emit requestReceived(device.info.id, method, request.text);
+
+    const Reaction reaction = reactTo(request.requestId, json, device.simulated, m_faults.find(device.info.id, method));
+    if (reaction.isCut) {
+        device.connection->cut();
+        if (reaction.offLineFor.count() > 0) {
+            setOnline(device.info.id, false);
+            QTimer::singleShot(reaction.offLineFor, this, [this, id = device.info.id] { setOnline(id, true); });
+        }
+        return;
+    }
+    const auto answer = [connection = device.connection, frames = reaction.frames] {
+        for (const vms_sdk::DeviceFrame &frame : frames)
+            connection->send(frame);
+    };
+    const auto delay = m_options.latency + reaction.delay;
+    if (delay.count() == 0)
+        answer();
+    else
+        QTimer::singleShot(delay, device.connection, answer); // a connection that is gone takes its answers along
+}
+
+} // namespace device_fleet

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "FaultPlan.h"
+#include "FleetOptions.h"
+
+#include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/DeviceProtocol.h>
+
+#include <QHash>
+#include <QJsonObject>
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QWebSocket;
+QT_END_NAMESPACE
+
+namespace device_fleet {
+
+class DeviceConnection;
+class DeviceListener;
+enum class Admission;
+
+/// Simulated devices behind one server socket, told apart by the path that is dialled. Speaks the device protocol
+/// (docs/device-protocol.md). All of it lives on the thread on which it was made; EmbeddedFleet brings a thread along.
+class DeviceFleet : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DeviceFleet(const FleetOptions &options, const FaultPlan &faults = {}, QObject *parent = nullptr);
+    ~DeviceFleet() override;
+
+    /// Opens the server socket. @return a text for the user, empty when the devices can be dialled
+    QString start();
+    /// Where the devices are: address or network, and port. Only after start().
+    QString address() const;
+    /// The devices as a client needs to know them, passwords included. Only after start().
+    QList<vms_sdk::DevInfo> inventory() const;
+
+    /// What every device has stored: {"devices": {"<id>": {"<object>": {…}}}}. Holds no passwords.
+    QJsonObject dump() const;
+    int connectedDevices() const; ///< signed on
+
+    /// @param deviceId, method a name or FaultPlan::any()
+    void setFault(const QString &deviceId, const QString &method, const FaultSpec &fault);
+    void clearFaults();
+
+    /// Off line: the connection is cut and no new one comes about. An unknown id does nothing.
+    void setOnline(const QString &deviceId, bool online);
+
+signals:
+    /// Every request, before the device deals with it. @param method empty when the request has none
+    void requestReceived(const QString &deviceId, const QString &method, const QString &text);
+
+private:
+    struct Device;
+
+    Admission admission(const QString &path) const;
+    void greet(QWebSocket *socket);
+    void takeOver(Device &device, DeviceConnection *connection);
+    void handleRequest(Device &device, const vms_sdk::DeviceFrame &request);
+    Device *find(const QString &deviceId) const;
+    vms_sdk::DevInfo inventoryRecord(const Device &device) const;
+
+    FleetOptions m_options;
+    FaultPlan m_faults;
+    DeviceListener *m_listener;
+    std::vector<std::unique_ptr<Device>> m_devices;
+    QHash<QString, Device *> m_deviceById;
+};
+
+} // namespace device_fleet

@@ -1,0 +1,104 @@
+#include "EmbeddedFleet.h"
+
+#include "DeviceFleet.h"
+
+#include <vms_client_sdk/OpenFiles.h>
+
+namespace device_fleet {
+
+namespace {
+
+constexpr qint64 filesPerDevice = 2; // the client's end and ours
+constexpr qint64 otherFiles = 128; // libraries, fonts, displays, records
+
+} // namespace
+
+EmbeddedFleet::EmbeddedFleet(const FleetOptions &options, const FaultPlan &faults, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+    , m_faults(faults)
+{
+    m_thread.setObjectName(QStringLiteral("fleet"));
+}
+
+EmbeddedFleet::~EmbeddedFleet()
+{
+    stop();
+}
+
+QString EmbeddedFleet::start()
+{
+    if (m_fleet)
+        return {};
+    const qint64 needed = m_options.devices * filesPerDevice + otherFiles;
+    const qint64 limit = vms_sdk::raiseOpenFileLimit();
+    if (needed > limit) {
+        return tr("%1 simulated devices in this process need %2 open files, but it may have only %3. Start them in a "
+                  "process of "
+                  "their own, orda_fleet --devices %1 --inventory FILE, and connect to that inventory.")
+            .arg(m_options.devices)
+            .arg(needed)
+            .arg(limit);
+    }
+    m_fleet = new DeviceFleet(m_options, m_faults);
+    m_fleet->moveToThread(&m_thread);
+    connect(&m_thread, &QThread::finished, m_fleet, &QObject::deleteLater);
+    connect(m_fleet, &DeviceFleet::requestReceived, this, &EmbeddedFleet::requestReceived, Qt::DirectConnection);
+    m_thread.start();
+
+    QString error;
+    onFleetThread([&] { error = m_fleet->start(); });
+    if (!error.isEmpty())
+        stop();
+    return error;
+}
+
+void EmbeddedFleet::stop()
+{
+    m_thread.quit();
+    m_thread.wait();
+    m_fleet = nullptr;
+}
+
+void EmbeddedFleet::onFleetThread(const std::function<void()> &function) const
+{
+    QMetaObject::invokeMethod(m_fleet, function, Qt::BlockingQueuedConnection);
+}
+
+QList<vms_sdk::DevInfo> EmbeddedFleet::inventory() const
+{
+    QList<vms_sdk::DevInfo> records;
+    onFleetThread([&] { records = m_fleet->inventory(); });
+    return records;
+}
+
+QJsonObject EmbeddedFleet::dump() const
+{
+    QJsonObject parameters;
+    onFleetThread([&] { parameters = m_fleet->dump(); });
+    return parameters;
+}
+
+int EmbeddedFleet::connectedDevices() const
+{
+    int count = 0;
+    onFleetThread([&] { count = m_fleet->connectedDevices(); });
+    return count;
+}
+
+void EmbeddedFleet::setFault(const QString &deviceId, const QString &method, const FaultSpec &fault)
+{
+    onFleetThread([&] { m_fleet->setFault(deviceId, method, fault); });
+}
+
+void EmbeddedFleet::clearFaults()
+{
+    onFleetThread([&] { m_fleet->clearFaults(); });
+}
+
+void EmbeddedFleet::setOnline(const QString &deviceId, bool online)
+{
+    onFleetThread([&] { m_fleet->setOnline(deviceId, online); });
+}
+
+} // namespace device_fleet

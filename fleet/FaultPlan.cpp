@@ -1,0 +1,46 @@
+#include "FaultPlan.h"
+
+#include "FaultPlanReader.h"
+
+namespace device_fleet {
+
+FaultPlan FaultPlan::read(const QString &path, QString *error, QStringList *warnings)
+{
+    FaultPlanReader reader(path);
+    FaultPlan plan = reader.read();
+    *error = reader.error();
+    warnings->append(reader.warnings());
+    return plan;
+}
+
+void FaultPlan::set(const QString &deviceId, const QString &method, const FaultSpec &fault)
+{
+    m_faults.insert({deviceId, method}, fault);
+}
+
+std::optional<FaultSpec> FaultPlan::find(const QString &deviceId, const QString &method) const
+{
+    if (m_faults.isEmpty())
+        return std::nullopt;
+    using Key = QPair<QString, QString>;
+    for (const Key &key : {Key(deviceId, method), Key(deviceId, any()), Key(any(), method), Key(any(), any())}) {
+        const auto fault = m_faults.constFind(key);
+        if (fault != m_faults.constEnd())
+            return *fault;
+    }
+    return std::nullopt;
+}
+
+QStringList FaultPlan::deviceIds() const
+{
+    QStringList ids;
+    for (auto it = m_faults.constBegin(); it != m_faults.constEnd(); ++it) {
+        if (it.key().first != any())
+            ids.append(it.key().first);
+    }
+    ids.removeDuplicates();
+    ids.sort();
+    return ids;
+}
+
+} // namespace device_fleet

@@ -1,0 +1,7 @@
+#include "Logging.h"
+
+namespace device_fleet {
+
+Q_LOGGING_CATEGORY(fleetLog, "orda.fleet", QtWarningMsg)
+
+} // namespace device_fleet

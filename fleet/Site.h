@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QJsonObject>
+
+namespace device_fleet {
+
+/// A device of the simulated site as it is at the beginning.
+struct SiteDevice
+{
+    vms_sdk::DevInfo info; ///< without port, tls, url and fingerprint, which depend on the server
+    vms_sdk::DevStatus state = vms_sdk::DevOnline; ///< one of the three online states
+    bool online = true;
+    QJsonObject parameters;
+};
+
+/// Device number @p index, from 0. The same seed and index give the same device: mostly cameras, some recorders, and a
+/// few of what a device list has to leave out or to cope with (off line, of other kinds, factory and weak passwords,
+/// without an address).
+SiteDevice makeSiteDevice(quint32 seed, int index);
+
+} // namespace device_fleet

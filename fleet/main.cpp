@@ -1,0 +1,109 @@
+#include "ProgramOptions.h"
+#include "UnixSignals.h"
+
+#include <DeviceFleet.h>
+#include <FaultPlan.h>
+
+#include <vms_client_sdk/Inventory.h>
+#include <vms_client_sdk/OpenFiles.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace {
+
+constexpr qint64 otherFiles = 64; // libraries, the server socket, input and output files
+
+void complain(const QString &text)
+{
+    QTextStream(stderr) << "orda_fleet: " << text << Qt::endl;
+}
+
+int fail(const QString &error, ExitCode code)
+{
+    complain(error);
+    return code;
+}
+
+/// @return a text for the user, empty on success
+QString writeDump(const QString &path, const QJsonObject &dump)
+{
+    QSaveFile file(path);
+    const QByteArray content = QJsonDocument(dump).toJson();
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
+                        && file.write(content) == content.size() && file.commit();
+    return isWritten ? QString()
+                     : QCoreApplication::translate("main", "%1: cannot be written: %2").arg(path, file.errorString());
+}
+
+QString openFilesError(int devices)
+{
+    const qint64 needed = devices + otherFiles;
+    const qint64 limit = vms_sdk::raiseOpenFileLimit();
+    if (needed <= limit)
+        return {};
+    return QCoreApplication::translate("main",
+                                       "%1 devices need %2 open files, but this process may have only %3 (ulimit -n)")
+        .arg(devices)
+        .arg(needed)
+        .arg(limit);
+}
+
+device_fleet::FaultPlan readFaults(const QString &path, QString *error)
+{
+    if (path.isEmpty())
+        return {};
+    QStringList warnings;
+    const device_fleet::FaultPlan plan = device_fleet::FaultPlan::read(path, error, &warnings);
+    for (const QString &warning : qAsConst(warnings))
+        complain(warning);
+    return plan;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // GLib's dispatcher looks at every socket on every wake-up, which thousands of devices turn into seconds.
+    qputenv("QT_NO_GLIB", "1");
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("orda_fleet"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORDA_VERSION));
+
+    const ProgramOptions options = parseOptions(QCoreApplication::arguments());
+    if (!options.error.isEmpty())
+        return fail(options.error + QStringLiteral(" (see orda_fleet --help)"), ExitUsage);
+
+    QString error = openFilesError(options.fleet.devices);
+    const device_fleet::FaultPlan faults =
+        error.isEmpty() ? readFaults(options.faultsFile, &error) : device_fleet::FaultPlan();
+    if (!error.isEmpty())
+        return fail(error, ExitInput);
+
+    const UnixSignals signalsOfProcess;
+    device_fleet::DeviceFleet fleet(options.fleet, faults);
+    error = fleet.start();
+    if (error.isEmpty())
+        error = vms_sdk::writeInventory(options.inventoryFile, fleet.inventory());
+    if (!error.isEmpty())
+        return fail(error, ExitInput);
+
+    const auto dump = [&options, &fleet] { return writeDump(options.dumpFile, fleet.dump()); };
+    if (!options.dumpFile.isEmpty()) {
+        QObject::connect(&signalsOfProcess, &UnixSignals::dumpRequested, &fleet, [&dump] {
+            const QString dumpError = dump();
+            if (!dumpError.isEmpty())
+                complain(dumpError);
+        });
+    }
+    QObject::connect(&signalsOfProcess, &UnixSignals::endRequested, &app, &QCoreApplication::quit);
+    QTextStream(stdout) << "listening on " << fleet.address() << ", " << options.fleet.devices << " devices"
+                        << Qt::endl;
+    QCoreApplication::exec();
+
+    error = options.dumpFile.isEmpty() ? QString() : dump();
+    return error.isEmpty() ? ExitOk : fail(error, ExitInput);
+}

@@ -1,0 +1,310 @@
+#include "support/OrdaTest.h"
+
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/Requests.h>
+#include <vms_client_sdk/SignOn.h>
+#include <vms_client_sdk/WebSocketTransport.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QWebSocket>
+#include <QWebSocketServer>
+
+using namespace vms_sdk;
+using namespace std::chrono_literals;
+
+namespace {
+
+using States = QList<DevStatus>;
+
+enum Fault
+{
+    NoFault,
+    HangsUp,
+    Refuses,
+    OtherSerial,
+    ShortNonce,
+    NoProof
+};
+
+QSslConfiguration tlsWith(const QString &certificate)
+{
+    const QString path = QFINDTESTDATA("support/certificates") + QLatin1Char('/') + certificate;
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setPrivateKey(QSslKey(&file, QSsl::Ec));
+    tls.setLocalCertificate(QSslCertificate::fromPath(path).value(0));
+    return tls;
+}
+
+/// A device that can be told to behave badly at sign-on. What it says later is the test's business.
+class TestDevice : public QObject
+{
+public:
+    Fault fault = NoFault;
+    int dials = 0;
+    QStringList received;
+    QWebSocket *client = nullptr;
+    DevInfo info;
+
+    explicit TestDevice(const QString &id, const QSslConfiguration *tls = nullptr)
+        : m_server(QString(), tls ? QWebSocketServer::SecureMode : QWebSocketServer::NonSecureMode)
+    {
+        if (tls)
+            m_server.setSslConfiguration(*tls);
+        m_server.listen(QHostAddress::LocalHost);
+        connect(&m_server, &QWebSocketServer::newConnection, this, &TestDevice::greet);
+        info.id = id;
+        info.serialNumber = info.userName = info.password = id;
+        info.ip = QStringLiteral("127.0.0.1");
+        info.port = m_server.serverPort();
+        info.tls = tls;
+    }
+
+    /// On the present connection: pings lie unread.
+    void stopReading()
+    {
+        const auto sockets = m_server.findChildren<QTcpSocket *>();
+        for (QTcpSocket *socket : sockets)
+            socket->blockSignals(true);
+    }
+
+private:
+    void greet()
+    {
+        ++dials;
+        client = m_server.nextPendingConnection();
+        client->setParent(this);
+        m_nonce = fault == ShortNonce ? QByteArray("c2hvcnQ=") : makeNonce();
+        connect(client, &QWebSocket::textMessageReceived, this, &TestDevice::take);
+        if (fault == HangsUp)
+            client->close();
+        else
+            client->sendTextMessage(
+                QStringLiteral("{\"hello\":{\"serial\":\"%1\",\"nonce\":\"%2\"}}")
+                    .arg(fault == OtherSerial ? QStringLiteral("\\t") : info.id, QString::fromLatin1(m_nonce)));
+    }
+
+    void take(const QString &message)
+    {
+        const QJsonObject auth =
+            QJsonDocument::fromJson(message.toUtf8()).object().value(QLatin1String("auth")).toObject();
+        if (auth.isEmpty())
+            return received.append(message);
+        const auto text = [&auth](const char *key) { return auth.value(QLatin1String(key)).toString().toLatin1(); };
+        if (fault == Refuses || text("user") != "SN-1"
+            || text("proof") != signOnProof(SignOnSide::Client, info.password, m_nonce, text("nonce")))
+            return client->close(QWebSocketProtocol::CloseCode(4401));
+        const QByteArray proof = signOnProof(SignOnSide::Device, info.password, m_nonce, text("nonce"));
+        client->sendTextMessage(QStringLiteral("{\"welcome\":{\"state\":5,\"proof\":\"%1\"}}")
+                                    .arg(QString::fromLatin1(fault == NoProof ? text("proof") : proof)));
+    }
+
+    QByteArray m_nonce;
+    QWebSocketServer m_server;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Fault)
+
+/// The WebSocket transport against devices behind real sockets, seen as the client sees it: through ClientSignals.
+class DevicesTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        OrdaTest::init();
+        WebSocketOptions options; // as fast as a test likes it
+        options.setUpLimit = 300ms;
+        options.firstBackOff = 1ms;
+        options.lastBackOff = 20ms;
+        options.pingInterval = 100ms;
+        options.closeLimit = 50ms;
+        options.maxSettingUp = 2;
+        auto transport = std::make_unique<WebSocketTransport>(nullptr, options);
+        m_transport = transport.get();
+        ClientSdk::instance().setTransport(std::move(transport));
+        m_states.clear();
+        m_answers.clear();
+        connect(&ClientSignals::instance(), &ClientSignals::signalDevStatusChanged, this,
+                [this](const QString &id, DevStatus status) { m_states[id].append(status); });
+        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, this,
+                [this](const QString &id, const QString &text) { m_answers.append(id + QLatin1Char('|') + text); });
+    }
+
+    void cleanup()
+    {
+        ClientSdk::instance().setTransport(nullptr);
+        ClientSignals::instance().disconnect(this);
+        OrdaTest::cleanup();
+    }
+
+    void signsOnAndCarriesTextsVerbatim()
+    {
+        TestDevice device(m_id);
+        m_transport->setDevices({device.info});
+        QTRY_COMPARE(m_states[m_id], States({DevConnecting, DevDefaultPassword}));
+        common_req(QStringLiteral("{r}"), m_id, QStringLiteral("{\n    \"a\": \"\u00fc\"\n}\n"));
+        QTRY_COMPARE(device.received, QStringList(QStringLiteral("{r}\n{\n    \"a\": \"\u00fc\"\n}\n")));
+
+        expectWarning(QStringLiteral("without an id line"));
+        expectWarning(QStringLiteral("binary"));
+        expectWarning(QStringLiteral("without a known state"));
+        for (int i = 0; i < 2; ++i) { // warned of once
+            device.client->sendTextMessage(QStringLiteral("no id line"));
+            device.client->sendBinaryMessage("{r}\nbinary");
+            device.client->sendTextMessage(QStringLiteral("\n{\"state\": 3}"));
+        }
+        device.client->sendTextMessage(QStringLiteral("\n{\"state\": 6}"));
+        device.client->sendTextMessage(QStringLiteral("{r}\n1\n2"));
+        device.client->sendTextMessage(QStringLiteral("foreign\n"));
+        QTRY_COMPARE(m_answers, QStringList({QStringLiteral("{r}|1\n2"), QStringLiteral("foreign|")}));
+
+        m_transport->setDevices({device.info}); // unchanged: nothing happens
+        m_transport->setDevices({});
+        QTRY_COMPARE(m_states[m_id].mid(2), States({DevLocked, DevOffline}));
+        QCOMPARE(device.dials, 1);
+    }
+
+    void refusalsAreNotRetriedUnasked_data()
+    {
+        QTest::addColumn<Fault>("fault");
+        QTest::addColumn<QString>("warning");
+        QTest::newRow("the device refuses") << Refuses << QStringLiteral("password");
+        QTest::newRow("another device") << OtherSerial << QStringLiteral("\"\\\\t\", not \"SN-1\"");
+        QTest::newRow("short nonce") << ShortNonce << QStringLiteral("nonce");
+        QTest::newRow("our own proof sent back") << NoProof << QStringLiteral("does not prove");
+    }
+
+    void refusalsAreNotRetriedUnasked()
+    {
+        QFETCH(QString, warning);
+        QFETCH(Fault, fault);
+        TestDevice device(m_id), clock(QStringLiteral("clock"));
+        device.fault = fault;
+        clock.fault = HangsUp; // lost and dialled again all the time
+        expectWarning(warning);
+        m_transport->setDevices({device.info, clock.info});
+        QTRY_COMPARE(m_states[m_id], States({DevConnecting, DevRefused}));
+        const int dials = clock.dials;
+        QTRY_VERIFY(clock.dials > dials + 5);
+        QCOMPARE(device.dials, 1);
+
+        m_transport->connectAgain();
+        QTRY_COMPARE(m_states[m_id].mid(2), States({DevConnecting, DevRefused}));
+        device.fault = NoFault;
+        device.info.name = QStringLiteral("changed");
+        m_transport->setDevices({device.info, clock.info});
+        QTRY_COMPARE(m_states[m_id].mid(4), States({DevOffline, DevConnecting, DevDefaultPassword}));
+        QCOMPARE(device.dials, 3);
+    }
+
+    void aLostDeviceReturnsAndGetsNothingLate()
+    {
+        TestDevice device(m_id);
+        m_transport->setDevices({device.info});
+        QTRY_VERIFY(m_states[m_id].endsWith(DevDefaultPassword));
+        device.fault = Refuses; // keeps it away until the request has been sent
+        device.client->close();
+        expectWarning(QStringLiteral("password"));
+        QTRY_COMPARE(m_states[m_id].mid(2), States({DevOffline, DevConnecting, DevRefused}));
+        common_req(QStringLiteral("late"), m_id, QString());
+        device.fault = NoFault;
+        m_transport->connectAgain();
+        QTRY_VERIFY(m_states[m_id].endsWith(DevDefaultPassword));
+        common_req(QStringLiteral("now"), m_id, QString());
+        QTRY_COMPARE(device.received, QStringList(QStringLiteral("now\n")));
+    }
+
+    void oversizeAndUnansweredPingsEndTheConnection()
+    {
+        TestDevice device(m_id);
+        m_transport->setDevices({device.info});
+        QTRY_VERIFY(m_states[m_id].endsWith(DevDefaultPassword));
+        expectWarning(QStringLiteral("too large"));
+        common_req(QStringLiteral("big"), m_id, QString(maxFrameBytes, QLatin1Char('x')));
+        common_req(QStringLiteral("small"), m_id, QString());
+        QTRY_COMPARE(device.received, QStringList(QStringLiteral("small\n")));
+
+        device.client->sendTextMessage(QStringLiteral("id\n") + QString(maxFrameBytes, QLatin1Char('x')));
+        QTRY_COMPARE(m_states[m_id].mid(2), States({DevOffline, DevConnecting, DevDefaultPassword}));
+        QCOMPARE(m_answers, QStringList());
+
+        device.stopReading();
+        QTRY_COMPARE(m_states[m_id].mid(5), States({DevOffline, DevConnecting, DevDefaultPassword}));
+    }
+
+    void silentHandshakesAreGivenUpAndFewAtOnce()
+    {
+        QTcpServer silent;
+        QVERIFY(silent.listen(QHostAddress::LocalHost));
+        int dials = 0;
+        QSet<QString> dialled;
+        connect(&silent, &QTcpServer::newConnection, &silent, [&dials] { ++dials; });
+        connect(&ClientSignals::instance(), &ClientSignals::signalDevStatusChanged, &silent,
+                [&dialled](const QString &id, DevStatus status) {
+                    status == DevConnecting ? void(dialled.insert(id)) : void(dialled.remove(id));
+                    QVERIFY(dialled.size() <= 2);
+                });
+        QList<DevInfo> devices;
+        for (int i = 0; i < 4; ++i) {
+            devices.append(TestDevice(QString::number(i)).info);
+            devices.last().port = silent.serverPort();
+        }
+        m_transport->setDevices(devices);
+        QTRY_VERIFY(dials > 5);
+        for (const DevInfo &device : qAsConst(devices))
+            QCOMPARE(m_states[device.id].mid(0, 2), States({DevConnecting, DevOffline}));
+    }
+
+    void certificatesAreTakenByTheirFingerprintOnly_data()
+    {
+        QTest::addColumn<QString>("certificate");
+        QTest::addColumn<QString>("pin");
+        QTest::addColumn<DevStatus>("state");
+        const QString valid = QStringLiteral("valid.pem"), expired = QStringLiteral("expired.pem"),
+                      own = QStringLiteral("own");
+        QTest::newRow("pinned") << valid << own << DevDefaultPassword;
+        QTest::newRow("another one is pinned") << valid << QString(64, QLatin1Char('0')) << DevOffline;
+        QTest::newRow("self-signed, not pinned") << valid << QString() << DevOffline;
+        QTest::newRow("pinned, but expired") << expired << own << DevOffline;
+    }
+
+    void certificatesAreTakenByTheirFingerprintOnly()
+    {
+        QFETCH(QString, certificate);
+        QFETCH(QString, pin);
+        QFETCH(DevStatus, state);
+        const QSslConfiguration tls = tlsWith(certificate);
+        const QByteArray own = tls.localCertificate().digest(QCryptographicHash::Sha256).toHex(':');
+        TestDevice device(m_id, &tls);
+        device.info.fingerprint = pin == QLatin1String("own") ? QString::fromLatin1(own) : pin;
+        if (state == DevOffline)
+            expectWarning(QStringLiteral("certificate"));
+        m_transport->setDevices({device.info});
+        QTRY_COMPARE(m_states[m_id].mid(0, 2), States({DevConnecting, state}));
+        QCOMPARE(device.dials, state == DevOffline ? 0 : 1);
+    }
+
+private:
+    const QString m_id = QStringLiteral("SN-1");
+    WebSocketTransport *m_transport = nullptr;
+    QHash<QString, States> m_states;
+    QStringList m_answers;
+};
+
+ORDA_TEST_MAIN(DevicesTest)
+#include "devices_test.moc"

@@ -1,0 +1,265 @@
+#include "support/OrdaTest.h"
+
+#include <orda_data/DataSignals.h>
+#include <orda_data/DevsMgrData.h>
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/Inventory.h>
+#include <vms_client_sdk/Requests.h>
+#include <vms_client_sdk/SignOn.h>
+
+#include <QApplication>
+#include <QMap>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace vms_sdk;
+using namespace std::chrono_literals;
+using orda_data::DataSignals;
+using orda_data::DevsMgrData;
+
+namespace {
+
+/// Answers from inside send(), the worst that a transport may do.
+class EagerTransport : public DeviceTransport
+{
+public:
+    void send(const QString &requestId, const QString &, const QString &text) override
+    {
+        emit answered(requestId, text);
+    }
+};
+
+DevInfo device(const QString &id)
+{
+    DevInfo info;
+    info.id = id;
+    return info;
+}
+
+void request(const char *id)
+{
+    common_req(QString::fromLatin1(id), QStringLiteral("d"), QStringLiteral("text"));
+}
+
+} // namespace
+
+/// The parts of the SDK and the device store that need no socket.
+class SdkTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        ClientSdk::instance().setTransport(nullptr);
+        OrdaTest::cleanup();
+    }
+
+    void everyIdEndsAtItsOwnTickNeitherEarlyNorLate()
+    {
+        // Against the plainest model there is: requests and renewals in runs, at random and of unknown ids, time-outs
+        // in between.
+        QRandomGenerator random(7);
+        PendingRequests pending;
+        pending.setTimeout(100ms); // a tick of 10 ms
+        QMap<int, qint64> model;
+        int next = 0;
+        for (qint64 now = 0; now < 20'000; now += random.bounded(4)) {
+            pending.advanceTo(now);
+            QCOMPARE(pending.untilNextTick(), 10 - now % 10);
+            const int id = random.bounded(50);
+            const qint64 deadline = (now + 109) / 10 * 10;
+            next = random.bounded(8) == 0 ? id : (next + 1) % 50;
+            if (random.bounded(4) == 0)
+                pending.add(QString::number(id)), model[id] = deadline;
+            pending.renew(QString::number(next));
+            if (model.contains(next))
+                model[next] = deadline;
+            const QStringList due = pending.takeDue();
+            for (const QString &taken : due)
+                QVERIFY(model.value(taken.toInt(), now + 1) <= now && model.remove(taken.toInt()) == 1);
+            QVERIFY(std::all_of(model.cbegin(), model.cend(), [now](qint64 waiting) { return waiting > now; }));
+            QCOMPARE(pending.isEmpty(), model.isEmpty());
+        }
+    }
+
+    void answersComeFromTheEventLoopAndDoNotEndTheWaiting()
+    {
+        ClientSdk::instance().setRequestTimeout(50ms);
+        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+        QSignalSpy answers(&ClientSignals::instance(), &ClientSignals::signalCommonRes);
+        QSignalSpy timeouts(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout);
+        request("dropped with its transport");
+        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+        request("r");
+        QCOMPARE(answers.count(), 0);
+        QTRY_COMPARE(timeouts.count(), 1);
+        QCOMPARE(timeouts.at(0).at(0).toString(), QStringLiteral("r"));
+        QCOMPARE(answers.count(), 1);
+        QCOMPARE(answers.at(0), QVariantList({QStringLiteral("r"), QStringLiteral("text")}));
+    }
+
+    void listenersMayDoAnythingInsideASignal()
+    {
+        ClientSdk::instance().setRequestTimeout(20ms);
+        QString timedOut;
+        QObject context;
+        connect(
+            &ClientSignals::instance(), &ClientSignals::signalRequestTimeout, &context, [&timedOut](const QString &id) {
+                timedOut += id;
+                renewal_request_id(id); // taken out: nothing to renew
+                if (id == QLatin1String("1")) {
+                    request("a");
+                    QTRY_COMPARE(timedOut, QStringLiteral("12a")); // the others' time-outs reach an event loop in here
+                } else if (id == QLatin1String("3")) {
+                    ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+                }
+            });
+        request("1");
+        request("2");
+        QTRY_COMPARE(timedOut, QStringLiteral("12a"));
+        request("3");
+        request("dropped with its transport");
+        QTRY_COMPARE(timedOut, QStringLiteral("12a3"));
+
+        QSignalSpy answers(&ClientSignals::instance(), &ClientSignals::signalCommonRes);
+        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context,
+                [] { ClientSdk::instance().setTransport(nullptr); });
+        request("5");
+        request("dropped with its transport");
+        QTRY_COMPARE(answers.count(), 1);
+        request("6");
+        QTRY_COMPARE(timedOut, QStringLiteral("12a36"));
+        QCOMPARE(answers.count(), 1);
+    }
+
+    void signOnProofsAreThoseOfTheProtocolPage()
+    {
+        const QByteArray deviceNonce("AAECAwQFBgcICQoLDA0ODw=="), clientNonce("EBESExQVFhcYGRobHB0eHw==");
+        const QString password = QStringLiteral("Gr\u00fcn-7!");
+        QCOMPARE(signOnProof(SignOnSide::Client, password, deviceNonce, clientNonce),
+                 QByteArray("kxWP5SulC8vjo0qwWUUcCEqlfrV2lVEvIU3e5sCIC9o="));
+        QCOMPARE(signOnProof(SignOnSide::Device, password, deviceNonce, clientNonce),
+                 QByteArray("LqPyeM0vyijqAYmVBVhG4w5VsF1D8bTI3i5eL3inUz0="));
+        QVERIFY(isNonceLongEnough(makeNonce()) && makeNonce() != makeNonce());
+        QVERIFY(!isNonceLongEnough(QByteArray(15, 'x').toBase64()));
+        QVERIFY(!isNonceLongEnough("<long enough, but not base64 at all>"));
+    }
+
+    void inventoryFaultsNameEntryAndField_data()
+    {
+        QTest::addColumn<QByteArray>("entry"); // gets an id unless it has one
+        QTest::addColumn<QString>("error"); // regular expression; empty: taken
+        // Apostrophes stand for quotation marks.
+        const auto row = [](const char *name, const QByteArray &entry, const char *error) {
+            QTest::newRow(name) << entry << QString::fromLatin1(error);
+        };
+        const QByteArray ip = "'ip': '10.0.0.7'", address = ip + ", 'port': 80";
+        const QByteArray pin = ", 'fingerprint': 'AB:" + QByteArray(62, '0') + "'";
+        row("complete", address + ", 'password': 'p'", "");
+        row("behind a relay, pinned", "'url': 'wss://relay.example/7'" + pin, "");
+        row("no address", "'port': 80", "devices.1. .id 'cam'.: field 'ip': .*'url'");
+        row("no port", ip, "'port'.*1 to 65535");
+        row("port of a text", ip + ", 'port': '80'", "'port'.*1 to 65535");
+        row("port too large", ip + ", 'port': 65536", "'port'.*1 to 65535");
+        row("port broken", ip + ", 'port': 80.5", "'port'.*1 to 65535");
+        row("short IPv4", "'ip': '10.7', 'port': 80", "'ip'.*IPv4");
+        row("line break in the name", address + ", 'name': 'a\\nb'", "'name'.*line breaks");
+        row("tab in the serial number", address + ", 'serialNumber': 'a\\tb'", "'serialNumber'");
+        row("empty id", address + ", 'id': ''", "'id'.*empty");
+        row("id used twice", address + ", 'id': 'first'", "devices.1. .*'id'.*twice");
+        row("relative path", address + ", 'path': 'x'", "'path'");
+        row("url of a web page", "'url': 'http://relay.example/7'", "'url'");
+        row("tls beside a plain url", "'url': 'ws://relay.example/7', 'tls': true", "'tls'");
+        row("tls of a number", address + ", 'tls': 1", "'tls'.*true or false");
+        row("fingerprint of a SHA-1", address + ", 'tls': true, 'fingerprint': 'abcd'", "'fingerprint'.*SHA-256");
+        row("pinned without tls", address + pin, "'fingerprint'.*TLS");
+    }
+
+    void inventoryFaultsNameEntryAndField()
+    {
+        QFETCH(QByteArray, entry);
+        QFETCH(QString, error);
+        const QByteArray id = entry.contains("'id'") ? "" : "'id': 'cam', ";
+        const Inventory inventory = readInventory(
+            fileWith("{'devices': [{'id': 'first', 'ip': '10.0.0.1', 'port': 1}, {" + id + entry + "}]}"));
+        QCOMPARE(inventory.devices.size(), error.isEmpty() ? 2 : 0);
+        QCOMPARE(inventory.error.isEmpty(), error.isEmpty());
+        QVERIFY2(
+            QRegularExpression(error.replace(QLatin1Char('\''), QLatin1Char('"'))).match(inventory.error).hasMatch(),
+            qPrintable(inventory.error));
+    }
+
+    void inventoryFilesSurviveARoundTripAndStayPrivate()
+    {
+        DevInfo camera = device(QStringLiteral("c")), recorder = device(QStringLiteral("r"));
+        camera.ip = QStringLiteral("10.0.1.2");
+        camera.ipNumber = 0x0a000102;
+        camera.port = 443;
+        camera.tls = true;
+        camera.fingerprint = QString(64, QLatin1Char('a'));
+        camera.password = QStringLiteral("p");
+        camera.accessCode = 2;
+        recorder.url = QStringLiteral("ws://relay.example/r");
+        recorder.kindCode = 6;
+        const QString path = m_dir.filePath(QStringLiteral("written.json"));
+        QCOMPARE(writeInventory(path, {camera, recorder}), QString());
+        QCOMPARE(readInventory(path).devices, QList<DevInfo>({camera, recorder}));
+        QFile(path).setPermissions(QFile::ReadOwner | QFile::ReadGroup);
+        QVERIFY(readInventory(path).error.contains(QLatin1String("0600")));
+        QVERIFY(!writeInventory(m_dir.filePath(QStringLiteral("none/x.json")), {camera}).isEmpty());
+
+        const Inventory typo =
+            readInventory(fileWith("{'devices': [{'id': 'a', 'ip': '10.0.0.1', 'port': 1, 'pasword': ''}]}"));
+        QVERIFY(typo.devices.size() == 1 && typo.warnings.value(0).contains(QLatin1String("\"pasword\"")));
+    }
+
+    void theStoreFollowsTheSdkAndKeepsTheOrder()
+    {
+        DevsMgrData &store = DevsMgrData::instance();
+        QSignalSpy states(&DataSignals::instance(), &DataSignals::signalDevStatusChanged);
+        QSignalSpy updates(&DataSignals::instance(), &DataSignals::signalUpdateDevs);
+        QSignalSpy deletions(&DataSignals::instance(), &DataSignals::signalDeleteDevs);
+        const QString b = QStringLiteral("b"), a = QStringLiteral("a"), c = QStringLiteral("c");
+        store.updateDevs({device(b), device(a), device(c)});
+        emit ClientSignals::instance().signalDevStatusChanged(a, DevLocked);
+        store.setDevStatus(a, DevLocked);
+        store.setDevStatus(b, DevRefused);
+        store.setDevStatus(QStringLiteral("stranger"), DevOnline);
+        QCOMPARE(states.count(), 2);
+        QCOMPARE(store.getAllDevs(true), QList<DevInfo>({device(a)}));
+
+        DevInfo renamed = device(a);
+        renamed.name = QStringLiteral("gate");
+        store.updateDevs({renamed});
+        QCOMPARE(updates.at(1).at(0).value<QList<DevInfo>>(), QList<DevInfo>({renamed}));
+        QCOMPARE(store.getDevStatus(a), DevLocked);
+
+        store.deleteDevs({b, a});
+        QCOMPARE(deletions.at(0), QVariantList({QStringList({b, a}), true}));
+        QCOMPARE(store.getDevInfoById(b), DevInfo());
+        store.updateDevs({device(a)});
+        QCOMPARE(store.getAllDevs(false), QList<DevInfo>({device(c), device(a)}));
+        QCOMPARE(store.getDevStatus(a), DevOffline);
+        store.setDevStatus(c, DevOnline);
+        QCOMPARE(store.getDevStatus(c), DevOnline);
+    }
+
+private:
+    QString fileWith(QByteArray content)
+    {
+        QFile file(m_dir.filePath(QStringLiteral("inventory.json")));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(content.replace('\'', '"'));
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        return file.fileName();
+    }
+
+    QTemporaryDir m_dir;
+};
+
+ORDA_TEST_MAIN(SdkTest)
+#include "sdk_test.moc"
