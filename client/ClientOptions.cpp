@@ -29,22 +29,23 @@ constexpr int maxDemoDevices = 100000;
 ClientOptions parseOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        tr("Configures many online cameras and recorders at once.\n\n"
-           "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device."));
+    parser.setApplicationDescription(tr(
+        "Configures many online cameras and recorders at once.\n\n"
+        "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption demo(QStringLiteral("demo"), tr("Bring N simulated devices along."), QStringLiteral("N"));
-    const QCommandLineOption inventory(QStringLiteral("inventory"), tr("Connect to the devices of this inventory file."),
-                                       QStringLiteral("FILE"));
+    const QCommandLineOption inventory(QStringLiteral("inventory"),
+                                       tr("Connect to the devices of this inventory file."), QStringLiteral("FILE"));
     const QCommandLineOption faults(QStringLiteral("faults"), tr("Faults of the simulated devices (with --demo)."),
                                     QStringLiteral("FILE"));
     const QCommandLineOption language(QStringLiteral("language"),
                                       tr("Language of the window, such as \"en\"; the system's when not given."),
                                       QStringLiteral("CODE"));
-    const QCommandLineOption run(QStringLiteral("run"),
-                                 tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
-                                 QStringLiteral("FAMILY"));
+    const QCommandLineOption run(
+        QStringLiteral("run"),
+        tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
+        QStringLiteral("FAMILY"));
     const QCommandLineOption devices(QStringLiteral("devices"),
                                      tr("Devices to configure with --run: \"all\" (default) or ids with commas."),
                                      QStringLiteral("IDS"));

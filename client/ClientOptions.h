@@ -4,7 +4,14 @@
 #include <QStringList>
 
 /// Exit codes of orda_client.
-enum ExitCode { ExitOk = 0, ExitSomeFailed = 1, ExitUsage = 2, ExitInput = 3, ExitNoDevice = 4 };
+enum ExitCode
+{
+    ExitOk = 0,
+    ExitSomeFailed = 1,
+    ExitUsage = 2,
+    ExitInput = 3,
+    ExitNoDevice = 4
+};
 
 /// What the command line asks for.
 struct ClientOptions

@@ -42,7 +42,7 @@ QString ClientSession::startDemo(int devices, const QString &faultsFile)
     device_fleet::FleetOptions options;
     options.devices = devices;
     m_fleet = std::make_unique<device_fleet::EmbeddedFleet>(options, faults);
-    const QString error = m_fleet->start();
+    QString error = m_fleet->start();
     if (error.isEmpty()) {
         replaceDevices(m_fleet->inventory());
     }

@@ -12,10 +12,10 @@ class EmbeddedFleet;
 namespace vms_sdk {
 struct DevInfo;
 class WebSocketTransport;
-}
+} // namespace vms_sdk
 
-/// Brings devices into the client: fills the store from an inventory or from an embedded fleet, and keeps the SDK connected to
-/// what the store holds.
+/// Brings devices into the client: fills the store from an inventory or from an embedded fleet, and keeps the SDK
+/// connected to what the store holds.
 class ClientSession : public QObject
 {
     Q_OBJECT

@@ -8,8 +8,8 @@ QT_END_NAMESPACE
 
 class ClientSession;
 
-/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are on line and what
-/// happened last.
+/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are on line
+/// and what happened last.
 class ClientWindow : public QMainWindow
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ Family family(const QString &name, const QString &navigationKey, const QString &
 
 const QList<Family> &families()
 {
-    static const QList<Family> all {
+    static const QList<Family> all{
         family(QStringLiteral("audio"), QStringLiteral("audio_param"), QStringLiteral("audioParametersPage")),
         family(QStringLiteral("video"), QStringLiteral("video_param"), QStringLiteral("videoParametersPage")),
         family(QStringLiteral("image"), QStringLiteral("image_param"), QStringLiteral("imageParametersPage")),

@@ -17,8 +17,9 @@ struct EventConfirmInfo;
 }
 struct Family;
 
-/// Drives the form as an operator would, without one: waits until the devices have come on line, opens the family's page, ticks
-/// devices, presses Configure, prints progress, summary, duration and record, answers the summary and ends the application.
+/// Drives the form as an operator would, without one: waits until the devices have come on line, opens the family's
+/// page, ticks devices, presses Configure, prints progress, summary, duration and record, answers the summary and ends
+/// the application.
 class RunDriver : public QObject
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 #include "ClientSession.h"
 #include "ClientWindow.h"
 #include "RunDriver.h"
+#include "Translations.h"
 
 #include <orda_base/Theme.h>
 #include <vms_client_sdk/OpenFiles.h>
@@ -14,9 +15,14 @@
 
 namespace {
 
+void complain(const QString &text)
+{
+    QTextStream(stderr) << "orda_client: " << text << Qt::endl;
+}
+
 int fail(const QString &error, ExitCode code)
 {
-    QTextStream(stderr) << "orda_client: " << error << Qt::endl;
+    complain(error);
     return code;
 }
 
@@ -37,9 +43,16 @@ int main(int argc, char *argv[])
     if (!options.error.isEmpty()) {
         return fail(options.error + QStringLiteral(" (see orda_client --help)"), ExitUsage);
     }
+    Translations translations;
+    if (!translations.install(options.language)) {
+        return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
+                        .arg(Translations::languages().join(QStringLiteral(", ")), options.language),
+                    ExitUsage);
+    }
     orda_base::Theme::apply(app);
 
     ClientSession session;
+    QObject::connect(&session, &ClientSession::signalWarning, &app, complain);
     ClientWindow window(&session);
     window.show();
 

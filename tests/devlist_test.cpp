@@ -20,7 +20,13 @@ using vms_sdk::DevInfo;
 
 namespace {
 
-enum Column { OrderNum, Name, SerialNumber, Ip };
+enum Column
+{
+    OrderNum,
+    Name,
+    SerialNumber,
+    Ip
+};
 
 const ScriptedTransport::Script silent = [](const ScriptedTransport::Request &) { return QStringList(); };
 
@@ -64,9 +70,10 @@ void DevlistTest::opensOnVideoAndFollowsTheNavigation()
     QCOMPARE(navigation->currentKey(), QStringLiteral("video_param"));
     QCOMPARE(f.form->formType(), 8);
 
-    const QList<std::pair<const char *, int>> expected {
-        {"audio_param", 0}, {"audio_video_param", 0}, {"image_param", 2}, {"platform_param", 2}, {"cloud_service_param", 3},
-        {"9100_param", 4},  {"network_param", 5},     {"osd_param", 6},   {"video_param", 1}};
+    const QList<std::pair<const char *, int>> expected{
+        {"audio_param", 0},    {"audio_video_param", 0},   {"image_param", 2},
+        {"platform_param", 2}, {"cloud_service_param", 3}, {"9100_param", 4},
+        {"network_param", 5},  {"osd_param", 6},           {"video_param", 1}};
     for (const auto &[key, index] : expected) {
         f.form->findChild<QAbstractButton *>(QLatin1String(key))->click();
         QVERIFY2(stack->currentIndex() == index, key);
@@ -110,7 +117,7 @@ void DevlistTest::listsTheDevicesThatMayBeConfigured()
     QFETCH(DevInfo, dev);
     QFETCH(int, status);
     QFETCH(bool, isListed);
-    const QStringList expected = isListed ? QStringList {dev.name} : QStringList();
+    const QStringList expected = isListed ? QStringList{dev.name} : QStringList();
 
     const FormFixture live(0, silent);
     orda_saas::SaasWorker::instance().setFreelyOperable({QStringLiteral("FREE")});
@@ -126,14 +133,14 @@ void DevlistTest::followsTheStore()
     const FormFixture f(3, silent);
     f.tickAll();
     store().setDevStatus(QStringLiteral("dev1"), vms_sdk::DevLocked); // stays eligible: nothing changes
-    QCOMPARE(f.column(Name), (QStringList {QStringLiteral("Cam 0"), QStringLiteral("Cam 1"), QStringLiteral("Cam 2")}));
+    QCOMPARE(f.column(Name), (QStringList{QStringLiteral("Cam 0"), QStringLiteral("Cam 1"), QStringLiteral("Cam 2")}));
     QCOMPARE(f.form->checkedDevIds().size(), 3);
 
     store().setDevStatus(QStringLiteral("dev1"), vms_sdk::DevOffline);
-    QCOMPARE(f.column(OrderNum), (QStringList {QStringLiteral("1"), QStringLiteral("2")}));
+    QCOMPARE(f.column(OrderNum), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
     store().setDevStatus(QStringLiteral("dev1"), vms_sdk::DevOnline); // back at the bottom, without its mark
-    QCOMPARE(f.column(Name), (QStringList {QStringLiteral("Cam 0"), QStringLiteral("Cam 2"), QStringLiteral("Cam 1")}));
-    QCOMPARE(f.form->checkedDevIds(), (QStringList {QStringLiteral("dev0"), QStringLiteral("dev2")}));
+    QCOMPARE(f.column(Name), (QStringList{QStringLiteral("Cam 0"), QStringLiteral("Cam 2"), QStringLiteral("Cam 1")}));
+    QCOMPARE(f.form->checkedDevIds(), (QStringList{QStringLiteral("dev0"), QStringLiteral("dev2")}));
 
     DevInfo dev = FormFixture::device(2);
     dev.name.clear();
@@ -153,7 +160,7 @@ void DevlistTest::followsTheStore()
     QCOMPARE(f.column(Name).at(1), QString());
     QCOMPARE(f.table()->rowCount(), 4);
     store().deleteDevs({QStringLiteral("dev0"), QStringLiteral("dev2"), QStringLiteral("unknown")});
-    QCOMPARE(f.column(OrderNum), (QStringList {QStringLiteral("1"), QStringLiteral("2")}));
+    QCOMPARE(f.column(OrderNum), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
     QCOMPARE(f.form->checkedDevIds(), QStringList());
 }
 
@@ -169,13 +176,13 @@ void DevlistTest::followsTheLogin()
 
     saas.setFreelyOperable({});
     emit orda_saas::LoginSignals::instance().signalSaasLogoutSuccess();
-    QCOMPARE(f.column(SerialNumber), (QStringList {QStringLiteral("SN0"), QStringLiteral("SN1")}));
+    QCOMPARE(f.column(SerialNumber), (QStringList{QStringLiteral("SN0"), QStringLiteral("SN1")}));
 
     f.searchEdit()->setText(QStringLiteral("cam 1"));
     saas.setFreelyOperable({QStringLiteral("SN8")});
     emit orda_saas::LoginSignals::instance().signalEnterpriseStatus(0);
     QCOMPARE(f.table()->rowCount(), 3);
-    QCOMPARE(f.column(SerialNumber), QStringList {QStringLiteral("SN1")});
+    QCOMPARE(f.column(SerialNumber), QStringList{QStringLiteral("SN1")});
     saas.setFreelyOperable({});
 }
 
@@ -189,12 +196,12 @@ void DevlistTest::searchesAndKeepsCheckMarks()
     QTest::keyClicks(search, QStringLiteral("CAM 1"));
     QCOMPARE(f.column(OrderNum).size(), 11); // 1, 10 to 19
     QCOMPARE(f.column(OrderNum).constLast(), QStringLiteral("11"));
-    QCOMPARE(f.form->checkedDevIds(), QStringList {QStringLiteral("dev12")});
+    QCOMPARE(f.form->checkedDevIds(), QStringList{QStringLiteral("dev12")});
     f.tickAll(); // touches no row that is hidden
     search->setText(QStringLiteral("sn29"));
-    QCOMPARE(f.column(SerialNumber), QStringList {QStringLiteral("SN29")});
+    QCOMPARE(f.column(SerialNumber), QStringList{QStringLiteral("SN29")});
     search->setText(QStringLiteral("0.0.30"));
-    QCOMPARE(f.column(Ip), QStringList {QStringLiteral("10.0.0.30")});
+    QCOMPARE(f.column(Ip), QStringList{QStringLiteral("10.0.0.30")});
 
     addOnline(FormFixture::device(40)); // hidden at once
     QCOMPARE(f.column(Ip).size(), 1);
@@ -225,11 +232,12 @@ void DevlistTest::sortsByHeaders()
     QCOMPARE(order.constFirst(), QStringLiteral("1"));
     click("orderNumWt");
     QCOMPARE(f.column(OrderNum), order);
-    QCOMPARE(f.form->checkedDevIds(), QStringList {QStringLiteral("dev11")});
+    QCOMPARE(f.form->checkedDevIds(), QStringList{QStringLiteral("dev11")});
 
     f.searchEdit()->setText(QStringLiteral("cam 1"));
     click("devSn"); // the hidden rows stay hidden
-    QCOMPARE(f.column(SerialNumber), (QStringList {QStringLiteral("SN1"), QStringLiteral("SN10"), QStringLiteral("SN11")}));
+    QCOMPARE(f.column(SerialNumber),
+             (QStringList{QStringLiteral("SN1"), QStringLiteral("SN10"), QStringLiteral("SN11")}));
 }
 
 void DevlistTest::contextMenuOpensTheDevice()

@@ -44,8 +44,8 @@ QStringList recordEntries()
 {
     QFile file(recordPath());
     return file.open(QIODevice::ReadOnly)
-               ? QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"), Qt::SkipEmptyParts)
-               : QStringList();
+             ? QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"), Qt::SkipEmptyParts)
+             : QStringList();
 }
 
 // Runs a step in the midst of a run, when the condition holds; a run that never gets there is ended by its time-outs.
@@ -155,11 +155,14 @@ void RunTest::selectionDrivesPanelsAndRequests_data()
     const QString ai = QStringLiteral("ai_get_param,ai_set_param");
     const QString ao = QStringLiteral("ao_get_param,ao_set_param");
     const auto list = [](const QString &text) { return text.split(QLatin1Char(','), Qt::SkipEmptyParts); };
-    const auto row = [&](const char *name, const char *clicked, Qt::CheckState all, const char *panels, const QString &methods) {
-        QTest::newRow(name) << list(QString::fromLatin1(clicked)) << all << list(QString::fromLatin1(panels)) << list(methods);
+    const auto row = [&](const char *name, const char *clicked, Qt::CheckState all, const char *panels,
+                         const QString &methods) {
+        QTest::newRow(name) << list(QString::fromLatin1(clicked)) << all << list(QString::fromLatin1(panels))
+                            << list(methods);
     };
-    const char *everything = "audioEnablePanel,encodingFormatPanel,audioInVolumePanel,alarmOutVolumePanel,samplingRatePanel,"
-                             "bitWidePanel";
+    const char *everything =
+        "audioEnablePanel,encodingFormatPanel,audioInVolumePanel,alarmOutVolumePanel,samplingRatePanel,"
+        "bitWidePanel";
     row("everything", "", Qt::Checked, everything, ai + QLatin1Char(',') + ao);
     row("output only", "allParams,alarmOutVolume", Qt::PartiallyChecked, "alarmOutVolumePanel", ao);
     row("input only", "alarmOutVolume", Qt::PartiallyChecked,
@@ -206,16 +209,17 @@ void RunTest::configuresTheTickedDevicesAndReports()
     page->findChild<QAbstractButton *>(QStringLiteral("audioSwitch"))->click();
     QVERIFY(!report->isVisibleTo(page));
     QStringList progress;
-    onceInRun(f.form, [&] { return f.form->findChild<orda_base::DisabledWaitingWt *>(); },
-              [&] { progress.append(f.form->findChild<orda_base::DisabledWaitingWt *>()->description()); });
+    onceInRun(
+        f.form, [&] { return f.form->findChild<orda_base::DisabledWaitingWt *>(); },
+        [&] { progress.append(f.form->findChild<orda_base::DisabledWaitingWt *>()->description()); });
 
     f.configureAudio();
 
-    QCOMPARE(progress, QStringList {QStringLiteral("Configuring...")});
+    QCOMPARE(progress, QStringList{QStringLiteral("Configuring...")});
     QCOMPARE(m_summaries->count(), 1);
     QCOMPARE(summary().title, QStringLiteral("Audio Parameters Configuration Result"));
     QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
-    QCOMPARE(summary().buttons, (QStringList {QStringLiteral("Detail"), QStringLiteral("Cancel")}));
+    QCOMPARE(summary().buttons, (QStringList{QStringLiteral("Detail"), QStringLiteral("Cancel")}));
     QVERIFY(report->isVisibleTo(page));
     QVERIFY(f.form->findChild<orda_base::DisabledWaitingWt *>() == nullptr
             || !f.form->findChild<orda_base::DisabledWaitingWt *>()->isVisible());
@@ -224,11 +228,12 @@ void RunTest::configuresTheTickedDevicesAndReports()
     for (const Request &request : qAsConst(f.transport->requests)) {
         devices.insert(request.devId);
         if (request.method() == QLatin1String("ai_set_param")) {
-            QCOMPARE(request.json().value(QLatin1String("param")).toObject(),
-                     QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"bEnable": true, "aoGain": 50}})").object());
+            QCOMPARE(
+                request.json().value(QLatin1String("param")).toObject(),
+                QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"bEnable": true, "aoGain": 50}})").object());
         }
     }
-    QCOMPARE(devices, (QSet<QString> {QStringLiteral("dev0"), QStringLiteral("dev2")}));
+    QCOMPARE(devices, (QSet<QString>{QStringLiteral("dev0"), QStringLiteral("dev2")}));
 
     const QStringList entries = recordEntries();
     QCOMPARE(entries.size(), 2);
@@ -251,7 +256,7 @@ void RunTest::detailOpensTheRecordOfTheLatestRunOnly()
     emit assistant.signalEventConfirmOperBtClicked(uuid(1), 1);
     QVERIFY(m_openedUrls.isEmpty());
     emit assistant.signalEventConfirmOperBtClicked(uuid(1), 0);
-    QCOMPARE(m_openedUrls, QList<QUrl> {QUrl(recordPath())});
+    QCOMPARE(m_openedUrls, QList<QUrl>{QUrl(recordPath())});
     QCOMPARE(recordEntries().size(), 1); // the last run's only
     QDesktopServices::unsetUrlHandler(QString());
 }
@@ -289,14 +294,14 @@ void RunTest::countsEveryDeviceOnceWhateverItSends()
         outcomes.append(fields.at(1) + QLatin1Char(' ') + fields.at(3));
     }
     // In the order in which they arrived.
-    QCOMPARE(outcomes.mid(0, 2), (QStringList {QStringLiteral("SN2 Failed to parse json data"),
+    QCOMPARE(outcomes.mid(0, 2), (QStringList{QStringLiteral("SN2 Failed to parse json data"),
                                               QStringLiteral("SN4 Failed to get audio in parameters(7)")}));
     outcomes.sort();
-    QCOMPARE(outcomes, (QStringList {QStringLiteral("SN0 success"), QStringLiteral("SN1 success"),
-                                     QStringLiteral("SN2 Failed to parse json data"),
-                                     QStringLiteral("SN3 set audio parameters time out"),
-                                     QStringLiteral("SN4 Failed to get audio in parameters(7)"),
-                                     QStringLiteral("SN5 set audio parameters time out")}));
+    QCOMPARE(outcomes, (QStringList{QStringLiteral("SN0 success"), QStringLiteral("SN1 success"),
+                                    QStringLiteral("SN2 Failed to parse json data"),
+                                    QStringLiteral("SN3 set audio parameters time out"),
+                                    QStringLiteral("SN4 Failed to get audio in parameters(7)"),
+                                    QStringLiteral("SN5 set audio parameters time out")}));
 }
 
 void RunTest::deadDevicesEndTogether()
@@ -331,12 +336,13 @@ void RunTest::secondPressDoesNothing()
     const FormFixture f(5, healthy);
     f.tickAll();
     auto *okBt = f.page("audioParametersPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
-    onceInRun(f.form, [&] { return !f.transport->requests.isEmpty(); },
-              [okBt] {
-                  okBt->click(); // as an accessibility tool does
-                  QTest::mouseClick(okBt, Qt::LeftButton);
-                  QTest::keyClick(okBt, Qt::Key_Space);
-              });
+    onceInRun(
+        f.form, [&] { return !f.transport->requests.isEmpty(); },
+        [okBt] {
+            okBt->click(); // as an accessibility tool does
+            QTest::mouseClick(okBt, Qt::LeftButton);
+            QTest::keyClick(okBt, Qt::Key_Space);
+        });
     f.configureAudio();
     QCOMPARE(m_summaries->count(), 1);
     QCOMPARE(f.transport->requests.size(), 5 * 4);
@@ -359,14 +365,15 @@ void RunTest::formMayBeDeletedOrClosedInARun()
     const FormFixture f(3, healthy);
     f.tickAll();
     QObject context;
-    onceInRun(&context, [&] { return f.transport->requests.size() > 3; },
-              [&] {
-                  if (isDeleted) {
-                      delete f.form;
-                  } else {
-                      f.form->close();
-                  }
-              });
+    onceInRun(
+        &context, [&] { return f.transport->requests.size() > 3; },
+        [&] {
+            if (isDeleted) {
+                delete f.form;
+            } else {
+                f.form->close();
+            }
+        });
     f.configureAudio();
     QCOMPARE(m_summaries->count(), summaries);
     QCOMPARE(f.form.isNull(), isDeleted);
@@ -382,9 +389,12 @@ void RunTest::formMayBeDeletedOrClosedInARun()
 
 void RunTest::quittingEndsARunQuietly()
 {
-    const FormFixture f(4, [](const Request &request) { return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request); });
+    const FormFixture f(4, [](const Request &request) {
+        return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request);
+    });
     f.tickAll();
-    onceInRun(f.form, [] { return recordEntries().size() == 1; }, [] { QCoreApplication::quit(); });
+    onceInRun(
+        f.form, [] { return recordEntries().size() == 1; }, [] { QCoreApplication::quit(); });
     bool isBack = false;
     QTimer::singleShot(0, f.form, [&] {
         f.configureAudio();
@@ -400,14 +410,20 @@ void RunTest::quittingEndsARunQuietly()
 
 void RunTest::resultsAreOnTheDiskAtOnce()
 {
-    const FormFixture f(2, [](const Request &request) { return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request); }, 600ms);
+    const FormFixture f(
+        2,
+        [](const Request &request) {
+            return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request);
+        },
+        600ms);
     f.tickAll();
     QStringList inRun;
-    onceInRun(f.form, [&] { return !recordEntries().isEmpty(); },
-              [&] {
-                  inRun = recordEntries();
-                  QCOMPARE(m_summaries->count(), 0);
-              });
+    onceInRun(
+        f.form, [&] { return !recordEntries().isEmpty(); },
+        [&] {
+            inRun = recordEntries();
+            QCOMPARE(m_summaries->count(), 0);
+        });
     f.configureAudio();
     QCOMPARE(inRun.size(), 1);
     QVERIFY(inRun.at(0).contains(QLatin1String("SN0")));
@@ -424,7 +440,8 @@ void RunTest::recordIsNeverWrittenThroughALink()
     file.write("keep me");
     file.close();
     QVERIFY(QFile::link(target, recordPath()));
-    expectWarning(QStringLiteral("cannot open the record file .*vms_audio_params_batch_cfg_record.txt: it is a symbolic link"));
+    expectWarning(
+        QStringLiteral("cannot open the record file .*vms_audio_params_batch_cfg_record.txt: it is a symbolic link"));
 
     const FormFixture f(2, healthy);
     f.tickAll();
@@ -443,14 +460,17 @@ void RunTest::deviceThatLeavesTheStoreIsStillReported()
     dev.ip = QStringLiteral("an address of more than 16 characters");
     orda_data::DevsMgrData::instance().updateDevs({dev});
     f.tickAll();
-    onceInRun(f.form, [&] { return !f.transport->requests.isEmpty(); },
-              [] { orda_data::DevsMgrData::instance().deleteDevs({QStringLiteral("dev1")}); });
+    onceInRun(
+        f.form, [&] { return !f.transport->requests.isEmpty(); },
+        [] { orda_data::DevsMgrData::instance().deleteDevs({QStringLiteral("dev1")}); });
     f.configureAudio();
     QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:0, failure:2"));
     const QStringList entries = recordEntries();
     const QString timeout = QStringLiteral("    set audio parameters time out                ");
-    QVERIFY2(entries.at(0).endsWith(QStringLiteral("    SN0    ") + dev.ip + timeout + dev.name), qPrintable(entries.at(0)));
-    QVERIFY2(entries.at(1).endsWith(QStringLiteral("        ") + QString(16, QLatin1Char(' ')) + timeout), qPrintable(entries.at(1)));
+    QVERIFY2(entries.at(0).endsWith(QStringLiteral("    SN0    ") + dev.ip + timeout + dev.name),
+             qPrintable(entries.at(0)));
+    QVERIFY2(entries.at(1).endsWith(QStringLiteral("        ") + QString(16, QLatin1Char(' ')) + timeout),
+             qPrintable(entries.at(1)));
 }
 
 ORDA_TEST_MAIN(RunTest)

@@ -188,9 +188,8 @@ private slots:
             fileWith("{'devices': [{'id': 'first', 'ip': '10.0.0.1', 'port': 1}, {" + id + entry + "}]}"));
         QCOMPARE(inventory.devices.size(), error.isEmpty() ? 2 : 0);
         QCOMPARE(inventory.error.isEmpty(), error.isEmpty());
-        QVERIFY2(
-            QRegularExpression(error.replace(QLatin1Char('\''), QLatin1Char('"'))).match(inventory.error).hasMatch(),
-            qPrintable(inventory.error));
+        const QRegularExpression expected(error.replace(QLatin1Char('\''), QLatin1Char('"')));
+        QVERIFY2(expected.match(inventory.error).hasMatch(), qPrintable(inventory.error));
     }
 
     void inventoryFilesSurviveARoundTripAndStayPrivate()

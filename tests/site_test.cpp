@@ -163,9 +163,9 @@ void SiteTest::deviceThatDropsOutEndsByItsTimeOut()
     client.form.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
     const int total = client.form.checkedDevIds().size();
 
-    QCOMPARE(client.configureAudio(), QStringLiteral("A total of %1 devices have been configured, success:%2, failure:2")
-                                          .arg(total)
-                                          .arg(total - 2));
+    QCOMPARE(
+        client.configureAudio(),
+        QStringLiteral("A total of %1 devices have been configured, success:%2, failure:2").arg(total).arg(total - 2));
     QTRY_COMPARE(client.table()->rowCount(), total); // it is back, at the bottom and without its mark
     QCOMPARE(client.form.checkedDevIds().size(), total - 1);
 }

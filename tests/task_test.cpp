@@ -14,15 +14,15 @@ using Request = ScriptedTransport::Request;
 
 namespace {
 
-constexpr std::chrono::milliseconds waitingTime {100};
+constexpr std::chrono::milliseconds waitingTime{100};
 
-const QJsonObject values {{QStringLiteral("encType"), QStringLiteral("g711a")},
-                          {QStringLiteral("aoGain"), 7},
-                          {QStringLiteral("unknownHere"), true}};
+const QJsonObject values{{QStringLiteral("encType"), QStringLiteral("g711a")},
+                         {QStringLiteral("aoGain"), 7},
+                         {QStringLiteral("unknownHere"), true}};
 
 QJsonObject deviceAudio(const Request &request)
 {
-    QJsonObject audio {{QStringLiteral("encType"), QStringLiteral("g711u")}, {QStringLiteral("mask"), 3}};
+    QJsonObject audio{{QStringLiteral("encType"), QStringLiteral("g711u")}, {QStringLiteral("mask"), 3}};
     if (request.method() == QLatin1String("ao_get_param")) {
         audio.insert(QStringLiteral("aoGain"), 50);
     }
@@ -80,12 +80,12 @@ void TaskTest::endsOnceAsTheDeviceAnswers_data()
     QTest::addColumn<QString>("message");
     QTest::addColumn<int>("code");
 
-    const auto row = [](const char *name, int flags, const ScriptedTransport::Script &script, const QStringList &methods,
-                        const char *message, int code) {
+    const auto row = [](const char *name, int flags, const ScriptedTransport::Script &script,
+                        const QStringList &methods, const char *message, int code) {
         QTest::newRow(name) << flags << script << methods << QString::fromLatin1(message) << code;
     };
     const QString timeout = QStringLiteral("set audio parameters time out");
-    const QStringList allFour {aiGet, aiSet, aoGet, aoSet};
+    const QStringList allFour{aiGet, aiSet, aoGet, aoSet};
     row("input only", 1, healthy, {aiGet, aiSet}, "success", 0);
     row("output only", 2, healthy, {aoGet, aoSet}, "success", 0);
     row("both", 3, healthy, allFour, "success", 0);
@@ -97,8 +97,8 @@ void TaskTest::endsOnceAsTheDeviceAnswers_data()
         "Failed to get audio out parameters(9)", 9);
     row("output write refused", 3, except(aoSet, {answer(aoSet, {}, 9)}), allFour,
         "Failed to set audio out parameters(9)", 9);
-    row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}), {aiGet, aiSet},
-        "success", 0);
+    row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}),
+        {aiGet, aiSet}, "success", 0);
     row("an error code that is no number is success", 1,
         except(aiSet, {QStringLiteral(R"({"method": "ai_set_param", "error": {"errorcode": "7"}})")}), {aiGet, aiSet},
         "success", 0);
@@ -112,8 +112,9 @@ void TaskTest::endsOnceAsTheDeviceAnswers_data()
         -61004);
     row("a foreign method is no answer", 1, except(aiGet, {answer(QStringLiteral("AI_GET_PARAM"))}), {aiGet},
         "set audio parameters time out", -61004);
-    row("each answer twice", 3,
-        [](const Request &request) { return healthy(request) + healthy(request); }, allFour, "success", 0);
+    row(
+        "each answer twice", 3, [](const Request &request) { return healthy(request) + healthy(request); }, allFour,
+        "success", 0);
     row("success, then a refusal of the same write", 1, except(aiSet, {answer(aiSet), answer(aiSet, {}, 4)}),
         {aiGet, aiSet}, "success", 0);
 }
@@ -175,7 +176,8 @@ void TaskTest::sendsTheWholeObjectWithTheChosenMembers()
 )"));
     // The output has a gain as well, and what was read of the input is not written to it.
     QCOMPARE(transport->requests.at(3).json().value(QLatin1String("param")).toObject(),
-             QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"encType": "g711a", "mask": 3, "aoGain": 7}})").object());
+             QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"encType": "g711a", "mask": 3, "aoGain": 7}})")
+                 .object());
 }
 
 void TaskTest::pausesBetweenAnAnswerAndTheNextRequest()

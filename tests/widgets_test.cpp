@@ -123,7 +123,7 @@ void WidgetsTest::cellsSortAsPeopleRead_data()
     QTest::addColumn<QStringList>("sorted");
     const auto list = [](const char *text) { return QString::fromUtf8(text).split(QLatin1Char(',')); };
     QTest::newRow("numbers in names") << false << list("Cam 1,cam 2,Cam 10,cam 11,Dome");
-    QTest::newRow("umlauts") << false << list("Zufahrt,Zuß,Zwinger") ;
+    QTest::newRow("umlauts") << false << list("Zufahrt,Zuß,Zwinger");
     QTest::newRow("addresses, none last") << true << list("2.0.0.1,10.0.0.2,10.0.0.10,192.168.0.1,255.0.0.0,,");
 }
 
@@ -225,11 +225,13 @@ void WidgetsTest::dialogAnswersOnce_data()
         QTest::newRow(name) << operate << answers;
     };
     row("first button", [](QDialog *d) { d->findChildren<QPushButton *>().at(0)->click(); }, {0});
-    row("second button twice", [](QDialog *d) {
-        auto *button = d->findChildren<QPushButton *>().at(1);
-        button->click();
-        button->click();
-    }, {1});
+    row("second button twice",
+        [](QDialog *d) {
+            auto *button = d->findChildren<QPushButton *>().at(1);
+            button->click();
+            button->click();
+        },
+        {1});
     row("Return takes the first", [](QDialog *d) { QTest::keyClick(d, Qt::Key_Return); }, {0});
     row("Esc counts as the last", [](QDialog *d) { QTest::keyClick(d, Qt::Key_Escape); }, {1});
     row("closing counts as the last", [](QDialog *d) { d->close(); }, {1});
@@ -246,8 +248,10 @@ void WidgetsTest::dialogAnswersOnce()
     window->show();
     QApplication::setActiveWindow(window);
     QSignalSpy clicks(&AssistantSignals::instance(), &AssistantSignals::signalEventConfirmOperBtClicked);
-    orda_worker::SystemAssistant::instance().eventConfirm(
-        {QStringLiteral("id"), QStringLiteral("Title"), QStringLiteral("<b>100%1</b>"), {QStringLiteral("A"), QStringLiteral("B")}});
+    orda_worker::SystemAssistant::instance().eventConfirm({QStringLiteral("id"),
+                                                           QStringLiteral("Title"),
+                                                           QStringLiteral("<b>100%1</b>"),
+                                                           {QStringLiteral("A"), QStringLiteral("B")}});
     QDialog *dialog = openDialog();
     QVERIFY(dialog);
     QCOMPARE(dialog->parentWidget(), window);
@@ -265,9 +269,9 @@ void WidgetsTest::dialogAnswersOnce()
 void WidgetsTest::navigationFoldsAndHighlights()
 {
     orda_base::NavigationWidget navigation;
-    navigation.addNavigationBar({}, {}, {QStringLiteral("Bar"), QStringLiteral("bar")},
-                                {{QStringLiteral("One"), QStringLiteral("one")}, {QStringLiteral("Two"), QStringLiteral("two")}},
-                                &navigation);
+    navigation.addNavigationBar(
+        {}, {}, {QStringLiteral("Bar"), QStringLiteral("bar")},
+        {{QStringLiteral("One"), QStringLiteral("one")}, {QStringLiteral("Two"), QStringLiteral("two")}}, &navigation);
     navigation.addNavigationBar({}, {}, {QStringLiteral("Single"), QStringLiteral("single")}, {}, &navigation);
     const auto button = [&navigation](const char *key) {
         return navigation.findChild<QAbstractButton *>(QLatin1String(key));
@@ -298,7 +302,7 @@ void WidgetsTest::searchBoxSearchesWhileTyping()
     for (const QVariantList &search : qAsConst(searches)) {
         keywords.append(search.at(0).toString());
     }
-    QCOMPARE(keywords, (QStringList {QStringLiteral("a"), QStringLiteral("ab"), QStringLiteral("ab"), QString()}));
+    QCOMPARE(keywords, (QStringList{QStringLiteral("a"), QStringLiteral("ab"), QStringLiteral("ab"), QString()}));
 }
 
 void WidgetsTest::editorsTakeWhatTheyShould()

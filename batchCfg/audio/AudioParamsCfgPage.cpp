@@ -9,7 +9,14 @@ namespace orda_batchCfg {
 
 namespace {
 
-enum ParamBit { AudioEnable = 1, EncodingFormat = 2, AudioInVolume = 4, AlarmOutVolume = 8, SamplingRate = 16 };
+enum ParamBit
+{
+    AudioEnable = 1,
+    EncodingFormat = 2,
+    AudioInVolume = 4,
+    AlarmOutVolume = 8,
+    SamplingRate = 16
+};
 
 } // namespace
 
@@ -26,17 +33,35 @@ AudioParamsCfgPage::AudioParamsCfgPage(QWidget *parent)
     pairVolume(m_ui->alarmOutVolumeSlider, m_ui->alarmOutVolumeParam);
 
     setParams({
-        {AudioEnable, m_ui->audioEnable, {m_ui->audioEnablePanel}, QStringLiteral("bEnable"),
+        {AudioEnable,
+         m_ui->audioEnable,
+         {m_ui->audioEnablePanel},
+         QStringLiteral("bEnable"),
          switchState(m_ui->audioSwitch)},
-        {EncodingFormat, m_ui->encodingFormat, {m_ui->encodingFormatPanel}, QStringLiteral("encType"),
+        {EncodingFormat,
+         m_ui->encodingFormat,
+         {m_ui->encodingFormatPanel},
+         QStringLiteral("encType"),
          itemData(m_ui->encodingFormatParam)},
-        {AudioInVolume, m_ui->audioInVolume, {m_ui->audioInVolumePanel}, QStringLiteral("aiGain"),
+        {AudioInVolume,
+         m_ui->audioInVolume,
+         {m_ui->audioInVolumePanel},
+         QStringLiteral("aiGain"),
          [this] { return m_ui->audioInVolumeSlider->value(); }},
-        {AlarmOutVolume, m_ui->alarmOutVolume, {m_ui->alarmOutVolumePanel}, QStringLiteral("aoGain"),
+        {AlarmOutVolume,
+         m_ui->alarmOutVolume,
+         {m_ui->alarmOutVolumePanel},
+         QStringLiteral("aoGain"),
          [this] { return m_ui->alarmOutVolumeSlider->value(); }},
-        {SamplingRate, m_ui->samplingRate, {m_ui->samplingRatePanel}, QStringLiteral("sampleRate"),
+        {SamplingRate,
+         m_ui->samplingRate,
+         {m_ui->samplingRatePanel},
+         QStringLiteral("sampleRate"),
          itemData(m_ui->samplingRateParam)},
-        {SamplingRate, m_ui->samplingRate, {m_ui->bitWidePanel}, QStringLiteral("bitWidth"),
+        {SamplingRate,
+         m_ui->samplingRate,
+         {m_ui->bitWidePanel},
+         QStringLiteral("bitWidth"),
          itemData(m_ui->BitWideParam)},
     });
 }

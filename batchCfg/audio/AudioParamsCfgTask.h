@@ -10,9 +10,14 @@ class AudioParamsCfgTask : public ParamsCfgTask
     Q_OBJECT
 
 public:
-    enum Flag { AudioIn = 1, AudioOut = 2 };
+    enum Flag
+    {
+        AudioIn = 1,
+        AudioOut = 2
+    };
 
-    /// @param values "bEnable", "encType", "sampleRate", "bitWidth", "aiGain", "aoGain"; each goes to every object that has it
+    /// @param values "bEnable", "encType", "sampleRate", "bitWidth", "aiGain", "aoGain"; each goes to every object that
+    /// has it
     /// @param flags the Flags of the objects to touch
     AudioParamsCfgTask(const QString &devId, const QJsonObject &values, int flags, QObject *parent);
 };

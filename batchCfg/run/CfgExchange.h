@@ -9,8 +9,8 @@
 
 namespace orda_batchCfg {
 
-/// One read-change-write exchange of a family with a device. A task is a list of these; all that differs between the families
-/// stands here as data.
+/// One read-change-write exchange of a family with a device. A task is a list of these; all that differs between the
+/// families stands here as data.
 struct CfgExchange
 {
     /// Builds the "param" of the write request.
@@ -30,8 +30,8 @@ struct CfgExchange
     int flag = 0;
     /// The member of "result" that holds the parameters; empty: "result" itself.
     QString resultKey = {};
-    /// A device that comes back on line after the write was sent is read again, and what it holds then decides the result:
-    /// some settings make a device drop its connection before it can answer.
+    /// A device that comes back on line after the write was sent is read again, and what it holds then decides the
+    /// result: some settings make a device drop its connection before it can answer.
     bool checkWhenBack = false;
 };
 

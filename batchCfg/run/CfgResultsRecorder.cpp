@@ -22,6 +22,25 @@ Q_LOGGING_CATEGORY(logRecord, "orda.record", QtWarningMsg)
 
 constexpr int ipWidth = 16; // a column that holds every IPv4 address
 
+// Why the file behind the descriptor is not to be written; empty when it is the user's own.
+QString refusal(int fd)
+{
+    struct stat info = {};
+    if (::fstat(fd, &info) != 0) {
+        return qt_error_string(errno);
+    }
+    if (!S_ISREG(info.st_mode)) {
+        return QStringLiteral("it is not a regular file");
+    }
+    if (info.st_uid != ::geteuid()) {
+        return QStringLiteral("it belongs to another user");
+    }
+    if (info.st_nlink != 1) {
+        return QStringLiteral("it has more than one name");
+    }
+    return {};
+}
+
 } // namespace
 
 CfgResultsRecorder::CfgResultsRecorder(const QString &fileName, QObject *parent)
@@ -50,26 +69,16 @@ bool CfgResultsRecorder::openSafely()
     if (fd < 0) {
         return fail(errno == ELOOP ? QStringLiteral("it is a symbolic link") : qt_error_string(errno));
     }
-    struct stat info = {};
-    QString why;
-    if (::fstat(fd, &info) != 0) {
+    QString why = refusal(fd);
+    if (why.isEmpty() && (::fchmod(fd, S_IRUSR | S_IWUSR) != 0 || ::ftruncate(fd, 0) != 0)) {
         why = qt_error_string(errno);
-    } else if (!S_ISREG(info.st_mode)) {
-        why = QStringLiteral("it is not a regular file");
-    } else if (info.st_uid != ::geteuid()) {
-        why = QStringLiteral("it belongs to another user");
-    } else if (info.st_nlink != 1) {
-        why = QStringLiteral("it has more than one name");
-    } else if (::fchmod(fd, S_IRUSR | S_IWUSR) != 0 || ::ftruncate(fd, 0) != 0) {
-        why = qt_error_string(errno);
-    } else if (!m_file->open(fd, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
-        why = m_file->errorString();
     }
     if (!why.isEmpty()) {
         ::close(fd);
         return fail(why);
     }
-    return true;
+    // QFile takes the descriptor over and has nothing left to do that could fail.
+    return m_file->open(fd, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
 }
 
 void CfgResultsRecorder::record(const QString &devId, const QString &msg)

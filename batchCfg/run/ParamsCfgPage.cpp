@@ -27,8 +27,8 @@ namespace orda_batchCfg {
 
 namespace {
 
-// One run at a time in the whole process: all runs wait in nested event loops on one stack, where an older one could only end
-// after the younger ones.
+// One run at a time in the whole process: all runs wait in nested event loops on one stack, where an older one could
+// only end after the younger ones.
 class RunLock
 {
 public:
@@ -70,9 +70,8 @@ ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QW
     , m_title(title)
     , m_recorder(new CfgResultsRecorder(recordFile, this))
 {
-    connect(&orda_worker::AssistantSignals::instance(),
-            &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked, this,
-            [this](const QString &uuid, int button) {
+    connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked,
+            this, [this](const QString &uuid, int button) {
                 if (uuid == m_confirmUuid && button == 0) {
                     m_reportBt->click();
                 }
@@ -232,8 +231,7 @@ void ParamsCfgPage::configure()
 void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringList &devIds)
 {
     const QJsonObject runValues = values();
-    run->overlay =
-        new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));
+    run->overlay = new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));
     run->overlayId = run->overlay->getUuid();
     run->overlay->show();
     m_recorder->open();

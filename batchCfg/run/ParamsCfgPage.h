@@ -20,8 +20,8 @@ namespace orda_batchCfg {
 class CfgResultsRecorder;
 class ParamsCfgTask;
 
-/// What all parameter pages share: selection of parameters, and the run over the ticked devices with its overlay, its counting,
-/// its record and its summary. A family's page states its widgets, its table of parameters and its task.
+/// What all parameter pages share: selection of parameters, and the run over the ticked devices with its overlay, its
+/// counting, its record and its summary. A family's page states its widgets, its table of parameters and its task.
 ///
 /// The page's form has the check box "allParams" and the buttons "okBt" and "reportBt".
 class ParamsCfgPage : public QWidget
@@ -40,7 +40,8 @@ protected:
     /// Reads an editor when a run starts; undefined leaves the key out.
     using Value = std::function<QJsonValue()>;
 
-    /// One row of a family's table: while @c flags() has one of the bits of @c bit, the panels are shown and the key is sent.
+    /// One row of a family's table: while @c flags() has one of the bits of @c bit, the panels are shown and the key is
+    /// sent.
     struct Param
     {
         int bit;
@@ -56,8 +57,8 @@ protected:
 
     /// The table of parameters. Called once, after the form has been built.
     void setParams(const QVector<Param> &params);
-    /// A selection besides that of the parameters, looked at before it: an "All" box with its boxes, and the alert when none is
-    /// ticked. Called before setParams().
+    /// A selection besides that of the parameters, looked at before it: an "All" box with its boxes, and the alert when
+    /// none is ticked. Called before setParams().
     void addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes, const QString &noneAlert);
 
     /// The usual values: a switch as a boolean, a combo box's item data.

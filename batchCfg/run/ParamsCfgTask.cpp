@@ -19,7 +19,7 @@ namespace {
 Q_LOGGING_CATEGORY(logRun, "orda.run", QtWarningMsg)
 
 // The next request leaves after the handling of the answer is over, never from inside it.
-constexpr std::chrono::milliseconds stepPause {10};
+constexpr std::chrono::milliseconds stepPause{10};
 
 } // namespace
 
@@ -72,7 +72,7 @@ void ParamsCfgTask::sendWrite(int exchange)
 
 void ParamsCfgTask::send(const QString &method, const std::optional<QJsonObject> &param)
 {
-    QJsonObject request {{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
+    QJsonObject request{{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
     if (param) {
         request.insert(QStringLiteral("param"), *param);
     }
@@ -92,15 +92,14 @@ void ParamsCfgTask::sendLater(void (ParamsCfgTask::*step)(int), int exchange)
 
 void ParamsCfgTask::handleAnswer(const QString &text)
 {
-    QJsonParseError parseError {};
+    QJsonParseError parseError{};
     const QJsonObject answer = QJsonDocument::fromJson(text.toUtf8(), &parseError).object();
     if (parseError.error != QJsonParseError::NoError) {
         finish(tr("Failed to parse json data"), NotJson);
         return;
     }
     const QString method = answer.value(QLatin1String("method")).toString();
-    const int errorCode =
-        answer.value(QLatin1String("error")).toObject().value(QLatin1String("errorcode")).toInt(0);
+    const int errorCode = answer.value(QLatin1String("error")).toObject().value(QLatin1String("errorcode")).toInt(0);
 
     for (int i = 0; i < m_exchanges.size(); ++i) {
         const CfgExchange &exchange = m_exchanges.at(i);

@@ -10,16 +10,17 @@
 
 namespace orda_batchCfg {
 
-/// Configures one device: reads its parameters, changes what was asked for, writes them back, exchange by exchange, and reports
-/// one result. All requests of a task go out under one request id. Lives on the user-interface thread; its owner deletes it
-/// after the result.
+/// Configures one device: reads its parameters, changes what was asked for, writes them back, exchange by exchange, and
+/// reports one result. All requests of a task go out under one request id. Lives on the user-interface thread; its
+/// owner deletes it after the result.
 class ParamsCfgTask : public QObject
 {
     Q_OBJECT
 
 public:
     /// Codes of signalCfgResult() that are not the device's own.
-    enum ResultCode {
+    enum ResultCode
+    {
         Success = 0,
         NotVerified = -1, ///< the device came back with other settings than those written
         NotJson = -61003, ///< an answer is not valid JSON
@@ -38,7 +39,8 @@ signals:
 
 protected:
     /// @param values the parameters to set, by the device's own keys
-    /// @param exchanges the family's exchanges in their order; those run whose flag is in @p flags, the last one when none is
+    /// @param exchanges the family's exchanges in their order; those run whose flag is in @p flags, the last one when
+    /// none is
     ParamsCfgTask(const QString &devId, const QJsonObject &values, const QVector<CfgExchange> &exchanges,
                   const QString &timeoutText, QObject *parent, int flags = 0);
 

@@ -9,8 +9,8 @@ namespace orda_batchCfg {
 
 class ParamsCfgTask;
 
-/// The one listener of the SDK's answers and time-outs and of the store's status changes. It hands each to the task that it
-/// concerns, so that 10,000 tasks do not each look at every answer. User-interface thread only.
+/// The one listener of the SDK's answers and time-outs and of the store's status changes. It hands each to the task
+/// that it concerns, so that 10,000 tasks do not each look at every answer. User-interface thread only.
 class TaskRouter : public QObject
 {
     Q_OBJECT

@@ -28,7 +28,14 @@ constexpr int batchCfgFormType = 8;
 
 constexpr int devIdRole = Qt::UserRole + 1;
 
-enum Column { OrderNum, Name, SerialNumber, Ip, ColumnCount };
+enum Column
+{
+    OrderNum,
+    Name,
+    SerialNumber,
+    Ip,
+    ColumnCount
+};
 
 constexpr int orderNumWidth = 80; // that of orderNumWt in the header row
 

@@ -4,7 +4,8 @@
 
 namespace XCOMMON {
 
-/// The client's table. It says when rows come, go, are hidden or shown, for which QTableWidget has no signal of its own.
+/// The client's table. It says when rows come, go, are hidden or shown, for which QTableWidget has no signal of its
+/// own.
 class XTableWidget : public QTableWidget
 {
     Q_OBJECT

@@ -19,9 +19,11 @@ public:
 
     /// @param status a vms_sdk::DevStatus
     bool isDevOnline(int status);
-    /// "yyyy-MM-dd hh:mm:ss". @param withMilliseconds appends ".zzz" @param forFileName leaves out blanks and colons: "yyyyMMdd-hhmmss"
+    /// "yyyy-MM-dd hh:mm:ss". @param withMilliseconds appends ".zzz" @param forFileName leaves out blanks and colons:
+    /// "yyyyMMdd-hhmmss"
     QString strDatetime(const QDateTime &time, bool withMilliseconds, bool forFileName);
-    /// Numbers the rows of column 0 that can be seen from @p first on, top to bottom. Touches only cells whose text changes.
+    /// Numbers the rows of column 0 that can be seen from @p first on, top to bottom. Touches only cells whose text
+    /// changes.
     void updateTableOrderNum(XCOMMON::XTableWidget *table, int first);
     /// Raises signalDevRemoteConfigOpened().
     void openDevRemoteConfig(const QString &devId);

@@ -14,8 +14,8 @@ class ComboBox : public QComboBox
 public:
     explicit ComboBox(QWidget *parent = nullptr);
 
-    /// Gives the items their values (role Qt::UserRole), by index. Their number must be that of the items; a difference is a
-    /// mistake in the program: it is logged, and the values reach as far as they go.
+    /// Gives the items their values (role Qt::UserRole), by index. Their number must be that of the items; a difference
+    /// is a mistake in the program: it is logged, and the values reach as far as they go.
     void setItemsData(const QList<QVariant> &values);
 
 protected:

@@ -107,7 +107,8 @@ bool DisabledWaitingWt::eventFilter(QObject *watched, QEvent *event)
             setGeometry(parentWidget()->rect());
         }
     } else if (covers(qobject_cast<QWidget *>(watched))) {
-        // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic, a focus set by a program.
+        // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic, a focus set by a
+        // program.
         if (event->type() == QEvent::FocusIn) {
             setFocus();
         } else if (event->type() == QEvent::Shortcut || event->type() == QEvent::ShortcutOverride

@@ -10,8 +10,8 @@ QT_END_NAMESPACE
 
 namespace orda_base {
 
-/// Covers a widget while something goes on: shows that it does, and lets no mouse, key or shortcut through. Destroyed through
-/// DisabledWaitingWtManager, or with its parent. GUI thread only.
+/// Covers a widget while something goes on: shows that it does, and lets no mouse, key or shortcut through. Destroyed
+/// through DisabledWaitingWtManager, or with its parent. GUI thread only.
 class DisabledWaitingWt : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,8 @@ public:
     /// @param description what goes on, updated as it does
     /// @param text a second line that stays, such as a hint how long it may take
     /// @param flag true: what is covered stays as bright as it is
-    explicit DisabledWaitingWt(QWidget *parent, const QString &description, const QString &text = {}, bool flag = false);
+    explicit DisabledWaitingWt(QWidget *parent, const QString &description, const QString &text = {},
+                               bool flag = false);
     ~DisabledWaitingWt() override;
 
     QUuid getUuid() const { return m_uuid; }

@@ -13,7 +13,8 @@ class DisabledWaitingWtManager
 public:
     static DisabledWaitingWtManager &instance();
 
-    /// Hides the overlay at once and deletes it later; an id that is unknown, or of an overlay that died with its parent, is fine.
+    /// Hides the overlay at once and deletes it later; an id that is unknown, or of an overlay that died with its
+    /// parent, is fine.
     void destroyDisabledWaitingWt(const QUuid &uuid);
 
 private:

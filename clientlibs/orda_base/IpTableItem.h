@@ -8,7 +8,8 @@ namespace orda_base {
 class IpTableItem : public QTableWidgetItem
 {
 public:
-    /// @param number the address in host byte order, for texts that are no IPv4 address; a text that is one has the number of its own
+    /// @param number the address in host byte order, for texts that are no IPv4 address; a text that is one has the
+    /// number of its own
     ///        at all times, so that a changed address sorts right
     /// @param type of the item, as QTableWidgetItem takes it
     IpTableItem(const QString &ip, quint32 number, int type);
@@ -17,7 +18,6 @@ public:
     void setData(int role, const QVariant &value) override;
 
 private:
-
     quint32 m_number;
 };
 

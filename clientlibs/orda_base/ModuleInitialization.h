@@ -4,8 +4,8 @@
 
 namespace orda_base {
 
-/// Base of the modules' entry classes. The operations are the client's calls in the life of a module; a module that needs none of
-/// them overrides none.
+/// Base of the modules' entry classes. The operations are the client's calls in the life of a module; a module that
+/// needs none of them overrides none.
 class ModuleInitialization : public QObject
 {
     Q_OBJECT

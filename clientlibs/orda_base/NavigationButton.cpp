@@ -52,7 +52,8 @@ void NavigationButton::setUnfolded(bool unfolded)
 
 QSize NavigationButton::sizeHint() const
 {
-    return {textLeft + fontMetrics().horizontalAdvance(text()) + 2 * arrowRight, m_kind == Entry ? entryHeight : barHeight};
+    return {textLeft + fontMetrics().horizontalAdvance(text()) + 2 * arrowRight,
+            m_kind == Entry ? entryHeight : barHeight};
 }
 
 QRect NavigationButton::textRect() const

@@ -11,7 +11,12 @@ class NavigationButton : public QAbstractButton
     Q_OBJECT
 
 public:
-    enum Kind { Bar, FoldingBar, Entry };
+    enum Kind
+    {
+        Bar,
+        FoldingBar,
+        Entry
+    };
 
     NavigationButton(Kind kind, const QString &title, QWidget *parent);
 

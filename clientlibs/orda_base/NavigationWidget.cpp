@@ -20,7 +20,8 @@ void NavigationWidget::addNavigationBar(const QString &normalIcon, const QString
                                         const NavigationActionInfo &info, const QList<NavigationActionInfo> &subActions,
                                         QWidget *owner)
 {
-    NavigationButton *bar = addButton(subActions.isEmpty() ? NavigationButton::Bar : NavigationButton::FoldingBar, info);
+    NavigationButton *bar =
+        addButton(subActions.isEmpty() ? NavigationButton::Bar : NavigationButton::FoldingBar, info);
     bar->setIcons(QIcon(normalIcon), QIcon(highlightIcon));
     if (subActions.isEmpty()) {
         addEntry(info.key, {bar, bar}, owner);

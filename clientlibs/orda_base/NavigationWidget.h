@@ -14,8 +14,8 @@ namespace orda_base {
 
 class NavigationButton;
 
-/// A column of bars with icons. A bar either is an entry itself or opens and closes its entries. Every bar and entry is a
-/// QAbstractButton whose object name is its key. GUI thread only.
+/// A column of bars with icons. A bar either is an entry itself or opens and closes its entries. Every bar and entry is
+/// a QAbstractButton whose object name is its key. GUI thread only.
 class NavigationWidget : public QWidget
 {
     Q_OBJECT
@@ -24,12 +24,14 @@ public:
     explicit NavigationWidget(QWidget *parent = nullptr);
 
     /// Adds a bar at the bottom, its entries shown.
-    /// @param normalIcon, highlightIcon paths of images; the second is for a bar that is current or has the current entry
+    /// @param normalIcon, highlightIcon paths of images; the second is for a bar that is current or has the current
+    /// entry
     /// @param subActions the entries; none: the bar itself is one
     /// @param owner for whom the navigation is; what the bar raises ends when it is deleted
     void addNavigationBar(const QString &normalIcon, const QString &highlightIcon, const NavigationActionInfo &info,
                           const QList<NavigationActionInfo> &subActions, QWidget *owner);
-    /// Makes the entry current as a click would, but raises no signal. @return the key; empty when there is no such entry
+    /// Makes the entry current as a click would, but raises no signal. @return the key; empty when there is no such
+    /// entry
     QString setDefaultAction(const QString &key);
     /// The current entry's key; empty before there is one.
     QString currentKey() const { return m_currentKey; }

@@ -8,8 +8,8 @@ PortEditWt::PortEditWt(QWidget *parent)
     : QLineEdit(parent)
 {
     // An integer validator would let "99999" be typed and only complain at the end.
-    static const QRegularExpression port(QStringLiteral(
-        "0|[1-9]\\d{0,3}|[1-5]\\d{4}|6[0-4]\\d{3}|65[0-4]\\d{2}|655[0-2]\\d|6553[0-5]"));
+    static const QRegularExpression port(
+        QStringLiteral("0|[1-9]\\d{0,3}|[1-5]\\d{4}|6[0-4]\\d{3}|65[0-4]\\d{2}|655[0-2]\\d|6553[0-5]"));
     setValidator(new QRegularExpressionValidator(port, this));
 }
 

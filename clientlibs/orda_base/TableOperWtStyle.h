@@ -25,8 +25,10 @@ public:
     explicit TableOperWtStyle(QObject *parent);
 
     /// Called once; none of the widgets is owned.
-    /// @param all ticks and unticks the rows that can be seen; its state speaks of these. Rows that are hidden are never touched.
-    /// @param header lays out the header row; it keeps clear of the table's scroll bar, so that headers stand over their columns.
+    /// @param all ticks and unticks the rows that can be seen; its state speaks of these. Rows that are hidden are
+    /// never touched.
+    /// @param header lays out the header row; it keeps clear of the table's scroll bar, so that headers stand over
+    /// their columns.
     ///        Null: the table has its own header.
     /// @param hiddenColumns not shown, in the table and in the header row
     void setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLayout *header, const QList<int> &hiddenColumns);

@@ -19,11 +19,11 @@ struct Colour
 };
 
 // Text on any of the surfaces has a contrast of at least 4.5:1.
-constexpr Colour colours[] {
-    {"text", "#1d2733"},         {"disabledText", "#6b7685"}, {"window", "#f4f6f9"},        {"surface", "#ffffff"},
-    {"header", "#e9edf2"},       {"border", "#d3d9e2"},       {"controlBorder", "#8b97a8"}, {"scroll", "#b7c0cc"},
-    {"hover", "#eef3fa"},        {"selection", "#dce9fb"},    {"accent", "#1862c8"},        {"accentHover", "#14539f"},
-    {"accentPressed", "#0f4485"}, {"onAccent", "#ffffff"},    {"focusOnAccent", "#0b2f5e"},
+constexpr Colour colours[]{
+    {"text", "#1d2733"},          {"disabledText", "#6b7685"}, {"window", "#f4f6f9"},        {"surface", "#ffffff"},
+    {"header", "#e9edf2"},        {"border", "#d3d9e2"},       {"controlBorder", "#8b97a8"}, {"scroll", "#b7c0cc"},
+    {"hover", "#eef3fa"},         {"selection", "#dce9fb"},    {"accent", "#1862c8"},        {"accentHover", "#14539f"},
+    {"accentPressed", "#0f4485"}, {"onAccent", "#ffffff"},     {"focusOnAccent", "#0b2f5e"},
 };
 
 QString colour(const char *name)

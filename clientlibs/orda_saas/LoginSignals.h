@@ -15,7 +15,8 @@ public:
 signals:
     /// The operator has logged out: rights that came with the login are gone.
     void signalSaasLogoutSuccess();
-    /// The enterprise that the operator works for, and with it the rights, may have changed. @param status the service's own code
+    /// The enterprise that the operator works for, and with it the rights, may have changed. @param status the
+    /// service's own code
     void signalEnterpriseStatus(int status);
 
 private:

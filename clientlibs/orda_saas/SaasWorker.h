@@ -11,7 +11,8 @@ class SaasWorker
 public:
     static SaasWorker &instance();
 
-    /// Whether the operator may work on this device whatever its state and password; nobody may until setFreelyOperable().
+    /// Whether the operator may work on this device whatever its state and password; nobody may until
+    /// setFreelyOperable().
     bool canOperateDevFreely(const QString &serialNumber) const;
     /// Replaces the devices that may be operated freely. Raises nothing: LoginSignals says when rights have changed.
     void setFreelyOperable(const QSet<QString> &serialNumbers);

@@ -51,9 +51,10 @@ void SystemAssistant::eventConfirm(const EventConfirmInfo &info)
 {
     auto *dialog = new EventDialog(info.title, info.text, info.buttons, parentWindow());
     dialog->setObjectName(QStringLiteral("eventConfirmDialog"));
-    QObject::connect(dialog, &EventDialog::signalAnswered, &AssistantSignals::instance(), [uuid = info.uuid](int button) {
-        emit AssistantSignals::instance().signalEventConfirmOperBtClicked(uuid, button);
-    });
+    QObject::connect(dialog, &EventDialog::signalAnswered, &AssistantSignals::instance(),
+                     [uuid = info.uuid](int button) {
+                         emit AssistantSignals::instance().signalEventConfirmOperBtClicked(uuid, button);
+                     });
     dialog->open();
     emit AssistantSignals::instance().signalEventConfirmRaised(info);
 }

@@ -6,8 +6,8 @@
 
 namespace orda_worker {
 
-/// Speaks to the operator in dialogs over the active window. No call waits for the answer; several dialogs may be open at once.
-/// GUI thread only.
+/// Speaks to the operator in dialogs over the active window. No call waits for the answer; several dialogs may be open
+/// at once. GUI thread only.
 class SystemAssistant
 {
     Q_DECLARE_TR_FUNCTIONS(SystemAssistant)

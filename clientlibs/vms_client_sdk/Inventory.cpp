@@ -234,7 +234,8 @@ bool InventoryReader::readEntries(const QJsonObject &root)
     const QString listKey = QStringLiteral("devices");
     if (!root.value(listKey).isArray())
         return fail(tr("must be an object with a list \"devices\""));
-    for (const QString &key : root.keys()) {
+    const QStringList keys = root.keys();
+    for (const QString &key : keys) {
         if (key != listKey)
             m_inventory.warnings.append(tr("%1: unknown key \"%2\" is not used").arg(m_path, key));
     }

@@ -56,5 +56,6 @@ void OrdaTest::cleanup()
     qInstallMessageHandler(previousHandler);
     const QMutexLocker lock(&mutex);
     QVERIFY2(warnings().unexpected.isEmpty(), qPrintable(warnings().unexpected.join(QLatin1Char('\n'))));
-    QVERIFY2(warnings().expected.isEmpty(), qPrintable(QStringLiteral("missing: ") + warnings().expected.join(QLatin1Char('\n'))));
+    QVERIFY2(warnings().expected.isEmpty(),
+             qPrintable(QStringLiteral("missing: ") + warnings().expected.join(QLatin1Char('\n'))));
 }

@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <QTest>
 
-/// Base of every test class: a warning of ours (category "orda.*") that the test has not announced fails the test function.
-/// A class with an init() or cleanup() of its own calls these.
+/// Base of every test class: a warning of ours (category "orda.*") that the test has not announced fails the test
+/// function. A class with an init() or cleanup() of its own calls these.
 class OrdaTest : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,8 @@
 #include <QSslError>
 #include <QWebSocket>
 
-/// A client of one device that is nothing but a socket and the sign-on, so that a device is tested without the SDK's transport.
+/// A client of one device that is nothing but a socket and the sign-on, so that a device is tested without the SDK's
+/// transport.
 class RawClient : public QObject
 {
     Q_OBJECT
@@ -22,7 +23,8 @@ public:
         connect(&socket, &QWebSocket::textMessageReceived, this, &RawClient::handleText);
         connect(&socket, &QWebSocket::disconnected, this, [this] { isClosed = true; });
         connect(&socket, &QWebSocket::sslErrors, this, [this](const QList<QSslError> &errors) {
-            const auto sha256 = QSslConfiguration(socket.sslConfiguration()).peerCertificate().digest(QCryptographicHash::Sha256);
+            const auto sha256 =
+                QSslConfiguration(socket.sslConfiguration()).peerCertificate().digest(QCryptographicHash::Sha256);
             if (QString::fromLatin1(sha256.toHex()) == device.fingerprint)
                 socket.ignoreSslErrors(errors);
         });
@@ -51,10 +53,11 @@ private:
             frames.append(*vms_sdk::parseFrame(text));
         } else if (hello.value(QLatin1String("serial")).toString() == device.serialNumber) {
             m_deviceNonce = hello.value(QLatin1String("nonce")).toString().toLatin1();
-            const QJsonObject auth {{QStringLiteral("user"), device.userName},
-                                    {QStringLiteral("nonce"), QString::fromLatin1(nonce)},
-                                    {QStringLiteral("proof"), proof(vms_sdk::SignOnSide::Client)}};
-            socket.sendTextMessage(QString::fromUtf8(QJsonDocument(QJsonObject {{QStringLiteral("auth"), auth}}).toJson()));
+            const QJsonObject auth{{QStringLiteral("user"), device.userName},
+                                   {QStringLiteral("nonce"), QString::fromLatin1(nonce)},
+                                   {QStringLiteral("proof"), proof(vms_sdk::SignOnSide::Client)}};
+            socket.sendTextMessage(
+                QString::fromUtf8(QJsonDocument(QJsonObject{{QStringLiteral("auth"), auth}}).toJson()));
         } else if (welcome.value(QLatin1String("proof")).toString() == proof(vms_sdk::SignOnSide::Device)) {
             state = welcome.value(QLatin1String("state")).toInt();
         }

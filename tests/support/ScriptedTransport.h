@@ -24,7 +24,10 @@ public:
     /// The texts with which a request is answered, in their order; none: the device is silent.
     using Script = std::function<QStringList(const Request &)>;
 
-    explicit ScriptedTransport(Script answers) : script(std::move(answers)) { }
+    explicit ScriptedTransport(Script answers)
+        : script(std::move(answers))
+    {
+    }
 
     void send(const QString &requestId, const QString &devId, const QString &text) override
     {
@@ -51,9 +54,9 @@ public:
 /// An answer as devices give it.
 inline QString answer(const QString &method, const QJsonObject &result = {}, int errorCode = 0)
 {
-    const QJsonObject error {{QStringLiteral("errorcode"), errorCode}};
-    return QString::fromUtf8(QJsonDocument(QJsonObject {{QStringLiteral("method"), method},
-                                                        {QStringLiteral("error"), error},
-                                                        {QStringLiteral("result"), result}})
+    const QJsonObject error{{QStringLiteral("errorcode"), errorCode}};
+    return QString::fromUtf8(QJsonDocument(QJsonObject{{QStringLiteral("method"), method},
+                                                       {QStringLiteral("error"), error},
+                                                       {QStringLiteral("result"), result}})
                                  .toJson(QJsonDocument::Compact));
 }

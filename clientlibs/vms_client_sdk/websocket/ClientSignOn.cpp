@@ -22,8 +22,11 @@ QString quoted(const QString &text)
 
 std::optional<DevStatus> onlineStateFrom(const QJsonValue &reported)
 {
-    const auto status = DevStatus(reported.toInt(DevOffline));
-    return isOnlineStatus(status) ? std::optional(status) : std::nullopt;
+    for (const DevStatus state : {DevOnline, DevDefaultPassword, DevLocked}) {
+        if (reported.toInt(DevOffline) == state)
+            return state;
+    }
+    return std::nullopt;
 }
 
 ClientSignOn::ClientSignOn(DevInfo device)

@@ -142,7 +142,7 @@ void DeviceLink::onError(QAbstractSocket::SocketError error)
 
 void DeviceLink::onDisconnected()
 {
-    if (m_socket->closeCode() == signOnRefusedCode)
+    if (int(m_socket->closeCode()) == signOnRefusedCode)
         refused(QStringLiteral("it does not accept the user name or the password"));
     else
         lost(QStringLiteral("connection closed"));

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTranslator>
+
+#include <memory>
+#include <vector>
+
+/// The languages of the window. Each but English, in which the texts are written, is a set of compiled translations in
+/// the resource ":/translations", named <part>_<language>.qm.
+class Translations
+{
+public:
+    /// Codes of the languages to choose from.
+    static QStringList languages();
+
+    /// @param language a code; empty: the system's, or English where there is none for it
+    /// @return false when there is no such language
+    bool install(const QString &language);
+
+private:
+    std::vector<std::unique_ptr<QTranslator>> m_translators;
+};
