@@ -1,9 +1,10 @@
 #pragma once
 
-#include <FaultPlan.h>
-#include <FleetOptions.h>
+#include "FaultPlan.h"
+#include "FleetOptions.h"
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QHash>
 #include <QJsonObject>
@@ -12,16 +13,18 @@
 #include <memory>
 #include <vector>
 
+QT_BEGIN_NAMESPACE
 class QWebSocket;
+QT_END_NAMESPACE
 
 namespace device_fleet {
 
 class DeviceConnection;
-class FleetServer;
-class SimulatedDevice;
+class DeviceListener;
+enum class Admission;
 
-/// Simulated devices behind one server socket, told apart by the path of their address (docs/device-protocol.md). Everything
-/// runs on the thread that it lives on.
+/// Simulated devices behind one server socket, told apart by the path that is dialled. Speaks the device protocol
+/// (docs/device-protocol.md). All of it lives on the thread on which it was made; EmbeddedFleet brings a thread along.
 class DeviceFleet : public QObject
 {
     Q_OBJECT
@@ -30,44 +33,43 @@ public:
     explicit DeviceFleet(const FleetOptions &options, const FaultPlan &faults = {}, QObject *parent = nullptr);
     ~DeviceFleet() override;
 
-    /// Opens the server socket. @return an error for the user, empty on success
-    QString listen();
-
-    /// What a client needs to reach the devices, their passwords included; complete after listen().
+    /// Opens the server socket. @return a text for the user, empty when the devices can be dialled
+    QString start();
+    /// Where the devices are: address or network, and port. Only after start().
+    QString address() const;
+    /// The devices as a client needs to know them, passwords included. Only after start().
     QList<vms_sdk::DevInfo> inventory() const;
 
-    /// {"devices": {"<id>": {"<object>": {…}}}}: every parameter of every device. No passwords.
+    /// What every device has stored: {"devices": {"<id>": {"<object>": {…}}}}. Holds no passwords.
     QJsonObject dump() const;
+    int connectedDevices() const; ///< signed on
 
-    /// A device that goes off line loses its connection and refuses new ones. An unknown id does nothing.
-    void setOnline(const QString &devId, bool online);
+    /// @param deviceId, method a name or FaultPlan::any()
+    void setFault(const QString &deviceId, const QString &method, const FaultSpec &fault);
+    void clearFaults();
 
-    /// @param devId, method "*" for any
-    void setFault(const QString &devId, const QString &method, const FaultRule &rule);
-
-    /// Devices with a client signed on.
-    int connectedDevices() const;
+    /// Off line: the connection is cut and no new one comes about. An unknown id does nothing.
+    void setOnline(const QString &deviceId, bool online);
 
 signals:
-    /// A request has reached a device; raised before it is carried out and for faulty devices as well.
-    void signalRequestReceived(const QString &devId, const QString &method, const QString &text);
+    /// Every request, before the device deals with it. @param method empty when the request has none
+    void requestReceived(const QString &deviceId, const QString &method, const QString &text);
 
 private:
-    struct Slot;
+    struct Device;
 
-    Slot *slotOf(const QString &devId) const;
-    void takeSocket(QWebSocket *socket);
-    void signedOn(Slot &slot, DeviceConnection *connection);
-    void takeRequest(Slot &slot, const QString &requestId, const QString &text);
-    void misbehave(Slot &slot, const FaultRule &rule, const QString &requestId, const QJsonObject &request);
-    void dropAndReturn(Slot &slot, int afterMs);
-    void answerLater(Slot &slot, const QString &requestId, const QString &text, int delayMs);
+    Admission admission(const QString &path) const;
+    void greet(QWebSocket *socket);
+    void takeOver(Device &device, DeviceConnection *connection);
+    void handleRequest(Device &device, const vms_sdk::DeviceFrame &request);
+    Device *find(const QString &deviceId) const;
+    vms_sdk::DevInfo inventoryRecord(const Device &device) const;
 
     FleetOptions m_options;
     FaultPlan m_faults;
-    std::unique_ptr<FleetServer> m_server;
-    std::vector<std::unique_ptr<Slot>> m_slots; // in the order of the inventory
-    QHash<QString, Slot *> m_slotsById;
+    DeviceListener *m_listener;
+    std::vector<std::unique_ptr<Device>> m_devices;
+    QHash<QString, Device *> m_deviceById;
 };
 
 } // namespace device_fleet

@@ -1,43 +1,55 @@
 #pragma once
 
-#include <FaultPlan.h>
-#include <FleetOptions.h>
+#include "FaultPlan.h"
+#include "FleetOptions.h"
 
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QJsonObject>
-#include <QList>
+#include <QObject>
 #include <QThread>
+
+#include <functional>
 
 namespace device_fleet {
 
 class DeviceFleet;
 
-/// A fleet on a thread of its own, for programs that bring their devices along. All functions may be called from any one
-/// thread at a time and return when the fleet has done what they ask for; none may be called from the fleet's own thread.
-class EmbeddedFleet
+/// A fleet inside the caller's process, on a thread of its own. The functions may be called from any thread but the
+/// fleet's own, start() and stop() from one at a time; they block until the fleet has done it.
+class EmbeddedFleet : public QObject
 {
-public:
-    explicit EmbeddedFleet(const FleetOptions &options, const FaultPlan &faults = {});
-    ~EmbeddedFleet();
-    Q_DISABLE_COPY_MOVE(EmbeddedFleet)
+    Q_OBJECT
 
-    /// Makes the devices and opens their server socket. @return an error for the user, empty on success
+public:
+    explicit EmbeddedFleet(const FleetOptions &options, const FaultPlan &faults = {}, QObject *parent = nullptr);
+    ~EmbeddedFleet() override; ///< stops the fleet
+
+    /// @return a text for the user, empty when the devices can be dialled. Refused when this process may not have as
+    /// many open files as client and fleet need together.
     QString start();
-    /// Closes all connections and ends the thread. A stopped fleet can be started again, with its first parameters.
+    /// Cuts all connections. The devices and what was written to them are gone.
     void stop();
 
-    // As DeviceFleet. Without a started fleet they do nothing and give nothing.
+    // Only between start() and stop(); as in DeviceFleet.
     QList<vms_sdk::DevInfo> inventory() const;
     QJsonObject dump() const;
-    void setOnline(const QString &devId, bool online);
-    void setFault(const QString &devId, const QString &method, const FaultRule &rule);
+    int connectedDevices() const;
+    void setFault(const QString &deviceId, const QString &method, const FaultSpec &fault);
+    void clearFaults();
+    void setOnline(const QString &deviceId, bool online);
+
+signals:
+    /// As in DeviceFleet; raised on the fleet's thread.
+    void requestReceived(const QString &deviceId, const QString &method, const QString &text);
 
 private:
+    void onFleetThread(const std::function<void()> &function) const;
+
     FleetOptions m_options;
-    FaultPlan m_faults;
+    FaultPlan m_faults; // as given at construction
     QThread m_thread;
-    DeviceFleet *m_fleet = nullptr; // lives in m_thread; deleted there
+    DeviceFleet *m_fleet = nullptr; // lives on m_thread, made by start() and deleted by stop()
 };
 
 } // namespace device_fleet

@@ -1,64 +1,81 @@
 #pragma once
 
 #include <QHash>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 
-#include <utility>
+#include <chrono>
+#include <optional>
 
 namespace device_fleet {
 
-/// What a device does wrong when it is asked for a method. Where nothing else is said the request is carried out and only its
-/// answer goes wrong. In brackets: the name in a fault file.
-enum class Fault {
-    ErrorCode, ///< [error-code] refuses with FaultRule::errorCode; the request is not carried out
-    Garbage, ///< [garbage] answers a text that is not JSON
-    NoAnswer, ///< [no-answer] the request is lost: not carried out, not answered
-    LateAnswer, ///< [late-answer] answers after FaultRule::delayMs
-    AnswerTwice, ///< [answer-twice] sends its answer two times
-    ForeignId, ///< [foreign-id] answers under a request id that nobody used
-    ForeignMethod, ///< [foreign-method] the answer names a method that nobody called
-    NoResult, ///< [no-result] a read's answer lacks its "result"
-    HugeAnswer, ///< [huge-answer] the answer is larger than a frame may be
-    DropConnection, ///< [drop-connection] hangs up; not carried out; takes a new connection at once
-    DropAndReturnNew, ///< [drop-and-return-new] hangs up, refuses connections for FaultRule::delayMs, has the new settings
-    DropAndReturnOld, ///< [drop-and-return-old] likewise, but comes back with the old settings
-    DropAndReturnMissing ///< [drop-and-return-missing] likewise, but what the request wrote is missing from its settings
+/// What a device does wrong with a request.
+enum class Fault
+{
+    ErrorCode, ///< changes nothing, answers with an error code
+    Garbage, ///< the answer is not JSON
+    NoAnswer, ///< changes nothing, says nothing
+    LateAnswer, ///< answers after a delay
+    AnswerTwice, ///< the same answer two times
+    ForeignId, ///< the answer comes under a request id that nobody sent
+    ForeignMethod, ///< the answer names another method
+    NoResult, ///< the answer has no "result"
+    HugeAnswer, ///< the answer is larger than a frame may be
+    DropConnection, ///< changes nothing, cuts the connection; the device can be dialled again at once
+    DropAndReturn, ///< cuts the connection and cannot be dialled for a while
 };
 
-struct FaultRule
+/// The settings with which a device comes back from DropAndReturn after a write. After a read they are the old ones.
+enum class ReturnWith
+{
+    NewSettings, ///< the write took effect
+    OldSettings, ///< it did not
+    MissingMember, ///< it did, but the first member that it named is gone
+};
+
+struct FaultSpec
 {
     Fault fault = Fault::ErrorCode;
-    int delayMs = 1000; ///< 0 to 600,000
-    int errorCode = -5; ///< not 0
+    int errorCode = -5; ///< for ErrorCode; never 0
+    std::chrono::milliseconds delay{1000}; ///< how late (LateAnswer), how long gone (DropAndReturn)
+    ReturnWith returnWith = ReturnWith::NewSettings; ///< for DropAndReturn
 };
 
-/// Which device misbehaves how at which method. Read from a JSON file or set in the process:
+/// Which device does what wrong, and with which method. As a file:
 ///
-///     {"faults": [{"devices": ["dev-0001"], "methods": ["ai_set_param", "*"], "fault": "late-answer", "delayMs": 500},
-///                 {"devices": ["*"], "methods": ["ifconfig_qbcloud_set_param"], "fault": "error-code", "errorcode": -5}]}
+///     {"faults": [{"devices": ["dev-0001", "dev-0007"], "methods": ["ai_set_param"], "fault": "late-answer",
+///     "delayMs": 500},
+///                 {"devices": ["dev-0002"], "fault": "error-code", "errorcode": -5},
+///                 {"devices": ["dev-0003"], "methods": ["ifconfig_qbcloud_set_param"],
+///                  "fault": "drop-and-return", "delayMs": 800, "returnWith": "old-settings"}]}
 ///
-/// "*" stands for any device or any method. A rule for one device goes before one for all of them, and among these a rule for
-/// one method before one for all; of two rules for the same the later holds. "delayMs" and "errorcode" may be left out.
+/// "devices" and "methods" are lists of names; "*", or no list at all, means every one. Names of faults: error-code,
+/// garbage, no-answer, late-answer, answer-twice, foreign-id, foreign-method, no-result, huge-answer, drop-connection,
+/// drop-and-return; of "returnWith": new-settings (when not given), old-settings, missing-member. "delayMs" is in
+/// milliseconds (1000 when not given), "errorcode" any whole number but 0 (-5 when not given). Where several entries
+/// fit a request, a named device goes before "*", then a named method before "*", then the later entry.
 class FaultPlan
 {
 public:
-    /// All or nothing: a file with an error gives an empty plan.
-    /// @param error for the user: file, entry, field and what would be right; empty on success
-    /// @param warnings unknown keys and methods, for the user; they stop nothing
-    static FaultPlan read(const QString &file, QString *error, QStringList *warnings);
+    /// @param error set to a text for the user: file, entry, field and what would be right; empty on success
+    /// @param warnings get what was read over: unknown keys
+    /// @return the plan, without any fault on an error
+    static FaultPlan read(const QString &path, QString *error, QStringList *warnings);
 
-    /// All names of faults as fault files use them.
-    static QStringList faultNames();
+    /// Stands for every device or every method.
+    static QString any() { return QStringLiteral("*"); }
 
-    /// @param devId, method "*" for any
-    void set(const QString &devId, const QString &method, const FaultRule &rule);
+    /// @param deviceId, method a name or any()
+    void set(const QString &deviceId, const QString &method, const FaultSpec &fault);
+    void clear() { m_faults.clear(); }
 
-    /// The rule that holds for a request, null for none; valid until the plan changes.
-    const FaultRule *find(const QString &devId, const QString &method) const;
+    std::optional<FaultSpec> find(const QString &deviceId, const QString &method) const;
+    /// The devices named, without any().
+    QStringList deviceIds() const;
 
 private:
-    QHash<std::pair<QString, QString>, FaultRule> m_rules; // device and method, each possibly "*"
+    QHash<QPair<QString, QString>, FaultSpec> m_faults; // by device and method
 };
 
 } // namespace device_fleet

@@ -1,21 +1,26 @@
 #pragma once
 
+#include <QHostAddress>
 #include <QString>
+
+#include <chrono>
 
 namespace device_fleet {
 
-/// What a fleet is made of. The same options give the same devices, always.
+/// What a fleet is made from. The same devices and seed give the same fleet, on any machine; device number i does not
+/// depend on how many devices follow it.
 struct FleetOptions
 {
-    int devices = 0; ///< 1 to maxDevices
+    int devices = 0;
     quint32 seed = 1;
     quint16 port = 0; ///< 0: the system picks a free one
-    int latencyMs = 0; ///< added to every answer
-    QString listenAddress; ///< IPv4; empty: loopback only, and each device has an address of its own in 127.0.0.0/8
-    QString tlsCertificate, tlsKey; ///< PEM files, both or none; given: wss:// only
+    std::chrono::milliseconds latency{0}; ///< before every answer
+    /// Null: every device has an address of its own in 127.0.0.0/8, and connections from other machines are refused. An
+    /// address: all devices are at it, and whoever reaches it may connect. 0.0.0.0: own addresses and whoever reaches
+    /// this machine.
+    QHostAddress listenAddress;
+    QString certificateFile; ///< PEM, the device's own certificate first; with keyFile: TLS
+    QString keyFile; ///< PEM, RSA or EC, without a passphrase
 };
-
-/// More would need more than one port's worth of addresses to look like a site.
-inline constexpr int maxDevices = 100'000;
 
 } // namespace device_fleet

@@ -51,19 +51,26 @@ FleetOptions site(int devices)
     return options;
 }
 
-/// What comes back over a plain connection until the other side ends it.
+/// The first that comes back over a plain connection; empty when the other side ends it without a word.
 QByteArray answerTo(const QHostAddress &address, quint16 port, const QByteArray &text)
 {
     QTcpSocket socket;
     socket.connectToHost(address, port);
     socket.write(text);
-    while (socket.waitForReadyRead(3000)) { }
-    return socket.state() == QAbstractSocket::UnconnectedState ? socket.readAll() : QByteArray("still open");
+    const bool isAnswered = socket.waitForReadyRead(3000);
+    return isAnswered || socket.state() == QAbstractSocket::UnconnectedState ? socket.readAll() : QByteArray("silence");
+}
+
+QByteArray upgradeRequest(const QString &path)
+{
+    return "GET " + path.toUtf8()
+         + " HTTP/1.1\r\nHost: fleet\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n"
+           "Sec-WebSocket-Key: MDEyMzQ1Njc4OWFiY2RlZg==\r\nSec-WebSocket-Version: 13\r\n\r\n";
 }
 
 QByteArray answerTo(const vms_sdk::DevInfo &device)
 {
-    return answerTo(QHostAddress(device.ip), device.port, "GET " + device.path.toUtf8() + " HTTP/1.1\r\n\r\n");
+    return answerTo(QHostAddress(device.ip), device.port, upgradeRequest(device.path));
 }
 
 QString programFile()
@@ -379,7 +386,7 @@ private slots:
             QCOMPARE(answerTo(device), QByteArray());
 
         fleet.clearFaults();
-        QTRY_VERIFY(answerTo(device).startsWith("HTTP/1.1 400"));
+        QTRY_VERIFY(answerTo(device).startsWith("HTTP/1.1 101 "));
         RawClient again(device);
         QTRY_VERIFY(again.state != 0);
         again.request(L1("id"), request("ifconfig_qbcloud_get_param"));
@@ -434,11 +441,11 @@ private slots:
         });
         if (outside == addresses.end())
             QSKIP("this machine has no address but its own loopback");
-        QVERIFY(answerTo(*outside, device.port, "GET /dev-0001 HTTP/1.1\r\n\r\n").isEmpty());
+        QVERIFY(answerTo(*outside, device.port, upgradeRequest(L1("/dev-0001"))).isEmpty());
         options.listenAddress = *outside;
         fleet = std::make_unique<EmbeddedFleet>(options);
         QCOMPARE(fleet->start(), QString());
-        QVERIFY(answerTo(fleet->inventory().at(0)).startsWith("HTTP/1.1 400"));
+        QVERIFY(answerTo(fleet->inventory().at(0)).startsWith("HTTP/1.1 101 "));
     }
 
     void tooManyDevicesForOneProcess()
