@@ -63,26 +63,23 @@ ClientOptions parseOptions(const QStringList &arguments)
         std::fputs(qPrintable(parser.helpText()), stdout);
         std::exit(ExitOk);
     }
-    if (parser.isSet(version)) {
+    if (parser.isSet(version))
         parser.showVersion();
-    }
 
     options.inventoryFile = parser.value(inventory);
     options.faultsFile = parser.value(faults);
     options.language = parser.value(language);
     options.family = parser.value(run);
     options.screenshotsDir = parser.value(screenshots);
-    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all")) {
+    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all"))
         options.deviceIds = parser.value(devices).split(QLatin1Char(','), Qt::SkipEmptyParts);
-    }
 
     const auto fail = [&options](const QString &why) {
         options.error = why;
         return options;
     };
-    if (!parser.positionalArguments().isEmpty()) {
+    if (!parser.positionalArguments().isEmpty())
         return fail(tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
-    }
     if (parser.isSet(demo)) {
         bool isNumber = false;
         options.demoDevices = parser.value(demo).toInt(&isNumber);
@@ -91,26 +88,19 @@ ClientOptions parseOptions(const QStringList &arguments)
                             .arg(QString::number(maxDemoDevices), parser.value(demo)));
         }
     }
-    if (parser.isSet(demo) && parser.isSet(inventory)) {
+    if (parser.isSet(demo) && parser.isSet(inventory))
         return fail(tr("--demo and --inventory exclude each other"));
-    }
-    if (parser.isSet(faults) && !parser.isSet(demo)) {
+    if (parser.isSet(faults) && !parser.isSet(demo))
         return fail(tr("--faults needs --demo: only simulated devices have faults to order"));
-    }
-    if (parser.isSet(run) && !findFamily(options.family)) {
+    if (parser.isSet(run) && !findFamily(options.family))
         return fail(tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family));
-    }
-    if (parser.isSet(run) && !parser.isSet(demo) && !parser.isSet(inventory)) {
+    if (parser.isSet(run) && !parser.isSet(demo) && !parser.isSet(inventory))
         return fail(tr("--run needs devices: --demo N or --inventory FILE"));
-    }
-    if (!parser.isSet(run) && (parser.isSet(devices) || parser.isSet(screenshots))) {
+    if (!parser.isSet(run) && (parser.isSet(devices) || parser.isSet(screenshots)))
         return fail(tr("--devices and --screenshots need --run"));
-    }
-    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all") && options.deviceIds.isEmpty()) {
+    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all") && options.deviceIds.isEmpty())
         return fail(tr("--devices takes \"all\" or device ids with commas between them"));
-    }
-    if (parser.isSet(screenshots) && !QDir().mkpath(options.screenshotsDir)) {
+    if (parser.isSet(screenshots) && !QDir().mkpath(options.screenshotsDir))
         return fail(tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir));
-    }
     return options;
 }

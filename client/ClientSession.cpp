@@ -32,32 +32,27 @@ QString ClientSession::startDemo(int devices, const QString &faultsFile)
         QString error;
         QStringList warnings;
         faults = device_fleet::FaultPlan::read(faultsFile, &error, &warnings);
-        if (!error.isEmpty()) {
+        if (!error.isEmpty())
             return error;
-        }
-        for (const QString &warning : qAsConst(warnings)) {
+        for (const QString &warning : qAsConst(warnings))
             emit signalWarning(warning);
-        }
     }
     device_fleet::FleetOptions options;
     options.devices = devices;
     m_fleet = std::make_unique<device_fleet::EmbeddedFleet>(options, faults);
     QString error = m_fleet->start();
-    if (error.isEmpty()) {
+    if (error.isEmpty())
         replaceDevices(m_fleet->inventory());
-    }
     return error;
 }
 
 QString ClientSession::openInventory(const QString &file)
 {
     const vms_sdk::Inventory inventory = vms_sdk::readInventory(file);
-    for (const QString &warning : inventory.warnings) {
+    for (const QString &warning : inventory.warnings)
         emit signalWarning(warning);
-    }
-    if (inventory.error.isEmpty()) {
+    if (inventory.error.isEmpty())
         replaceDevices(inventory.devices);
-    }
     return inventory.error;
 }
 
@@ -65,19 +60,15 @@ void ClientSession::replaceDevices(const QList<vms_sdk::DevInfo> &devices)
 {
     auto &store = orda_data::DevsMgrData::instance();
     QSet<QString> kept;
-    for (const vms_sdk::DevInfo &dev : devices) {
+    for (const vms_sdk::DevInfo &dev : devices)
         kept.insert(dev.id);
-    }
     QStringList gone;
     const QList<vms_sdk::DevInfo> known = store.getAllDevs(false);
-    for (const vms_sdk::DevInfo &dev : known) {
-        if (!kept.contains(dev.id)) {
+    for (const vms_sdk::DevInfo &dev : known)
+        if (!kept.contains(dev.id))
             gone.append(dev.id);
-        }
-    }
-    if (!gone.isEmpty()) {
+    if (!gone.isEmpty())
         store.deleteDevs(gone);
-    }
     store.updateDevs(devices);
 }
 

@@ -100,9 +100,8 @@ void ClientWindow::buildStatusBar()
     countSoon->setInterval(100ms);
     connect(countSoon, &QTimer::timeout, this, &ClientWindow::updateOnlineCount);
     const auto scheduleCount = [countSoon] {
-        if (!countSoon->isActive()) {
+        if (!countSoon->isActive())
             countSoon->start();
-        }
     };
     const auto &changes = orda_data::DataSignals::instance();
     connect(&changes, &orda_data::DataSignals::signalUpdateDevs, countSoon, scheduleCount);
@@ -122,13 +121,11 @@ void ClientWindow::openInventory()
 {
     const QString file =
         QFileDialog::getOpenFileName(this, tr("Open inventory"), {}, tr("Inventories (*.json);;All files (*)"));
-    if (file.isEmpty()) {
+    if (file.isEmpty())
         return;
-    }
     const QString error = m_session->openInventory(file);
-    if (!error.isEmpty()) {
+    if (!error.isEmpty())
         orda_worker::SystemAssistant::instance().messageAlert(tr("Open inventory"), error);
-    }
 }
 
 void ClientWindow::updateOnlineCount()

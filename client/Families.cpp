@@ -37,8 +37,7 @@ const Family *findFamily(const QString &name)
 QStringList familyNames()
 {
     QStringList names;
-    for (const Family &candidate : families()) {
+    for (const Family &candidate : families())
         names.append(candidate.name);
-    }
     return names;
 }

@@ -63,11 +63,9 @@ void RunDriver::start()
 {
     const auto &store = orda_data::DevsMgrData::instance();
     const QList<vms_sdk::DevInfo> devices = store.getAllDevs(false);
-    for (const vms_sdk::DevInfo &dev : devices) {
-        if (m_options.deviceIds.isEmpty() || m_options.deviceIds.contains(dev.id)) {
+    for (const vms_sdk::DevInfo &dev : devices)
+        if (m_options.deviceIds.isEmpty() || m_options.deviceIds.contains(dev.id))
             m_unsettled.insert(dev.id);
-        }
-    }
     for (const QString &id : qAsConst(m_options.deviceIds)) {
         if (!m_unsettled.contains(id)) {
             printError(tr("--devices: there is no device \"%1\"").arg(id));
@@ -90,9 +88,8 @@ void RunDriver::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)
 
 void RunDriver::whenSettled()
 {
-    if (std::exchange(m_started, true)) {
+    if (std::exchange(m_started, true))
         return;
-    }
     const auto &store = orda_data::DevsMgrData::instance();
     out() << tr("%1 of %2 devices on line").arg(store.getAllDevs(true).size()).arg(store.getAllDevs(false).size())
           << Qt::endl;
@@ -101,17 +98,15 @@ void RunDriver::whenSettled()
     const int ticked = tickDevices();
     out() << tr("%1 devices ticked").arg(ticked) << Qt::endl;
     const int missing = m_options.deviceIds.size() - ticked;
-    if (missing > 0) {
+    if (missing > 0)
         printError(tr("%1 of the given devices are off line or may not be configured").arg(missing));
-    }
     QTimer::singleShot(0ms, this, &RunDriver::configure);
 }
 
 void RunDriver::picturePages()
 {
-    if (m_options.screenshotsDir.isEmpty()) {
+    if (m_options.screenshotsDir.isEmpty())
         return;
-    }
     for (const Family &family : families()) {
         openPage(family);
         picture(m_window, QStringLiteral("page-") + family.name);
@@ -128,16 +123,14 @@ int RunDriver::tickDevices()
     auto *table = m_window->findChild<QTableWidget *>(QStringLiteral("devsTableWt"));
     if (m_options.deviceIds.isEmpty()) {
         auto *all = m_window->findChild<QCheckBox *>(QStringLiteral("selAll"));
-        if (all->isEnabled() && !all->isChecked()) {
+        if (all->isEnabled() && !all->isChecked())
             all->click();
-        }
     }
     int ticked = 0;
     for (int row = 0; row < table->rowCount(); ++row) {
         QTableWidgetItem *item = table->item(row, 0);
-        if (m_options.deviceIds.contains(item->data(devIdRole).toString())) {
+        if (m_options.deviceIds.contains(item->data(devIdRole).toString()))
             item->setCheckState(Qt::Checked);
-        }
         ticked += item->checkState() == Qt::Checked ? 1 : 0;
     }
     return ticked;
@@ -161,12 +154,10 @@ void RunDriver::configure()
 void RunDriver::followProgress()
 {
     const auto *overlay = m_window->findChild<orda_base::DisabledWaitingWt *>();
-    if (!overlay || overlay->description() == m_lastProgress) {
+    if (!overlay || overlay->description() == m_lastProgress)
         return;
-    }
-    if (m_lastProgress.isEmpty()) {
+    if (m_lastProgress.isEmpty())
         picture(m_window, QStringLiteral("run"));
-    }
     m_lastProgress = overlay->description();
     out() << m_lastProgress << Qt::endl;
 }
@@ -180,9 +171,8 @@ void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
     // Total, success, failure, in every language.
     QList<int> counts;
     auto numbers = QRegularExpression(QStringLiteral("\\d+")).globalMatch(info.text);
-    while (numbers.hasNext()) {
+    while (numbers.hasNext())
         counts.append(numbers.next().captured().toInt());
-    }
     m_hasSummary = true;
     m_isAllDone = counts.value(0) == counts.value(1) && counts.value(0) >= m_options.deviceIds.size();
 }
@@ -203,22 +193,19 @@ void RunDriver::printRecord() const
 {
     QFile file(QDir::temp().filePath(m_family->recordFile));
     out() << "record: " << file.fileName() << Qt::endl;
-    if (file.open(QIODevice::ReadOnly)) {
+    if (file.open(QIODevice::ReadOnly))
         out() << QString::fromLocal8Bit(file.readAll()) << Qt::flush;
-    } else {
+    else
         printError(tr("cannot read the record file %1: %2").arg(file.fileName(), file.errorString()));
-    }
 }
 
 void RunDriver::picture(QWidget *widget, const QString &name) const
 {
-    if (m_options.screenshotsDir.isEmpty()) {
+    if (m_options.screenshotsDir.isEmpty())
         return;
-    }
     const QString path = QDir(m_options.screenshotsDir).filePath(name + QStringLiteral(".png"));
-    if (!widget->grab().save(path)) {
+    if (!widget->grab().save(path))
         printError(tr("cannot write the picture %1").arg(path));
-    }
 }
 
 void RunDriver::end(ExitCode code)

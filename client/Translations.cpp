@@ -19,9 +19,8 @@ QStringList Translations::languages()
     const QStringList files = filesOf(QStringLiteral("*"));
     for (const QString &file : files) {
         const QString code = file.section(QLatin1Char('_'), 1).chopped(int(qstrlen(".qm")));
-        if (!codes.contains(code)) {
+        if (!codes.contains(code))
             codes.append(code);
-        }
     }
     return codes;
 }

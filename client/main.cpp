@@ -26,6 +26,16 @@ int fail(const QString &error, ExitCode code)
     return code;
 }
 
+/// Without any display the window is drawn in memory only, which is enough for --run, --help and mistakes.
+/// @return whether that is so
+bool chooseScreen()
+{
+    for (const char *variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return false;
+    return qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -34,14 +44,18 @@ int main(int argc, char *argv[])
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const bool isBlind = chooseScreen();
     QApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orda_client"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORDA_VERSION));
     vms_sdk::raiseOpenFileLimit();
 
     const ClientOptions options = parseOptions(QCoreApplication::arguments());
-    if (!options.error.isEmpty()) {
+    if (!options.error.isEmpty())
         return fail(options.error + QStringLiteral(" (see orda_client --help)"), ExitUsage);
+    if (isBlind && options.family.isEmpty()) {
+        return fail(QCoreApplication::translate("main", "there is no display to show the window on; --run needs none"),
+                    ExitUsage);
     }
     Translations translations;
     if (!translations.install(options.language)) {
@@ -57,18 +71,15 @@ int main(int argc, char *argv[])
     window.show();
 
     QString error;
-    if (options.demoDevices > 0) {
+    if (options.demoDevices > 0)
         error = session.startDemo(options.demoDevices, options.faultsFile);
-    } else if (!options.inventoryFile.isEmpty()) {
+    else if (!options.inventoryFile.isEmpty())
         error = session.openInventory(options.inventoryFile);
-    }
-    if (!error.isEmpty()) {
+    if (!error.isEmpty())
         return fail(error, ExitInput);
-    }
 
     RunDriver driver(options, &window);
-    if (!options.family.isEmpty()) {
+    if (!options.family.isEmpty())
         QTimer::singleShot(std::chrono::milliseconds(0), &driver, &RunDriver::start);
-    }
     return QApplication::exec();
 }

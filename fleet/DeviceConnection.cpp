@@ -52,13 +52,12 @@ void DeviceConnection::cut()
 
 void DeviceConnection::handleText(const QString &text)
 {
-    if (!m_isSignedOn) {
+    if (!m_isSignedOn)
         signOn(QJsonDocument::fromJson(text.toUtf8()).object().value(QLatin1String("auth")).toObject());
-    } else if (const auto frame = vms_sdk::parseFrame(text)) {
+    else if (const auto frame = vms_sdk::parseFrame(text))
         emit requestReceived(*frame);
-    } else {
+    else
         qCWarning(fleetLog) << m_device.id << "got a frame without an id line";
-    }
 }
 
 void DeviceConnection::signOn(const QJsonObject &auth)

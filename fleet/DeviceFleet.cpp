@@ -56,10 +56,9 @@ DeviceFleet::DeviceFleet(const FleetOptions &options, const FaultPlan &faults, Q
         m_deviceById.insert(m_devices.back()->info.id, m_devices.back().get());
     }
     const QStringList faultyIds = faults.deviceIds();
-    for (const QString &id : faultyIds) {
+    for (const QString &id : faultyIds)
         if (!find(id))
             qCWarning(fleetLog).noquote() << tr("no device is called \"%1\": its faults have no effect").arg(id);
-    }
 }
 
 DeviceFleet::~DeviceFleet() = default;
@@ -157,15 +156,15 @@ Admission DeviceFleet::admission(const QString &path) const
 
 void DeviceFleet::greet(QWebSocket *socket)
 {
-    Device &device = *find(socket->requestUrl().path().mid(1));
-    auto *connection = new DeviceConnection(socket, device.info, device.state, this);
+    Device *device = find(socket->requestUrl().path().mid(1));
+    auto *connection = new DeviceConnection(socket, device->info, device->state, this);
     connect(connection, &DeviceConnection::closed, connection, &QObject::deleteLater);
     connect(connection, &DeviceConnection::signedOn, this,
-            [this, connection, &device] { takeOver(device, connection); });
+            [this, connection, device] { takeOver(*device, connection); });
     connect(connection, &DeviceConnection::requestReceived, this,
-            [this, connection, &device](const vms_sdk::DeviceFrame &request) {
-                if (connection == device.connection) // not one that a newer connection has replaced
-                    handleRequest(device, request);
+            [this, connection, device](const vms_sdk::DeviceFrame &request) {
+                if (connection == device->connection) // not one that a newer connection has replaced
+                    handleRequest(*device, request);
             });
 }
 

@@ -34,10 +34,9 @@ std::optional<FaultSpec> FaultPlan::find(const QString &deviceId, const QString 
 QStringList FaultPlan::deviceIds() const
 {
     QStringList ids;
-    for (auto it = m_faults.constBegin(); it != m_faults.constEnd(); ++it) {
+    for (auto it = m_faults.constBegin(); it != m_faults.constEnd(); ++it)
         if (it.key().first != any())
             ids.append(it.key().first);
-    }
     ids.removeDuplicates();
     ids.sort();
     return ids;

@@ -103,10 +103,9 @@ void FaultPlanReader::readEntry(const QJsonObject &entry, FaultPlan &plan)
     spec.returnWith = ReturnWith(returnNameList().indexOf(settings));
     warnOfUnknownKeys(entry, {QStringLiteral("devices"), QStringLiteral("methods"), QStringLiteral("fault"),
                               QStringLiteral("returnWith"), QStringLiteral("errorcode"), QStringLiteral("delayMs")});
-    for (const QString &device : devices) {
+    for (const QString &device : devices)
         for (const QString &method : methods)
             plan.set(device, method, spec);
-    }
 }
 
 QStringList FaultPlanReader::names(const QJsonObject &entry, const QString &key)
@@ -146,10 +145,9 @@ void FaultPlanReader::warnOfUnknownKeys(const QJsonObject &object, const QString
 {
     const QString where = m_where.isEmpty() ? m_path : QStringLiteral("%1: %2").arg(m_path, m_where);
     const QStringList keys = object.keys();
-    for (const QString &key : keys) {
+    for (const QString &key : keys)
         if (!known.contains(key))
             m_warnings.append(tr("%1: unknown key \"%2\" is not used").arg(where, key));
-    }
 }
 
 void FaultPlanReader::fail(const QString &field, const QString &whatIsRight)

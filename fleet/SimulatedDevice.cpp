@@ -3,7 +3,7 @@
 #include <QJsonArray>
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace device_fleet {
 
@@ -12,71 +12,36 @@ namespace {
 /// One parameter object and its two methods.
 struct Family
 {
-    QLatin1String readMethod, writeMethod, object;
-    QLatin1String attributes; ///< the member of a write's "param" that holds what is written; empty: "param" itself
-    QLatin1String part; ///< the member of the object that is written to; empty: the object itself
+    const char *readMethod, *writeMethod, *object;
+    const char *attributes = ""; ///< the member of a write's "param" that holds what is written; empty: "param" itself
+    const char *part = ""; ///< the member of the object that is written to; empty: the object itself
 };
 
-constexpr std::array families{
-    Family{QLatin1String("ai_get_param"),
-           QLatin1String("ai_set_param"),
-           QLatin1String("audioIn"),
-           QLatin1String("audioAttr"),
-           {}},
-    Family{QLatin1String("ao_get_param"),
-           QLatin1String("ao_set_param"),
-           QLatin1String("audioOut"),
-           QLatin1String("audioAttr"),
-           {}},
-    Family{QLatin1String("stream_get_params"), QLatin1String("stream_set_params"), QLatin1String("video"), {}, {}},
-    Family{QLatin1String("image_get_adjust_param"),
-           QLatin1String("image_set_adjust_param"),
-           QLatin1String("imageAdjust"),
-           QLatin1String("attr"),
-           {}},
-    Family{QLatin1String("image_get_expertsetting_param"),
-           QLatin1String("image_set_expertsetting_param"),
-           QLatin1String("imageExpert"),
-           QLatin1String("attr"),
-           {}},
-    Family{QLatin1String("image_get_dncut_param"),
-           QLatin1String("image_set_dncut_param"),
-           QLatin1String("imageDayNight"),
-           QLatin1String("attr"),
-           {}},
-    Family{QLatin1String("chnosd_get_param"),
-           QLatin1String("chnosd_set_param"),
-           QLatin1String("osd"),
-           QLatin1String("attr"),
-           {}},
-    Family{QLatin1String("netservice_onvif_get_discoveryinfo"),
-           QLatin1String("netservice_onvif_set_discoveryinfo"),
-           QLatin1String("onvifDiscovery"),
-           {},
-           {}},
-    Family{QLatin1String("ifconfig_get_inet"),
-           QLatin1String("ifconfig_eth_set"),
-           QLatin1String("inet"),
-           {},
-           QLatin1String("eth")},
-    Family{QLatin1String("ifconfig_qbcloud_get_param"),
-           QLatin1String("ifconfig_qbcloud_set_param"),
-           QLatin1String("qbcloud"),
-           {},
-           {}},
-    Family{QLatin1String("alarmservice_get_cfg"),
-           QLatin1String("alarmservice_set_cfg"),
-           QLatin1String("alarmService"),
-           {},
-           {}},
+constexpr Family families[] = {
+    {"ai_get_param", "ai_set_param", "audioIn", "audioAttr"},
+    {"ao_get_param", "ao_set_param", "audioOut", "audioAttr"},
+    {"stream_get_params", "stream_set_params", "video"},
+    {"image_get_adjust_param", "image_set_adjust_param", "imageAdjust", "attr"},
+    {"image_get_expertsetting_param", "image_set_expertsetting_param", "imageExpert", "attr"},
+    {"image_get_dncut_param", "image_set_dncut_param", "imageDayNight", "attr"},
+    {"chnosd_get_param", "chnosd_set_param", "osd", "attr"},
+    {"netservice_onvif_get_discoveryinfo", "netservice_onvif_set_discoveryinfo", "onvifDiscovery"},
+    {"ifconfig_get_inet", "ifconfig_eth_set", "inet", "", "eth"},
+    {"ifconfig_qbcloud_get_param", "ifconfig_qbcloud_set_param", "qbcloud"},
+    {"alarmservice_get_cfg", "alarmservice_set_cfg", "alarmService"},
 };
+
+QLatin1String name(const char *latin1)
+{
+    return QLatin1String(latin1);
+}
 
 const Family *findFamily(const QString &method)
 {
-    const auto found = std::find_if(families.begin(), families.end(), [&method](const Family &family) {
-        return method == family.readMethod || method == family.writeMethod;
+    const auto found = std::find_if(std::begin(families), std::end(families), [&method](const Family &family) {
+        return method == name(family.readMethod) || method == name(family.writeMethod);
     });
-    return found == families.end() ? nullptr : &*found;
+    return found == std::end(families) ? nullptr : found;
 }
 
 QString methodOf(const QJsonObject &request)
@@ -88,7 +53,8 @@ QString methodOf(const QJsonObject &request)
 std::optional<QJsonObject> writtenMembers(const Family &family, const QJsonObject &request)
 {
     const QJsonValue param = request.value(QLatin1String("param"));
-    const QJsonValue written = family.attributes.isEmpty() ? param : param.toObject().value(family.attributes);
+    const QJsonValue written =
+        name(family.attributes).isEmpty() ? param : param.toObject().value(name(family.attributes));
     if (!written.isObject())
         return std::nullopt;
     QJsonObject members = written.toObject();
@@ -133,12 +99,12 @@ bool write(const Family &family, QJsonObject &object, QJsonObject members)
             return false;
         members.insert(streamsKey, streams);
     }
-    if (family.part.isEmpty()) {
+    if (name(family.part).isEmpty()) {
         merge(object, members);
     } else if (!members.isEmpty()) {
-        QJsonObject part = object.value(family.part).toObject();
+        QJsonObject part = object.value(name(family.part)).toObject();
         merge(part, members);
-        object.insert(family.part, part);
+        object.insert(name(family.part), part);
     }
     return true;
 }
@@ -160,16 +126,16 @@ QJsonObject SimulatedDevice::answer(const QJsonObject &request)
     if (!family)
         return errorAnswer(method, DeviceUnknownMethod);
 
-    QJsonObject object = m_parameters.value(family->object).toObject();
+    QJsonObject object = m_parameters.value(name(family->object)).toObject();
     QJsonObject answer = errorAnswer(method, DeviceOk);
-    if (method == family->readMethod) {
+    if (method == name(family->readMethod)) {
         answer.insert(QStringLiteral("result"), object);
         return answer;
     }
     const auto members = writtenMembers(*family, request);
     if (!members || !write(*family, object, *members))
         return errorAnswer(method, DeviceBadParameter);
-    m_parameters.insert(family->object, object);
+    m_parameters.insert(name(family->object), object);
     return answer;
 }
 
@@ -177,28 +143,28 @@ void SimulatedDevice::loseMember(const QJsonObject &request)
 {
     const QString method = methodOf(request);
     const Family *family = findFamily(method);
-    if (!family || method != family->writeMethod)
+    if (!family || method != name(family->writeMethod))
         return;
     const auto members = writtenMembers(*family, request);
     if (!members || members->isEmpty())
         return;
     const QString lost = members->constBegin().key();
-    QJsonObject object = m_parameters.value(family->object).toObject();
-    if (family->part.isEmpty()) {
+    QJsonObject object = m_parameters.value(name(family->object)).toObject();
+    if (name(family->part).isEmpty()) {
         object.remove(lost);
     } else {
-        QJsonObject part = object.value(family->part).toObject();
+        QJsonObject part = object.value(name(family->part)).toObject();
         part.remove(lost);
-        object.insert(family->part, part);
+        object.insert(name(family->part), part);
     }
-    m_parameters.insert(family->object, object);
+    m_parameters.insert(name(family->object), object);
 }
 
 QStringList SimulatedDevice::methods()
 {
     QStringList names;
     for (const Family &family : families)
-        names << family.readMethod << family.writeMethod;
+        names << name(family.readMethod) << name(family.writeMethod);
     return names;
 }
 

@@ -37,10 +37,9 @@ UnixSignals::~UnixSignals()
 void UnixSignals::readSignal()
 {
     signalfd_siginfo info{};
-    while (::read(m_descriptor, &info, sizeof info) == ssize_t(sizeof info)) {
+    while (::read(m_descriptor, &info, sizeof info) == ssize_t(sizeof info))
         if (info.ssi_signo == SIGUSR1)
             emit dumpRequested();
         else
             emit endRequested();
-    }
 }

@@ -28,7 +28,10 @@ enum Column
     Ip
 };
 
-const ScriptedTransport::Script silent = [](const ScriptedTransport::Request &) { return QStringList(); };
+QStringList silent(const ScriptedTransport::Request &)
+{
+    return {};
+}
 
 DevsMgrData &store()
 {

@@ -418,10 +418,9 @@ private slots:
         QCOMPARE(fleet.start(), QString());
         std::vector<std::unique_ptr<RawClient>> clients;
         const auto records = fleet.inventory();
-        for (int i = 0; i < records.size(); ++i) {
+        for (int i = 0; i < records.size(); ++i)
             if (makeSiteDevice(FleetOptions().seed, i).online)
                 clients.push_back(std::make_unique<RawClient>(records.at(i)));
-        }
         QTRY_COMPARE_WITH_TIMEOUT(fleet.connectedDevices(), int(clients.size()), 20000);
     }
 

@@ -182,17 +182,14 @@ void RunTest::selectionDrivesPanelsAndRequests()
 
     const FormFixture f(1, healthy);
     QWidget *page = f.page("audioParametersPage");
-    for (const QString &box : qAsConst(clicked)) {
+    for (const QString &box : qAsConst(clicked))
         page->findChild<QCheckBox *>(box)->click();
-    }
     QCOMPARE(page->findChild<QCheckBox *>(QStringLiteral("allParams"))->checkState(), all);
     QStringList shown;
     const auto widgets = page->findChildren<QWidget *>(QRegularExpression(QStringLiteral("Panel$")));
-    for (const QWidget *widget : widgets) {
-        if (widget->isVisibleTo(page)) {
+    for (const QWidget *widget : widgets)
+        if (widget->isVisibleTo(page))
             shown.append(widget->objectName());
-        }
-    }
     QCOMPARE(shown, panels);
     f.tickAll();
     f.configureAudio();
@@ -289,7 +286,8 @@ void RunTest::countsEveryDeviceOnceWhateverItSends()
     QCOMPARE(m_summaries->count(), 1);
     QCOMPARE(summary().text, QStringLiteral("A total of 6 devices have been configured, success:2, failure:4"));
     QStringList outcomes;
-    for (const QString &entry : recordEntries()) {
+    const QStringList entries = recordEntries();
+    for (const QString &entry : entries) {
         const QStringList fields = entry.split(QRegularExpression(QStringLiteral(" {4,}")));
         outcomes.append(fields.at(1) + QLatin1Char(' ') + fields.at(3));
     }
@@ -368,11 +366,10 @@ void RunTest::formMayBeDeletedOrClosedInARun()
     onceInRun(
         &context, [&] { return f.transport->requests.size() > 3; },
         [&] {
-            if (isDeleted) {
+            if (isDeleted)
                 delete f.form;
-            } else {
+            else
                 f.form->close();
-            }
         });
     f.configureAudio();
     QCOMPARE(m_summaries->count(), summaries);

@@ -41,17 +41,14 @@ public:
     ~Client()
     {
         const auto windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows) {
-            if (auto *dialog = qobject_cast<QDialog *>(window)) {
+        for (QWidget *window : windows)
+            if (auto *dialog = qobject_cast<QDialog *>(window))
                 dialog->reject();
-            }
-        }
         vms_sdk::ClientSdk::instance().setTransport(nullptr);
         QStringList ids;
         const QList<vms_sdk::DevInfo> devices = DevsMgrData::instance().getAllDevs(false);
-        for (const vms_sdk::DevInfo &dev : devices) {
+        for (const vms_sdk::DevInfo &dev : devices)
             ids.append(dev.id);
-        }
         DevsMgrData::instance().deleteDevs(ids);
     }
     Q_DISABLE_COPY_MOVE(Client)
@@ -80,15 +77,15 @@ QJsonObject fleetDump(const EmbeddedFleet &fleet)
 QStringList differences(const QJsonObject &before, const QJsonObject &after, const QString &prefix = {})
 {
     QStringList paths;
-    const QStringList keys = before.keys() + after.keys();
-    for (const QString &key : QSet<QString>(keys.begin(), keys.end())) {
+    QStringList keys = before.keys() + after.keys();
+    keys.removeDuplicates();
+    for (const QString &key : qAsConst(keys)) {
         const QJsonValue a = before.value(key);
         const QJsonValue b = after.value(key);
-        if (a.isObject() && b.isObject()) {
+        if (a.isObject() && b.isObject())
             paths += differences(a.toObject(), b.toObject(), prefix + key + QLatin1Char('/'));
-        } else if (a != b) {
+        else if (a != b)
             paths.append(prefix + key);
-        }
     }
     paths.sort();
     return paths;

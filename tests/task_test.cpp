@@ -16,16 +16,18 @@ namespace {
 
 constexpr std::chrono::milliseconds waitingTime{100};
 
-const QJsonObject values{{QStringLiteral("encType"), QStringLiteral("g711a")},
-                         {QStringLiteral("aoGain"), 7},
-                         {QStringLiteral("unknownHere"), true}};
+QJsonObject values()
+{
+    return {{QStringLiteral("encType"), QStringLiteral("g711a")},
+            {QStringLiteral("aoGain"), 7},
+            {QStringLiteral("unknownHere"), true}};
+}
 
 QJsonObject deviceAudio(const Request &request)
 {
     QJsonObject audio{{QStringLiteral("encType"), QStringLiteral("g711u")}, {QStringLiteral("mask"), 3}};
-    if (request.method() == QLatin1String("ao_get_param")) {
+    if (request.method() == QLatin1String("ao_get_param"))
         audio.insert(QStringLiteral("aoGain"), 50);
-    }
     return audio;
 }
 
@@ -84,7 +86,6 @@ void TaskTest::endsOnceAsTheDeviceAnswers_data()
                         const QStringList &methods, const char *message, int code) {
         QTest::newRow(name) << flags << script << methods << QString::fromLatin1(message) << code;
     };
-    const QString timeout = QStringLiteral("set audio parameters time out");
     const QStringList allFour{aiGet, aiSet, aoGet, aoSet};
     row("input only", 1, healthy, {aiGet, aiSet}, "success", 0);
     row("output only", 2, healthy, {aoGet, aoSet}, "success", 0);
@@ -128,7 +129,7 @@ void TaskTest::endsOnceAsTheDeviceAnswers()
     QFETCH(int, code);
 
     const ScriptedTransport *transport = use(script);
-    AudioParamsCfgTask task(QStringLiteral("cam"), values, flags, nullptr);
+    AudioParamsCfgTask task(QStringLiteral("cam"), values(), flags, nullptr);
     QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
     QTRY_COMPARE(results.count(), 1);
     const QVariantList result = results.constFirst();
@@ -141,15 +142,14 @@ void TaskTest::endsOnceAsTheDeviceAnswers()
     QTest::qWait(2 * int(waitingTime.count()));
     QCOMPARE(results.count(), 1);
     QCOMPARE(transport->methods(), methods);
-    for (const Request &request : transport->requests) {
+    for (const Request &request : transport->requests)
         QCOMPARE(request.requestId, task.requestId());
-    }
 }
 
 void TaskTest::sendsTheWholeObjectWithTheChosenMembers()
 {
     const ScriptedTransport *transport = use(healthy);
-    AudioParamsCfgTask task(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut,
+    AudioParamsCfgTask task(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut,
                             nullptr);
     QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
     QTRY_COMPARE(results.count(), 1);
@@ -183,12 +183,11 @@ void TaskTest::sendsTheWholeObjectWithTheChosenMembers()
 void TaskTest::pausesBetweenAnAnswerAndTheNextRequest()
 {
     const ScriptedTransport *transport = use(healthy);
-    AudioParamsCfgTask task(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn, nullptr);
+    AudioParamsCfgTask task(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
     QElapsedTimer sinceAnswer;
     connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, &task, [&] {
-        if (transport->requests.size() == 1) {
+        if (transport->requests.size() == 1)
             sinceAnswer.start();
-        }
     });
     QTRY_COMPARE(transport->requests.size(), 2);
     QVERIFY2(sinceAnswer.elapsed() >= 9, qPrintable(QString::number(sinceAnswer.elapsed())));
@@ -197,8 +196,8 @@ void TaskTest::pausesBetweenAnAnswerAndTheNextRequest()
 void TaskTest::hearsOnlyItsOwnAnswers()
 {
     use([](const Request &) { return QStringList(); });
-    AudioParamsCfgTask first(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn, nullptr);
-    AudioParamsCfgTask second(QStringLiteral("cam"), values, AudioParamsCfgTask::AudioIn, nullptr);
+    AudioParamsCfgTask first(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+    AudioParamsCfgTask second(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
     QVERIFY(first.requestId() != second.requestId());
     QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
     QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);

@@ -48,11 +48,9 @@ std::unique_ptr<XCOMMON::XTableWidget> checkTable(int rows)
 QDialog *openDialog()
 {
     const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *dialog = qobject_cast<QDialog *>(window); dialog && dialog->isVisible()) {
+    for (QWidget *window : windows)
+        if (auto *dialog = qobject_cast<QDialog *>(window); dialog && dialog->isVisible())
             return dialog;
-        }
-    }
     return nullptr;
 }
 
@@ -91,9 +89,8 @@ void WidgetsTest::allBoxSpeaksOfWhatCanBeSeen()
     style.setWts(&all, table.get(), nullptr, {});
     const auto checked = [&table] {
         QString marks;
-        for (int row = 0; row < table->rowCount(); ++row) {
+        for (int row = 0; row < table->rowCount(); ++row)
             marks += table->item(row, 0)->checkState() == Qt::Checked ? QLatin1Char('x') : QLatin1Char('.');
-        }
         return marks;
     };
 
@@ -144,9 +141,8 @@ void WidgetsTest::cellsSortAsPeopleRead()
     }
     table.sortItems(0);
     QStringList texts;
-    for (int row = 0; row < table.rowCount(); ++row) {
+    for (int row = 0; row < table.rowCount(); ++row)
         texts.append(table.item(row, 0)->text());
-    }
     QCOMPARE(texts, sorted);
 }
 
@@ -299,9 +295,8 @@ void WidgetsTest::searchBoxSearchesWhileTyping()
     QTest::keyClick(edit, Qt::Key_Return);
     edit->clear();
     QStringList keywords;
-    for (const QVariantList &search : qAsConst(searches)) {
+    for (const QVariantList &search : qAsConst(searches))
         keywords.append(search.at(0).toString());
-    }
     QCOMPARE(keywords, (QStringList{QStringLiteral("a"), QStringLiteral("ab"), QStringLiteral("ab"), QString()}));
 }
 

@@ -74,21 +74,18 @@ void AudioParamsCfgPage::pairVolume(QSlider *slider, QLineEdit *edit)
     edit->setText(QString::number(slider->value()));
     connect(edit, &QLineEdit::textChanged, slider, [slider](const QString &text) { slider->setValue(text.toInt()); });
     connect(slider, &QSlider::valueChanged, edit, [edit](int value) {
-        if (edit->text().toInt() != value) { // an emptied field stays empty while the operator types
+        if (edit->text().toInt() != value) // an emptied field stays empty while the operator types
             edit->setText(QString::number(value));
-        }
     });
 }
 
 ParamsCfgTask *AudioParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)
 {
     int taskFlags = 0;
-    if ((flags() & (AudioEnable | EncodingFormat | AudioInVolume | SamplingRate)) != 0) {
+    if ((flags() & (AudioEnable | EncodingFormat | AudioInVolume | SamplingRate)) != 0)
         taskFlags |= AudioParamsCfgTask::AudioIn;
-    }
-    if ((flags() & AlarmOutVolume) != 0) {
+    if ((flags() & AlarmOutVolume) != 0)
         taskFlags |= AudioParamsCfgTask::AudioOut;
-    }
     return new AudioParamsCfgTask(devId, values, taskFlags, this);
 }
 

@@ -9,21 +9,17 @@ QJsonObject channelZero()
 
 QJsonObject mergeKnownKeys(QJsonObject device, const QJsonObject &values)
 {
-    for (auto it = values.begin(); it != values.end(); ++it) {
-        if (device.contains(it.key())) {
+    for (auto it = values.begin(); it != values.end(); ++it)
+        if (device.contains(it.key()))
             device.insert(it.key(), it.value());
-        }
-    }
     return device;
 }
 
 QJsonObject completeFrom(QJsonObject values, const QJsonObject &device, const QStringList &keys)
 {
-    for (const QString &key : keys) {
-        if (!values.contains(key) && device.contains(key)) {
+    for (const QString &key : keys)
+        if (!values.contains(key) && device.contains(key))
             values.insert(key, device.value(key));
-        }
-    }
     return values;
 }
 

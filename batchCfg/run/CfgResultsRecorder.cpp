@@ -26,18 +26,14 @@ constexpr int ipWidth = 16; // a column that holds every IPv4 address
 QString refusal(int fd)
 {
     struct stat info = {};
-    if (::fstat(fd, &info) != 0) {
+    if (::fstat(fd, &info) != 0)
         return qt_error_string(errno);
-    }
-    if (!S_ISREG(info.st_mode)) {
+    if (!S_ISREG(info.st_mode))
         return QStringLiteral("it is not a regular file");
-    }
-    if (info.st_uid != ::geteuid()) {
+    if (info.st_uid != ::geteuid())
         return QStringLiteral("it belongs to another user");
-    }
-    if (info.st_nlink != 1) {
+    if (info.st_nlink != 1)
         return QStringLiteral("it has more than one name");
-    }
     return {};
 }
 
@@ -66,13 +62,11 @@ bool CfgResultsRecorder::openSafely()
 
     const int fd = ::open(QFile::encodeName(m_filePath).constData(),
                           O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, S_IRUSR | S_IWUSR);
-    if (fd < 0) {
+    if (fd < 0)
         return fail(errno == ELOOP ? QStringLiteral("it is a symbolic link") : qt_error_string(errno));
-    }
     QString why = refusal(fd);
-    if (why.isEmpty() && (::fchmod(fd, S_IRUSR | S_IWUSR) != 0 || ::ftruncate(fd, 0) != 0)) {
+    if (why.isEmpty() && (::fchmod(fd, S_IRUSR | S_IWUSR) != 0 || ::ftruncate(fd, 0) != 0))
         why = qt_error_string(errno);
-    }
     if (!why.isEmpty()) {
         ::close(fd);
         return fail(why);
@@ -83,23 +77,20 @@ bool CfgResultsRecorder::openSafely()
 
 void CfgResultsRecorder::record(const QString &devId, const QString &msg)
 {
-    if (!m_file) {
+    if (!m_file)
         return;
-    }
     const vms_sdk::DevInfo dev = orda_data::DevsMgrData::instance().getDevInfoById(devId);
     const QString time = orda_base::BaseTools::instance().strDatetime(QDateTime::currentDateTime(), false, false);
     // All five go in at once: a name that holds a "%1" of its own is left alone.
     const QString entry = QStringLiteral("%1    %2    %3    %4                %5\n\n")
                               .arg(time, dev.serialNumber, dev.ip.leftJustified(ipWidth), msg, dev.name);
-    if (!m_file->isOpen()) {
+    if (!m_file->isOpen())
         return; // open() has said why
-    }
     QTextStream stream(m_file);
     stream << entry;
     stream.flush();
-    if (stream.status() != QTextStream::Ok || !m_file->flush()) {
+    if (stream.status() != QTextStream::Ok || !m_file->flush())
         reportOnce(QStringLiteral("cannot write the record file %1: %2").arg(m_filePath, m_file->errorString()));
-    }
 }
 
 void CfgResultsRecorder::close()
@@ -113,9 +104,8 @@ void CfgResultsRecorder::close()
 
 void CfgResultsRecorder::reportOnce(const QString &what)
 {
-    if (!std::exchange(m_reported, true)) {
+    if (!std::exchange(m_reported, true))
         qCWarning(logRecord).noquote() << what;
-    }
 }
 
 } // namespace orda_batchCfg

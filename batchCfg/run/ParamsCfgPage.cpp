@@ -72,9 +72,8 @@ ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QW
 {
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked,
             this, [this](const QString &uuid, int button) {
-                if (uuid == m_confirmUuid && button == 0) {
+                if (uuid == m_confirmUuid && button == 0)
                     m_reportBt->click();
-                }
             });
 }
 
@@ -112,9 +111,8 @@ void ParamsCfgPage::addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes
     m_selections.append({all, boxes, noneAlert});
     connect(all, &QCheckBox::clicked, this, [this, all, boxes](bool checked) {
         all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
-        for (QCheckBox *box : boxes) {
+        for (QCheckBox *box : boxes)
             box->setChecked(checked);
-        }
         refresh();
     });
 }
@@ -150,31 +148,26 @@ ParamsCfgPage::Value ParamsCfgPage::itemData(const QComboBox *combo)
 void ParamsCfgPage::updateFlags()
 {
     m_flags = 0;
-    for (const Param &param : qAsConst(m_params)) {
-        if (param.box && param.box->isChecked()) {
+    for (const Param &param : qAsConst(m_params))
+        if (param.box && param.box->isChecked())
             m_flags |= param.bit;
-        }
-    }
 }
 
 void ParamsCfgPage::refresh()
 {
     m_okBt->setEnabled(isSelectionComplete(nullptr));
     updateFlags();
-    for (const Param &param : qAsConst(m_params)) {
-        for (QWidget *panel : param.panels) {
+    for (const Param &param : qAsConst(m_params))
+        for (QWidget *panel : param.panels)
             panel->setVisible((m_flags & param.bit) != 0);
-        }
-    }
 }
 
 bool ParamsCfgPage::isSelectionComplete(QString *alertText) const
 {
     for (const Selection &selection : m_selections) {
         if (selection.all->checkState() == Qt::Unchecked) {
-            if (alertText) {
+            if (alertText)
                 *alertText = selection.noneAlert;
-            }
             return false;
         }
     }
@@ -187,9 +180,8 @@ QJsonObject ParamsCfgPage::values() const
     for (const Param &param : m_params) {
         if ((m_flags & param.bit) != 0) {
             const QJsonValue value = param.value();
-            if (!value.isUndefined()) {
+            if (!value.isUndefined())
                 object.insert(param.key, value);
-            }
         }
     }
     return object;
@@ -197,9 +189,8 @@ QJsonObject ParamsCfgPage::values() const
 
 void ParamsCfgPage::configure()
 {
-    if (RunLock::isHeld()) {
+    if (RunLock::isHeld())
         return;
-    }
     QString missing;
     if (!isSelectionComplete(&missing)) {
         alert(missing);
@@ -219,12 +210,10 @@ void ParamsCfgPage::configure()
 
     const QPointer<ParamsCfgPage> self(this); // the form may be deleted while the loop turns
     run->loop.exec();
-    if (!self) {
+    if (!self)
         return; // nothing of ours is left to touch
-    }
-    if (run->finished() < run->total) {
+    if (run->finished() < run->total)
         abandonRun(); // the application is quitting
-    }
     orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(run->overlayId);
 }
 
@@ -252,18 +241,16 @@ void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringLis
 void ParamsCfgPage::handleResult(Run &run, const QString &devId, const QString &msg, int errorCode)
 {
     // A device that answers shows that the line is working: all the others get their whole waiting time again.
-    for (const QString &requestId : qAsConst(run.pending)) {
+    for (const QString &requestId : qAsConst(run.pending))
         vms_sdk::renewal_request_id(requestId);
-    }
     m_recorder->record(devId, msg);
     ++(errorCode == ParamsCfgTask::Success ? run.success : run.failure);
     if (run.finished() >= run.total) {
         run.loop.quit();
         finishRun(run);
     }
-    if (run.overlay) {
+    if (run.overlay)
         run.overlay->updateDescription(tr("Configuring(%1/%2)...").arg(run.finished()).arg(run.total));
-    }
 }
 
 void ParamsCfgPage::finishRun(const Run &run)

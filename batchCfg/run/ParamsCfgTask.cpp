@@ -51,9 +51,8 @@ int ParamsCfgTask::selectedFrom(int from) const
 {
     for (int i = from; i < m_exchanges.size(); ++i) {
         const int flag = m_exchanges.at(i).flag;
-        if (flag == 0 || (m_flags & flag) != 0) {
+        if (flag == 0 || (m_flags & flag) != 0)
             return i;
-        }
     }
     return -1;
 }
@@ -73,9 +72,8 @@ void ParamsCfgTask::sendWrite(int exchange)
 void ParamsCfgTask::send(const QString &method, const std::optional<QJsonObject> &param)
 {
     QJsonObject request{{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
-    if (param) {
+    if (param)
         request.insert(QStringLiteral("param"), *param);
-    }
     m_answered.remove(method);
     qCDebug(logRun) << m_requestId << m_devId << "sends" << method;
     vms_sdk::common_req(m_requestId, m_devId, QString::fromUtf8(QJsonDocument(request).toJson()));
@@ -84,9 +82,8 @@ void ParamsCfgTask::send(const QString &method, const std::optional<QJsonObject>
 void ParamsCfgTask::sendLater(void (ParamsCfgTask::*step)(int), int exchange)
 {
     QTimer::singleShot(stepPause, this, [this, step, exchange] {
-        if (!m_finished) {
+        if (!m_finished)
             (this->*step)(exchange);
-        }
     });
 }
 
@@ -104,20 +101,18 @@ void ParamsCfgTask::handleAnswer(const QString &text)
     for (int i = 0; i < m_exchanges.size(); ++i) {
         const CfgExchange &exchange = m_exchanges.at(i);
         const bool isRead = method == exchange.getMethod;
-        if (!isRead && method != exchange.setMethod) {
+        if (!isRead && method != exchange.setMethod)
             continue;
-        }
         if (m_answered.contains(method)) {
             qCDebug(logRun) << m_requestId << m_devId << "second answer to one" << method << "dropped";
             return;
         }
         m_answered.insert(method);
         qCDebug(logRun) << m_requestId << m_devId << "answers" << method << errorCode;
-        if (isRead) {
+        if (isRead)
             handleRead(i, answer.value(QLatin1String("result")).toObject(), errorCode);
-        } else {
+        else
             handleWritten(i, errorCode);
-        }
         return;
     }
     qCDebug(logRun) << m_requestId << m_devId << "answer to a method that is none of ours dropped:" << method;
@@ -131,11 +126,10 @@ void ParamsCfgTask::handleRead(int exchange, const QJsonObject &result, int erro
         return;
     }
     m_devParams = e.resultKey.isEmpty() ? result : result.value(e.resultKey).toObject();
-    if (e.checkWhenBack && m_written == exchange) {
+    if (e.checkWhenBack && m_written == exchange)
         checkSettings(exchange);
-    } else {
+    else
         sendLater(&ParamsCfgTask::sendWrite, exchange);
-    }
 }
 
 void ParamsCfgTask::handleWritten(int exchange, int errorCode)
@@ -145,11 +139,10 @@ void ParamsCfgTask::handleWritten(int exchange, int errorCode)
         return;
     }
     const int next = selectedFrom(exchange + 1);
-    if (next >= 0) {
+    if (next >= 0)
         sendLater(&ParamsCfgTask::sendRead, next);
-    } else {
+    else
         finish(tr("success"), Success);
-    }
 }
 
 void ParamsCfgTask::checkSettings(int exchange)
@@ -171,16 +164,14 @@ void ParamsCfgTask::handleTimeout()
 void ParamsCfgTask::handleDevStatus(vms_sdk::DevStatus status)
 {
     if (m_written >= 0 && m_exchanges.at(m_written).checkWhenBack
-        && orda_base::BaseTools::instance().isDevOnline(status)) {
+        && orda_base::BaseTools::instance().isDevOnline(status))
         sendRead(m_written);
-    }
 }
 
 void ParamsCfgTask::finish(const QString &msg, int errorCode)
 {
-    if (std::exchange(m_finished, true)) {
+    if (std::exchange(m_finished, true))
         return; // the first result stands, whatever else the device sends
-    }
     TaskRouter::instance().remove(this);
     qCDebug(logRun) << m_requestId << m_devId << "ends:" << msg << errorCode;
     emit signalCfgResult(m_devId, msg, errorCode);

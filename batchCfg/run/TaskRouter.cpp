@@ -44,26 +44,23 @@ void TaskRouter::remove(ParamsCfgTask *task)
 
 void TaskRouter::handleAnswer(const QString &requestId, const QString &text)
 {
-    if (ParamsCfgTask *task = m_taskByRequestId.value(requestId)) {
+    if (ParamsCfgTask *task = m_taskByRequestId.value(requestId))
         task->handleAnswer(text);
-    } else {
+    else
         qCDebug(logRun) << requestId << "answer to a task that is not waiting dropped";
-    }
 }
 
 void TaskRouter::handleTimeout(const QString &requestId)
 {
-    if (ParamsCfgTask *task = m_taskByRequestId.value(requestId)) {
+    if (ParamsCfgTask *task = m_taskByRequestId.value(requestId))
         task->handleTimeout();
-    }
 }
 
 void TaskRouter::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)
 {
     const QList<ParamsCfgTask *> tasks = m_tasksByDevId.values(devId);
-    for (ParamsCfgTask *task : tasks) {
+    for (ParamsCfgTask *task : tasks)
         task->handleDevStatus(status);
-    }
 }
 
 } // namespace orda_batchCfg

@@ -133,9 +133,8 @@ void BatchCfgForm::initNavigation()
 void BatchCfgForm::showPage(const QString &key)
 {
     const auto index = m_pageIndexByKey.constFind(key);
-    if (index != m_pageIndexByKey.constEnd()) {
+    if (index != m_pageIndexByKey.constEnd())
         m_ui->stackedWidget->setCurrentIndex(*index);
-    }
 }
 
 void BatchCfgForm::initDevTable()
@@ -155,9 +154,8 @@ void BatchCfgForm::initDevTable()
     m_tableOperStyle->setWts(m_ui->selAll, table, m_ui->headerLayout, {});
 
     m_headerSortWidgets = {m_ui->orderNumWt, m_ui->devName, m_ui->devSn, m_ui->devIp};
-    for (int column = Name; column < ColumnCount; ++column) {
+    for (int column = Name; column < ColumnCount; ++column)
         m_headerSortWidgets.at(column)->installEventFilter(this);
-    }
     addEligibleDevs();
 }
 
@@ -167,9 +165,8 @@ void BatchCfgForm::connectStore()
     connect(&store, &orda_data::DataSignals::signalDevStatusChanged, this, &BatchCfgForm::updateDevStatus);
     connect(&store, &orda_data::DataSignals::signalUpdateDevs, this,
             [this](const QList<vms_sdk::DevInfo> &devs, bool recordsChanged) {
-                if (recordsChanged) {
+                if (recordsChanged)
                     updateDevs(devs);
-                }
             });
     connect(&store, &orda_data::DataSignals::signalDeleteDevs, this, [this](const QStringList &devIds, bool deleted) {
         if (deleted) {
@@ -183,29 +180,24 @@ void BatchCfgForm::connectStore()
 
 bool BatchCfgForm::isDevEligible(const vms_sdk::DevInfo &dev) const
 {
-    if (dev.id.isEmpty()) {
+    if (dev.id.isEmpty())
         return false;
-    }
     const vms_sdk::DevStatus status = orda_data::DevsMgrData::instance().getDevStatus(dev.id);
     if (dev.accessCode != reachedDirectly || (dev.kindCode != kindCamera && dev.kindCode != kindRecorder)
-        || !orda_base::BaseTools::instance().isDevOnline(status)) {
+        || !orda_base::BaseTools::instance().isDevOnline(status))
         return false;
-    }
-    if (orda_saas::SaasWorker::instance().canOperateDevFreely(dev.serialNumber) || !dev.ip.isEmpty()) {
+    if (orda_saas::SaasWorker::instance().canOperateDevFreely(dev.serialNumber) || !dev.ip.isEmpty())
         return true;
-    }
-    if (status == vms_sdk::DevDefaultPassword || status == vms_sdk::DevLocked) {
+    if (status == vms_sdk::DevDefaultPassword || status == vms_sdk::DevLocked)
         return false;
-    }
     const XCOMMON::PwdStrength strength = XCOMMON::checkPwdStrength(dev.password);
     return strength != XCOMMON::PwdInvalid && strength != XCOMMON::PwdWeak;
 }
 
 bool BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)
 {
-    if (m_devItemById.contains(dev.id)) {
+    if (m_devItemById.contains(dev.id))
         return false;
-    }
     auto *table = m_ui->devsTableWt;
     const int row = table->rowCount();
 
@@ -234,9 +226,8 @@ void BatchCfgForm::removeDevs(const QStringList &devIds)
     for (const QString &devId : devIds) {
         if (const QTableWidgetItem *item = m_devItemById.take(devId)) {
             const int row = item->row();
-            if (m_contextItem && m_contextItem->row() == row) {
+            if (m_contextItem && m_contextItem->row() == row)
                 m_contextItem = nullptr;
-            }
             table->removeRow(row);
         }
     }
@@ -249,9 +240,8 @@ QStringList BatchCfgForm::checkedDevIds() const
     const auto *table = m_ui->devsTableWt;
     for (int row = 0; row < table->rowCount(); ++row) {
         const QTableWidgetItem *item = table->item(row, OrderNum);
-        if (!table->isRowHidden(row) && item->checkState() == Qt::Checked) {
+        if (!table->isRowHidden(row) && item->checkState() == Qt::Checked)
             ids.append(item->data(devIdRole).toString());
-        }
     }
     return ids;
 }
@@ -286,9 +276,8 @@ void BatchCfgForm::slotSearchDevsFromTable(const QString &keyword)
 void BatchCfgForm::searchAgain()
 {
     const QString keyword = m_ui->searchBox->text();
-    if (!keyword.isEmpty()) {
+    if (!keyword.isEmpty())
         slotSearchDevsFromTable(keyword);
-    }
 }
 
 void BatchCfgForm::updateDevStatus(const QString &devId)
@@ -318,19 +307,16 @@ void BatchCfgForm::updateDevs(const QList<vms_sdk::DevInfo> &devs)
             isAnyListed = true;
         }
     }
-    if (isAnyListed) {
+    if (isAnyListed)
         searchAgain();
-    }
 }
 
 void BatchCfgForm::removeIneligibleDevs()
 {
     QStringList gone;
-    for (auto it = m_devItemById.cbegin(); it != m_devItemById.cend(); ++it) {
-        if (!isDevEligible(orda_data::DevsMgrData::instance().getDevInfoById(it.key()))) {
+    for (auto it = m_devItemById.cbegin(); it != m_devItemById.cend(); ++it)
+        if (!isDevEligible(orda_data::DevsMgrData::instance().getDevInfoById(it.key())))
             gone.append(it.key());
-        }
-    }
     removeDevs(gone);
 }
 
@@ -338,14 +324,11 @@ void BatchCfgForm::addEligibleDevs()
 {
     bool isAnyAdded = false;
     const QList<vms_sdk::DevInfo> devs = orda_data::DevsMgrData::instance().getAllDevs(false);
-    for (const vms_sdk::DevInfo &dev : devs) {
-        if (isDevEligible(dev)) {
+    for (const vms_sdk::DevInfo &dev : devs)
+        if (isDevEligible(dev))
             isAnyAdded = addDevToTable(dev) || isAnyAdded;
-        }
-    }
-    if (isAnyAdded) {
+    if (isAnyAdded)
         searchAgain();
-    }
 }
 
 } // namespace orda_batchCfg

@@ -12,17 +12,15 @@ int characterClasses(const QString &password)
     bool hasUpper = false;
     bool hasDigit = false;
     bool hasOther = false;
-    for (const QChar c : password) {
-        if (c.isLower()) {
+    for (const QChar c : password)
+        if (c.isLower())
             hasLower = true;
-        } else if (c.isUpper()) {
+        else if (c.isUpper())
             hasUpper = true;
-        } else if (c.isDigit()) {
+        else if (c.isDigit())
             hasDigit = true;
-        } else {
+        else
             hasOther = true;
-        }
-    }
     return int(hasLower) + int(hasUpper) + int(hasDigit) + int(hasOther);
 }
 
@@ -30,13 +28,11 @@ int characterClasses(const QString &password)
 
 PwdStrength checkPwdStrength(const QString &password)
 {
-    if (password.isEmpty()) {
+    if (password.isEmpty())
         return PwdInvalid;
-    }
     const int classes = characterClasses(password);
-    if (password.size() < minLength || classes == 1) {
+    if (password.size() < minLength || classes == 1)
         return PwdWeak;
-    }
     return classes >= 3 ? PwdStrong : PwdMedium;
 }
 

@@ -19,9 +19,8 @@ bool BaseTools::isDevOnline(int status)
 QString BaseTools::strDatetime(const QDateTime &time, bool withMilliseconds, bool forFileName)
 {
     QString format = forFileName ? QStringLiteral("yyyyMMdd-hhmmss") : QStringLiteral("yyyy-MM-dd hh:mm:ss");
-    if (withMilliseconds) {
+    if (withMilliseconds)
         format += QStringLiteral(".zzz");
-    }
     return time.toString(format);
 }
 
@@ -29,14 +28,12 @@ void BaseTools::updateTableOrderNum(XCOMMON::XTableWidget *table, int first)
 {
     int number = first;
     for (int row = 0; row < table->rowCount(); ++row) {
-        if (table->isRowHidden(row)) {
+        if (table->isRowHidden(row))
             continue;
-        }
         const QString text = QString::number(number++);
         QTableWidgetItem *item = table->item(row, 0);
-        if (item && item->text() != text) {
+        if (item && item->text() != text)
             item->setText(text);
-        }
     }
 }
 

@@ -18,21 +18,18 @@ ComboBox::ComboBox(QWidget *parent)
 
 void ComboBox::setItemsData(const QList<QVariant> &values)
 {
-    if (values.size() != count()) {
+    if (values.size() != count())
         qCWarning(logUi) << objectName() << "has" << count() << "items but gets" << values.size() << "values";
-    }
-    for (int i = 0; i < qMin(count(), values.size()); ++i) {
+    for (int i = 0; i < qMin(count(), values.size()); ++i)
         setItemData(i, values.at(i));
-    }
 }
 
 void ComboBox::wheelEvent(QWheelEvent *event)
 {
-    if (hasFocus()) {
+    if (hasFocus())
         QComboBox::wheelEvent(event);
-    } else {
+    else
         event->ignore();
-    }
 }
 
 } // namespace orda_base

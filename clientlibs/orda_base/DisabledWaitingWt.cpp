@@ -103,9 +103,8 @@ bool DisabledWaitingWt::event(QEvent *event)
 bool DisabledWaitingWt::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == parentWidget()) {
-        if (event->type() == QEvent::Resize) {
+        if (event->type() == QEvent::Resize)
             setGeometry(parentWidget()->rect());
-        }
     } else if (covers(qobject_cast<QWidget *>(watched))) {
         // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic, a focus set by a
         // program.
@@ -132,9 +131,8 @@ bool DisabledWaitingWt::focusNextPrevChild(bool)
 
 void DisabledWaitingWt::paintEvent(QPaintEvent *)
 {
-    if (!m_keepsBright) {
+    if (!m_keepsBright)
         QPainter(this).fillRect(rect(), veil);
-    }
 }
 
 void DisabledWaitingWt::showEvent(QShowEvent *event)
@@ -150,9 +148,8 @@ void DisabledWaitingWt::hideEvent(QHideEvent *event)
 {
     qApp->removeEventFilter(this);
     const QWidget *focus = window()->focusWidget();
-    if (m_focusBefore && (!focus || focus == this)) {
+    if (m_focusBefore && (!focus || focus == this))
         m_focusBefore->setFocus();
-    }
     QWidget::hideEvent(event);
 }
 

@@ -10,16 +10,14 @@ namespace {
 bool parseIpv4(const QString &text, quint32 *number)
 {
     const QVector<QStringRef> bytes = text.splitRef(QLatin1Char('.'));
-    if (bytes.size() != 4) {
+    if (bytes.size() != 4)
         return false;
-    }
     quint32 result = 0;
     for (const QStringRef &byte : bytes) {
         bool isNumber = false;
         const ushort value = byte.toUShort(&isNumber);
-        if (!isNumber || value > 255) {
+        if (!isNumber || value > 255)
             return false;
-        }
         result = result << 8U | value;
     }
     *number = result;
@@ -38,20 +36,17 @@ IpTableItem::IpTableItem(const QString &ip, quint32 number, int type)
 void IpTableItem::setData(int role, const QVariant &value)
 {
     QTableWidgetItem::setData(role, value);
-    if (role == Qt::DisplayRole || role == Qt::EditRole) {
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
         parseIpv4(text(), &m_number);
-    }
 }
 
 bool IpTableItem::operator<(const QTableWidgetItem &other) const
 {
     const auto *otherIp = dynamic_cast<const IpTableItem *>(&other);
-    if (!otherIp) {
+    if (!otherIp)
         return QTableWidgetItem::operator<(other);
-    }
-    if (text().isEmpty() || other.text().isEmpty()) {
+    if (text().isEmpty() || other.text().isEmpty())
         return !text().isEmpty() && other.text().isEmpty();
-    }
     return m_number < otherIp->m_number;
 }
 

@@ -64,9 +64,8 @@ QRect NavigationButton::textRect() const
 
 bool NavigationButton::event(QEvent *event)
 {
-    if (event->type() == QEvent::ToolTip) { // the whole text where it is cut off
+    if (event->type() == QEvent::ToolTip) // the whole text where it is cut off
         setToolTip(fontMetrics().horizontalAdvance(text()) > textRect().width() ? text() : QString());
-    }
     return QAbstractButton::event(event);
 }
 
@@ -80,9 +79,8 @@ void NavigationButton::paintEvent(QPaintEvent *)
     QColor background = accent;
     background.setAlphaF(isCurrent ? 0.12 : underMouse() || isDown() ? 0.06 : 0.0);
     painter.fillRect(rect(), background);
-    if (isCurrent) {
+    if (isCurrent)
         painter.fillRect(0, 0, markWidth, height(), accent);
-    }
     if (hasFocus()) {
         painter.setPen(accent);
         painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));

@@ -27,9 +27,8 @@ void NavigationWidget::addNavigationBar(const QString &normalIcon, const QString
         addEntry(info.key, {bar, bar}, owner);
         return;
     }
-    for (const NavigationActionInfo &subAction : subActions) {
+    for (const NavigationActionInfo &subAction : subActions)
         addEntry(subAction.key, {addButton(NavigationButton::Entry, subAction), bar}, owner);
-    }
     connect(bar, &QAbstractButton::clicked, owner, [this, bar] {
         setUnfolded(bar, !bar->isUnfolded());
         emit signalCurAction(bar->objectName());
@@ -56,11 +55,9 @@ void NavigationWidget::addEntry(const QString &key, const Entry &entry, QWidget 
 void NavigationWidget::setUnfolded(NavigationButton *bar, bool unfolded)
 {
     bar->setUnfolded(unfolded);
-    for (const Entry &entry : qAsConst(m_entryByKey)) {
-        if (entry.bar == bar) {
+    for (const Entry &entry : qAsConst(m_entryByKey))
+        if (entry.bar == bar)
             entry.button->setVisible(unfolded);
-        }
-    }
 }
 
 void NavigationWidget::makeCurrent(const QString &key)
@@ -78,12 +75,10 @@ void NavigationWidget::makeCurrent(const QString &key)
 QString NavigationWidget::setDefaultAction(const QString &key)
 {
     const auto entry = m_entryByKey.constFind(key);
-    if (entry == m_entryByKey.constEnd()) {
+    if (entry == m_entryByKey.constEnd())
         return {};
-    }
-    if (entry->bar != entry->button) {
+    if (entry->bar != entry->button)
         setUnfolded(entry->bar, true);
-    }
     makeCurrent(key);
     return key;
 }

@@ -38,16 +38,14 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
     for (const int column : hiddenColumns) {
         table->setColumnHidden(column, true);
         QLayoutItem *item = header ? header->itemAt(column) : nullptr;
-        if (item && item->widget()) {
+        if (item && item->widget())
             item->widget()->hide();
-        }
     }
 
     connect(table->model(), &QAbstractItemModel::dataChanged, this,
             [this](const QModelIndex &topLeft, const QModelIndex &, const QVector<int> &roles) {
-                if (topLeft.column() == checkColumn && roles.contains(Qt::CheckStateRole) && !m_isTickingAll) {
+                if (topLeft.column() == checkColumn && roles.contains(Qt::CheckStateRole) && !m_isTickingAll)
                     updateAllBox();
-                }
             });
     connect(table, &XCOMMON::XTableWidget::signalRowsChanged, this, [this] {
         if (!m_updateSoon.isActive()) {
@@ -69,9 +67,8 @@ void TableOperWtStyle::setVisibleRows(bool checked)
     m_isTickingAll = true;
     for (int row = 0; row < m_table->rowCount(); ++row) {
         QTableWidgetItem *item = m_table->item(row, checkColumn);
-        if (isCheckable(item) && !m_table->isRowHidden(row)) {
+        if (isCheckable(item) && !m_table->isRowHidden(row))
             item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
-        }
     }
     m_isTickingAll = false;
     updateAllBox();
@@ -79,9 +76,8 @@ void TableOperWtStyle::setVisibleRows(bool checked)
 
 void TableOperWtStyle::updateAllBox()
 {
-    if (!m_all || !m_table) {
+    if (!m_all || !m_table)
         return;
-    }
     int visible = 0;
     int checked = 0;
     for (int row = 0; row < m_table->rowCount(); ++row) {
@@ -91,11 +87,10 @@ void TableOperWtStyle::updateAllBox()
             checked += item->checkState() == Qt::Checked ? 1 : 0;
         }
     }
-    if (checked == 0) {
+    if (checked == 0)
         m_all->setCheckState(Qt::Unchecked);
-    } else {
+    else
         m_all->setCheckState(checked == visible ? Qt::Checked : Qt::PartiallyChecked);
-    }
 }
 
 void TableOperWtStyle::alignHeader()
@@ -111,9 +106,8 @@ void TableOperWtStyle::alignHeader()
 
 bool TableOperWtStyle::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize) { // the scroll bar comes and goes
+    if (event->type() == QEvent::Resize) // the scroll bar comes and goes
         alignHeader();
-    }
     return QObject::eventFilter(watched, event);
 }
 

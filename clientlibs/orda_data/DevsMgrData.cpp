@@ -25,10 +25,9 @@ QList<DevInfo> DevsMgrData::getAllDevs(bool onlineOnly) const
 {
     QList<DevInfo> devs;
     devs.reserve(m_entries.size());
-    for (const Entry &entry : m_entries) {
+    for (const Entry &entry : m_entries)
         if (!onlineOnly || vms_sdk::isOnlineStatus(entry.status))
             devs.append(entry.info);
-    }
     return devs;
 }
 

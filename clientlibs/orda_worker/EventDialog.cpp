@@ -43,9 +43,8 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
             accept();
         });
         row->addWidget(button);
-        if (i == 0) {
+        if (i == 0)
             button->setFocus();
-        }
     }
 
     auto *layout = new QVBoxLayout(this);
@@ -56,9 +55,8 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
     layout->addSpacing(margin / 2);
     layout->addLayout(row);
     connect(this, &QDialog::finished, this, [this] {
-        if (!std::exchange(m_isAnswered, true)) { // a button may be clicked again before the dialog is deleted
+        if (!std::exchange(m_isAnswered, true)) // a button may be clicked again before the dialog is deleted
             emit signalAnswered(m_answer);
-        }
     });
 }
 

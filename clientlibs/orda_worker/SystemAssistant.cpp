@@ -16,18 +16,14 @@ QWidget *parentWindow()
         return window && window->isVisible() && window->windowType() == Qt::Window;
     };
     QWidget *active = QApplication::activeWindow();
-    while (active && active->parentWidget() && !isFit(active)) {
+    while (active && active->parentWidget() && !isFit(active))
         active = active->parentWidget()->window();
-    }
-    if (isFit(active)) {
+    if (isFit(active))
         return active;
-    }
     const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (isFit(window)) {
+    for (QWidget *window : windows)
+        if (isFit(window))
             return window;
-        }
-    }
     return nullptr;
 }
 

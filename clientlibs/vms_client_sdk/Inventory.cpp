@@ -235,15 +235,13 @@ bool InventoryReader::readEntries(const QJsonObject &root)
     if (!root.value(listKey).isArray())
         return fail(tr("must be an object with a list \"devices\""));
     const QStringList keys = root.keys();
-    for (const QString &key : keys) {
+    for (const QString &key : keys)
         if (key != listKey)
             m_inventory.warnings.append(tr("%1: unknown key \"%2\" is not used").arg(m_path, key));
-    }
     const QJsonArray entries = root.value(listKey).toArray();
-    for (int i = 0; i < entries.size(); ++i) {
+    for (int i = 0; i < entries.size(); ++i)
         if (!readEntry(i, entries.at(i)))
             return false;
-    }
     return true;
 }
 

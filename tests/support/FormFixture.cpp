@@ -16,13 +16,11 @@ FormFixture::FormFixture(int devices, const ScriptedTransport::Script &script, s
 
     auto &store = orda_data::DevsMgrData::instance();
     QList<vms_sdk::DevInfo> devs;
-    for (int i = 0; i < devices; ++i) {
+    for (int i = 0; i < devices; ++i)
         devs.append(device(i));
-    }
     store.updateDevs(devs);
-    for (const vms_sdk::DevInfo &dev : qAsConst(devs)) {
+    for (const vms_sdk::DevInfo &dev : qAsConst(devs))
         store.setDevStatus(dev.id, vms_sdk::DevOnline);
-    }
     form = new orda_batchCfg::BatchCfgForm;
     form->show();
 }
@@ -31,17 +29,14 @@ FormFixture::~FormFixture()
 {
     delete form;
     const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *dialog = qobject_cast<QDialog *>(window)) {
+    for (QWidget *window : windows)
+        if (auto *dialog = qobject_cast<QDialog *>(window))
             dialog->reject();
-        }
-    }
     auto &store = orda_data::DevsMgrData::instance();
     QStringList ids;
     const QList<vms_sdk::DevInfo> devs = store.getAllDevs(false);
-    for (const vms_sdk::DevInfo &dev : devs) {
+    for (const vms_sdk::DevInfo &dev : devs)
         ids.append(dev.id);
-    }
     store.deleteDevs(ids);
     vms_sdk::ClientSdk::instance().setTransport(nullptr);
 }
@@ -61,11 +56,9 @@ vms_sdk::DevInfo FormFixture::device(int number)
 QStringList FormFixture::column(int number) const
 {
     QStringList texts;
-    for (int row = 0; row < table()->rowCount(); ++row) {
-        if (!table()->isRowHidden(row)) {
+    for (int row = 0; row < table()->rowCount(); ++row)
+        if (!table()->isRowHidden(row))
             texts.append(table()->item(row, number)->text());
-        }
-    }
     return texts;
 }
 

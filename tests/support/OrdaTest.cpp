@@ -2,11 +2,12 @@
 
 #include <QMutex>
 #include <cstring>
+#include <mutex>
 
 namespace {
 
 QtMessageHandler previousHandler = nullptr;
-QMutex mutex; // warnings come from the network and fleet threads too
+QBasicMutex mutex; // warnings come from the network and fleet threads too
 
 struct Warnings
 {
@@ -23,7 +24,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
 {
     const bool ours = context.category && std::strncmp(context.category, "orda.", 5) == 0;
     if (ours && (type == QtWarningMsg || type == QtCriticalMsg)) {
-        const QMutexLocker lock(&mutex);
+        const std::lock_guard lock(mutex);
         QStringList &expected = warnings().expected;
         for (int i = 0; i < expected.size(); ++i) {
             if (QRegularExpression(expected.at(i)).match(text).hasMatch()) {
@@ -40,13 +41,13 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
 
 void OrdaTest::expectWarning(const QString &pattern)
 {
-    const QMutexLocker lock(&mutex);
+    const std::lock_guard lock(mutex);
     warnings().expected.append(pattern);
 }
 
 void OrdaTest::init()
 {
-    const QMutexLocker lock(&mutex);
+    const std::lock_guard lock(mutex);
     warnings() = {};
     previousHandler = qInstallMessageHandler(handleMessage);
 }
@@ -54,7 +55,7 @@ void OrdaTest::init()
 void OrdaTest::cleanup()
 {
     qInstallMessageHandler(previousHandler);
-    const QMutexLocker lock(&mutex);
+    const std::lock_guard lock(mutex);
     QVERIFY2(warnings().unexpected.isEmpty(), qPrintable(warnings().unexpected.join(QLatin1Char('\n'))));
     QVERIFY2(warnings().expected.isEmpty(),
              qPrintable(QStringLiteral("missing: ") + warnings().expected.join(QLatin1Char('\n'))));

@@ -33,17 +33,15 @@ public:
     {
         requests.append({requestId, devId, text});
         const QStringList texts = script(requests.constLast());
-        for (const QString &answerText : texts) {
+        for (const QString &answerText : texts)
             emit answered(requestId, answerText);
-        }
     }
 
     QStringList methods() const
     {
         QStringList names;
-        for (const Request &request : requests) {
+        for (const Request &request : requests)
             names.append(request.method());
-        }
         return names;
     }
 

@@ -22,10 +22,9 @@ QString quoted(const QString &text)
 
 std::optional<DevStatus> onlineStateFrom(const QJsonValue &reported)
 {
-    for (const DevStatus state : {DevOnline, DevDefaultPassword, DevLocked}) {
+    for (const DevStatus state : {DevOnline, DevDefaultPassword, DevLocked})
         if (reported.toInt(DevOffline) == state)
             return state;
-    }
     return std::nullopt;
 }
 

@@ -114,10 +114,9 @@ void DeviceLink::onSslErrors(const QList<QSslError> &errors)
 {
     const QList<QSslError> tolerated = m_pin.tolerated(errors);
     QStringList faults;
-    for (const QSslError &error : errors) {
+    for (const QSslError &error : errors)
         if (!tolerated.contains(error))
             faults.append(error.errorString());
-    }
     if (!faults.isEmpty())
         warn(QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; "))));
     m_socket->ignoreSslErrors(tolerated); // the handshake goes on only if that is all of them
