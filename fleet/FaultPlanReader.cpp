@@ -85,7 +85,7 @@ void FaultPlanReader::readEntry(const QJsonObject &entry, FaultPlan &plan)
     for (const QString &method : methods) {
         if (method != FaultPlan::any() && !known.contains(method))
             fail(QStringLiteral("methods"),
-                 tr("\"%1\" is none of \"*\", %2").arg(method, known.join(QStringLiteral(", "))));
+                 tr(R"("%1" is none of "*", %2)").arg(method, known.join(QStringLiteral(", "))));
     }
 
     FaultSpec spec;
@@ -124,7 +124,7 @@ QStringList FaultPlanReader::names(const QJsonObject &entry, const QString &key)
 QString FaultPlanReader::choice(const QJsonObject &entry, const QString &key, const QStringList &choices,
                                 const QString &otherwise)
 {
-    const QString value = entry.contains(key) ? entry.value(key).toString() : otherwise;
+    QString value = entry.contains(key) ? entry.value(key).toString() : otherwise;
     if (!choices.contains(value))
         fail(key, tr("must be one of %1").arg(choices.join(QStringLiteral(", "))));
     return value;

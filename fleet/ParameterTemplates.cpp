@@ -21,7 +21,7 @@ const QJsonObject &templates()
         QFile file(QStringLiteral(":/device_fleet/parameters.json"));
         QJsonParseError error;
         const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        const QJsonObject parsed = QJsonDocument::fromJson(text, &error).object();
+        QJsonObject parsed = QJsonDocument::fromJson(text, &error).object();
         if (error.error != QJsonParseError::NoError)
             qFatal("parameters.json: %s at byte %d", qPrintable(error.errorString()), error.offset);
         return parsed;

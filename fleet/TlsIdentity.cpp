@@ -27,7 +27,7 @@ QByteArray readFile(const QString &path, QString *error)
 QSslKey readKey(const QByteArray &pem)
 {
     for (const QSsl::KeyAlgorithm algorithm : {QSsl::Rsa, QSsl::Ec}) {
-        const QSslKey key(pem, algorithm);
+        QSslKey key(pem, algorithm);
         if (!key.isNull())
             return key;
     }

@@ -57,7 +57,7 @@ device_fleet::FaultPlan readFaults(const QString &path, QString *error)
     if (path.isEmpty())
         return {};
     QStringList warnings;
-    const device_fleet::FaultPlan plan = device_fleet::FaultPlan::read(path, error, &warnings);
+    device_fleet::FaultPlan plan = device_fleet::FaultPlan::read(path, error, &warnings);
     for (const QString &warning : qAsConst(warnings))
         complain(warning);
     return plan;

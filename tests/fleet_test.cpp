@@ -169,6 +169,7 @@ private slots:
     void siteHasSomethingOfEverything()
     {
         std::vector<SiteDevice> devices;
+        devices.reserve(200);
         for (int i = 0; i < 200; ++i)
             devices.push_back(makeSiteDevice(FleetOptions().seed, i));
         const auto some = [&devices](const char *trait, const auto &has) {

@@ -132,7 +132,7 @@ void TaskTest::endsOnceAsTheDeviceAnswers()
     AudioParamsCfgTask task(QStringLiteral("cam"), values(), flags, nullptr);
     QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
     QTRY_COMPARE(results.count(), 1);
-    const QVariantList result = results.constFirst();
+    const QVariantList &result = results.constFirst();
     QCOMPARE(result.at(0).toString(), QStringLiteral("cam"));
     QCOMPARE(result.at(1).toString(), message);
     QCOMPARE(result.at(2).toInt(), code);

@@ -130,7 +130,7 @@ void WidgetsTest::cellsSortAsPeopleRead()
     QFETCH(QStringList, sorted);
     QTableWidget table(sorted.size(), 1);
     for (int i = 0; i < sorted.size(); ++i) {
-        const QString text = sorted.at(sorted.size() - 1 - i);
+        const QString &text = sorted.at(sorted.size() - 1 - i);
         if (isIp) { // the address was another one when the cell was made
             auto *item = new orda_base::IpTableItem(QStringLiteral("1.1.1.1"), 0x01010101, 0);
             item->setText(text);

@@ -30,7 +30,8 @@ QString colour(const char *name)
 {
     const auto *found = std::find_if(std::begin(colours), std::end(colours),
                                      [name](const Colour &c) { return qstrcmp(c.name, name) == 0; });
-    Q_ASSERT_X(found != std::end(colours), "Theme", name);
+    if (found == std::end(colours))
+        qFatal("theme.qss: there is no colour \"%s\"", name);
     return QString::fromLatin1(found->value);
 }
 
