@@ -28,6 +28,8 @@ using namespace std::chrono_literals;
 
 // Longer than the SDK's limit for one connection attempt, and than 32 attempts at a time take for many silent devices.
 constexpr auto settleLimit = 60s;
+// A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
+constexpr auto settlePause = 150ms;
 constexpr auto progressInterval = 50ms;
 constexpr int devIdRole = Qt::UserRole + 1;
 
@@ -93,7 +95,27 @@ void RunDriver::whenSettled()
     const auto &store = orda_data::DevsMgrData::instance();
     out() << tr("%1 of %2 devices on line").arg(store.getAllDevs(true).size()).arg(store.getAllDevs(false).size())
           << Qt::endl;
-    picturePages();
+    if (m_options.screenshotsDir.isEmpty())
+        tickAndConfigure();
+    else
+        picturePages(0);
+}
+
+void RunDriver::picturePages(int from)
+{
+    if (from == families().size()) {
+        tickAndConfigure();
+        return;
+    }
+    openPage(families().at(from));
+    QTimer::singleShot(settlePause, this, [this, from] {
+        picture(m_window, QStringLiteral("page-") + families().at(from).name);
+        picturePages(from + 1);
+    });
+}
+
+void RunDriver::tickAndConfigure()
+{
     openPage(*m_family);
     const int ticked = tickDevices();
     out() << tr("%1 devices ticked").arg(ticked) << Qt::endl;
@@ -101,16 +123,6 @@ void RunDriver::whenSettled()
     if (missing > 0)
         printError(tr("%1 of the given devices are off line or may not be configured").arg(missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
-}
-
-void RunDriver::picturePages()
-{
-    if (m_options.screenshotsDir.isEmpty())
-        return;
-    for (const Family &family : families()) {
-        openPage(family);
-        picture(m_window, QStringLiteral("page-") + family.name);
-    }
 }
 
 void RunDriver::openPage(const Family &family)

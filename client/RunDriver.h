@@ -34,7 +34,8 @@ public:
 private:
     void handleDevStatus(const QString &devId, vms_sdk::DevStatus status);
     void whenSettled();
-    void picturePages();
+    void picturePages(int from);
+    void tickAndConfigure();
     void openPage(const Family &family);
     int tickDevices();
     void configure();

@@ -1,15 +1,26 @@
 #pragma once
 
-#include <QWidget>
+#include "run/ParamsCfgPage.h"
 
 namespace orda_batchCfg {
 
-class ImageParamsCfgPage : public QWidget
+namespace Ui {
+class ImageParamsCfgPage;
+}
+
+class ImageParamsCfgPage : public ParamsCfgPage
 {
     Q_OBJECT
 
 public:
     explicit ImageParamsCfgPage(QWidget *parent = nullptr);
+    ~ImageParamsCfgPage() override;
+
+protected:
+    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
+
+private:
+    std::unique_ptr<Ui::ImageParamsCfgPage> m_ui;
 };
 
 } // namespace orda_batchCfg

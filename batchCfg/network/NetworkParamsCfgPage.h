@@ -1,15 +1,26 @@
 #pragma once
 
-#include <QWidget>
+#include "run/ParamsCfgPage.h"
 
 namespace orda_batchCfg {
 
-class NetworkParamsCfgPage : public QWidget
+namespace Ui {
+class NetworkParamsCfgPage;
+}
+
+class NetworkParamsCfgPage : public ParamsCfgPage
 {
     Q_OBJECT
 
 public:
     explicit NetworkParamsCfgPage(QWidget *parent = nullptr);
+    ~NetworkParamsCfgPage() override;
+
+protected:
+    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
+
+private:
+    std::unique_ptr<Ui::NetworkParamsCfgPage> m_ui;
 };
 
 } // namespace orda_batchCfg

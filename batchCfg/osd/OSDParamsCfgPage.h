@@ -1,15 +1,26 @@
 #pragma once
 
-#include <QWidget>
+#include "run/ParamsCfgPage.h"
 
 namespace orda_batchCfg {
 
-class OSDParamsCfgPage : public QWidget
+namespace Ui {
+class OSDParamsCfgPage;
+}
+
+class OSDParamsCfgPage : public ParamsCfgPage
 {
     Q_OBJECT
 
 public:
     explicit OSDParamsCfgPage(QWidget *parent = nullptr);
+    ~OSDParamsCfgPage() override;
+
+protected:
+    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
+
+private:
+    std::unique_ptr<Ui::OSDParamsCfgPage> m_ui;
 };
 
 } // namespace orda_batchCfg

@@ -1,15 +1,26 @@
 #pragma once
 
-#include <QWidget>
+#include "run/ParamsCfgPage.h"
 
 namespace orda_batchCfg {
 
-class Platform9100ParamsCfgPage : public QWidget
+namespace Ui {
+class Platform9100ParamsCfgPage;
+}
+
+class Platform9100ParamsCfgPage : public ParamsCfgPage
 {
     Q_OBJECT
 
 public:
     explicit Platform9100ParamsCfgPage(QWidget *parent = nullptr);
+    ~Platform9100ParamsCfgPage() override;
+
+protected:
+    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
+
+private:
+    std::unique_ptr<Ui::Platform9100ParamsCfgPage> m_ui;
 };
 
 } // namespace orda_batchCfg

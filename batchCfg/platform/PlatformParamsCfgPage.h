@@ -1,15 +1,26 @@
 #pragma once
 
-#include <QWidget>
+#include "run/ParamsCfgPage.h"
 
 namespace orda_batchCfg {
 
-class PlatformParamsCfgPage : public QWidget
+namespace Ui {
+class PlatformParamsCfgPage;
+}
+
+class PlatformParamsCfgPage : public ParamsCfgPage
 {
     Q_OBJECT
 
 public:
     explicit PlatformParamsCfgPage(QWidget *parent = nullptr);
+    ~PlatformParamsCfgPage() override;
+
+protected:
+    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
+
+private:
+    std::unique_ptr<Ui::PlatformParamsCfgPage> m_ui;
 };
 
 } // namespace orda_batchCfg

@@ -4,6 +4,7 @@
 #include "run/CfgResultsRecorder.h"
 #include "run/ParamsCfgTask.h"
 
+#include <XCOMMON/XLabel.h>
 #include <orda_base/DisabledWaitingWt.h>
 #include <orda_base/DisabledWaitingWtManager.h>
 #include <orda_worker/AssistantSignals.h>
@@ -160,6 +161,19 @@ void ParamsCfgPage::refresh()
     for (const Param &param : qAsConst(m_params))
         for (QWidget *panel : param.panels)
             panel->setVisible((m_flags & param.bit) != 0);
+}
+
+void ParamsCfgPage::showEvent(QShowEvent *event)
+{
+    const auto captions = findChildren<XCOMMON::XLabel *>();
+    int widest = 0;
+    for (XCOMMON::XLabel *caption : captions) {
+        caption->ensurePolished(); // with the font that it will have
+        widest = std::max({widest, caption->minimumWidth(), caption->sizeHint().width()});
+    }
+    for (XCOMMON::XLabel *caption : captions)
+        caption->setMinimumWidth(widest);
+    QWidget::showEvent(event);
 }
 
 bool ParamsCfgPage::isSelectionComplete(QString *alertText) const

@@ -75,6 +75,8 @@ protected:
     virtual void refresh();
     /// The values of a run, from the editors as they stand.
     virtual QJsonObject values() const;
+    /// Brings the editors' captions to one width, so that the editors stand in line whatever the language and the font.
+    void showEvent(QShowEvent *event) override;
     /// A task for one device; the page owns it. It has sent its first request when it is returned.
     virtual ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) = 0;
 

@@ -1,10 +1,96 @@
 #include "video/VideoParamsCfgPage.h"
 
+#include "ui_VideoParamsCfgPage.h"
+#include "video/VideoParamsCfgTask.h"
+#include "video/VideoParamsPanel.h"
+
+#include <QJsonArray>
+
 namespace orda_batchCfg {
 
 VideoParamsCfgPage::VideoParamsCfgPage(QWidget *parent)
-    : QWidget(parent)
+    : ParamsCfgPage(tr("Video Parameters Configuration Result"),
+                    QStringLiteral("vms_video_params_batch_cfg_record.txt"), parent)
+    , m_ui(std::make_unique<Ui::VideoParamsCfgPage>())
 {
+    m_ui->setupUi(this);
+    m_ui->smartEncodingCtrl->setItemsData(
+        {QStringLiteral("open"), QStringLiteral("close"), QStringLiteral("autoopen")});
+    m_hdPanel = addPanel(VideoParamsPanel::MainStream);
+    m_sdPanel = addPanel(VideoParamsPanel::SubStream);
+    connect(m_hdPanel, &VideoParamsPanel::signalAlignmentGlobalPosX, this, &VideoParamsCfgPage::alignSmartEncoding);
+
+    for (const QCheckBox *stream : {m_ui->HDStream, m_ui->SDStream})
+        connect(stream, &QCheckBox::clicked, this, &VideoParamsCfgPage::slotSelectedStreamsChanged);
+    addSelection(m_ui->allStreams, {m_ui->HDStream, m_ui->SDStream}, tr("Please select the streams to be configured"));
+    // The panels have the values, so the table has only the boxes and what they mean to the panels.
+    setParams({
+        {0, m_ui->smartEncoding, {}, {}, {}},
+        {VideoParamsPanel::EncodingFormat, m_ui->encodingFormat, {}, {}, {}},
+        {VideoParamsPanel::Resolution, m_ui->resolution, {}, {}, {}},
+        {VideoParamsPanel::FrameRate, m_ui->frameRate, {}, {}, {}},
+        {VideoParamsPanel::BitRate, m_ui->bitRate, {}, {}, {}},
+    });
+}
+
+VideoParamsCfgPage::~VideoParamsCfgPage() = default;
+
+VideoParamsPanel *VideoParamsCfgPage::addPanel(int streamType)
+{
+    auto *panel = new VideoParamsPanel(streamType, this);
+    // In front of the spacer that closes the layout.
+    m_ui->paramsPanelsLayout->insertWidget(m_ui->paramsPanelsLayout->count() - 1, panel);
+    return panel;
+}
+
+void VideoParamsCfgPage::slotSelectedStreamsChanged()
+{
+    updateSelection(m_ui->allStreams);
+}
+
+void VideoParamsCfgPage::refresh()
+{
+    ParamsCfgPage::refresh();
+    m_ui->smartEncodingPanel->setVisible(m_ui->smartEncoding->isChecked() && m_ui->HDStream->isChecked());
+    const auto showPanel = [this](VideoParamsPanel *panel, bool isTicked) {
+        if (isTicked && flags() != 0)
+            panel->setParamsMask(flags());
+        else
+            panel->hide(); // it keeps its mask: a later run with its stream still collects those groups
+    };
+    showPanel(m_hdPanel, m_ui->HDStream->isChecked());
+    showPanel(m_sdPanel, m_ui->SDStream->isChecked());
+}
+
+void VideoParamsCfgPage::alignSmartEncoding(int globalX)
+{
+    QLayout *layout = m_ui->smartEncodingPanelLayout;
+    layout->activate(); // an earlier report may not have been laid out yet
+    const int x = m_ui->smartEncodingCtrl->mapToGlobal(QPoint(0, 0)).x();
+    layout->setSpacing(qMax(0, layout->spacing() + globalX - x));
+}
+
+QJsonObject VideoParamsCfgPage::values() const
+{
+    QJsonArray streams;
+    const auto add = [&streams](QJsonObject stream, int streamId) {
+        stream.insert(QStringLiteral("streamid"), streamId);
+        streams.append(stream);
+    };
+    if (m_ui->HDStream->isChecked()) {
+        QJsonObject stream = m_hdPanel->getParams();
+        if (m_ui->smartEncoding->isChecked())
+            stream.insert(QStringLiteral("smartencode"), m_ui->smartEncodingCtrl->currentData().toString());
+        add(stream, VideoParamsPanel::MainStream);
+    }
+    if (m_ui->SDStream->isChecked())
+        add(m_sdPanel->getParams(), VideoParamsPanel::SubStream);
+    return {{QStringLiteral("streams"), streams}};
+}
+
+ParamsCfgTask *VideoParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)
+{
+    return new VideoParamsCfgTask(devId, values, this);
 }
 
 } // namespace orda_batchCfg
