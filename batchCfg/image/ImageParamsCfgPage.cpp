@@ -29,17 +29,9 @@ ImageParamsCfgPage::ImageParamsCfgPage(QWidget *parent)
     m_ui->lightModeParam->setItemsData(
         {QStringLiteral("ir"), QStringLiteral("white"), QStringLiteral("smart"), QStringLiteral("off")});
     setParams({
-        {ImageFlip, m_ui->imageFlip, {m_ui->imageFlipPanel}, QStringLiteral("flip"), itemData(m_ui->imageFlipParam)},
-        {ExpertMode,
-         m_ui->expertMode,
-         {m_ui->expertModePanel},
-         QStringLiteral("expertmode"),
-         itemData(m_ui->expertModeParam)},
-        {LightMode,
-         m_ui->lightMode,
-         {m_ui->lightModePanel},
-         QStringLiteral("lightmode"),
-         itemData(m_ui->lightModeParam)},
+        {ImageFlip, m_ui->imageFlip, {m_ui->imageFlipPanel}, "flip", itemData(m_ui->imageFlipParam)},
+        {ExpertMode, m_ui->expertMode, {m_ui->expertModePanel}, "expertmode", itemData(m_ui->expertModeParam)},
+        {LightMode, m_ui->lightMode, {m_ui->lightModePanel}, "lightmode", itemData(m_ui->lightModeParam)},
     });
 }
 

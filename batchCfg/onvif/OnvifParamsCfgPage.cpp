@@ -24,8 +24,8 @@ OnvifParamsCfgPage::OnvifParamsCfgPage(QWidget *parent)
         {Compatible,
          m_ui->compatibleEnable,
          {m_ui->compatibleEnablePanel},
-         QStringLiteral("discoveryflag"),
-         [this] { return m_ui->compatibleEnableSwitch->isChecked() ? 1 : 0; }},
+         "discoveryflag",
+         switchNumber(m_ui->compatibleEnableSwitch)},
     });
 }
 

@@ -39,29 +39,17 @@ Platform9100ParamsCfgPage::Platform9100ParamsCfgPage(QWidget *parent)
         };
     };
     setParams({
-        {ServiceEnable,
-         m_ui->serviceEnable,
-         {m_ui->serviceEnablePanel},
-         QStringLiteral("bEnable"),
-         switchState(m_ui->serviceSwitch)},
+        {ServiceEnable, m_ui->serviceEnable, {m_ui->serviceEnablePanel}, "bEnable", switchState(m_ui->serviceSwitch)},
         {ServiceAddress,
          m_ui->serviceAddress,
          {m_ui->onlineServicePanel, m_ui->bussinessServicePanel},
-         QStringLiteral("bManualcfgonline"),
+         "bManualcfgonline",
          isGiven(m_ui->onlineUrl)},
-        {ServiceAddress, m_ui->serviceAddress, {}, QStringLiteral("onlineserverip"), address(m_ui->onlineUrl)},
-        {ServiceAddress,
-         m_ui->serviceAddress,
-         {},
-         QStringLiteral("onlineserverport"),
-         port(m_ui->onlineUrl, m_ui->onlinePort)},
-        {ServiceAddress, m_ui->serviceAddress, {}, QStringLiteral("bManualcfgbussiness"), isGiven(m_ui->bussinessUrl)},
-        {ServiceAddress, m_ui->serviceAddress, {}, QStringLiteral("businessserverip"), address(m_ui->bussinessUrl)},
-        {ServiceAddress,
-         m_ui->serviceAddress,
-         {},
-         QStringLiteral("businessserverport"),
-         port(m_ui->bussinessUrl, m_ui->bussinessPort)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "onlineserverip", address(m_ui->onlineUrl)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "onlineserverport", port(m_ui->onlineUrl, m_ui->onlinePort)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "bManualcfgbussiness", isGiven(m_ui->bussinessUrl)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "businessserverip", address(m_ui->bussinessUrl)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "businessserverport", port(m_ui->bussinessUrl, m_ui->bussinessPort)},
     });
 }
 

@@ -26,18 +26,18 @@ PlatformParamsCfgPage::PlatformParamsCfgPage(QWidget *parent)
         {ServiceEnable,
          m_ui->serviceEnable,
          {m_ui->serviceEnablePanel},
-         QStringLiteral("qbcloud_en"),
+         "qbcloud_en",
          switchState(m_ui->serviceSwitch)},
         {ServiceAddress,
          m_ui->serviceAddress,
          {m_ui->serviceAddressPanel},
-         QStringLiteral("qbcloud_addr"),
-         [this] { return m_ui->serviceAddressParam->text(); }},
+         "qbcloud_addr",
+         editedText(m_ui->serviceAddressParam)},
         // The type has no box of its own: it goes with either.
         {ServiceEnable | ServiceAddress,
          nullptr,
          {m_ui->serviceTypePanel},
-         QStringLiteral("qbcloud_type"),
+         "qbcloud_type",
          itemData(m_ui->serviceType)},
     });
 }

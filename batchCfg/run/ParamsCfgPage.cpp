@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QMap>
 #include <QPointer>
 #include <QPushButton>
@@ -141,6 +142,16 @@ ParamsCfgPage::Value ParamsCfgPage::switchState(const QAbstractButton *button)
     return [button] { return button->isChecked(); };
 }
 
+ParamsCfgPage::Value ParamsCfgPage::switchNumber(const QAbstractButton *button)
+{
+    return [button] { return button->isChecked() ? 1 : 0; };
+}
+
+ParamsCfgPage::Value ParamsCfgPage::editedText(const QLineEdit *edit)
+{
+    return [edit] { return edit->text(); };
+}
+
 ParamsCfgPage::Value ParamsCfgPage::itemData(const QComboBox *combo)
 {
     return [combo] { return QJsonValue::fromVariant(combo->currentData()); };
@@ -195,7 +206,7 @@ QJsonObject ParamsCfgPage::values() const
         if ((m_flags & param.bit) != 0) {
             const QJsonValue value = param.value();
             if (!value.isUndefined())
-                object.insert(param.key, value);
+                object.insert(QLatin1String(param.key), value);
         }
     }
     return object;

@@ -12,6 +12,7 @@ QT_BEGIN_NAMESPACE
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;
+class QLineEdit;
 class QPushButton;
 QT_END_NAMESPACE
 
@@ -47,7 +48,7 @@ protected:
         int bit;
         QCheckBox *box; ///< sets the bits when ticked; null: the row follows the bits of others
         QList<QWidget *> panels;
-        QString key;
+        const char *key; ///< of the values object, Latin-1
         Value value;
     };
 
@@ -61,8 +62,10 @@ protected:
     /// none is ticked. Called before setParams().
     void addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes, const QString &noneAlert);
 
-    /// The usual values: a switch as a boolean, a combo box's item data.
+    /// The usual values: a switch as a boolean or as the number 1 or 0, a text as typed, a combo box's item data.
     static Value switchState(const QAbstractButton *button);
+    static Value switchNumber(const QAbstractButton *button);
+    static Value editedText(const QLineEdit *edit);
     static Value itemData(const QComboBox *combo);
 
     /// Brings the "All" box of a selection in line with its boxes, then refreshes.
