@@ -2,12 +2,9 @@
 
 #include "Families.h"
 
-#include <QCommandLineParser>
+#include <CommandLine.h>
 #include <QCoreApplication>
 #include <QDir>
-
-#include <cstdio>
-#include <cstdlib>
 
 namespace {
 
@@ -32,8 +29,6 @@ ClientOptions parseOptions(const QStringList &arguments)
     parser.setApplicationDescription(tr(
         "Configures many online cameras and recorders at once.\n\n"
         "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption demo(QStringLiteral("demo"), tr("Bring N simulated devices along."), QStringLiteral("N"));
     const QCommandLineOption inventory(QStringLiteral("inventory"),
                                        tr("Connect to the devices of this inventory file."), QStringLiteral("FILE"));
@@ -55,16 +50,9 @@ ClientOptions parseOptions(const QStringList &arguments)
     parser.addOptions({demo, inventory, faults, language, run, devices, screenshots});
 
     ClientOptions options;
-    if (!parser.parse(arguments)) {
-        options.error = parser.errorText();
+    options.error = device_fleet::parseCommandLine(parser, arguments);
+    if (!options.error.isEmpty())
         return options;
-    }
-    if (parser.isSet(help)) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        std::exit(ExitOk);
-    }
-    if (parser.isSet(version))
-        parser.showVersion();
 
     options.inventoryFile = parser.value(inventory);
     options.faultsFile = parser.value(faults);

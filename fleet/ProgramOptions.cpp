@@ -1,12 +1,10 @@
 #include "ProgramOptions.h"
 
+#include <CommandLine.h>
 #include <FaultPlanReader.h>
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -88,21 +86,12 @@ ProgramOptions parseOptions(const QStringList &arguments)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
     parser.addOptions({devices, seed, port, latency, faults, tls, listen, inventory, dump});
 
     ProgramOptions options;
-    if (!parser.parse(arguments)) {
-        options.error = parser.errorText();
+    options.error = device_fleet::parseCommandLine(parser, arguments);
+    if (!options.error.isEmpty())
         return options;
-    }
-    if (parser.isSet(help)) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        std::exit(ExitOk);
-    }
-    if (parser.isSet(version))
-        parser.showVersion();
 
     const QStringList leftOver = parser.positionalArguments();
     const int keyFiles = parser.isSet(tls) ? 1 : 0;
