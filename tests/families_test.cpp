@@ -1,3 +1,4 @@
+#include "support/FamilyTable.h"
 #include "support/FormFixture.h"
 #include "support/OrdaTest.h"
 
@@ -8,7 +9,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -19,66 +19,9 @@ using Request = ScriptedTransport::Request;
 
 namespace {
 
-/// What operators and devices see of a family.
-struct Family
-{
-    const char *name, *navigationKey, *pageName; ///< no navigation key: the page is put into the stack by the test
-    const char *title, *recordFile, *timeoutText;
-    QStringList methods; ///< of a run with everything ticked
-    QStringList failures; ///< the text for each of them, the code left as %1
-};
-
 QString latin1(const char *text)
 {
     return QString::fromLatin1(text);
-}
-
-QList<Family> families()
-{
-    const auto failures = [](std::initializer_list<const char *> things) {
-        QStringList texts;
-        for (const char *thing : things)
-            texts << QStringLiteral("Failed to get %1 parameters").arg(latin1(thing)) + QStringLiteral("(%1)")
-                  << QStringLiteral("Failed to set %1 parameters").arg(latin1(thing)) + QStringLiteral("(%1)");
-        return texts;
-    };
-    const auto words = [](const char *text) { return latin1(text).split(QLatin1Char(' ')); };
-    return {
-        {"audio", "audio_param", "audioParametersPage", "Audio Parameters Configuration Result",
-         "vms_audio_params_batch_cfg_record.txt", "set audio parameters time out",
-         words("ai_get_param ai_set_param ao_get_param ao_set_param"), failures({"audio in", "audio out"})},
-        {"video", "video_param", "videoParametersPage", "Video Parameters Configuration Result",
-         "vms_video_params_batch_cfg_record.txt", "set stream parameters time out",
-         words("stream_get_params stream_set_params"), failures({"stream"})},
-        {"image", "image_param", "imageParametersPage", "Image Parameters Configuration Result",
-         "vms_image_params_batch_cfg_record.txt", "set image parameters time out",
-         words("image_get_adjust_param image_set_adjust_param image_get_dncut_param image_set_dncut_param "
-               "image_get_expertsetting_param image_set_expertsetting_param"),
-         failures({"image adjust", "image day-night", "image expert"})},
-        {"osd", "osd_param", "osdParamsCfgPage", "OSD Parameters Configuration Result",
-         "vms_osd_params_batch_cfg_record.txt", "set osd parameters time out",
-         words("chnosd_get_param chnosd_set_param"), failures({"osd"})},
-        {"network", "network_param", "networkParamsCfgPage", "Network Parameters Configuration Result",
-         "vms_network_params_batch_cfg_record.txt", "set network parameters time out",
-         words("netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo ifconfig_get_inet "
-               "ifconfig_eth_set"),
-         failures({"onvif discovery", "ip"})},
-        {"platform", "cloud_service_param", "platformParametersPage", "Platform Parameters Configuration Result",
-         "vms_platform_params_batch_cfg_record.txt", "set platform parameters time out",
-         words("ifconfig_qbcloud_get_param ifconfig_qbcloud_set_param"), failures({"platform"})},
-        {"platform_9100", "9100_param", "platform9100ParametersPage", "Platform 9100 Parameters Configuration Result",
-         "vms_platform_9100_params_batch_cfg_record.txt", "set platform 9100 parameters time out",
-         words("alarmservice_get_cfg alarmservice_set_cfg"), failures({"platform 9100"})},
-        {"onvif", nullptr, "orda_batchCfg__OnvifParamsCfgPage", "Onvif Parameters Configuration Result",
-         "vms_onvif_params_batch_cfg_record.txt", "set onvif discovery parameters time out",
-         words("netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo"), failures({"onvif discovery"})},
-    };
-}
-
-Family family(const QString &name)
-{
-    const QList<Family> all = families();
-    return *std::find_if(all.begin(), all.end(), [&name](const Family &f) { return latin1(f.name) == name; });
 }
 
 /// A device's objects by read method; some lack keys that others have.
@@ -112,20 +55,20 @@ using Prepare = std::function<void(QWidget *page)>;
 class PageFixture : public FormFixture
 {
 public:
-    PageFixture(const Family &opened, int devices, const ScriptedTransport::Script &script,
+    PageFixture(const FamilyRow &opened, int devices, const ScriptedTransport::Script &script,
                 std::chrono::milliseconds waitingTime = 5s)
         : FormFixture(devices, script, waitingTime)
         , m_family(opened)
     {
-        QFile::remove(recordPath());
-        if (!opened.navigationKey) {
+        QFile::remove(recordPath(opened));
+        if (opened.navigationKey.isEmpty()) {
             auto *stack = form->findChild<QStackedWidget *>();
             stack->setCurrentIndex(stack->addWidget(new orda_batchCfg::OnvifParamsCfgPage(form)));
         }
         tickAll();
     }
 
-    QWidget *theirPage() const { return page(m_family.pageName); }
+    QWidget *theirPage() const { return form->findChild<QWidget *>(m_family.pageName); }
 
     /// Leaves only these parameters ticked, and these streams where the page has any.
     void select(const QString &boxes) const
@@ -142,33 +85,15 @@ public:
     {
         const QSignalSpy summaries(&orda_worker::AssistantSignals::instance(),
                                    &orda_worker::AssistantSignals::signalEventConfirmRaised);
-        if (m_family.navigationKey)
+        if (!m_family.navigationKey.isEmpty())
             configure(m_family.navigationKey, m_family.pageName);
         else
             theirPage()->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
         return summaries.value(0).value(0).value<orda_worker::EventConfirmInfo>();
     }
 
-    /// "message" by serial number, from the record file.
-    QMap<QString, QString> record() const
-    {
-        QMap<QString, QString> messages;
-        QFile file(recordPath());
-        if (file.open(QIODevice::ReadOnly)) {
-            const QStringList entries =
-                QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"), Qt::SkipEmptyParts);
-            for (const QString &entry : entries) {
-                const QStringList fields = entry.split(QStringLiteral("    "), Qt::SkipEmptyParts);
-                messages.insert(fields.value(1).trimmed(), fields.value(3).trimmed());
-            }
-        }
-        return messages;
-    }
-
 private:
-    QString recordPath() const { return QDir::temp().filePath(latin1(m_family.recordFile)); }
-
-    Family m_family;
+    FamilyRow m_family;
 };
 
 template <typename Editor>
@@ -351,7 +276,7 @@ void FamiliesTest::writesWhatWasSelected()
     QFETCH(Prepare, prepare);
     QFETCH(QStringList, requests);
     QFETCH(QJsonObject, device);
-    const PageFixture f(family(name), 1, [&device](const Request &request) { return answers(device, request); });
+    const PageFixture f(familyRow(name), 1, [&device](const Request &request) { return answers(device, request); });
     prepare(f.theirPage());
     f.select(boxes);
     QCOMPARE(f.run().text, QStringLiteral("A total of 1 devices have been configured, success:1, failure:0"));
@@ -380,18 +305,16 @@ void FamiliesTest::saysWhichStepFailed_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("step");
-    const QList<Family> all = families();
-    for (const Family &f : all)
+    for (const FamilyRow &f : familyTable())
         for (int step = 0; step < f.methods.size(); ++step)
-            QTest::addRow("%s", qPrintable(latin1(f.name) + QStringLiteral(": ") + f.methods.at(step)))
-                << latin1(f.name) << step;
+            QTest::addRow("%s", qPrintable(f.name + QStringLiteral(": ") + f.methods.at(step))) << f.name << step;
 }
 
 void FamiliesTest::saysWhichStepFailed()
 {
     QFETCH(QString, name);
     QFETCH(int, step);
-    const Family theirs = family(name);
+    const FamilyRow &theirs = familyRow(name);
     const QString faulty = theirs.methods.at(step);
     const PageFixture f(
         theirs, 4,
@@ -404,16 +327,16 @@ void FamiliesTest::saysWhichStepFailed()
         },
         100ms);
     const orda_worker::EventConfirmInfo summary = f.run();
-    QCOMPARE(summary.title, latin1(theirs.title));
+    QCOMPARE(summary.title, theirs.title);
     QCOMPARE(summary.text, QStringLiteral("A total of 4 devices have been configured, success:1, failure:3"));
     const QMap<QString, QString> expected{{QStringLiteral("SN0"), QStringLiteral("success")},
                                           {QStringLiteral("SN1"), theirs.failures.at(step).arg(-7)},
                                           {QStringLiteral("SN2"), QStringLiteral("Failed to parse json data")},
-                                          {QStringLiteral("SN3"), latin1(theirs.timeoutText)}};
-    QCOMPARE(f.record(), expected);
+                                          {QStringLiteral("SN3"), theirs.timeoutText}};
+    QCOMPARE(recordedMessages(theirs), expected);
     for (const char *id : {"dev0", "dev1", "dev2", "dev3"}) {
         QStringList methods;
-        for (const Request &request : f.transport->requests)
+        for (const Request &request : qAsConst(f.transport->requests))
             if (request.devId == QLatin1String(id))
                 methods.append(request.method());
         QCOMPARE(methods, theirs.methods.mid(0, latin1(id) == QLatin1String("dev0") ? -1 : step + 1));
@@ -446,7 +369,7 @@ void FamiliesTest::cloudSettingsAreCheckedWhenTheDeviceIsBack()
         store.setDevStatus(id, vms_sdk::DevLocked);
     };
     int reads = 0;
-    const PageFixture f(family(QStringLiteral("platform")), 2, [&](const Request &request) -> QStringList {
+    const PageFixture f(familyRow(QStringLiteral("platform")), 2, [&](const Request &request) -> QStringList {
         if (request.devId == QLatin1String("dev1"))
             return answers(ordinaryDevice(), request);
         if (request.method() == set) { // applies it and drops out, before it can answer
@@ -461,8 +384,9 @@ void FamiliesTest::cloudSettingsAreCheckedWhenTheDeviceIsBack()
     editor<QLineEdit>(f.theirPage(), "serviceAddressParam")->setText(QStringLiteral("new"));
     f.run();
     QCOMPARE(reads, 2);
-    QCOMPARE(f.record().value(QStringLiteral("SN0")), message);
-    QCOMPARE(f.record().value(QStringLiteral("SN1")), QStringLiteral("success"));
+    QCOMPARE(recordedMessages(familyRow(QStringLiteral("platform"))).value(QStringLiteral("SN0")), message);
+    QCOMPARE(recordedMessages(familyRow(QStringLiteral("platform"))).value(QStringLiteral("SN1")),
+             QStringLiteral("success"));
     QCOMPARE(f.transport->requests.size(), 5);
 }
 

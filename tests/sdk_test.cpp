@@ -86,6 +86,23 @@ private slots:
         }
     }
 
+    void renewalFromAnywhereGivesAWholeWaitingTime()
+    {
+        ClientSdk::instance().setTransport(nullptr);
+        ClientSdk::instance().setRequestTimeout(200ms);
+        for (const auto phase : {105ms, 112ms, 119ms}) { // within a tick of 20 ms
+            const QSignalSpy timeouts(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout);
+            common_req(QStringLiteral("id"), QStringLiteral("cam"), QString());
+            QElapsedTimer sinceRenewal;
+            QTimer::singleShot(phase, this, [&sinceRenewal] {
+                renewal_request_id(QStringLiteral("id"));
+                sinceRenewal.start();
+            });
+            QTRY_COMPARE(timeouts.count(), 1);
+            QVERIFY2(sinceRenewal.elapsed() >= 199, qPrintable(QString::number(sinceRenewal.elapsed())));
+        }
+    }
+
     void answersComeFromTheEventLoopAndDoNotEndTheWaiting()
     {
         ClientSdk::instance().setRequestTimeout(50ms);

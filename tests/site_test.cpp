@@ -1,79 +1,21 @@
 #include "support/OrdaTest.h"
+#include "support/SiteClient.h"
 
 #include <EmbeddedFleet.h>
-#include <orda_data/DevsMgrData.h>
-#include <orda_worker/AssistantSignals.h>
-#include <shell/BatchCfgForm.h>
-#include <vms_client_sdk/ClientSdk.h>
-#include <vms_client_sdk/WebSocketTransport.h>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
-#include <QDialog>
 #include <QJsonArray>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
-#include <QSignalSpy>
 #include <QTableWidget>
 
 using device_fleet::EmbeddedFleet;
 using device_fleet::Fault;
-using orda_data::DevsMgrData;
-using orda_worker::AssistantSignals;
 
 namespace {
-
-// The client's side of a site: store, SDK and form, over real sockets.
-class Client
-{
-public:
-    explicit Client(const QList<vms_sdk::DevInfo> &devices)
-    {
-        auto transport = std::make_unique<vms_sdk::WebSocketTransport>();
-        auto *raw = transport.get();
-        vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
-        vms_sdk::ClientSdk::instance().setRequestTimeout(std::chrono::seconds(2));
-        DevsMgrData::instance().updateDevs(devices);
-        raw->setDevices(devices);
-        form.show();
-    }
-
-    ~Client()
-    {
-        const auto windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows)
-            if (auto *dialog = qobject_cast<QDialog *>(window))
-                dialog->reject();
-        vms_sdk::ClientSdk::instance().setTransport(nullptr);
-        QStringList ids;
-        const QList<vms_sdk::DevInfo> devices = DevsMgrData::instance().getAllDevs(false);
-        for (const vms_sdk::DevInfo &dev : devices)
-            ids.append(dev.id);
-        DevsMgrData::instance().deleteDevs(ids);
-    }
-    Q_DISABLE_COPY_MOVE(Client)
-
-    QTableWidget *table() const { return form.findChild<QTableWidget *>(QStringLiteral("devsTableWt")); }
-
-    QString configureAudio() const
-    {
-        return configure(QStringLiteral("audio_param"), QStringLiteral("audioParametersPage"));
-    }
-
-    /// Runs a page over the rows that are ticked and returns the summary's text.
-    QString configure(const QString &navigationKey, const QString &pageName) const
-    {
-        const QSignalSpy summaries(&AssistantSignals::instance(), &AssistantSignals::signalEventConfirmRaised);
-        form.findChild<QAbstractButton *>(navigationKey)->click();
-        const auto *page = form.findChild<QWidget *>(pageName);
-        page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
-        return summaries.value(0).value(0).value<orda_worker::EventConfirmInfo>().text;
-    }
-
-    orda_batchCfg::BatchCfgForm form;
-};
 
 QJsonObject fleetDump(const EmbeddedFleet &fleet)
 {
@@ -121,35 +63,30 @@ private slots:
 
 void SiteTest::changesWhatWasTickedAndNothingElse_data()
 {
-    QTest::addColumn<QString>("navigationKey");
-    QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("boxes"); // left ticked
     QTest::addColumn<QString>("changes"); // pattern of the paths that may change, and one of which does
-    const auto row = [](const char *key, const char *page, const char *boxes, const char *changes) {
-        QTest::newRow(key) << QString::fromLatin1(key) << QString::fromLatin1(page) << QString::fromLatin1(boxes)
-                           << QString::fromLatin1(changes);
+    const auto row = [](const char *family, const char *boxes, const char *changes) {
+        QTest::newRow(family) << QString::fromLatin1(boxes) << QString::fromLatin1(changes);
     };
-    row("audio_param", "audioParametersPage", "encodingFormat alarmOutVolume", "^/audio(In|Out)/(encType|aoGain)$");
-    row("video_param", "videoParametersPage", "SDStream bitRate", "^/video/streams/1/(rcMode|quality|bitRate)$");
-    row("image_param", "imageParametersPage", "imageFlip lightMode", "^/image(Adjust/flip|DayNight/lightmode)$");
-    row("osd_param", "osdParamsCfgPage", "name", "^/osd/channelName$");
-    row("network_param", "networkParamsCfgPage", "compatibleEnable lockIpEnable",
-        "^/(onvifDiscovery/discoveryflag|inet/eth/bIPLock)$");
-    row("cloud_service_param", "platformParametersPage", "serviceAddress", "^/qbcloud/qbcloud_(addr|type)$");
-    row("9100_param", "platform9100ParametersPage", "serviceAddress", "^/alarmService/bManualcfg(online|bussiness)$");
+    row("audio", "encodingFormat alarmOutVolume", "^/audio(In|Out)/(encType|aoGain)$");
+    row("video", "SDStream bitRate", "^/video/streams/1/(rcMode|quality|bitRate)$");
+    row("image", "imageFlip lightMode", "^/image(Adjust/flip|DayNight/lightmode)$");
+    row("osd", "name", "^/osd/channelName$");
+    row("network", "compatibleEnable lockIpEnable", "^/(onvifDiscovery/discoveryflag|inet/eth/bIPLock)$");
+    row("platform", "serviceAddress", "^/qbcloud/qbcloud_(addr|type)$");
+    row("platform_9100", "serviceAddress", "^/alarmService/bManualcfg(online|bussiness)$");
 }
 
 void SiteTest::changesWhatWasTickedAndNothingElse()
 {
-    QFETCH(QString, navigationKey);
-    QFETCH(QString, page);
+    const FamilyRow &family = familyRow(QString::fromLatin1(QTest::currentDataTag()));
     QFETCH(QString, boxes);
     QFETCH(QString, changes);
     device_fleet::FleetOptions options;
     options.devices = 40;
     EmbeddedFleet fleet(options);
     QCOMPARE(fleet.start(), QString());
-    Client client(fleet.inventory());
+    const SiteClient client(fleet.inventory());
     QTRY_VERIFY(client.table()->rowCount() >= 30);
     QSet<QString> ticked;
     for (int row = 3; row < 28; ++row) {
@@ -157,14 +94,14 @@ void SiteTest::changesWhatWasTickedAndNothingElse()
         ticked.insert(client.table()->item(row, 0)->data(Qt::UserRole + 1).toString());
     }
     const QStringList wanted = boxes.split(QLatin1Char(' '));
-    const auto all = client.form.findChild<QWidget *>(page)->findChildren<QCheckBox *>();
+    const auto all = client.form.findChild<QWidget *>(family.pageName)->findChildren<QCheckBox *>();
     for (QCheckBox *box : all)
         if (box->isChecked() && !box->objectName().startsWith(QLatin1String("all"))
             && !wanted.contains(box->objectName()))
             box->click();
 
     const QJsonObject before = fleetDump(fleet);
-    QCOMPARE(client.configure(navigationKey, page),
+    QCOMPARE(client.configure(family),
              QStringLiteral("A total of 25 devices have been configured, success:25, failure:0"));
     const QJsonObject after = fleetDump(fleet);
     const QRegularExpression expected(changes);
@@ -185,7 +122,7 @@ void SiteTest::deviceThatDropsOutEndsByItsTimeOut()
     options.devices = 10;
     EmbeddedFleet fleet(options);
     QCOMPARE(fleet.start(), QString());
-    Client client(fleet.inventory());
+    const SiteClient client(fleet.inventory());
     QTRY_VERIFY(client.table()->rowCount() >= 8);
     const auto id = [&client](int row) { return client.table()->item(row, 0)->data(Qt::UserRole + 1).toString(); };
     const QString all = QStringLiteral("*");
@@ -196,7 +133,7 @@ void SiteTest::deviceThatDropsOutEndsByItsTimeOut()
     const int total = client.form.checkedDevIds().size();
 
     QCOMPARE(
-        client.configureAudio(),
+        client.configure(familyRow(QStringLiteral("audio"))),
         QStringLiteral("A total of %1 devices have been configured, success:%2, failure:2").arg(total).arg(total - 2));
     QTRY_COMPARE(client.table()->rowCount(), total); // it is back, at the bottom and without its mark
     QCOMPARE(client.form.checkedDevIds().size(), total - 1);
@@ -220,12 +157,12 @@ void SiteTest::deviceInAnotherLanguageIsConfigured()
     dev.password = QStringLiteral("Schlüssel 1");
     dev.accessCode = 1;
     dev.kindCode = 1;
-    Client client({dev});
+    const SiteClient client({dev});
     QTRY_COMPARE(client.table()->rowCount(), 1);
     client.form.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
     auto *page = client.form.findChild<QWidget *>(QStringLiteral("audioParametersPage"));
     page->findChild<QCheckBox *>(QStringLiteral("alarmOutVolume"))->click();
-    QCOMPARE(client.configureAudio(),
+    QCOMPARE(client.configure(familyRow(QStringLiteral("audio"))),
              QStringLiteral("A total of 1 devices have been configured, success:1, failure:0"));
     device.kill();
     device.waitForFinished();

@@ -29,6 +29,7 @@ AudioParamsCfgPage::AudioParamsCfgPage(QWidget *parent)
     m_ui->encodingFormatParam->setItemsData({QStringLiteral("g711u"), QStringLiteral("g711a")});
     m_ui->samplingRateParam->setItemsData({8000});
     m_ui->BitWideParam->setItemsData({16});
+    m_ui->audioInVolumeParam->setValidator(new QIntValidator(0, 100, m_ui->audioInVolumeParam));
     pairVolume(m_ui->audioInVolumeSlider, m_ui->audioInVolumeParam);
     pairVolume(m_ui->alarmOutVolumeSlider, m_ui->alarmOutVolumeParam);
 
@@ -58,13 +59,9 @@ AudioParamsCfgPage::~AudioParamsCfgPage() = default;
 
 void AudioParamsCfgPage::pairVolume(QSlider *slider, QLineEdit *edit)
 {
-    edit->setValidator(new QIntValidator(slider->minimum(), slider->maximum(), edit));
     edit->setText(QString::number(slider->value()));
     connect(edit, &QLineEdit::textChanged, slider, [slider](const QString &text) { slider->setValue(text.toInt()); });
-    connect(slider, &QSlider::valueChanged, edit, [edit](int value) {
-        if (edit->text().toInt() != value) // an emptied field stays empty while the operator types
-            edit->setText(QString::number(value));
-    });
+    connect(slider, &QSlider::valueChanged, edit, [edit](int value) { edit->setText(QString::number(value)); });
 }
 
 ParamsCfgTask *AudioParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)

@@ -11,7 +11,7 @@ const QLatin1String streamsKey("streams");
 QJsonObject streamOf(const QJsonArray &streams, int streamId)
 {
     for (const QJsonValue &value : streams) {
-        const QJsonObject stream = value.toObject();
+        QJsonObject stream = value.toObject();
         if (stream.value(QLatin1String("streamid")).toInt() == streamId)
             return stream;
     }

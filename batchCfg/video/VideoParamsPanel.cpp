@@ -91,7 +91,7 @@ void VideoParamsPanel::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
 }
 
-void VideoParamsPanel::reportAlignmentLater()
+void VideoParamsPanel::reportAlignmentLater() const
 {
     QTimer::singleShot(settlePause, this, &VideoParamsPanel::reportAlignment);
 }

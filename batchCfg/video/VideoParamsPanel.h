@@ -57,7 +57,7 @@ private:
     };
 
     void packFields();
-    void reportAlignmentLater();
+    void reportAlignmentLater() const;
     void reportAlignment();
 
     std::unique_ptr<Ui::VideoParamsPanel> m_ui;

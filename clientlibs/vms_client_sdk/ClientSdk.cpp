@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QThread>
 
+#include <utility>
+
 namespace vms_sdk {
 
 ClientSdk &ClientSdk::instance()
@@ -50,6 +52,7 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
 
 void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
 {
+    m_pending.advanceTo(m_clock.elapsed());
     m_pending.setTimeout(timeout);
     if (m_timer.isActive())
         startTimer(); // at the new pace
@@ -69,11 +72,31 @@ void ClientSdk::send(const QString &requestId, const QString &devId, const QStri
         qCDebug(sdkLog) << "request" << requestId << "to" << devId << "dropped: there is no transport";
 }
 
+void ClientSdk::renew(const QString &requestId)
+{
+    if (!isClockFresh())
+        m_pending.advanceTo(m_clock.elapsed());
+    m_pending.renew(requestId);
+}
+
+bool ClientSdk::isClockFresh() const
+{
+    // A listener may wait in an event loop of its own, for as long as it likes.
+    return m_raisingLevel >= 0 && m_raisingLevel == m_timer.thread()->loopLevel();
+}
+
+template <typename Raise>
+void ClientSdk::raise(Raise signal)
+{
+    m_pending.advanceTo(m_clock.elapsed());
+    const int outer = std::exchange(m_raisingLevel, m_timer.thread()->loopLevel());
+    signal(ClientSignals::instance());
+    m_raisingLevel = outer;
+}
+
 void ClientSdk::passOnAnswer(const QString &requestId, const QString &text)
 {
-    // The listeners may renew thousands of ids: those renewals count from now.
-    m_pending.advanceTo(m_clock.elapsed());
-    emit ClientSignals::instance().signalCommonRes(requestId, text);
+    raise([&](ClientSignals &sdk) { emit sdk.signalCommonRes(requestId, text); });
 }
 
 void ClientSdk::checkTimeouts()
@@ -85,7 +108,7 @@ void ClientSdk::checkTimeouts()
     if (!m_pending.isEmpty() || !m_timedOut.isEmpty())
         startTimer();
     while (!m_timedOut.isEmpty())
-        emit ClientSignals::instance().signalRequestTimeout(m_timedOut.takeFirst(), QVariant());
+        raise([id = m_timedOut.takeFirst()](ClientSignals &sdk) { emit sdk.signalRequestTimeout(id, QVariant()); });
 }
 
 void ClientSdk::startTimer()

@@ -27,11 +27,15 @@ public:
     void setRequestTimeout(std::chrono::milliseconds timeout);
 
     void send(const QString &requestId, const QString &devId, const QString &text); ///< see common_req()
-    void renew(const QString &requestId) { m_pending.renew(requestId); } ///< see renewal_request_id()
+    void renew(const QString &requestId); ///< see renewal_request_id()
 
 private:
     ClientSdk();
 
+    /// Calls listeners. Their renewals, thousands for each answer, go by one reading of the clock.
+    template <typename Raise>
+    void raise(Raise signal);
+    bool isClockFresh() const;
     void passOnAnswer(const QString &requestId, const QString &text);
     void checkTimeouts();
     void startTimer();
@@ -42,6 +46,7 @@ private:
     PendingRequests m_pending;
     QStringList m_timedOut; ///< taken out of m_pending, time-out not raised yet
     QElapsedTimer m_clock;
+    int m_raisingLevel = -1; ///< event loops under the signal that is being raised; -1: none is
     QTimer m_timer;
 };
 

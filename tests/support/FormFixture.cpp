@@ -62,9 +62,9 @@ QStringList FormFixture::column(int number) const
     return texts;
 }
 
-void FormFixture::configure(const char *navigationKey, const char *pageName) const
+void FormFixture::configure(const QString &navigationKey, const QString &pageName) const
 {
-    form->findChild<QAbstractButton *>(QLatin1String(navigationKey))->click();
-    auto *okBt = page(pageName)->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+    form->findChild<QAbstractButton *>(navigationKey)->click();
+    auto *const okBt = form->findChild<QWidget *>(pageName)->findChild<QAbstractButton *>(QStringLiteral("okBt"));
     QTest::mouseClick(okBt, Qt::LeftButton);
 }

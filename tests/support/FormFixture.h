@@ -33,8 +33,8 @@ public:
     QStringList column(int number) const;
     void tickAll() const { box("selAll")->click(); }
     /// Opens a page by its navigation entry and clicks its Configure button with the mouse; back when the run is over.
-    void configure(const char *navigationKey, const char *pageName) const;
-    void configureAudio() const { configure("audio_param", "audioParametersPage"); }
+    void configure(const QString &navigationKey, const QString &pageName) const;
+    void configureAudio() const { configure(QStringLiteral("audio_param"), QStringLiteral("audioParametersPage")); }
 
     ScriptedTransport *transport; ///< the SDK owns it
     QPointer<orda_batchCfg::BatchCfgForm> form;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QMetaType>
+#include <QString>
+#include <QStringList>
+
+/// What operators and devices see of a family of parameters.
+struct FamilyRow
+{
+    QString name;
+    QString navigationKey; ///< empty: the form does not offer the page
+    QString pageName; ///< object name, in the form's stack where it stands there
+    QString title, recordFile, timeoutText;
+    QStringList methods; ///< of a run with everything ticked
+    QStringList failures; ///< the text for each of them, the code left as %1
+};
+
+const QList<FamilyRow> &familyTable();
+const FamilyRow &familyRow(const QString &name);
+
+/// Message by serial number, from a record file as it lies on the disk now.
+QMap<QString, QString> recordedMessages(const FamilyRow &family);
+QString recordPath(const FamilyRow &family);
+
+Q_DECLARE_METATYPE(FamilyRow)

@@ -1,0 +1,47 @@
+#include "support/SiteClient.h"
+
+#include <orda_data/DevsMgrData.h>
+#include <orda_worker/AssistantSignals.h>
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/WebSocketTransport.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QSignalSpy>
+
+using orda_data::DevsMgrData;
+using orda_worker::AssistantSignals;
+
+SiteClient::SiteClient(const QList<vms_sdk::DevInfo> &devices, std::chrono::milliseconds waitingTime)
+{
+    auto transport = std::make_unique<vms_sdk::WebSocketTransport>();
+    auto *raw = transport.get();
+    vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+    vms_sdk::ClientSdk::instance().setRequestTimeout(waitingTime);
+    DevsMgrData::instance().updateDevs(devices);
+    raw->setDevices(devices);
+    form.show();
+}
+
+SiteClient::~SiteClient()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        if (auto *dialog = qobject_cast<QDialog *>(window))
+            dialog->reject();
+    vms_sdk::ClientSdk::instance().setTransport(nullptr);
+    QStringList ids;
+    const QList<vms_sdk::DevInfo> devices = DevsMgrData::instance().getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : devices)
+        ids.append(dev.id);
+    DevsMgrData::instance().deleteDevs(ids);
+}
+
+QString SiteClient::configure(const FamilyRow &family) const
+{
+    const QSignalSpy summaries(&AssistantSignals::instance(), &AssistantSignals::signalEventConfirmRaised);
+    form.findChild<QAbstractButton *>(family.navigationKey)->click();
+    form.findChild<QWidget *>(family.pageName)->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
+    return summaries.count() == 1 ? summaries.at(0).at(0).value<orda_worker::EventConfirmInfo>().text : QString();
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "support/FamilyTable.h"
+
+#include <shell/BatchCfgForm.h>
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QTableWidget>
+
+#include <chrono>
+
+/// The client's side of a site: store, SDK and form, over real sockets.
+class SiteClient
+{
+public:
+    explicit SiteClient(const QList<vms_sdk::DevInfo> &devices,
+                        std::chrono::milliseconds waitingTime = std::chrono::seconds(2));
+    ~SiteClient();
+    Q_DISABLE_COPY_MOVE(SiteClient)
+
+    QTableWidget *table() const { return form.findChild<QTableWidget *>(QStringLiteral("devsTableWt")); }
+    QString idInRow(int row) const { return table()->item(row, 0)->data(Qt::UserRole + 1).toString(); }
+
+    /// Runs a page over the rows that are ticked and returns the summary's text; empty unless there was exactly one.
+    QString configure(const FamilyRow &family) const;
+
+    orda_batchCfg::BatchCfgForm form;
+};
