@@ -77,7 +77,7 @@ void RunDriver::start()
     }
     connect(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged, this,
             &RunDriver::handleDevStatus);
-    QTimer::singleShot(settleLimit, this, &RunDriver::whenSettled);
+    QTimer::singleShot(m_unsettled.isEmpty() ? 0ms : settleLimit, this, &RunDriver::whenSettled);
 }
 
 void RunDriver::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)

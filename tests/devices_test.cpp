@@ -33,7 +33,8 @@ enum Fault
     Refuses,
     OtherSerial,
     ShortNonce,
-    NoProof
+    NoProof,
+    Replays
 };
 
 QSslConfiguration tlsWith(const QString &certificate)
@@ -105,7 +106,8 @@ private:
         if (fault == Refuses || text("user") != "SN-1"
             || text("proof") != signOnProof(SignOnSide::Client, info.password, m_nonce, text("nonce")))
             return client->close(QWebSocketProtocol::CloseCode(4401));
-        const QByteArray proof = signOnProof(SignOnSide::Device, info.password, m_nonce, text("nonce"));
+        const QByteArray nonce = fault == Replays ? QByteArray("b2YgYW4gZWFybGllciBkaWFsbGluZw==") : text("nonce");
+        const QByteArray proof = signOnProof(SignOnSide::Device, info.password, m_nonce, nonce);
         client->sendTextMessage(QStringLiteral("{\"welcome\":{\"state\":5,\"proof\":\"%1\"}}")
                                     .arg(QString::fromLatin1(fault == NoProof ? text("proof") : proof)));
     }
@@ -117,6 +119,7 @@ private:
 } // namespace
 
 Q_DECLARE_METATYPE(Fault)
+Q_DECLARE_METATYPE(QSsl::SslProtocol)
 
 /// The WebSocket transport against devices behind real sockets, seen as the client sees it: through ClientSignals.
 class DevicesTest : public OrdaTest
@@ -187,6 +190,7 @@ private slots:
         QTest::newRow("another device") << OtherSerial << QStringLiteral("\"\\\\t\", not \"SN-1\"");
         QTest::newRow("short nonce") << ShortNonce << QStringLiteral("nonce");
         QTest::newRow("our own proof sent back") << NoProof << QStringLiteral("does not prove");
+        QTest::newRow("the welcome of an earlier sign-on") << Replays << QStringLiteral("does not prove");
     }
 
     void refusalsAreNotRetriedUnasked()
@@ -247,6 +251,25 @@ private slots:
         QTRY_COMPARE(m_states[m_id].mid(5), States({DevOffline, DevConnecting, DevDefaultPassword}));
     }
 
+    void floodEndsTheConnectionAndNobodyElseNotices()
+    {
+        TestDevice device(m_id);
+        TestDevice other(QStringLiteral("SN-2"));
+        other.info.userName = m_id;
+        m_transport->setDevices({device.info, other.info});
+        QTRY_VERIFY(device.client && other.client && m_states.size() == 2 && m_states[m_id].endsWith(DevDefaultPassword)
+                    && m_states[other.info.id].endsWith(DevDefaultPassword));
+        expectWarning(QStringLiteral("SN-1 .*faster than"));
+        for (int i = 0; i < 100'000; ++i)
+            device.client->sendTextMessage(QStringLiteral("x\n"));
+        QTRY_VERIFY(m_states[m_id].size() > 2);
+        QCOMPARE(m_states[m_id].at(2), DevOffline);
+        QVERIFY2(m_answers.size() <= 1000, qPrintable(QString::number(m_answers.size())));
+        other.client->sendTextMessage(QStringLiteral("id\ntext"));
+        QTRY_VERIFY(m_answers.contains(QStringLiteral("id|text")));
+        QCOMPARE(m_states[other.info.id].size(), 2);
+    }
+
     void silentHandshakesAreGivenUpAndFewAtOnce()
     {
         QTcpServer silent;
@@ -270,33 +293,52 @@ private slots:
             QCOMPARE(m_states[device.id].mid(0, 2), States({DevConnecting, DevOffline}));
     }
 
-    void certificatesAreTakenByTheirFingerprintOnly_data()
+    void certificatesAreTakenWhenPinnedOrTrusted_data()
     {
         QTest::addColumn<QString>("certificate");
         QTest::addColumn<QString>("pin");
+        QTest::addColumn<bool>("isTrusted"); // its signer is one of the system's CAs
+        QTest::addColumn<QSsl::SslProtocol>("protocol");
         QTest::addColumn<DevStatus>("state");
         const QString valid = QStringLiteral("valid.pem"), expired = QStringLiteral("expired.pem"),
-                      own = QStringLiteral("own");
-        QTest::newRow("pinned") << valid << own << DevDefaultPassword;
-        QTest::newRow("another one is pinned") << valid << QString(64, QLatin1Char('0')) << DevOffline;
-        QTest::newRow("self-signed, not pinned") << valid << QString() << DevOffline;
-        QTest::newRow("pinned, but expired") << expired << own << DevOffline;
+                      local = QStringLiteral("local-ca.pem"), own = QStringLiteral("own"), other(64, QLatin1Char('0'));
+        const auto row = [](const char *name, const QString &certificate, const QString &pin, bool isTrusted,
+                            DevStatus state, QSsl::SslProtocol protocol = QSsl::SecureProtocols) {
+            QTest::newRow(name) << certificate << pin << isTrusted << protocol << state;
+        };
+        row("pinned", valid, own, false, DevDefaultPassword);
+        row("another one is pinned", valid, other, false, DevOffline);
+        row("trusted, but another one is pinned", local, other, true, DevOffline);
+        row("self-signed, not pinned", valid, {}, false, DevOffline);
+        row("pinned, but expired", expired, own, false, DevOffline);
+        row("signed by one of the system's CAs", local, {}, true, DevDefaultPassword);
+        row("trusted, for another host", valid, {}, true, DevOffline);
+        row("pinned, TLS 1.1", valid, own, false, DevOffline, QSsl::TlsV1_1);
     }
 
-    void certificatesAreTakenByTheirFingerprintOnly()
+    void certificatesAreTakenWhenPinnedOrTrusted()
     {
         QFETCH(QString, certificate);
         QFETCH(QString, pin);
+        QFETCH(bool, isTrusted);
+        QFETCH(QSsl::SslProtocol, protocol);
         QFETCH(DevStatus, state);
-        const QSslConfiguration tls = tlsWith(certificate);
+        QSslConfiguration tls = tlsWith(certificate);
+        tls.setProtocol(protocol);
+        const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+        QSslConfiguration trusting = before;
+        if (isTrusted)
+            trusting.setCaCertificates({tls.localCertificate()});
+        QSslConfiguration::setDefaultConfiguration(trusting);
         const QByteArray own = tls.localCertificate().digest(QCryptographicHash::Sha256).toHex(':');
         TestDevice device(m_id, &tls);
         device.info.fingerprint = pin == QLatin1String("own") ? QString::fromLatin1(own) : pin;
-        if (state == DevOffline)
+        if (state == DevOffline && protocol == QSsl::SecureProtocols)
             expectWarning(QStringLiteral("certificate"));
         m_transport->setDevices({device.info});
         QTRY_COMPARE(m_states[m_id].mid(0, 2), States({DevConnecting, state}));
         QCOMPARE(device.dials, state == DevOffline ? 0 : 1);
+        QSslConfiguration::setDefaultConfiguration(before);
     }
 
 private:

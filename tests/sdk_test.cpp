@@ -187,7 +187,9 @@ private slots:
         row("line break in the name", address + ", 'name': 'a\\nb'", "'name'.*line breaks");
         row("tab in the serial number", address + ", 'serialNumber': 'a\\tb'", "'serialNumber'");
         row("empty id", address + ", 'id': ''", "'id'.*empty");
-        row("id used twice", address + ", 'id': 'first'", "devices.1. .*'id'.*twice");
+        row("id used twice", address + ", 'id': 'first'", "devices.1. .*'id'.*same as in devices.0. .id 'first'");
+        row("serial number used twice", address + ", 'serialNumber': 'S'", "'serialNumber'.*same as in devices.0.");
+        row("address used twice", "'ip': '10.0.0.1', 'port': 1", "'ip'.*same as in devices.0.");
         row("relative path", address + ", 'path': 'x'", "'path'");
         row("url of a web page", "'url': 'http://relay.example/7'", "'url'");
         row("tls beside a plain url", "'url': 'ws://relay.example/7', 'tls': true", "'tls'");
@@ -201,8 +203,8 @@ private slots:
         QFETCH(QByteArray, entry);
         QFETCH(QString, error);
         const QByteArray id = entry.contains("'id'") ? "" : "'id': 'cam', ";
-        const Inventory inventory = readInventory(
-            fileWith("{'devices': [{'id': 'first', 'ip': '10.0.0.1', 'port': 1}, {" + id + entry + "}]}"));
+        const Inventory inventory = readInventory(fileWith(
+            "{'devices': [{'id': 'first', 'ip': '10.0.0.1', 'port': 1, 'serialNumber': 'S'}, {" + id + entry + "}]}"));
         QCOMPARE(inventory.devices.size(), error.isEmpty() ? 2 : 0);
         QCOMPARE(inventory.error.isEmpty(), error.isEmpty());
         const QRegularExpression expected(error.replace(QLatin1Char('\''), QLatin1Char('"')));

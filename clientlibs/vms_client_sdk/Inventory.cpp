@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QHash>
 #include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -193,11 +194,12 @@ public:
 private:
     bool readEntries(const QJsonObject &root);
     bool readEntry(int index, const QJsonValue &value);
+    bool isFirst(const QString &field, const QString &value, const QString &where);
     bool fail(const QString &what);
 
     QString m_path;
     Inventory m_inventory;
-    QSet<QString> m_ids;
+    QHash<QString, QString> m_entryOf; ///< by field and value, of the fields that no two entries may share
 };
 
 bool InventoryReader::fail(const QString &what)
@@ -245,6 +247,15 @@ bool InventoryReader::readEntries(const QJsonObject &root)
     return true;
 }
 
+bool InventoryReader::isFirst(const QString &field, const QString &value, const QString &where)
+{
+    QString &entry = m_entryOf[field + QLatin1Char(' ') + value];
+    if (!entry.isEmpty() && !value.isEmpty())
+        return fail(tr("%1: field \"%2\": must not be the same as in %3").arg(where, field, entry));
+    entry = where;
+    return true;
+}
+
 bool InventoryReader::readEntry(int index, const QJsonValue &value)
 {
     EntryReader entry(value.toObject());
@@ -254,13 +265,15 @@ bool InventoryReader::readEntry(int index, const QJsonValue &value)
         return fail(tr("%1: must be an object").arg(where));
     if (!entry.fault().isEmpty())
         return fail(tr("%1: %2").arg(where, entry.fault()));
-    if (m_ids.contains(device.id))
-        return fail(tr("%1: field \"id\": must not be used twice").arg(where));
+    const QString address = device.url.isEmpty() ? QStringLiteral("ip") : QStringLiteral("url");
+    if (!isFirst(QStringLiteral("id"), device.id, where)
+        || !isFirst(QStringLiteral("serialNumber"), device.serialNumber, where)
+        || !isFirst(address, deviceUrl(device).toString(), where))
+        return false;
 
     const QStringList unknownKeys = entry.unknownKeys();
     for (const QString &key : unknownKeys)
         m_inventory.warnings.append(tr("%1: %2: unknown key \"%3\" is not used").arg(m_path, where, key));
-    m_ids.insert(device.id);
     m_inventory.devices.append(device);
     return true;
 }

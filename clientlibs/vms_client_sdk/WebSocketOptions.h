@@ -12,6 +12,8 @@ struct WebSocketOptions
     std::chrono::milliseconds lastBackOff{30'000}; ///< the longest
     std::chrono::milliseconds pingInterval{10'000}; ///< two pings without an answer: the connection is lost
     std::chrono::milliseconds closeLimit{2'000}; ///< what a connection may take to close before it is cut
+    int maxMessagesPerSecond = 1'000; ///< from one device; a device answers a run with about ten
+    int maxBytesPerSecond = 16 << 20; ///< from one device, in characters: what waits for the user interface stays small
     int maxSettingUp = 32; ///< more at once make devices and switches drop handshakes
 };
 

@@ -151,7 +151,12 @@ void DeviceLink::onTextMessage(const QString &message)
 {
     if (m_phase == Phase::Online) {
         sawTraffic();
-        onFrame(message);
+        if (isFlood(message.size())) {
+            warn(QStringLiteral("sends messages faster than anybody could read them"));
+            lost(QStringLiteral("flood"));
+        } else {
+            onFrame(message);
+        }
     } else {
         onSignOnMessage(message);
     }
@@ -182,6 +187,17 @@ void DeviceLink::onSignOnMessage(const QString &message)
         setStatus(m_signOn->state().value_or(DevOnline));
         break;
     }
+}
+
+bool DeviceLink::isFlood(int size)
+{
+    if (!m_second.isValid() || m_second.elapsed() >= 1000) {
+        m_second.start();
+        m_messagesInSecond = m_bytesInSecond = 0;
+    }
+    m_bytesInSecond += size;
+    return ++m_messagesInSecond > m_host.options().maxMessagesPerSecond
+        || m_bytesInSecond > m_host.options().maxBytesPerSecond;
 }
 
 void DeviceLink::onFrame(const QString &frameText)

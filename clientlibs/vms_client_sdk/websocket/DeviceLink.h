@@ -5,6 +5,7 @@
 #include "PinnedCertificate.h"
 
 #include <QAbstractSocket>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QSet>
 #include <QUrl>
@@ -55,6 +56,7 @@ private:
     void onSslErrors(const QList<QSslError> &errors);
     void onTextMessage(const QString &message);
     void onSignOnMessage(const QString &message);
+    bool isFlood(int size);
     void onFrame(const QString &frameText);
     void onNotice(const QString &text);
     void sawTraffic();
@@ -77,6 +79,9 @@ private:
     std::optional<ClientSignOn> m_signOn;
     int m_losses = 0; ///< in a row, without traffic in between
     int m_unansweredPings = 0;
+    QElapsedTimer m_second; ///< in which are counted:
+    int m_messagesInSecond = 0;
+    int m_bytesInSecond = 0;
     QSet<QString> m_warned; ///< since the last welcome
 };
 
