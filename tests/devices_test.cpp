@@ -337,7 +337,8 @@ private slots:
             expectWarning(QStringLiteral("certificate"));
         m_transport->setDevices({device.info});
         QTRY_COMPARE(m_states[m_id].mid(0, 2), States({DevConnecting, state}));
-        QCOMPARE(device.dials, state == DevOffline ? 0 : 1);
+        if (!isTrusted) // else the handshake is over before the pin is compared
+            QCOMPARE(device.dials, state == DevOffline ? 0 : 1);
         QSslConfiguration::setDefaultConfiguration(before);
     }
 

@@ -8,6 +8,7 @@
 #include <run/BatchCfgContact.h>
 #include <run/ParamsCfgTask.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -84,8 +85,8 @@ private slots:
     void deadDevicesEndTogether();
     void everyResultRenewsTheOthers();
     void secondPressDoesNothing();
-    void formMayBeDeletedOrClosedInARun_data();
-    void formMayBeDeletedOrClosedInARun();
+    void formMayGoAtAnyMomentOfARun_data();
+    void formMayGoAtAnyMomentOfARun();
     void quittingEndsARunQuietly();
     void resultsAreOnTheDiskAtOnce();
     void recordIsNeverWrittenThroughALink();
@@ -334,12 +335,16 @@ void RunTest::secondPressDoesNothing()
     const FormFixture f(5, healthy);
     f.tickAll();
     auto *okBt = f.page("audioParametersPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+    auto *otherBt = f.page("osdParamsCfgPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
     onceInRun(
         f.form, [&] { return !f.transport->requests.isEmpty(); },
-        [okBt] {
-            okBt->click(); // as an accessibility tool does
+        [okBt, otherBt] {
+            okBt->click();
             QTest::mouseClick(okBt, Qt::LeftButton);
             QTest::keyClick(okBt, Qt::Key_Space);
+            QAccessible::queryAccessibleInterface(okBt)->actionInterface()->doAction(
+                QAccessibleActionInterface::pressAction());
+            otherBt->click(); // and of another page
         });
     f.configureAudio();
     QCOMPARE(m_summaries->count(), 1);
@@ -348,40 +353,53 @@ void RunTest::secondPressDoesNothing()
     QCOMPARE(m_summaries->count(), 2);
 }
 
-void RunTest::formMayBeDeletedOrClosedInARun_data()
+void RunTest::formMayGoAtAnyMomentOfARun_data()
 {
-    QTest::addColumn<bool>("isDeleted");
-    QTest::addColumn<int>("summaries");
-    QTest::newRow("deleted: nobody is left to tell") << true << 0;
-    QTest::newRow("closed: the run goes on") << false << 1;
+    QTest::addColumn<QString>("what"); // class of the widget that is deleted; none: the form is closed
+    QTest::addColumn<int>("requests"); // that have been sent by then
+    for (const char *what :
+         {"orda_batchCfg::BatchCfgForm", "QStackedWidget", "orda_batchCfg::AudioParamsCfgPage", ""}) {
+        // All reads out, in the first and the last pause before a write, waiting for the last answer.
+        for (const int requests : {3, 4, 11, 12})
+            QTest::addRow("%s, %d", what, requests) << QString::fromLatin1(what) << requests;
+    }
 }
 
-void RunTest::formMayBeDeletedOrClosedInARun()
+void RunTest::formMayGoAtAnyMomentOfARun()
 {
-    QFETCH(bool, isDeleted);
-    QFETCH(int, summaries);
+    QFETCH(QString, what);
+    QFETCH(int, requests);
     const FormFixture f(3, healthy);
     f.tickAll();
+    const bool isFormDeleted = what.endsWith(QLatin1String("Form"));
+    QWidget *page = f.page("audioParametersPage");
     QObject context;
-    onceInRun(
-        &context, [&] { return f.transport->requests.size() > 3; },
-        [&] {
-            if (isDeleted)
-                delete f.form;
-            else
-                f.form->close();
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    // From the event loop, right after the request that was waited for.
+    *connection = connect(f.transport, &ScriptedTransport::sent, &context, [&, connection](int count) {
+        if (count != requests)
+            return;
+        QTimer::singleShot(0, &context, [&] {
+            for (QWidget *widget = page; widget; widget = widget->parentWidget())
+                if (widget->inherits(what.toLatin1().constData())) {
+                    delete widget;
+                    return;
+                }
+            f.form->close();
         });
+    });
     f.configureAudio();
-    QCOMPARE(m_summaries->count(), summaries);
-    QCOMPARE(f.form.isNull(), isDeleted);
-    QCOMPARE(orda_batchCfg::BatchCfgContact::instance().form() == nullptr, isDeleted);
-    if (isDeleted) {
-        QVERIFY(orda_batchCfg::BatchCfgContact::instance().checkedDevIds().isEmpty());
-        const FormFixture next(1, healthy);
-        next.tickAll();
-        next.configureAudio();
-        QCOMPARE(m_summaries->count(), 1);
-    }
+    QCOMPARE(m_summaries->count(), what.isEmpty() || requests == 12 ? 1 : 0); // the last answer is on its way by then
+    QCOMPARE(f.form.isNull(), isFormDeleted);
+    QCOMPARE(orda_batchCfg::BatchCfgContact::instance().form() == nullptr, isFormDeleted);
+    QCOMPARE(orda_batchCfg::BatchCfgContact::instance().checkedDevIds().isEmpty(), isFormDeleted);
+    if (!isFormDeleted)
+        QTRY_VERIFY(!f.form->findChild<orda_base::DisabledWaitingWt *>());
+    const int before = m_summaries->count();
+    const FormFixture next(1, healthy);
+    next.tickAll();
+    next.configureAudio();
+    QCOMPARE(m_summaries->count(), before + 1);
 }
 
 void RunTest::quittingEndsARunQuietly()

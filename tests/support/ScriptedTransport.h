@@ -35,6 +35,7 @@ public:
         const QStringList texts = script(requests.constLast());
         for (const QString &answerText : texts)
             emit answered(requestId, answerText);
+        emit sent(requests.size());
     }
 
     QStringList methods() const
@@ -47,6 +48,9 @@ public:
 
     Script script;
     QList<Request> requests;
+
+signals:
+    void sent(int count); ///< requests so far
 };
 
 /// An answer as devices give it.
