@@ -65,8 +65,14 @@ std::optional<QJsonObject> writtenMembers(const Family &family, const QJsonObjec
 
 void merge(QJsonObject &target, const QJsonObject &members)
 {
-    for (auto it = members.begin(); it != members.end(); ++it)
-        target.insert(it.key(), it.value());
+    // Into a fresh object: one that is written to again and again keeps every text that it ever held.
+    QJsonObject merged;
+    for (auto it = target.constBegin(); it != target.constEnd(); ++it)
+        merged.insert(it.key(), members.contains(it.key()) ? members.value(it.key()) : it.value());
+    for (auto it = members.constBegin(); it != members.constEnd(); ++it)
+        if (!merged.contains(it.key()))
+            merged.insert(it.key(), it.value());
+    target = merged;
 }
 
 /// @return false, and nothing changed, when a written stream is none of the device's
