@@ -1,5 +1,4 @@
 #include "support/OrdaTest.h"
-#include "support/RawClient.h"
 
 #include <EmbeddedFleet.h>
 #include <SimulatedDevice.h>
@@ -10,6 +9,8 @@
 
 #include <QApplication>
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QNetworkInterface>
 #include <QProcess>
 #include <QSet>
@@ -23,9 +24,6 @@
 
 using namespace device_fleet;
 using L1 = QLatin1String;
-using Spoil = std::function<void(RawClient &)>;
-Q_DECLARE_METATYPE(Spoil)
-Q_DECLARE_METATYPE(device_fleet::FaultSpec)
 
 namespace {
 
@@ -85,66 +83,6 @@ class FleetTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void writeChangesWhatItNames_data()
-    {
-        QTest::addColumn<QByteArray>("writeMethod");
-        QTest::addColumn<QByteArray>("param");
-        QTest::addColumn<QByteArray>("readMethod");
-        QTest::addColumn<QByteArray>("expected");
-        const auto row = [](const char *write, const char *param, const char *read, const char *expected) {
-            QTest::newRow(write) << QByteArray(write) << QByteArray(param) << QByteArray(read) << QByteArray(expected);
-        };
-        row("ai_set_param", R"({"channelid": 0, "audioAttr": {"aiGain": 7}})", //
-            "ai_get_param", R"({"aiGain": 7, "bEnable": true})");
-        row("ao_set_param", R"({"channelid": 0, "audioAttr": {"aoGain": 7}})", //
-            "ao_get_param", R"({"aoGain": 7, "bEnable": true})");
-        row("stream_set_params", R"({"streams": [{"streamid": 1, "width": 10}]})", "stream_get_params",
-            R"({"streams": [{"streamid": 0, "width": 1920, "height": 9}, {"streamid": 1, "width": 10, "height": 9}]})");
-        row("image_set_adjust_param", R"({"channelid": 0, "attr": {"flip": "both"}})", //
-            "image_get_adjust_param", R"({"flip": "both", "hue": 50})");
-        row("image_set_expertsetting_param", R"({"channelid": 0, "attr": {"expertmode": "indoor"}})",
-            "image_get_expertsetting_param", R"({"expertmode": "indoor"})");
-        row("image_set_dncut_param", R"({"channelid": 0, "attr": {"lightmode": "ir"}})", //
-            "image_get_dncut_param", R"({"lightmode": "ir"})");
-        row("chnosd_set_param", R"({"channelid": 0, "attr": {"channelName": ""}})", //
-            "chnosd_get_param", R"({"bShowOSD": true, "channelName": ""})");
-        row("netservice_onvif_set_discoveryinfo", R"({"discoveryflag": 1, "bdefault": false})",
-            "netservice_onvif_get_discoveryinfo", R"({"discoveryflag": 1})");
-        row("ifconfig_eth_set", R"({"bIPLock": true, "clienttype": "web"})", //
-            "ifconfig_get_inet", R"({"eth": {"bIPLock": true, "speed": "auto"}, "httpPort": 80})");
-        row("ifconfig_qbcloud_set_param", R"({"qbcloud_en": false, "qbcloud_type": "private"})",
-            "ifconfig_qbcloud_get_param", R"({"qbcloud_en": false, "qbcloud_type": "private", "qbcloud_addr": "a"})");
-        row("alarmservice_set_cfg", R"({"onlineserverport": 1})", //
-            "alarmservice_get_cfg", R"({"bEnable": true, "onlineserverport": 1})");
-    }
-
-    void writeChangesWhatItNames()
-    {
-        QFETCH(QByteArray, writeMethod);
-        QFETCH(QByteArray, param);
-        QFETCH(QByteArray, readMethod);
-        QFETCH(QByteArray, expected);
-        const QJsonObject before = json(R"({
-            "audioIn": {"aiGain": 50, "bEnable": true}, "audioOut": {"aoGain": 50, "bEnable": true},
-            "video": {"streams": [{"streamid": 0, "width": 1920, "height": 9}, {"streamid": 1, "width": 704, "height": 9}]},
-            "imageAdjust": {"flip": "off", "hue": 50}, "imageExpert": {"expertmode": "auto"},
-            "imageDayNight": {"lightmode": "off"}, "osd": {"bShowOSD": true, "channelName": "Gate 1"},
-            "onvifDiscovery": {"discoveryflag": 0}, "inet": {"eth": {"bIPLock": false, "speed": "auto"}, "httpPort": 80},
-            "qbcloud": {"qbcloud_en": true, "qbcloud_type": "public", "qbcloud_addr": "a"},
-            "alarmService": {"bEnable": true, "onlineserverport": 15030}})")
-                                       .toObject();
-        SimulatedDevice device(QStringLiteral("d"), before);
-
-        const QJsonObject answer = device.answer(json(request(writeMethod, param)).toObject());
-        QCOMPARE(errorCode(answer), 0);
-        QCOMPARE(answer[L1("method")].toString().toUtf8(), writeMethod);
-        QCOMPARE(device.answer(json(request(readMethod)).toObject())[L1("result")], json(expected));
-        int changed = 0;
-        for (auto it = before.begin(); it != before.end(); ++it)
-            changed += device.parameters().value(it.key()) == it.value() ? 0 : 1;
-        QCOMPARE(changed, 1);
-    }
-
     void badRequestChangesNothing_data()
     {
         QTest::addColumn<QByteArray>("text");
@@ -259,170 +197,6 @@ private slots:
         QCOMPARE(plan.find(L1("d"), L1("x"))->fault, Fault::NoResult);
         QCOMPARE(plan.find(L1("x"), L1("m"))->fault, Fault::NoAnswer);
         QCOMPARE(plan.find(L1("x"), L1("x"))->fault, Fault::Garbage);
-    }
-
-    void signOn_data()
-    {
-        QTest::addColumn<Spoil>("spoil");
-        QTest::addColumn<bool>("isSecure");
-        QTest::addColumn<bool>("isWelcome");
-        const Spoil nothing = [](RawClient &) {};
-        QTest::newRow("right password") << nothing << false << true;
-        QTest::newRow("TLS and its fingerprint") << nothing << true << true;
-        QTest::newRow("wrong password") << Spoil([](RawClient &c) { c.device.password += L1("x"); }) << false << false;
-        QTest::newRow("wrong user") << Spoil([](RawClient &c) { c.device.userName = L1("root"); }) << false << false;
-        QTest::newRow("short nonce") << Spoil([](RawClient &c) { c.nonce = "MTIzNDU2Nzg5MDEyMzQ1"; }) << false << false;
-    }
-
-    void signOn()
-    {
-        QFETCH(Spoil, spoil);
-        QFETCH(bool, isSecure);
-        QFETCH(bool, isWelcome);
-        FleetOptions options = site(30);
-        if (isSecure)
-            options.certificateFile = options.keyFile = QFINDTESTDATA("support/certificates/valid.pem");
-        EmbeddedFleet fleet(options);
-        QCOMPARE(fleet.start(), QString());
-        const auto records = fleet.inventory();
-        for (int i = 0; i < records.size(); ++i) {
-            const SiteDevice made = makeSiteDevice(options.seed, i);
-            if (!made.online)
-                continue;
-            QCOMPARE(vms_sdk::deviceUrl(records.at(i)).scheme(), isSecure ? L1("wss") : L1("ws"));
-            RawClient client(records.at(i));
-            spoil(client);
-            QTRY_VERIFY(client.state != 0 || client.isClosed);
-            QCOMPARE(client.state, isWelcome ? int(made.state) : 0);
-            QCOMPARE(int(client.socket.closeCode()) == vms_sdk::signOnRefusedCode, !isWelcome);
-        }
-    }
-
-    void faultyAnswers_data()
-    {
-        QTest::addColumn<FaultSpec>("fault");
-        QTest::addColumn<QString>("method");
-        QTest::addColumn<QStringList>("answers"); // patterns of what comes, id line first
-        QTest::addColumn<bool>("isWritten");
-        const auto row = [](const char *name, const FaultSpec &fault, const QStringList &answers, bool isWritten,
-                            const char *method = "ai_set_param") {
-            QTest::newRow(name) << fault << QString::fromLatin1(method) << answers << isWritten;
-        };
-        const QString good = L1("^id\n.*\"errorcode\":0.*ai_set_param");
-        row("error code", {Fault::ErrorCode, -77}, {L1("^id\n.*\"errorcode\":-77.*ai_set_param")}, false);
-        row("garbage", {Fault::Garbage}, {L1("^id\n(?!.*errorcode)")}, true);
-        row("no answer", {Fault::NoAnswer}, {}, false);
-        row("late", {Fault::LateAnswer, 0, std::chrono::milliseconds(50)}, {good}, true);
-        row("twice", {Fault::AnswerTwice}, {good, good}, true);
-        row("foreign id", {Fault::ForeignId}, {L1("^(?!id\n).+\n.*ai_set_param")}, true);
-        row("foreign method", {Fault::ForeignMethod}, {L1("^id\n(?!.*ai_set_param)")}, true);
-        row("huge", {Fault::HugeAnswer}, {L1("^huge$")}, true);
-        row("no result", {Fault::NoResult}, {L1("^id\n(?!.*result).*ai_get_param")}, false, "ai_get_param");
-    }
-
-    void faultyAnswers()
-    {
-        QFETCH(FaultSpec, fault);
-        QFETCH(QString, method);
-        QFETCH(QStringList, answers);
-        QFETCH(bool, isWritten);
-        EmbeddedFleet fleet(site(2));
-        QSignalSpy log(&fleet, &EmbeddedFleet::requestReceived);
-        QCOMPARE(fleet.start(), QString());
-        RawClient client(fleet.inventory().at(0));
-        QTRY_VERIFY(client.state != 0);
-        QJsonObject expected = fleet.dump();
-        fleet.setFault(client.device.id, method, fault);
-
-        const QByteArray faulty = request(method.toLatin1(), R"({"channelid": 0, "audioAttr": {"aiGain": 99}})");
-        client.request(L1("id"), faulty);
-        client.request(L1("next"), request("ao_get_param")); // tells that a silent device is done
-        QTRY_COMPARE(client.frames.size(), answers.size() + 1);
-        QCOMPARE(log.at(0), (QVariantList{client.device.id, method, QString::fromUtf8(faulty)}));
-        QStringList texts;
-        for (const vms_sdk::DeviceFrame &frame : qAsConst(client.frames)) {
-            const bool isHuge = frame.text.size() > vms_sdk::maxFrameBytes;
-            if (frame.requestId != L1("next"))
-                texts.append(isHuge ? QStringLiteral("huge") : vms_sdk::toFrameText(frame));
-        }
-        QCOMPARE(texts.size(), answers.size());
-        for (int i = 0; i < answers.size(); ++i)
-            QVERIFY2(texts.at(i).contains(QRegularExpression(answers.at(i))), qPrintable(texts.at(i)));
-
-        const auto gain = [&client](const QJsonObject &dump) {
-            return dump[L1("devices")][client.device.id][L1("audioIn")][L1("aiGain")].toInt();
-        };
-        QCOMPARE(gain(fleet.dump()) == 99, isWritten);
-        QCOMPARE(fleet.dump() != expected, isWritten);
-    }
-
-    void deviceDropsAndReturns_data()
-    {
-        QTest::addColumn<FaultSpec>("fault");
-        QTest::addColumn<QJsonValue>("address"); // after its return
-        const std::chrono::milliseconds away(500);
-        const QJsonValue old = makeSiteDevice(1, 0).parameters.value(L1("qbcloud"))[L1("qbcloud_addr")];
-        QTest::newRow("at once") << FaultSpec{Fault::DropConnection} << old;
-        QTest::newRow("new") << FaultSpec{Fault::DropAndReturn, 0, away} << QJsonValue(L1("new"));
-        QTest::newRow("old") << FaultSpec{Fault::DropAndReturn, 0, away, ReturnWith::OldSettings} << old;
-        QTest::newRow("missing") << FaultSpec{Fault::DropAndReturn, 0, away, ReturnWith::MissingMember}
-                                 << QJsonValue(QJsonValue::Undefined);
-    }
-
-    void deviceDropsAndReturns()
-    {
-        QFETCH(FaultSpec, fault);
-        QFETCH(QJsonValue, address);
-        EmbeddedFleet fleet(site(1));
-        QCOMPARE(fleet.start(), QString());
-        const vms_sdk::DevInfo device = fleet.inventory().at(0);
-        RawClient client(device);
-        QTRY_VERIFY(client.state != 0);
-        fleet.setFault(device.id, FaultPlan::any(), fault);
-        client.request(L1("id"),
-                       request("ifconfig_qbcloud_set_param", R"({"qbcloud_addr": "new", "qbcloud_en": true})"));
-        QTRY_VERIFY(client.isClosed);
-        QCOMPARE(client.frames.size(), 0);
-        if (fault.fault == Fault::DropAndReturn)
-            QCOMPARE(answerTo(device), QByteArray());
-
-        fleet.clearFaults();
-        QTRY_VERIFY(answerTo(device).startsWith("HTTP/1.1 101 "));
-        RawClient again(device);
-        QTRY_VERIFY(again.state != 0);
-        again.request(L1("id"), request("ifconfig_qbcloud_get_param"));
-        QTRY_COMPARE(again.frames.size(), 1);
-        QCOMPARE(json(again.frames.constFirst().text.toUtf8())[L1("result")][L1("qbcloud_addr")], address);
-    }
-
-    void newerConnectionReplacesTheOlder()
-    {
-        EmbeddedFleet fleet(site(1));
-        QCOMPARE(fleet.start(), QString());
-        RawClient older(fleet.inventory().at(0));
-        QTRY_VERIFY(older.state != 0);
-        vms_sdk::DevInfo guessed = older.device;
-        guessed.password = L1("guess");
-        RawClient intruder(guessed);
-        QTRY_VERIFY(intruder.isClosed);
-        QVERIFY(!older.isClosed); // only one that knows the password takes a device over
-        RawClient newer(older.device);
-        QTRY_VERIFY(older.isClosed && newer.state != 0);
-        fleet.setOnline(newer.device.id, false);
-        QTRY_VERIFY(newer.isClosed);
-        QTRY_COMPARE(fleet.connectedDevices(), 0);
-    }
-
-    void burstOfClientsIsServed()
-    {
-        EmbeddedFleet fleet(site(300));
-        QCOMPARE(fleet.start(), QString());
-        std::vector<std::unique_ptr<RawClient>> clients;
-        const auto records = fleet.inventory();
-        for (int i = 0; i < records.size(); ++i)
-            if (makeSiteDevice(FleetOptions().seed, i).online)
-                clients.push_back(std::make_unique<RawClient>(records.at(i)));
-        QTRY_COMPARE_WITH_TIMEOUT(fleet.connectedDevices(), int(clients.size()), 20000);
     }
 
     void strangersAreTurnedAway()

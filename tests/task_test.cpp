@@ -90,14 +90,6 @@ void TaskTest::endsOnceAsTheDeviceAnswers_data()
     row("input only", 1, healthy, {aiGet, aiSet}, "success", 0);
     row("output only", 2, healthy, {aoGet, aoSet}, "success", 0);
     row("both", 3, healthy, allFour, "success", 0);
-    row("input read refused", 3, except(aiGet, {answer(aiGet, {}, -5)}), {aiGet},
-        "Failed to get audio in parameters(-5)", -5);
-    row("input write refused", 3, except(aiSet, {answer(aiSet, {}, 9)}), {aiGet, aiSet},
-        "Failed to set audio in parameters(9)", 9);
-    row("output read refused", 3, except(aoGet, {answer(aoGet, {}, 9)}), {aiGet, aiSet, aoGet},
-        "Failed to get audio out parameters(9)", 9);
-    row("output write refused", 3, except(aoSet, {answer(aoSet, {}, 9)}), allFour,
-        "Failed to set audio out parameters(9)", 9);
     row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}),
         {aiGet, aiSet}, "success", 0);
     row("an error code that is no number is success", 1,
