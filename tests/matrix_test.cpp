@@ -104,7 +104,8 @@ void MatrixTest::everyFaultAtEveryRequest()
         QString name, message;
     };
     QMap<QString, Cell> expected; // by serial number
-    for (const NamedFault &fault : faults()) {
+    const QList<NamedFault> all = faults();
+    for (const NamedFault &fault : all) {
         for (int step = 0; step < family.methods.size(); ++step) {
             const int row = expected.size();
             client.table()->item(row, 0)->setCheckState(Qt::Checked);
