@@ -230,6 +230,14 @@ private slots:
         QVERIFY(readInventory(path).error.contains(QLatin1String("0600")));
         QVERIFY(!writeInventory(m_dir.filePath(QStringLiteral("none/x.json")), {camera}).isEmpty());
 
+        QList<DevInfo> many;
+        for (int i = 0; i < 100'000; ++i) {
+            many.append(device(QString::number(i)));
+            many.last().url = QStringLiteral("ws://relay.example/%1").arg(i);
+        }
+        QCOMPARE(writeInventory(path, many), QString());
+        QCOMPARE(readInventory(path).devices.size(), many.size());
+
         const Inventory typo =
             readInventory(fileWith("{'devices': [{'id': 'a', 'ip': '10.0.0.1', 'port': 1, 'pasword': ''}]}"));
         QVERIFY(typo.devices.size() == 1 && typo.warnings.value(0).contains(QLatin1String("\"pasword\"")));

@@ -2,6 +2,7 @@
 
 #include "run/BatchCfgContact.h"
 #include "run/CfgResultsRecorder.h"
+#include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
 
 #include <XCOMMON/XLabel.h>
@@ -227,6 +228,7 @@ void ParamsCfgPage::configure()
         return;
     }
 
+    qCDebug(logRun) << m_title << "begins:" << devIds.size() << "devices";
     const RunLock lock;
     const auto run = std::make_shared<Run>();
     m_run = run;

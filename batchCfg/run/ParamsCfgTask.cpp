@@ -1,12 +1,12 @@
 #include "run/ParamsCfgTask.h"
 
+#include "run/Logging.h"
 #include "run/TaskRouter.h"
 
 #include <orda_base/BaseTools.h>
 #include <vms_client_sdk/Requests.h>
 
 #include <QJsonDocument>
-#include <QLoggingCategory>
 #include <QTimer>
 #include <QUuid>
 
@@ -15,9 +15,6 @@
 namespace orda_batchCfg {
 
 namespace {
-
-Q_LOGGING_CATEGORY(logRun, "orda.run", QtWarningMsg)
-
 // The next request leaves after the handling of the answer is over, never from inside it.
 constexpr std::chrono::milliseconds stepPause{10};
 

@@ -1,19 +1,12 @@
 #include "run/TaskRouter.h"
 
+#include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
 
 #include <orda_data/DataSignals.h>
 #include <vms_client_sdk/ClientSignals.h>
 
-#include <QLoggingCategory>
-
 namespace orda_batchCfg {
-
-namespace {
-
-Q_LOGGING_CATEGORY(logRun, "orda.run", QtWarningMsg)
-
-} // namespace
 
 TaskRouter &TaskRouter::instance()
 {

@@ -66,6 +66,7 @@ void ClientSdk::send(const QString &requestId, const QString &devId, const QStri
     if (!m_timer.isActive())
         startTimer();
 
+    qCDebug(sdkLog) << requestId << "sent to" << devId << text.size() << "characters";
     if (m_transport)
         m_transport->send(requestId, devId, text);
     else
@@ -96,6 +97,7 @@ void ClientSdk::raise(Raise signal)
 
 void ClientSdk::passOnAnswer(const QString &requestId, const QString &text)
 {
+    qCDebug(sdkLog) << requestId << "answered:" << text.size() << "characters";
     raise([&](ClientSignals &sdk) { emit sdk.signalCommonRes(requestId, text); });
 }
 
