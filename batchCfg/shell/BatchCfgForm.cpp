@@ -1,6 +1,7 @@
 #include "shell/BatchCfgForm.h"
 
 #include "run/BatchCfgContact.h"
+#include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
 
 #include <XCOMMON/PwdStrength.h>
@@ -151,6 +152,7 @@ void BatchCfgForm::initDevTable()
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table->horizontalHeader()->setSectionResizeMode(OrderNum, QHeaderView::Fixed);
     table->setColumnWidth(OrderNum, orderNumWidth);
+    m_orderNumbers = new OrderNumbers(table);
     m_tableOperStyle->setWts(m_ui->selAll, table, m_ui->headerLayout, {});
 
     m_headerSortWidgets = {m_ui->orderNumWt, m_ui->devName, m_ui->devSn, m_ui->devIp};
@@ -194,14 +196,14 @@ bool BatchCfgForm::isDevEligible(const vms_sdk::DevInfo &dev) const
     return strength != XCOMMON::PwdInvalid && strength != XCOMMON::PwdWeak;
 }
 
-bool BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)
+void BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)
 {
     if (m_devItemById.contains(dev.id))
-        return false;
+        return;
     auto *table = m_ui->devsTableWt;
     const int row = table->rowCount();
 
-    auto *orderNum = new QTableWidgetItem(QString::number(row + 1));
+    auto *orderNum = m_orderNumbers->makeItem();
     orderNum->setFlags(orderNum->flags() | Qt::ItemIsUserCheckable);
     orderNum->setCheckState(Qt::Unchecked);
     orderNum->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -217,7 +219,7 @@ bool BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)
     table->setItem(row, SerialNumber, centred(new QTableWidgetItem(dev.serialNumber)));
     table->setItem(row, Ip, centred(ip));
     m_devItemById.insert(dev.id, orderNum);
-    return true;
+    searchRow(row, m_ui->searchBox->text());
 }
 
 void BatchCfgForm::removeDevs(const QStringList &devIds)
@@ -261,23 +263,22 @@ bool BatchCfgForm::eventFilter(QObject *watched, QEvent *event)
 void BatchCfgForm::slotSearchDevsFromTable(const QString &keyword)
 {
     auto *table = m_ui->devsTableWt;
-    const auto hasKeyword = [table, &keyword](int row, Column column) {
-        return table->item(row, column)->text().contains(keyword, Qt::CaseInsensitive);
-    };
     table->setUpdatesEnabled(false); // a shown table lays itself out anew for every row that is hidden
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const bool isMatch = hasKeyword(row, Name) || hasKeyword(row, SerialNumber) || hasKeyword(row, Ip);
-        table->setRowHidden(row, !isMatch);
-    }
+    for (int row = 0; row < table->rowCount(); ++row)
+        searchRow(row, keyword);
     table->setUpdatesEnabled(true);
     orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
 }
 
-void BatchCfgForm::searchAgain()
+void BatchCfgForm::searchRow(int row, const QString &keyword)
 {
-    const QString keyword = m_ui->searchBox->text();
-    if (!keyword.isEmpty())
-        slotSearchDevsFromTable(keyword);
+    auto *table = m_ui->devsTableWt;
+    const auto hasKeyword = [=, &keyword](Column column) {
+        return table->item(row, column)->text().contains(keyword, Qt::CaseInsensitive);
+    };
+    const bool isMatch = keyword.isEmpty() || hasKeyword(Name) || hasKeyword(SerialNumber) || hasKeyword(Ip);
+    if (table->isRowHidden(row) == isMatch)
+        table->setRowHidden(row, !isMatch);
 }
 
 void BatchCfgForm::updateDevStatus(const QString &devId)
@@ -287,7 +288,7 @@ void BatchCfgForm::updateDevStatus(const QString &devId)
     const bool isEligible = isDevEligible(dev);
     if (isEligible && !isListed) {
         addDevToTable(dev);
-        searchAgain();
+        orda_base::BaseTools::instance().updateTableOrderNum(m_ui->devsTableWt, 1);
     } else if (!isEligible && isListed) {
         removeDevs({devId});
     }
@@ -296,7 +297,6 @@ void BatchCfgForm::updateDevStatus(const QString &devId)
 void BatchCfgForm::updateDevs(const QList<vms_sdk::DevInfo> &devs)
 {
     auto *table = m_ui->devsTableWt;
-    bool isAnyListed = false;
     for (const vms_sdk::DevInfo &dev : devs) {
         if (const QTableWidgetItem *item = m_devItemById.value(dev.id)) {
             const int row = item->row();
@@ -304,11 +304,10 @@ void BatchCfgForm::updateDevs(const QList<vms_sdk::DevInfo> &devs)
             table->item(row, Name)->setToolTip(dev.name);
             table->item(row, SerialNumber)->setText(dev.serialNumber);
             table->item(row, Ip)->setText(dev.ip);
-            isAnyListed = true;
+            searchRow(row, m_ui->searchBox->text());
         }
     }
-    if (isAnyListed)
-        searchAgain();
+    orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
 }
 
 void BatchCfgForm::removeIneligibleDevs()
@@ -322,13 +321,11 @@ void BatchCfgForm::removeIneligibleDevs()
 
 void BatchCfgForm::addEligibleDevs()
 {
-    bool isAnyAdded = false;
     const QList<vms_sdk::DevInfo> devs = orda_data::DevsMgrData::instance().getAllDevs(false);
     for (const vms_sdk::DevInfo &dev : devs)
         if (isDevEligible(dev))
-            isAnyAdded = addDevToTable(dev) || isAnyAdded;
-    if (isAnyAdded)
-        searchAgain();
+            addDevToTable(dev);
+    orda_base::BaseTools::instance().updateTableOrderNum(m_ui->devsTableWt, 1);
 }
 
 } // namespace orda_batchCfg

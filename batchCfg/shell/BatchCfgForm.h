@@ -21,6 +21,8 @@ class TableOperWtStyle;
 
 namespace orda_batchCfg {
 
+class OrderNumbers;
+
 namespace Ui {
 class BatchCfgForm;
 }
@@ -54,14 +56,15 @@ private:
     void connectStore();
 
     bool isDevEligible(const vms_sdk::DevInfo &dev) const;
-    bool addDevToTable(const vms_sdk::DevInfo &dev);
+    void addDevToTable(const vms_sdk::DevInfo &dev);
     void removeDevs(const QStringList &devIds);
-    void searchAgain();
+    void searchRow(int row, const QString &keyword);
     void updateDevStatus(const QString &devId);
     void updateDevs(const QList<vms_sdk::DevInfo> &devs);
     void removeIneligibleDevs();
     void addEligibleDevs();
 
+    OrderNumbers *m_orderNumbers = nullptr;
     QMap<QString, int> m_pageIndexByKey;
     std::unique_ptr<Ui::BatchCfgForm> m_ui;
     orda_base::TableOperWtStyle *m_tableOperStyle;

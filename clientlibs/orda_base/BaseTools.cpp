@@ -26,6 +26,10 @@ QString BaseTools::strDatetime(const QDateTime &time, bool withMilliseconds, boo
 
 void BaseTools::updateTableOrderNum(XCOMMON::XTableWidget *table, int first)
 {
+    if (table->property("computedOrderNumbers").toBool()) {
+        table->viewport()->update();
+        return;
+    }
     int number = first;
     for (int row = 0; row < table->rowCount(); ++row) {
         if (table->isRowHidden(row))

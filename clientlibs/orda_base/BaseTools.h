@@ -23,7 +23,7 @@ public:
     /// "yyyyMMdd-hhmmss"
     QString strDatetime(const QDateTime &time, bool withMilliseconds, bool forFileName);
     /// Numbers the rows of column 0 that can be seen from @p first on, top to bottom. Touches only cells whose text
-    /// changes.
+    /// changes. A table with the property "computedOrderNumbers" numbers itself and is only drawn anew.
     void updateTableOrderNum(XCOMMON::XTableWidget *table, int first);
     /// Raises signalDevRemoteConfigOpened().
     void openDevRemoteConfig(const QString &devId);
