@@ -40,9 +40,9 @@ QString outcome(const FamilyRow &family, int step, const FaultSpec &spec)
 {
     // Cloud settings are read again when the device is back, once they were sent.
     const bool isChecked = family.name == QLatin1String("platform") && step == 1;
-    const QString success = QStringLiteral("success");
-    const QString asChecked = isChecked ? success : family.timeoutText;
-    const QString asRefused = isChecked ? family.failures.at(step).arg(-1) : family.timeoutText;
+    QString success = QStringLiteral("success");
+    QString asChecked = isChecked ? success : family.timeoutText;
+    QString asRefused = isChecked ? family.failures.at(step).arg(-1) : family.timeoutText;
     switch (spec.fault) {
     case Fault::ErrorCode:
         return family.failures.at(step).arg(spec.errorCode);
