@@ -54,6 +54,7 @@ private slots:
     void clientTellsByItsExitCode();
     void killedClientLeavesARecordOfAllThatItReported();
     void killedFleetIsUsedAgainWhenItIsBack();
+    void passwordsAreInTheInventoryOnly();
 
 private:
     QString path(const char *name) const { return m_dir.filePath(QLatin1String(name)); }
@@ -162,6 +163,39 @@ void ProgramsTest::killedFleetIsUsedAgainWhenItIsBack()
     QCOMPARE(client.configure(family), summary.arg(total).arg(total).arg(0));
     again.terminate();
     again.waitForFinished();
+}
+
+void ProgramsTest::passwordsAreInTheInventoryOnly()
+{
+    const QString inventory = path("secret.json");
+    const QString dump = path("dump.json");
+    QProcess fleet, client;
+    for (QProcess *process : {&fleet, &client}) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("orda.*=true"));
+        process->setProcessEnvironment(environment);
+        process->setProcessChannelMode(QProcess::MergedChannels);
+    }
+    fleet.start(program("orda_fleet"), {QStringLiteral("--devices"), QStringLiteral("20"),
+                                        QStringLiteral("--inventory"), inventory, QStringLiteral("--dump"), dump});
+    QVERIFY(!lineWith(fleet, "20 devices").isEmpty());
+    client.start(program("orda_client"),
+                 {QStringLiteral("--inventory"), inventory, QStringLiteral("--run"), QStringLiteral("osd")});
+    QVERIFY(client.waitForFinished());
+    fleet.terminate();
+    QVERIFY(fleet.waitForFinished());
+    QByteArray said = client.readAll() + fleet.readAll();
+    QVERIFY(said.contains("chnosd_set_param"));
+    for (const QString &name : {dump, recordPath(familyRow(QStringLiteral("osd")))}) {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        said += file.readAll();
+    }
+    const QList<vms_sdk::DevInfo> devices = vms_sdk::readInventory(inventory).devices;
+    QCOMPARE(devices.size(), 20);
+    for (const vms_sdk::DevInfo &dev : devices)
+        QVERIFY2(!said.contains(dev.password.toUtf8()), qPrintable(dev.id));
+    QVERIFY(!said.contains("\"proof\""));
 }
 
 ORDA_TEST_MAIN(ProgramsTest)
