@@ -93,6 +93,9 @@ void TaskTest::endsOnceAsTheDeviceAnswers_data()
     row("an error code that is no number is success", 1,
         except(aiSet, {QStringLiteral(R"({"method": "ai_set_param", "error": {"errorcode": "7"}})")}), {aiGet, aiSet},
         "success", 0);
+    row("an error code larger than an int is an error", 1,
+        except(aiGet, {QStringLiteral(R"({"method": "ai_get_param", "error": {"errorcode": 4294967295}})")}), {aiGet},
+        "Failed to get audio in parameters(2147483647)", 2147483647);
     row("an empty text", 1, except(aiGet, {QString()}), {aiGet}, "Failed to parse json data", -61003);
     row("an empty object is no answer", 1, except(aiGet, {QStringLiteral("{}")}), {aiGet},
         "set audio parameters time out", -61004);

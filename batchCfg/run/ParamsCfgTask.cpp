@@ -11,12 +11,22 @@
 #include <QUuid>
 
 #include <chrono>
+#include <cmath>
+#include <limits>
 
 namespace orda_batchCfg {
 
 namespace {
 // The next request leaves after the handling of the answer is over, never from inside it.
 constexpr std::chrono::milliseconds stepPause{10};
+
+/// 0 when it is missing. A number that is not a whole one, or too large for an int, is an error all the same.
+int errorCodeOf(const QJsonObject &answer)
+{
+    const double code = answer.value(QLatin1String("error")).toObject().value(QLatin1String("errorcode")).toDouble(0);
+    return int(qBound<double>(std::numeric_limits<int>::min(), code < 0 ? std::floor(code) : std::ceil(code),
+                              std::numeric_limits<int>::max()));
+}
 
 } // namespace
 
@@ -93,7 +103,7 @@ void ParamsCfgTask::handleAnswer(const QString &text)
         return;
     }
     const QString method = answer.value(QLatin1String("method")).toString();
-    const int errorCode = answer.value(QLatin1String("error")).toObject().value(QLatin1String("errorcode")).toInt(0);
+    const int errorCode = errorCodeOf(answer);
 
     for (int i = 0; i < m_exchanges.size(); ++i) {
         const CfgExchange &exchange = m_exchanges.at(i);

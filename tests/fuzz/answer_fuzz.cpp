@@ -9,22 +9,45 @@
 
 #include <orda_data/DataSignals.h>
 #include <vms_client_sdk/ClientSdk.h>
-#include <vms_client_sdk/ClientSignals.h>
 #include <vms_client_sdk/DeviceTransport.h>
 
 #include <QCoreApplication>
 #include <QJsonDocument>
-#include <QThread>
+
+#include <chrono>
+#include <ctime>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using namespace orda_batchCfg;
 
-// What devices may answer: the first byte picks the family, the rest is a sequence of answers with null bytes between
-// them; an empty one stands for the device's return. However they come, a task ends at most once and asks for nothing
-// after that.
+// What devices may answer. The first byte picks the family, its top bit whether the task is deleted while a step may be
+// due; the rest is a sequence of answers with null bytes between them: an empty one stands for the device's return, "t"
+// for the waiting time going by, and one that begins with a space is followed by the next at once. However they come, a
+// task ends at most once and asks for nothing after that, and a task that got no answer knows nothing of it.
 
 namespace {
 
-int requests = 0;
+std::chrono::nanoseconds timePassed{0};
+
+} // namespace
+
+// Qt's timers go by this clock, which is put forward instead of waited for. libFuzzer goes by another.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
+extern "C" int clock_gettime(clockid_t clock, timespec *time)
+{
+    const long result = syscall(SYS_clock_gettime, clock, time);
+    if (clock == CLOCK_MONOTONIC && result == 0) {
+        const std::chrono::nanoseconds now =
+            std::chrono::seconds(time->tv_sec) + std::chrono::nanoseconds(time->tv_nsec) + timePassed;
+        const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now);
+        time->tv_sec = seconds.count();
+        time->tv_nsec = (now - seconds).count();
+    }
+    return int(result);
+}
+
+namespace {
 
 class CountingTransport : public vms_sdk::DeviceTransport
 {
@@ -35,7 +58,17 @@ public:
         if (!QJsonDocument::fromJson(text.toUtf8()).isObject())
             qFatal("a request that is no object");
     }
+
+    int requests = 0;
 };
+
+/// Lets everything happen that is due after @p time.
+void pass(std::chrono::milliseconds time)
+{
+    QCoreApplication::processEvents(); // what was said before
+    timePassed += time;
+    QCoreApplication::processEvents();
+}
 
 std::unique_ptr<ParamsCfgTask> makeTask(unsigned family)
 {
@@ -65,45 +98,74 @@ std::unique_ptr<ParamsCfgTask> makeTask(unsigned family)
     }
 }
 
+/// A task and what came of it.
+struct Watched
+{
+    Watched(unsigned family, const CountingTransport &transport)
+        : task(makeTask(family))
+    {
+        QObject::connect(task.get(), &ParamsCfgTask::signalCfgResult, task.get(),
+                         [this, &transport](const QString &devId, const QString &msg, int code) {
+                             ++results;
+                             requestsAtEnd = transport.requests;
+                             timedOut = code == ParamsCfgTask::TimedOut;
+                             if (devId != task->devId() || msg.isEmpty() || msg.contains(QLatin1String("%1"))
+                                 || (code == 0) != (msg == QLatin1String("success")))
+                                 qFatal("result %d \"%s\"", code, qPrintable(msg));
+                         });
+    }
+
+    std::unique_ptr<ParamsCfgTask> task;
+    int results = 0;
+    int requestsAtEnd = 0;
+    bool timedOut = false;
+};
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
+    qputenv("QT_NO_GLIB", "1"); // Qt's own event dispatcher, as the programs use it
     static QCoreApplication app(*argc, *argv);
-    vms_sdk::ClientSdk::instance().setTransport(std::make_unique<CountingTransport>());
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
+    using namespace std::chrono_literals;
     if (size < 2)
         return 0;
-    requests = 0;
-    const auto task = makeTask(data[0]);
-    int results = 0;
-    int requestsAtEnd = 0;
-    QObject::connect(task.get(), &ParamsCfgTask::signalCfgResult, [&](const QString &, const QString &msg, int code) {
-        ++results;
-        requestsAtEnd = requests;
-        if (msg.isEmpty() || (code == 0) != (msg == QLatin1String("success")))
-            qFatal("result %d \"%s\"", code, qPrintable(msg));
-    });
+    auto owned = std::make_unique<CountingTransport>();
+    CountingTransport &transport = *owned;
+    vms_sdk::ClientSdk::instance().setTransport(std::move(owned));
+    Watched bystander(data[0], transport); // of the same device
+    Watched watched(data[0], transport);
+    const QString requestId = watched.task->requestId();
+
+    bool waited = false;
     const QList<QByteArray> answers =
         QByteArray::fromRawData(reinterpret_cast<const char *>(data) + 1, int(size) - 1).split('\0');
     for (const QByteArray &answer : answers) {
-        const int before = requests;
         if (answer.isEmpty())
-            emit orda_data::DataSignals::instance().signalDevStatusChanged(task->devId(), vms_sdk::DevOnline);
-        else
-            emit vms_sdk::ClientSignals::instance().signalCommonRes(task->requestId(), QString::fromUtf8(answer));
-        // A good answer starts the pause before the next request.
-        for (int pause = 0; pause < 3 && results == 0 && requests == before && answer.startsWith("{\"m"); ++pause) {
-            QThread::msleep(4);
-            QCoreApplication::processEvents();
-        }
+            emit orda_data::DataSignals::instance().signalDevStatusChanged(watched.task->devId(), vms_sdk::DevOnline);
+        else if (answer != "t")
+            emit transport.answered(requestId, QString::fromUtf8(answer));
+        waited = waited || answer == "t";
+        if (!answer.startsWith(' '))
+            pass(answer == "t" ? 20s : 11ms);
     }
-    QCoreApplication::processEvents();
-    if (results > 1 || (results == 1 && requests != requestsAtEnd))
-        qFatal("%d results, %d requests after the result", results, requests - requestsAtEnd);
+    if ((data[0] & 0x80U) != 0) {
+        QCoreApplication::processEvents();
+        watched.requestsAtEnd = transport.requests;
+        watched.task.reset();
+    }
+    pass(11ms);
+    const bool ended = watched.results > 0 || !watched.task;
+    if (watched.results > 1 || (ended && transport.requests != watched.requestsAtEnd))
+        qFatal("%d results, %d requests after the end", watched.results, transport.requests - watched.requestsAtEnd);
+    if (bystander.results != int(waited) || bystander.timedOut != waited)
+        qFatal("another task's answers reach a task: %d results", bystander.results);
+    if (waited && watched.task && watched.results != 1)
+        qFatal("no result after the waiting time");
     return 0;
 }

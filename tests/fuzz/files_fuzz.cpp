@@ -1,18 +1,25 @@
 #include <FaultPlan.h>
+#include <SimulatedDevice.h>
 #include <vms_client_sdk/Inventory.h>
 
 #include <QFile>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 
 // Inventories (first byte even) and fault files (odd): an error or what was read, never both; what was read survives
 // being written.
 
 namespace {
 
-QTemporaryFile &file()
+/// A file of its own for each input: writing an inventory replaces the file, which an open one would not follow.
+QString writeInput(const char *data, qint64 size)
 {
-    static QTemporaryFile instance(QStringLiteral("/dev/shm/files_fuzz"));
-    return instance;
+    static const QTemporaryDir dir(QStringLiteral("/dev/shm/files_fuzz"));
+    QFile file(dir.filePath(QStringLiteral("input.json")));
+    const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate)
+                      && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) && file.write(data, size) == size;
+    if (!written)
+        qFatal("%s: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
+    return file.fileName();
 }
 
 void checkInventory(const QString &path)
@@ -23,30 +30,41 @@ void checkInventory(const QString &path)
             qFatal("%s, and %d devices", qPrintable(inventory.error), inventory.devices.size());
         return;
     }
-    if (!vms_sdk::writeInventory(path, inventory.devices).isEmpty())
-        qFatal("cannot be written");
+    if (const QString error = vms_sdk::writeInventory(path, inventory.devices); !error.isEmpty())
+        qFatal("%s", qPrintable(error));
     const vms_sdk::Inventory again = vms_sdk::readInventory(path);
-    if (again.devices != inventory.devices)
+    if (!again.error.isEmpty() || !again.warnings.isEmpty() || again.devices != inventory.devices)
         qFatal("reads back differently: %s", qPrintable(again.error));
+}
+
+void checkFaultPlan(const QString &path)
+{
+    QString error;
+    QStringList warnings;
+    const auto plan = device_fleet::FaultPlan::read(path, &error, &warnings);
+    const QStringList devices = plan.deviceIds() + QStringList{device_fleet::FaultPlan::any()};
+    const QStringList methods = device_fleet::SimulatedDevice::methods() + QStringList{device_fleet::FaultPlan::any()};
+    for (const QString &device : devices) {
+        for (const QString &method : methods) {
+            const auto fault = plan.find(device, method);
+            if (fault && (!error.isEmpty() || fault->errorCode == 0 || fault->delay.count() < 0))
+                qFatal("a fault that nobody can have meant; error: \"%s\"", qPrintable(error));
+        }
+    }
+    if (!error.isEmpty() && (devices.size() > 1 || !error.startsWith(path)))
+        qFatal("%s, and faults", qPrintable(error));
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
-    if (size < 1 || !file().open())
+    if (size < 1)
         return 0;
-    file().resize(0);
-    file().write(reinterpret_cast<const char *>(data) + 1, qint64(size) - 1);
-    file().close();
-    if (data[0] % 2 == 0) {
-        checkInventory(file().fileName());
-        return 0;
-    }
-    QString error;
-    QStringList warnings;
-    const auto plan = device_fleet::FaultPlan::read(file().fileName(), &error, &warnings);
-    if (!error.isEmpty() && (!plan.deviceIds().isEmpty() || !error.startsWith(file().fileName())))
-        qFatal("%s, and faults", qPrintable(error));
+    const QString path = writeInput(reinterpret_cast<const char *>(data) + 1, qint64(size) - 1);
+    if (data[0] % 2 == 0)
+        checkInventory(path);
+    else
+        checkFaultPlan(path);
     return 0;
 }

@@ -1,29 +1,69 @@
 #include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/SignOn.h>
 #include <vms_client_sdk/websocket/ClientSignOn.h>
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QList>
 
 using namespace vms_sdk;
 
-// What a peer that does not know the password may say: sign-on messages with null bytes between them, read as frames
-// too.
+// What a peer may say: sign-on messages with null bytes between them, read as frames too. "PROOF" in a message stands
+// for the right proof, as it takes the password to find; nobody gets in without it.
+
+namespace {
+
+const QString password = QStringLiteral("the-password");
+
+/// The proof that the device owes for the client's "auth".
+QByteArray rightProof(const QByteArray &hello, const QString &authText)
+{
+    const QJsonValue deviceNonce = QJsonDocument::fromJson(hello).object().value(QLatin1String("hello"));
+    const QJsonValue auth = QJsonDocument::fromJson(authText.toUtf8()).object().value(QLatin1String("auth"));
+    if (!auth.isObject() || authText.contains(password))
+        qFatal("no \"auth\", or one that gives the password away: %s", qPrintable(authText));
+    return signOnProof(SignOnSide::Device, password,
+                       deviceNonce.toObject().value(QLatin1String("nonce")).toString().toUtf8(),
+                       auth.toObject().value(QLatin1String("nonce")).toString().toUtf8());
+}
+
+void checkFrame(const QString &text)
+{
+    if (const auto frame = parseFrame(text); frame && toFrameText(*frame) != text)
+        qFatal("a frame changes on its way");
+    const auto made = parseFrame(toFrameText({QStringLiteral("id"), text}));
+    if (!made || made->requestId != QLatin1String("id") || made->text != text)
+        qFatal("a text changes on its way");
+}
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
     const QByteArray input = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
     DevInfo device;
     device.serialNumber = QStringLiteral("SN-1");
-    device.userName = device.password = QStringLiteral("p");
+    device.userName = QStringLiteral("admin");
+    device.password = password;
     ClientSignOn signOn(device);
+    QByteArray proof;
+    bool goesOn = true;
     const QList<QByteArray> messages = input.split('\0');
-    for (const QByteArray &message : messages) {
-        const QString text = QString::fromUtf8(message);
-        const ClientSignOn::Outcome outcome = signOn.take(text);
-        if (outcome.step == ClientSignOn::Step::Welcome)
+    for (QByteArray message : messages) {
+        checkFrame(QString::fromUtf8(message));
+        if (!goesOn)
+            continue;
+        const bool knowsPassword = !proof.isEmpty() && message.contains("PROOF");
+        if (knowsPassword)
+            message.replace("PROOF", proof);
+        const ClientSignOn::Outcome outcome = signOn.take(QString::fromUtf8(message));
+        goesOn = outcome.step == ClientSignOn::Step::Answer;
+        if (goesOn)
+            proof = rightProof(message, outcome.text);
+        if (outcome.step == ClientSignOn::Step::Welcome && !knowsPassword)
             qFatal("welcome without the password");
-        if (const auto frame = parseFrame(text); frame && toFrameText(*frame) != text)
-            qFatal("a frame changes on its way");
-        if (outcome.step != ClientSignOn::Step::Answer)
-            break;
+        if (signOn.state() && (outcome.step != ClientSignOn::Step::Welcome || !isOnlineStatus(*signOn.state())))
+            qFatal("state %d", int(*signOn.state()));
     }
     return 0;
 }
