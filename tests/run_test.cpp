@@ -305,12 +305,12 @@ void RunTest::countsEveryDeviceOnceWhateverItSends()
 
 void RunTest::deadDevicesEndTogether()
 {
-    const FormFixture f(100, silent, 1s);
+    const FormFixture f(100, silent, 2s);
     f.tickAll();
     QElapsedTimer clock;
     clock.start();
     f.configureAudio();
-    QVERIFY2(clock.elapsed() < 2000, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY2(clock.elapsed() < 4000, qPrintable(QString::number(clock.elapsed())));
     QCOMPARE(summary().text, QStringLiteral("A total of 100 devices have been configured, success:0, failure:100"));
     QCOMPARE(recordEntries().size(), 100);
 }
