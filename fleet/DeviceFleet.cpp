@@ -121,7 +121,7 @@ int DeviceFleet::connectedDevices() const
         std::count_if(m_devices.begin(), m_devices.end(), [](const auto &device) { return device->connection; }));
 }
 
-void DeviceFleet::setFault(const QString &deviceId, const QString &method, const FaultSpec &fault)
+void DeviceFleet::setFault(const QString &deviceId, const QString &method, const FaultRule &fault)
 {
     m_faults.set(deviceId, method, fault);
 }

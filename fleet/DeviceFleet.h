@@ -45,7 +45,7 @@ public:
     int connectedDevices() const; ///< signed on
 
     /// @param deviceId, method a name or FaultPlan::any()
-    void setFault(const QString &deviceId, const QString &method, const FaultSpec &fault);
+    void setFault(const QString &deviceId, const QString &method, const FaultRule &fault);
     void clearFaults();
 
     /// Off line: the connection is cut and no new one comes about. An unknown id does nothing.

@@ -86,7 +86,7 @@ int EmbeddedFleet::connectedDevices() const
     return count;
 }
 
-void EmbeddedFleet::setFault(const QString &deviceId, const QString &method, const FaultSpec &fault)
+void EmbeddedFleet::setFault(const QString &deviceId, const QString &method, const FaultRule &fault)
 {
     onFleetThread([&] { m_fleet->setFault(deviceId, method, fault); });
 }

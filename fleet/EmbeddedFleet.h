@@ -35,7 +35,7 @@ public:
     QList<vms_sdk::DevInfo> inventory() const;
     QJsonObject dump() const;
     int connectedDevices() const;
-    void setFault(const QString &deviceId, const QString &method, const FaultSpec &fault);
+    void setFault(const QString &deviceId, const QString &method, const FaultRule &fault);
     void clearFaults();
     void setOnline(const QString &deviceId, bool online);
 

@@ -13,12 +13,12 @@ FaultPlan FaultPlan::read(const QString &path, QString *error, QStringList *warn
     return plan;
 }
 
-void FaultPlan::set(const QString &deviceId, const QString &method, const FaultSpec &fault)
+void FaultPlan::set(const QString &deviceId, const QString &method, const FaultRule &fault)
 {
     m_faults.insert({deviceId, method}, fault);
 }
 
-std::optional<FaultSpec> FaultPlan::find(const QString &deviceId, const QString &method) const
+std::optional<FaultRule> FaultPlan::find(const QString &deviceId, const QString &method) const
 {
     if (m_faults.isEmpty())
         return std::nullopt;

@@ -34,7 +34,7 @@ enum class ReturnWith
     MissingMember, ///< it did, but the first member that it named is gone
 };
 
-struct FaultSpec
+struct FaultRule
 {
     Fault fault = Fault::ErrorCode;
     int errorCode = -5; ///< for ErrorCode; never 0
@@ -67,15 +67,15 @@ public:
     static QString any() { return QStringLiteral("*"); }
 
     /// @param deviceId, method a name or any()
-    void set(const QString &deviceId, const QString &method, const FaultSpec &fault);
+    void set(const QString &deviceId, const QString &method, const FaultRule &fault);
     void clear() { m_faults.clear(); }
 
-    std::optional<FaultSpec> find(const QString &deviceId, const QString &method) const;
+    std::optional<FaultRule> find(const QString &deviceId, const QString &method) const;
     /// The devices named, without any().
     QStringList deviceIds() const;
 
 private:
-    QHash<QPair<QString, QString>, FaultSpec> m_faults; // by device and method
+    QHash<QPair<QString, QString>, FaultRule> m_faults; // by device and method
 };
 
 } // namespace device_fleet

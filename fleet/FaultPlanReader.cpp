@@ -88,24 +88,24 @@ void FaultPlanReader::readEntry(const QJsonObject &entry, FaultPlan &plan)
                  tr(R"("%1" is none of "*", %2)").arg(method, known.join(QStringLiteral(", "))));
     }
 
-    FaultSpec spec;
+    FaultRule rule;
     const QString fault = choice(entry, QStringLiteral("fault"), faultNameList(), {});
     const QString settings =
         choice(entry, QStringLiteral("returnWith"), returnNameList(), returnNameList().constFirst());
-    spec.errorCode = number(entry, QStringLiteral("errorcode"), std::numeric_limits<int>::min(), spec.errorCode);
-    spec.delay = std::chrono::milliseconds(number(entry, QStringLiteral("delayMs"), 0, int(spec.delay.count())));
-    if (spec.errorCode == 0)
+    rule.errorCode = number(entry, QStringLiteral("errorcode"), std::numeric_limits<int>::min(), rule.errorCode);
+    rule.delay = std::chrono::milliseconds(number(entry, QStringLiteral("delayMs"), 0, int(rule.delay.count())));
+    if (rule.errorCode == 0)
         fail(QStringLiteral("errorcode"), tr("must not be 0, which means success"));
     if (!m_error.isEmpty())
         return;
 
-    spec.fault = Fault(faultNameList().indexOf(fault));
-    spec.returnWith = ReturnWith(returnNameList().indexOf(settings));
+    rule.fault = Fault(faultNameList().indexOf(fault));
+    rule.returnWith = ReturnWith(returnNameList().indexOf(settings));
     warnOfUnknownKeys(entry, {QStringLiteral("devices"), QStringLiteral("methods"), QStringLiteral("fault"),
                               QStringLiteral("returnWith"), QStringLiteral("errorcode"), QStringLiteral("delayMs")});
     for (const QString &device : devices)
         for (const QString &method : methods)
-            plan.set(device, method, spec);
+            plan.set(device, method, rule);
 }
 
 QStringList FaultPlanReader::names(const QJsonObject &entry, const QString &key)

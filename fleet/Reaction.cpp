@@ -13,7 +13,7 @@ QString toText(const QJsonObject &answer)
     return QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
 }
 
-Reaction dropAndReturn(const QJsonObject &request, SimulatedDevice &device, const FaultSpec &fault)
+Reaction dropAndReturn(const QJsonObject &request, SimulatedDevice &device, const FaultRule &fault)
 {
     if (fault.returnWith != ReturnWith::OldSettings)
         device.answer(request);
@@ -23,7 +23,7 @@ Reaction dropAndReturn(const QJsonObject &request, SimulatedDevice &device, cons
 }
 
 /// Spoils a good answer.
-Reaction spoil(const QString &requestId, QJsonObject answer, const FaultSpec &fault)
+Reaction spoil(const QString &requestId, QJsonObject answer, const FaultRule &fault)
 {
     Reaction reaction{{{requestId, {}}}};
     vms_sdk::DeviceFrame &frame = reaction.frames.front();
@@ -58,7 +58,7 @@ Reaction spoil(const QString &requestId, QJsonObject answer, const FaultSpec &fa
 } // namespace
 
 Reaction reactTo(const QString &requestId, const QJsonObject &request, SimulatedDevice &device,
-                 const std::optional<FaultSpec> &fault)
+                 const std::optional<FaultRule> &fault)
 {
     if (!fault)
         return {{{requestId, toText(device.answer(request))}}};

@@ -23,6 +23,6 @@ struct Reaction
 
 /// Lets the device deal with a request, the way that the fault says.
 Reaction reactTo(const QString &requestId, const QJsonObject &request, SimulatedDevice &device,
-                 const std::optional<FaultSpec> &fault);
+                 const std::optional<FaultRule> &fault);
 
 } // namespace device_fleet

@@ -14,7 +14,7 @@ namespace {
 struct NamedFault
 {
     QString name;
-    FaultSpec spec;
+    FaultRule rule;
 };
 
 QList<NamedFault> faults()
@@ -36,16 +36,16 @@ QList<NamedFault> faults()
 }
 
 /// What the operator reads of a device that has the fault at one request of a run.
-QString outcome(const FamilyRow &family, int step, const FaultSpec &spec)
+QString outcome(const FamilyRow &family, int step, const FaultRule &rule)
 {
     // Cloud settings are read again when the device is back, once they were sent.
     const bool isChecked = family.name == QLatin1String("platform") && step == 1;
     QString success = QStringLiteral("success");
     QString asChecked = isChecked ? success : family.timeoutText;
     QString asRefused = isChecked ? family.failures.at(step).arg(-1) : family.timeoutText;
-    switch (spec.fault) {
+    switch (rule.fault) {
     case Fault::ErrorCode:
-        return family.failures.at(step).arg(spec.errorCode);
+        return family.failures.at(step).arg(rule.errorCode);
     case Fault::Garbage:
         return QStringLiteral("Failed to parse json data");
     case Fault::LateAnswer:
@@ -61,7 +61,7 @@ QString outcome(const FamilyRow &family, int step, const FaultSpec &spec)
     case Fault::DropConnection:
         return asRefused;
     case Fault::DropAndReturn:
-        return spec.returnWith == ReturnWith::NewSettings ? asChecked : asRefused;
+        return rule.returnWith == ReturnWith::NewSettings ? asChecked : asRefused;
     }
     return {};
 }
@@ -109,10 +109,10 @@ void MatrixTest::everyFaultAtEveryRequest()
         for (int step = 0; step < family.methods.size(); ++step) {
             const int row = expected.size();
             client.table()->item(row, 0)->setCheckState(Qt::Checked);
-            fleet.setFault(client.idInRow(row), family.methods.at(step), fault.spec);
+            fleet.setFault(client.idInRow(row), family.methods.at(step), fault.rule);
             expected.insert(
                 client.table()->item(row, 2)->text(),
-                {fault.name + QStringLiteral(" at ") + family.methods.at(step), outcome(family, step, fault.spec)});
+                {fault.name + QStringLiteral(" at ") + family.methods.at(step), outcome(family, step, fault.rule)});
         }
     }
     QCOMPARE(expected.size(), cells);

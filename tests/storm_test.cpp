@@ -26,12 +26,12 @@ FaultPlan randomFaults(const FamilyRow &family, QRandomGenerator &random)
     FaultPlan plan;
     for (int i = 1; i <= devices; ++i) {
         const QString method = family.methods.at(random.bounded(family.methods.size()));
-        FaultSpec spec;
-        spec.fault = Fault(random.bounded(int(Fault::DropAndReturn) + 1));
-        spec.delay = std::chrono::milliseconds(random.bounded(1, 800));
-        spec.returnWith = ReturnWith(random.bounded(int(ReturnWith::MissingMember) + 1));
+        FaultRule rule;
+        rule.fault = Fault(random.bounded(int(Fault::DropAndReturn) + 1));
+        rule.delay = std::chrono::milliseconds(random.bounded(1, 800));
+        rule.returnWith = ReturnWith(random.bounded(int(ReturnWith::MissingMember) + 1));
         if (random.bounded(2) == 0)
-            plan.set(QStringLiteral("dev-%1").arg(i, 4, 10, QLatin1Char('0')), method, spec);
+            plan.set(QStringLiteral("dev-%1").arg(i, 4, 10, QLatin1Char('0')), method, rule);
     }
     return plan;
 }
