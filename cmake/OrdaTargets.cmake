@@ -30,6 +30,8 @@ function(orda_client_library name)
   add_library(${name} SHARED ${arg_SOURCES})
   add_library(orda::${name} ALIAS ${name})
   orda_target(${name})
+  # Nobody replaces single functions of these: calls within a file are direct.
+  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
   target_include_directories(${name} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/clientlibs> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})

@@ -389,7 +389,7 @@ void RunTest::formMayGoAtAnyMomentOfARun()
         });
     });
     f.configureAudio();
-    QCOMPARE(m_summaries->count(), what.isEmpty() || requests == 12 ? 1 : 0); // the last answer is on its way by then
+    QCOMPARE(m_summaries->count(), what.isEmpty() ? 1 : 0);
     QCOMPARE(f.form.isNull(), isFormDeleted);
     QCOMPARE(orda_batchCfg::BatchCfgContact::instance().form() == nullptr, isFormDeleted);
     QCOMPARE(orda_batchCfg::BatchCfgContact::instance().checkedDevIds().isEmpty(), isFormDeleted);

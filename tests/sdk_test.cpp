@@ -14,6 +14,7 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
 
 using namespace vms_sdk;
 using namespace std::chrono_literals;
@@ -65,6 +66,11 @@ private slots:
         QRandomGenerator random(7);
         PendingRequests pending;
         pending.setTimeout(100ms); // a tick of 10 ms
+        QStringList shared;
+        for (int id = 0; id < 50; ++id)
+            shared.append(QString::number(id));
+        // The same text or another one that reads the same.
+        const auto text = [&](int id) { return random.bounded(4) == 0 ? QString::number(id) : shared.at(id); };
         QMap<int, qint64> model;
         int next = 0;
         for (qint64 now = 0; now < 20'000; now += random.bounded(4)) {
@@ -74,8 +80,8 @@ private slots:
             const qint64 deadline = (now + 109) / 10 * 10;
             next = random.bounded(8) == 0 ? id : (next + 1) % 50;
             if (random.bounded(4) == 0)
-                pending.add(QString::number(id)), model[id] = deadline;
-            pending.renew(QString::number(next));
+                pending.add(text(id)), model[id] = deadline;
+            pending.renew(text(next));
             if (model.contains(next))
                 model[next] = deadline;
             const QStringList due = pending.takeDue();
@@ -117,6 +123,34 @@ private slots:
         QCOMPARE(timeouts.at(0).at(0).toString(), QStringLiteral("r"));
         QCOMPARE(answers.count(), 1);
         QCOMPARE(answers.at(0), QVariantList({QStringLiteral("r"), QStringLiteral("text")}));
+    }
+
+    void manyAnswersAtOnceLeaveTheEventLoopItsTurns()
+    {
+        auto eager = std::make_unique<EagerTransport>();
+        auto *transport = eager.get();
+        ClientSdk::instance().setTransport(std::move(eager));
+        const int count = 100;
+        QStringList order;
+        int turns = 0;
+        QObject context;
+        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context,
+                [&](const QString &id, const QString &) {
+                    order.append(id);
+                    QThread::msleep(1);
+                    if (order.size() == 50) // waits in a loop of its own for answers that stand behind it
+                        QTRY_VERIFY(order.size() >= 60);
+                });
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, &context, [&] { turns += order.size() < count ? 1 : 0; });
+        timer.start(1);
+        QStringList sent;
+        for (int i = 0; i < count; ++i) {
+            sent.append(QString::number(i));
+            emit transport->answered(sent.constLast(), QString());
+        }
+        QTRY_COMPARE(order, sent);
+        QVERIFY2(turns >= 5, qPrintable(QString::number(turns)));
     }
 
     void listenersMayDoAnythingInsideASignal()

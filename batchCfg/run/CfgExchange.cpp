@@ -4,14 +4,17 @@ namespace orda_batchCfg {
 
 QJsonObject channelZero()
 {
-    return {{QStringLiteral("channelid"), 0}};
+    static const QJsonObject zero{{QStringLiteral("channelid"), 0}};
+    return zero;
 }
 
 QJsonObject mergeKnownKeys(QJsonObject device, const QJsonObject &values)
 {
-    for (auto it = values.begin(); it != values.end(); ++it)
-        if (device.contains(it.key()))
-            device.insert(it.key(), it.value());
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        const auto known = device.find(it.key());
+        if (known != device.end())
+            *known = it.value();
+    }
     return device;
 }
 
@@ -25,9 +28,9 @@ QJsonObject completeFrom(QJsonObject values, const QJsonObject &device, const QS
 
 CfgExchange::BuildSetParam mergedUnder(const QString &attributeKey)
 {
-    return [attributeKey](const QJsonObject &values, const QJsonObject &device) {
+    return [attributeKey](const QJsonObject &values, QJsonObject device) {
         QJsonObject param = channelZero();
-        param.insert(attributeKey, mergeKnownKeys(device, values));
+        param.insert(attributeKey, mergeKnownKeys(std::move(device), values));
         return param;
     };
 }

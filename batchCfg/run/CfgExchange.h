@@ -15,8 +15,8 @@ struct CfgExchange
 {
     /// Builds the "param" of the write request.
     /// @param values what the page asked for; a family that completes them from the device does so in place
-    /// @param device the device's own parameters, as the read answer gave them
-    using BuildSetParam = std::function<QJsonObject(QJsonObject &values, const QJsonObject &device)>;
+    /// @param device the device's own parameters, as the read answer gave them; the function's to keep
+    using BuildSetParam = std::function<QJsonObject(QJsonObject &values, QJsonObject device)>;
 
     QString getMethod;
     QString setMethod;

@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QLoggingCategory>
 #include <QStandardPaths>
-#include <QTextStream>
+#include <QStringBuilder>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -80,17 +80,23 @@ void CfgResultsRecorder::record(const QString &devId, const QString &msg)
     if (!m_file)
         return;
     const vms_sdk::DevInfo dev = orda_data::DevsMgrData::instance().getDevInfoById(devId);
-    const QString time = orda_base::BaseTools::instance().strDatetime(QDateTime::currentDateTime(), false, false);
-    // All five go in at once: a name that holds a "%1" of its own is left alone.
-    const QString entry = QStringLiteral("%1    %2    %3    %4                %5\n\n")
-                              .arg(time, dev.serialNumber, dev.ip.leftJustified(ipWidth), msg, dev.name);
+    const QString gap = QStringLiteral("    ");
+    const QString wideGap = QStringLiteral("                ");
+    const QString entry = timeText() % gap % dev.serialNumber % gap % dev.ip.leftJustified(ipWidth) % gap % msg
+                        % wideGap % dev.name % QLatin1String("\n\n");
     if (!m_file->isOpen())
         return; // open() has said why
-    QTextStream stream(m_file);
-    stream << entry;
-    stream.flush();
-    if (stream.status() != QTextStream::Ok || !m_file->flush())
+    const QByteArray bytes = entry.toLocal8Bit();
+    if (m_file->write(bytes) != bytes.size() || !m_file->flush())
         reportOnce(QStringLiteral("cannot write the record file %1: %2").arg(m_filePath, m_file->errorString()));
+}
+
+QString CfgResultsRecorder::timeText()
+{
+    const qint64 second = QDateTime::currentSecsSinceEpoch();
+    if (std::exchange(m_second, second) != second)
+        m_timeText = orda_base::BaseTools::instance().strDatetime(QDateTime::currentDateTime(), false, false);
+    return m_timeText;
 }
 
 void CfgResultsRecorder::close()

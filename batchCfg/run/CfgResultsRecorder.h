@@ -31,11 +31,14 @@ public:
 
 private:
     bool openSafely();
+    QString timeText();
     void reportOnce(const QString &what);
 
     QString m_filePath;
     QFile *m_file = nullptr;
     bool m_reported = false;
+    qint64 m_second = -1; // since the epoch, and its text: thousands of results come in one second
+    QString m_timeText;
 };
 
 } // namespace orda_batchCfg

@@ -18,7 +18,6 @@
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QLineEdit>
-#include <QMap>
 #include <QPointer>
 #include <QPushButton>
 #include <QUrl>
@@ -52,6 +51,10 @@ void alert(const QString &text)
     orda_worker::SystemAssistant::instance().messageAlert(orda_worker::DictDef::instance().alertTitle(), text);
 }
 
+// A running task: its place in the run and its request id. All of them are gone through after each result, so they
+// stand side by side in memory; a pair of these is moved as bytes.
+using Waiting = QPair<int, QString>;
+
 } // namespace
 
 // All that the handlers of a run share. It outlives the page when the page is deleted in mid-run.
@@ -60,12 +63,23 @@ struct ParamsCfgPage::Run
     int total = 0;
     int success = 0;
     int failure = 0;
-    QMap<int, QString> pending; // request ids of the running tasks, by place in the run
+    QVector<Waiting> waiting; // by place
     QPointer<orda_base::DisabledWaitingWt> overlay;
     QUuid overlayId;
     QEventLoop loop;
 
     int finished() const { return success + failure; }
+    /// @return false when it was gone already
+    bool remove(int place)
+    {
+        const auto found =
+            std::lower_bound(waiting.begin(), waiting.end(), place,
+                             [](const Waiting &candidate, int wanted) { return candidate.first < wanted; });
+        if (found == waiting.end() || found->first != place)
+            return false;
+        waiting.erase(found);
+        return true;
+    }
 };
 
 ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QWidget *parent)
@@ -254,10 +268,10 @@ void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringLis
 
     for (int place = 0; place < devIds.size(); ++place) {
         ParamsCfgTask *task = createTask(devIds.at(place), runValues);
-        run->pending.insert(place, task->requestId());
+        run->waiting.push_back({place, task->requestId()});
         connect(task, &ParamsCfgTask::signalCfgResult, this,
                 [this, run, place, task](const QString &devId, const QString &msg, int errorCode) {
-                    if (run->pending.remove(place) > 0) {
+                    if (run->remove(place)) {
                         task->deleteLater();
                         handleResult(*run, devId, msg, errorCode);
                     }
@@ -268,8 +282,8 @@ void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringLis
 void ParamsCfgPage::handleResult(Run &run, const QString &devId, const QString &msg, int errorCode)
 {
     // A device that answers shows that the line is working: all the others get their whole waiting time again.
-    for (const QString &requestId : qAsConst(run.pending))
-        vms_sdk::renewal_request_id(requestId);
+    for (const Waiting &task : qAsConst(run.waiting))
+        vms_sdk::renewal_request_id(task.second);
     m_recorder->record(devId, msg);
     ++(errorCode == ParamsCfgTask::Success ? run.success : run.failure);
     if (run.finished() >= run.total) {

@@ -7,18 +7,22 @@
 #include <vms_client_sdk/Requests.h>
 
 #include <QJsonDocument>
-#include <QTimer>
 #include <QUuid>
 
-#include <chrono>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace orda_batchCfg {
 
 namespace {
-// The next request leaves after the handling of the answer is over, never from inside it.
-constexpr std::chrono::milliseconds stepPause{10};
+QString requestText(const QString &method, const std::optional<QJsonObject> &param)
+{
+    QJsonObject request{{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
+    if (param)
+        request.insert(QStringLiteral("param"), *param);
+    return QString::fromUtf8(QJsonDocument(request).toJson());
+}
 
 /// 0 when it is missing. A number that is not a whole one, or too large for an int, is an error all the same.
 int errorCodeOf(const QJsonObject &answer)
@@ -44,7 +48,8 @@ ParamsCfgTask::ParamsCfgTask(const QString &devId, const QJsonObject &values, co
 
 ParamsCfgTask::~ParamsCfgTask()
 {
-    TaskRouter::instance().remove(this);
+    if (!m_finished)
+        TaskRouter::instance().remove(this);
 }
 
 void ParamsCfgTask::start()
@@ -66,32 +71,31 @@ int ParamsCfgTask::selectedFrom(int from) const
 
 void ParamsCfgTask::sendRead(int exchange)
 {
-    send(m_exchanges.at(exchange).getMethod, m_exchanges.at(exchange).getParam);
+    m_answered &= ~answeredBit(exchange, true);
+    // All devices of a run are asked the same: the text is made for the first of them.
+    static QString method, text;
+    static std::optional<QJsonObject> param;
+    const CfgExchange &e = m_exchanges.at(exchange);
+    if (method != e.getMethod || param != e.getParam) {
+        method = e.getMethod;
+        param = e.getParam;
+        text = requestText(method, param);
+    }
+    send(e.getMethod, text);
 }
 
 void ParamsCfgTask::sendWrite(int exchange)
 {
     m_written = exchange;
+    m_answered &= ~answeredBit(exchange, false);
     const CfgExchange &e = m_exchanges.at(exchange);
-    send(e.setMethod, e.setParam(m_values, m_devParams));
+    send(e.setMethod, requestText(e.setMethod, e.setParam(m_values, std::exchange(m_devParams, {}))));
 }
 
-void ParamsCfgTask::send(const QString &method, const std::optional<QJsonObject> &param)
+void ParamsCfgTask::send(const QString &method, const QString &text)
 {
-    QJsonObject request{{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
-    if (param)
-        request.insert(QStringLiteral("param"), *param);
-    m_answered.remove(method);
     qCDebug(logRun) << m_requestId << m_devId << "sends" << method;
-    vms_sdk::common_req(m_requestId, m_devId, QString::fromUtf8(QJsonDocument(request).toJson()));
-}
-
-void ParamsCfgTask::sendLater(void (ParamsCfgTask::*step)(int), int exchange)
-{
-    QTimer::singleShot(stepPause, this, [this, step, exchange] {
-        if (!m_finished)
-            (this->*step)(exchange);
-    });
+    vms_sdk::common_req(m_requestId, m_devId, text);
 }
 
 void ParamsCfgTask::handleAnswer(const QString &text)
@@ -110,11 +114,12 @@ void ParamsCfgTask::handleAnswer(const QString &text)
         const bool isRead = method == exchange.getMethod;
         if (!isRead && method != exchange.setMethod)
             continue;
-        if (m_answered.contains(method)) {
+        const quint32 answered = answeredBit(i, isRead);
+        if ((m_answered & answered) != 0) {
             qCDebug(logRun) << m_requestId << m_devId << "second answer to one" << method << "dropped";
             return;
         }
-        m_answered.insert(method);
+        m_answered |= answered;
         qCDebug(logRun) << m_requestId << m_devId << "answers" << method << errorCode;
         if (isRead)
             handleRead(i, answer.value(QLatin1String("result")).toObject(), errorCode);
@@ -136,7 +141,7 @@ void ParamsCfgTask::handleRead(int exchange, const QJsonObject &result, int erro
     if (e.checkWhenBack && m_written == exchange)
         checkSettings(exchange);
     else
-        sendLater(&ParamsCfgTask::sendWrite, exchange);
+        TaskRouter::instance().callLater(this, &ParamsCfgTask::sendWrite, exchange);
 }
 
 void ParamsCfgTask::handleWritten(int exchange, int errorCode)
@@ -147,7 +152,7 @@ void ParamsCfgTask::handleWritten(int exchange, int errorCode)
     }
     const int next = selectedFrom(exchange + 1);
     if (next >= 0)
-        sendLater(&ParamsCfgTask::sendRead, next);
+        TaskRouter::instance().callLater(this, &ParamsCfgTask::sendRead, next);
     else
         finish(tr("success"), Success);
 }

@@ -5,7 +5,6 @@
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QObject>
-#include <QSet>
 #include <QVector>
 
 namespace orda_batchCfg {
@@ -57,8 +56,8 @@ private:
     void handleWritten(int exchange, int errorCode);
     void sendRead(int exchange);
     void sendWrite(int exchange);
-    void send(const QString &method, const std::optional<QJsonObject> &param);
-    void sendLater(void (ParamsCfgTask::*step)(int), int exchange);
+    void send(const QString &method, const QString &text);
+    static quint32 answeredBit(int exchange, bool isRead) { return 1U << unsigned(2 * exchange + (isRead ? 0 : 1)); }
     /// The first exchange from @p from on that the flags ask for, or -1.
     int selectedFrom(int from) const;
     void checkSettings(int exchange);
@@ -68,10 +67,10 @@ private:
     QString m_devId;
     int m_flags;
     QJsonObject m_values;
-    QJsonObject m_devParams;
+    QJsonObject m_devParams; // from the read to the write
     QVector<CfgExchange> m_exchanges;
     QString m_timeoutText;
-    QSet<QString> m_answered; // methods answered since they were last sent
+    quint32 m_answered = 0; // bits of the requests answered since they were last sent: answeredBit()
     int m_written = -1; // the exchange whose write was sent last
     bool m_finished = false;
 };

@@ -6,7 +6,20 @@
 #include <orda_data/DataSignals.h>
 #include <vms_client_sdk/ClientSignals.h>
 
+#include <chrono>
+
 namespace orda_batchCfg {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// The next request leaves after the handling of the answer is over, never from inside it.
+constexpr std::chrono::nanoseconds stepPause = 10ms;
+// So long the steps of many tasks may hold up the event loop in one go: about half a frame of a 60 Hz display.
+constexpr std::chrono::nanoseconds slice = 8ms;
+
+} // namespace
 
 TaskRouter &TaskRouter::instance()
 {
@@ -16,6 +29,10 @@ TaskRouter &TaskRouter::instance()
 
 TaskRouter::TaskRouter()
 {
+    m_clock.start();
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &TaskRouter::takeSteps);
     const auto &sdk = vms_sdk::ClientSignals::instance();
     connect(&sdk, &vms_sdk::ClientSignals::signalCommonRes, this, &TaskRouter::handleAnswer);
     connect(&sdk, &vms_sdk::ClientSignals::signalRequestTimeout, this, &TaskRouter::handleTimeout);
@@ -33,6 +50,32 @@ void TaskRouter::remove(ParamsCfgTask *task)
 {
     m_taskByRequestId.remove(task->requestId());
     m_tasksByDevId.remove(task->devId(), task);
+}
+
+void TaskRouter::callLater(const ParamsCfgTask *task, Step step, int exchange)
+{
+    m_pauses.push_back({m_clock.nsecsElapsed() + stepPause.count(), task->requestId(), step, exchange});
+    if (!m_timer.isActive())
+        startTimer();
+}
+
+void TaskRouter::startTimer()
+{
+    const std::chrono::nanoseconds left(m_pauses.front().end - m_clock.nsecsElapsed());
+    m_timer.start(qMax(0ms, std::chrono::ceil<std::chrono::milliseconds>(left)));
+}
+
+void TaskRouter::takeSteps()
+{
+    const qint64 now = m_clock.nsecsElapsed();
+    while (!m_pauses.empty() && m_pauses.front().end <= now && m_clock.nsecsElapsed() - now < slice.count()) {
+        const Pause pause = std::move(m_pauses.front());
+        m_pauses.pop_front();
+        if (ParamsCfgTask *task = m_taskByRequestId.value(pause.requestId))
+            (task->*pause.step)(pause.exchange);
+    }
+    if (!m_pauses.empty())
+        startTimer();
 }
 
 void TaskRouter::handleAnswer(const QString &requestId, const QString &text)

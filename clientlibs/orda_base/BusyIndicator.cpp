@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include <chrono>
+
 namespace orda_base {
 
 namespace {
@@ -9,6 +11,7 @@ namespace {
 constexpr int diameter = 36;
 constexpr qreal lineWidth = 4;
 constexpr int turnMilliseconds = 1100;
+constexpr std::chrono::milliseconds frameInterval{40}; // smooth enough; each frame draws what lies below as well
 constexpr int degree = 16; // QPainter's unit of angles is a sixteenth of one
 constexpr int arcDegrees = 100;
 
@@ -18,11 +21,8 @@ BusyIndicator::BusyIndicator(QWidget *parent)
     : QWidget(parent)
 {
     setFixedSize(diameter, diameter);
-    m_turn.setStartValue(360);
-    m_turn.setEndValue(0);
-    m_turn.setDuration(turnMilliseconds);
-    m_turn.setLoopCount(-1);
-    connect(&m_turn, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    m_frames.setInterval(frameInterval);
+    connect(&m_frames, &QTimer::timeout, this, qOverload<>(&QWidget::update));
 }
 
 void BusyIndicator::paintEvent(QPaintEvent *)
@@ -37,17 +37,19 @@ void BusyIndicator::paintEvent(QPaintEvent *)
     painter.setPen(QPen(track, lineWidth));
     painter.drawEllipse(circle);
     painter.setPen(pen);
-    painter.drawArc(circle, m_turn.currentValue().toInt() * degree, arcDegrees * degree);
+    const int turned = int(m_shown.elapsed() % turnMilliseconds) * 360 / turnMilliseconds;
+    painter.drawArc(circle, (360 - turned) * degree, arcDegrees * degree);
 }
 
 void BusyIndicator::showEvent(QShowEvent *)
 {
-    m_turn.start();
+    m_shown.start();
+    m_frames.start();
 }
 
 void BusyIndicator::hideEvent(QHideEvent *)
 {
-    m_turn.stop();
+    m_frames.stop();
 }
 
 } // namespace orda_base

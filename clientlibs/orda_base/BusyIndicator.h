@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QVariantAnimation>
+#include <QElapsedTimer>
+#include <QTimer>
 #include <QWidget>
 
 namespace orda_base {
@@ -19,7 +20,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    QVariantAnimation m_turn; // the arc's begin, in degrees
+    QTimer m_frames;
+    QElapsedTimer m_shown;
 };
 
 } // namespace orda_base

@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <chrono>
+
 namespace orda_base {
 
 namespace {
@@ -16,6 +18,7 @@ namespace {
 constexpr QColor veil(20, 30, 45, 90);
 constexpr int cardMinWidth = 260;
 constexpr int cardMargin = 24;
+constexpr std::chrono::milliseconds updateInterval{40};
 
 bool isInput(QEvent::Type type)
 {
@@ -43,8 +46,15 @@ DisabledWaitingWt::DisabledWaitingWt(QWidget *parent, const QString &description
     , m_uuid(QUuid::createUuid())
     , m_keepsBright(flag)
     , m_card(new QWidget(this))
+    , m_text(description)
     , m_description(new QLabel(description, m_card))
 {
+    m_showSoon.setSingleShot(true);
+    m_showSoon.setInterval(updateInterval);
+    connect(&m_showSoon, &QTimer::timeout, this, [this] {
+        m_description->setText(m_text);
+        setAccessibleName(m_text);
+    });
     setObjectName(QStringLiteral("disabledWaitingWt"));
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(description);
@@ -82,13 +92,9 @@ DisabledWaitingWt::~DisabledWaitingWt()
 
 void DisabledWaitingWt::updateDescription(const QString &description)
 {
-    m_description->setText(description);
-    setAccessibleName(description);
-}
-
-QString DisabledWaitingWt::description() const
-{
-    return m_description->text();
+    m_text = description;
+    if (!m_showSoon.isActive())
+        m_showSoon.start();
 }
 
 bool DisabledWaitingWt::event(QEvent *event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QUuid>
 #include <QWidget>
 
@@ -26,8 +27,9 @@ public:
     ~DisabledWaitingWt() override;
 
     QUuid getUuid() const { return m_uuid; }
+    /// Seen within a few hundredths of a second: thousands of updates a second would be nothing but painting.
     void updateDescription(const QString &description);
-    QString description() const;
+    QString description() const { return m_text; }
 
 protected:
     bool event(QEvent *event) override;
@@ -43,7 +45,9 @@ private:
     QUuid m_uuid;
     bool m_keepsBright;
     QWidget *m_card;
+    QString m_text;
     QLabel *m_description;
+    QTimer m_showSoon;
     QPointer<QWidget> m_focusBefore;
 };
 

@@ -4,12 +4,16 @@
 #include <vms_client_sdk/PendingRequests.h>
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
 #include <memory>
+
+class QAbstractEventDispatcher;
 
 namespace vms_sdk {
 
 class DeviceTransport;
+class Inbox;
 
 /// The SDK itself: hands requests to the transport, raises answers, states and time-outs (ClientSignals). GUI thread
 /// only.
@@ -31,22 +35,25 @@ public:
 
 private:
     ClientSdk();
+    ~ClientSdk();
 
     /// Calls listeners. Their renewals, thousands for each answer, go by one reading of the clock.
     template <typename Raise>
     void raise(Raise signal);
-    bool isClockFresh() const;
+    void watchEventLoop();
     void passOnAnswer(const QString &requestId, const QString &text);
     void checkTimeouts();
     void startTimer();
 
     std::unique_ptr<DeviceTransport> m_transport;
-    std::unique_ptr<QObject>
-        m_transportContext; ///< receiver of the transport's queued signals: dies with it, and they with it
+    std::unique_ptr<Inbox> m_inbox; ///< of this transport: what it raised and was not passed on goes with it
     PendingRequests m_pending;
     QStringList m_timedOut; ///< taken out of m_pending, time-out not raised yet
     QElapsedTimer m_clock;
-    int m_raisingLevel = -1; ///< event loops under the signal that is being raised; -1: none is
+    /// A signal is being raised, and no event loop has turned since the clock was read: a listener may wait in one of
+    /// its own, for as long as it likes.
+    bool m_isClockFresh = false;
+    QPointer<QAbstractEventDispatcher> m_eventLoop;
     QTimer m_timer;
 };
 

@@ -24,21 +24,21 @@ void PendingRequests::add(const QString &id)
         m_entries[*known].deadline = m_newDeadline;
         return;
     }
-    m_index.insert(id, m_entries.size());
-    m_entries.push_back({id, m_newDeadline});
+    const std::size_t position = m_entries.size();
+    if (position > 0)
+        m_entries.back().next = position; // most likely
+    m_index.insert(id, position);
+    m_entries.push_back({id, m_newDeadline, 0});
 }
 
-void PendingRequests::renew(const QString &id)
+bool PendingRequests::findAside(const QString &id, std::size_t *position)
 {
-    if (m_next >= m_entries.size() || m_entries[m_next].id != id) {
-        const auto known = m_index.constFind(id);
-        if (known == m_index.constEnd())
-            return;
-        m_next = *known;
-    }
-    m_entries[m_next].deadline = m_newDeadline;
-    if (++m_next == m_entries.size())
-        m_next = 0;
+    const auto known = m_index.constFind(id);
+    if (known == m_index.constEnd())
+        return false;
+    *position = *known;
+    m_entries[m_last].next = *known;
+    return true;
 }
 
 QStringList PendingRequests::takeDue()
@@ -55,9 +55,11 @@ QStringList PendingRequests::takeDue()
         due.append(entry->id);
     }
     m_entries.erase(firstDue, m_entries.end());
-    for (std::size_t i = 0; i < m_entries.size(); ++i)
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
         m_index[m_entries[i].id] = i;
-    m_next = 0;
+        m_entries[i].next = (i + 1) % m_entries.size();
+    }
+    m_last = 0;
     return due;
 }
 
@@ -65,7 +67,7 @@ void PendingRequests::clear()
 {
     m_entries.clear();
     m_index.clear();
-    m_next = 0;
+    m_last = 0;
 }
 
 qint64 PendingRequests::untilNextTick() const

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QMutex>
+#include <QObject>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <variant>
+
+namespace vms_sdk {
+
+/// What a transport raises, on its way to the GUI thread, in its order. Thousands of answers that come at once are
+/// passed on in slices of a few milliseconds: between them the event loop serves timers, input and painting.
+class Inbox : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Answer
+    {
+        QString requestId, text;
+    };
+    struct StatusChange
+    {
+        QString devId;
+        DevStatus status;
+    };
+    using Item = std::variant<Answer, StatusChange>;
+
+    /// @param consumer called on the thread of this object, from its event loop. It may delete this object, and may
+    /// wait in an event loop of its own: the items after it are then passed on from there.
+    explicit Inbox(std::function<void(const Item &)> consumer);
+
+    void put(Item item); ///< from any thread
+
+private:
+    void wakeUp();
+    void passOn();
+    bool takeArrived();
+
+    std::function<void(const Item &)> m_consumer;
+    QMutex m_mutex;
+    std::deque<Item> m_arrived; ///< under the mutex
+    std::deque<Item> m_items; ///< taken over from m_arrived
+    QTimer m_next; ///< the next slice: a timer, for posted events go on until there are none
+};
+
+} // namespace vms_sdk
