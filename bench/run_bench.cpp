@@ -87,13 +87,4 @@ BENCHMARK(osdFloor)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillise
 
 } // namespace
 
-int main(int argc, char *argv[])
-{
-    qputenv("QT_NO_GLIB", "1");
-    QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}
-
 #include "run_bench.moc"

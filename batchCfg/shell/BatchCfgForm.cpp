@@ -20,6 +20,8 @@
 #include <QEvent>
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace orda_batchCfg {
 
 namespace {
@@ -188,7 +190,7 @@ bool BatchCfgForm::isDevEligible(const vms_sdk::DevInfo &dev) const
     if (dev.accessCode != reachedDirectly || (dev.kindCode != kindCamera && dev.kindCode != kindRecorder)
         || !orda_base::BaseTools::instance().isDevOnline(status))
         return false;
-    if (orda_saas::SaasWorker::instance().canOperateDevFreely(dev.serialNumber) || !dev.ip.isEmpty())
+    if (!dev.ip.isEmpty() || orda_saas::SaasWorker::instance().canOperateDevFreely(dev.serialNumber))
         return true;
     if (status == vms_sdk::DevDefaultPassword || status == vms_sdk::DevLocked)
         return false;
@@ -200,9 +202,14 @@ void BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)
 {
     if (m_devItemById.contains(dev.id))
         return;
-    auto *table = m_ui->devsTableWt;
-    const int row = table->rowCount();
+    const int row = m_ui->devsTableWt->rowCount();
+    m_ui->devsTableWt->insertRow(row);
+    fillRow(row, dev);
+}
 
+void BatchCfgForm::fillRow(int row, const vms_sdk::DevInfo &dev)
+{
+    auto *table = m_ui->devsTableWt;
     auto *orderNum = m_orderNumbers->makeItem();
     orderNum->setFlags(orderNum->flags() | Qt::ItemIsUserCheckable);
     orderNum->setCheckState(Qt::Unchecked);
@@ -213,13 +220,14 @@ void BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)
     auto *ip = new orda_base::IpTableItem(dev.ip, dev.ipNumber, 0);
     ip->setToolTip(QString());
 
-    table->insertRow(row);
     table->setItem(row, OrderNum, orderNum);
     table->setItem(row, Name, centred(name));
     table->setItem(row, SerialNumber, centred(new QTableWidgetItem(dev.serialNumber)));
     table->setItem(row, Ip, centred(ip));
     m_devItemById.insert(dev.id, orderNum);
-    searchRow(row, m_ui->searchBox->text());
+    const QString keyword = m_ui->searchBox->text();
+    if (!keyword.isEmpty())
+        searchRow(row, keyword);
 }
 
 void BatchCfgForm::removeDevs(const QStringList &devIds)
@@ -321,11 +329,20 @@ void BatchCfgForm::removeIneligibleDevs()
 
 void BatchCfgForm::addEligibleDevs()
 {
-    const QList<vms_sdk::DevInfo> devs = orda_data::DevsMgrData::instance().getAllDevs(false);
-    for (const vms_sdk::DevInfo &dev : devs)
-        if (isDevEligible(dev))
-            addDevToTable(dev);
-    orda_base::BaseTools::instance().updateTableOrderNum(m_ui->devsTableWt, 1);
+    QList<vms_sdk::DevInfo> devs = orda_data::DevsMgrData::instance().getAllDevs(false);
+    const auto isNotAdded = [this](const vms_sdk::DevInfo &dev) {
+        return m_devItemById.contains(dev.id) || !isDevEligible(dev);
+    };
+    devs.erase(std::remove_if(devs.begin(), devs.end(), isNotAdded), devs.end());
+
+    auto *table = m_ui->devsTableWt;
+    table->setUpdatesEnabled(false);
+    int row = table->rowCount();
+    table->setRowCount(row + devs.size());
+    for (const vms_sdk::DevInfo &dev : qAsConst(devs))
+        fillRow(row++, dev);
+    table->setUpdatesEnabled(true);
+    orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
 }
 
 } // namespace orda_batchCfg

@@ -57,6 +57,7 @@ private:
 
     bool isDevEligible(const vms_sdk::DevInfo &dev) const;
     void addDevToTable(const vms_sdk::DevInfo &dev);
+    void fillRow(int row, const vms_sdk::DevInfo &dev); // an empty one
     void removeDevs(const QStringList &devIds);
     void searchRow(int row, const QString &keyword);
     void updateDevStatus(const QString &devId);

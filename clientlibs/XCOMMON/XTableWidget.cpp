@@ -2,6 +2,14 @@
 
 namespace XCOMMON {
 
+void XTableWidget::setRowCount(int rows)
+{
+    if (rowCount() != rows) {
+        QTableWidget::setRowCount(rows);
+        emit signalRowsChanged();
+    }
+}
+
 void XTableWidget::insertRow(int row)
 {
     QTableWidget::insertRow(row);

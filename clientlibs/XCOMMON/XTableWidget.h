@@ -13,6 +13,7 @@ class XTableWidget : public QTableWidget
 public:
     using QTableWidget::QTableWidget;
 
+    void setRowCount(int rows);
     void insertRow(int row);
     void removeRow(int row);
     void setRowHidden(int row, bool hide);

@@ -1,6 +1,6 @@
 #include "orda_base/IpTableItem.h"
 
-#include <QStringList>
+#include <arpa/inet.h>
 
 namespace orda_base {
 
@@ -9,18 +9,10 @@ namespace {
 // The number of a dotted address; false for every other text.
 bool parseIpv4(const QString &text, quint32 *number)
 {
-    const QVector<QStringRef> bytes = text.splitRef(QLatin1Char('.'));
-    if (bytes.size() != 4)
+    in_addr address = {};
+    if (::inet_pton(AF_INET, text.toLatin1().constData(), &address) != 1)
         return false;
-    quint32 result = 0;
-    for (const QStringRef &byte : bytes) {
-        bool isNumber = false;
-        const ushort value = byte.toUShort(&isNumber);
-        if (!isNumber || value > 255)
-            return false;
-        result = result << 8U | value;
-    }
-    *number = result;
+    *number = ntohl(address.s_addr);
     return true;
 }
 

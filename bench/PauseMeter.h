@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+/// How long the event loop of this thread did not turn: the lateness of a 5 ms timer.
+class PauseMeter
+{
+public:
+    PauseMeter()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        m_timer.setInterval(intervalMs);
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { tick(); });
+        m_timer.start();
+        m_sinceTick.start();
+    }
+
+    /// In milliseconds, up to now.
+    double longestPause()
+    {
+        tick();
+        return m_longest;
+    }
+
+private:
+    void tick()
+    {
+        m_longest = qMax(m_longest, double(m_sinceTick.nsecsElapsed()) / 1e6 - intervalMs);
+        m_sinceTick.start();
+    }
+
+    static constexpr int intervalMs = 5;
+    QTimer m_timer;
+    QElapsedTimer m_sinceTick;
+    double m_longest = 0;
+};
