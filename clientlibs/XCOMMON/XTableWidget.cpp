@@ -1,6 +1,14 @@
 #include "XCOMMON/XTableWidget.h"
 
+#include "XCOMMON/RowHeader.h"
+
 namespace XCOMMON {
+
+XTableWidget::XTableWidget(QWidget *parent)
+    : QTableWidget(parent)
+{
+    setVerticalHeader(new RowHeader(this));
+}
 
 void XTableWidget::setRowCount(int rows)
 {

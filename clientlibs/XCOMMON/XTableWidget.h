@@ -11,7 +11,7 @@ class XTableWidget : public QTableWidget
     Q_OBJECT
 
 public:
-    using QTableWidget::QTableWidget;
+    explicit XTableWidget(QWidget *parent = nullptr);
 
     void setRowCount(int rows);
     void insertRow(int row);
