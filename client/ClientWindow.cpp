@@ -94,11 +94,11 @@ void ClientWindow::buildStatusBar()
     statusBar()->addWidget(m_last, 1);
     statusBar()->addPermanentWidget(m_onlineCount);
 
-    // Thousands of devices come on line in one go: the label is counted anew at most ten times a second.
+    // Thousands of devices come on line in one go: the bar is brought up to date at most ten times a second.
     auto *countSoon = new QTimer(this);
     countSoon->setSingleShot(true);
     countSoon->setInterval(100ms);
-    connect(countSoon, &QTimer::timeout, this, &ClientWindow::updateOnlineCount);
+    connect(countSoon, &QTimer::timeout, this, &ClientWindow::updateStatusBar);
     const auto scheduleCount = [countSoon] {
         if (!countSoon->isActive())
             countSoon->start();
@@ -110,11 +110,10 @@ void ClientWindow::buildStatusBar()
             [this, scheduleCount](const QString &devId, vms_sdk::DevStatus status) {
                 scheduleCount();
                 if (status != vms_sdk::DevConnecting) {
-                    const vms_sdk::DevInfo dev = orda_data::DevsMgrData::instance().getDevInfoById(devId);
-                    showLast(QStringLiteral("%1: %2").arg(displayName(dev), statusText(status)));
+                    m_lastChanged = devId;
                 }
             });
-    updateOnlineCount();
+    updateStatusBar();
 }
 
 void ClientWindow::openInventory()
@@ -128,11 +127,15 @@ void ClientWindow::openInventory()
         orda_worker::SystemAssistant::instance().messageAlert(tr("Open inventory"), error);
 }
 
-void ClientWindow::updateOnlineCount()
+void ClientWindow::updateStatusBar()
 {
     const auto &store = orda_data::DevsMgrData::instance();
+    const QString devId = std::exchange(m_lastChanged, {});
+    if (!devId.isEmpty())
+        showLast(QStringLiteral("%1: %2").arg(displayName(store.getDevInfoById(devId)),
+                                              statusText(store.getDevStatus(devId))));
     m_onlineCount->setText(
-        tr("%1 of %2 devices on line").arg(store.getAllDevs(true).size()).arg(store.getAllDevs(false).size()));
+        tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false)));
 }
 
 void ClientWindow::showLast(const QString &text)

@@ -21,11 +21,12 @@ private:
     void buildMenu();
     void buildStatusBar();
     void openInventory();
-    void updateOnlineCount();
+    void updateStatusBar();
     void showLast(const QString &text);
     void showRemoteConfig(const QString &devId);
 
     ClientSession *m_session;
     QLabel *m_onlineCount;
     QLabel *m_last;
+    QString m_lastChanged; // id of a device whose state has changed and is to be shown
 };

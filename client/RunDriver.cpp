@@ -54,6 +54,7 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
 {
     const auto &assistant = orda_worker::AssistantSignals::instance();
     connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this, &RunDriver::handleSummary);
+    window->installEventFilter(this);
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [](const QString &, const QString &text) {
                 printError(text);
@@ -80,6 +81,15 @@ void RunDriver::start()
     QTimer::singleShot(m_unsettled.isEmpty() ? 0ms : settleLimit, this, &RunDriver::whenSettled);
 }
 
+bool RunDriver::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint) {
+        watched->removeEventFilter(this);
+        QTimer::singleShot(0ms, this, [] { out() << tr("window shown") << Qt::endl; });
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 void RunDriver::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)
 {
     if (status != vms_sdk::DevConnecting && m_unsettled.remove(devId) && m_unsettled.isEmpty()) {
@@ -93,7 +103,7 @@ void RunDriver::whenSettled()
     if (std::exchange(m_started, true))
         return;
     const auto &store = orda_data::DevsMgrData::instance();
-    out() << tr("%1 of %2 devices on line").arg(store.getAllDevs(true).size()).arg(store.getAllDevs(false).size())
+    out() << tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false))
           << Qt::endl;
     if (m_options.screenshotsDir.isEmpty())
         tickAndConfigure();
@@ -154,6 +164,7 @@ void RunDriver::configure()
     connect(progress, &QTimer::timeout, this, &RunDriver::followProgress);
     progress->start(progressInterval);
     m_duration.start();
+    m_pauses.start();
     const QWidget *page = m_window->findChild<QWidget *>(m_family->pageName);
     page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click(); // comes back when the run is over
     progress->stop();
@@ -178,6 +189,7 @@ void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
 {
     const qint64 duration = m_duration.elapsed();
     out() << info.title << Qt::endl << info.text << Qt::endl << "run: " << duration << " ms" << Qt::endl;
+    out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
     printRecord();
 
     // Total, success, failure, in every language.

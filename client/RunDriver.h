@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ClientOptions.h"
+#include "PauseMeter.h"
 
 #include <vms_client_sdk/DevInfo.h>
 
@@ -18,8 +19,8 @@ struct EventConfirmInfo;
 struct Family;
 
 /// Drives the form as an operator would, without one: waits until the devices have come on line, opens the family's
-/// page, ticks devices, presses Configure, prints progress, summary, duration and record, answers the summary and ends
-/// the application.
+/// page, ticks devices, presses Configure, prints progress, summary, duration, the window's longest pause and the
+/// record, answers the summary and ends the application.
 class RunDriver : public QObject
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ public:
     void start();
 
 private:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void handleDevStatus(const QString &devId, vms_sdk::DevStatus status);
     void whenSettled();
     void picturePages(int from);
@@ -54,5 +56,6 @@ private:
     bool m_hasSummary = false;
     bool m_isAllDone = false;
     QElapsedTimer m_duration;
+    PauseMeter m_pauses;
     QString m_lastProgress;
 };

@@ -6,8 +6,6 @@
 #include <QEvent>
 #include <QLayout>
 
-#include <chrono>
-
 namespace orda_base {
 
 namespace {
@@ -25,8 +23,10 @@ TableOperWtStyle::TableOperWtStyle(QObject *parent)
     : QObject(parent)
 {
     m_updateSoon.setSingleShot(true);
-    m_updateSoon.setInterval(std::chrono::milliseconds(0));
-    connect(&m_updateSoon, &QTimer::timeout, this, &TableOperWtStyle::updateAllBox);
+    connect(&m_updateSoon, &QTimer::timeout, this, [this] {
+        updateAllBox();
+        m_sinceUpdate.start();
+    });
 }
 
 void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLayout *header,
@@ -48,9 +48,9 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
                     updateAllBox();
             });
     connect(table, &XCOMMON::XTableWidget::signalRowsChanged, this, [this] {
-        if (!m_updateSoon.isActive()) {
-            m_updateSoon.start();
-        }
+        // At once, and then no more than 20 times a second: it looks at every row.
+        if (!m_updateSoon.isActive())
+            m_updateSoon.start(m_sinceUpdate.isValid() && m_sinceUpdate.elapsed() < 50 ? 50 : 0);
     });
     // A tri-state box would go to "partly" at every third click; a click on it means all or none.
     connect(all, &QCheckBox::clicked, this, [this](bool checked) {

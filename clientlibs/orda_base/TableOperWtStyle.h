@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -44,7 +45,8 @@ private:
     QPointer<QCheckBox> m_all;
     QPointer<XCOMMON::XTableWidget> m_table;
     QPointer<QLayout> m_header;
-    QTimer m_updateSoon; // rows come and go by the thousand in one turn of the event loop; the box is looked at once
+    QTimer m_updateSoon; // rows come and go by the thousand; the box is looked at once for many of them
+    QElapsedTimer m_sinceUpdate;
     bool m_isTickingAll = false;
 };
 

@@ -31,6 +31,14 @@ QList<DevInfo> DevsMgrData::getAllDevs(bool onlineOnly) const
     return devs;
 }
 
+int DevsMgrData::devCount(bool onlineOnly) const
+{
+    if (!onlineOnly)
+        return m_entries.size();
+    return int(std::count_if(m_entries.begin(), m_entries.end(),
+                             [](const Entry &entry) { return vms_sdk::isOnlineStatus(entry.status); }));
+}
+
 DevInfo DevsMgrData::getDevInfoById(const QString &devId) const
 {
     const Entry *entry = find(devId);

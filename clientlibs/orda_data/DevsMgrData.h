@@ -23,6 +23,8 @@ public:
 
     /// In the order in which the records were first added.
     QList<DevInfo> getAllDevs(bool onlineOnly) const;
+    /// As many as getAllDevs() has, without copying them.
+    int devCount(bool onlineOnly) const;
     /// The record with an empty id when @p devId is unknown.
     DevInfo getDevInfoById(const QString &devId) const;
     /// DevOffline when @p devId is unknown.

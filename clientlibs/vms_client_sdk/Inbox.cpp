@@ -3,14 +3,13 @@
 #include <QElapsedTimer>
 #include <QPointer>
 
-#include <chrono>
-
 namespace vms_sdk {
 
 namespace {
 
 // About half a frame of a 60 Hz display.
 constexpr qint64 sliceMs = 8;
+constexpr int companyMs = 10;
 
 } // namespace
 
@@ -18,28 +17,32 @@ Inbox::Inbox(std::function<void(const Item &)> consumer)
     : m_consumer(std::move(consumer))
 {
     m_next.setSingleShot(true);
-    m_next.setInterval(std::chrono::milliseconds(0));
     connect(&m_next, &QTimer::timeout, this, &Inbox::passOn);
 }
 
 void Inbox::put(Item item)
 {
     const QMutexLocker lock(&m_mutex);
+    const bool isUrgent = std::holds_alternative<Answer>(item);
     m_arrived.push_back(std::move(item));
-    if (m_arrived.size() == 1)
-        QMetaObject::invokeMethod(this, &Inbox::wakeUp, Qt::QueuedConnection);
+    if (m_arrived.size() > 1 && (m_isUrgent || !isUrgent))
+        return; // the GUI thread knows
+    m_isUrgent = isUrgent;
+    QMetaObject::invokeMethod(
+        this, [this, isUrgent] { wakeUp(isUrgent); }, Qt::QueuedConnection);
 }
 
-void Inbox::wakeUp()
+void Inbox::wakeUp(bool isUrgent)
 {
-    if (!m_next.isActive())
-        m_next.start();
+    if (!m_next.isActive() || (isUrgent && m_next.interval() > 0))
+        m_next.start(isUrgent ? 0 : companyMs);
 }
 
 bool Inbox::takeArrived()
 {
     const QMutexLocker lock(&m_mutex);
     m_items.swap(m_arrived);
+    m_isUrgent = false;
     return !m_items.empty();
 }
 
@@ -49,7 +52,7 @@ void Inbox::passOn()
     QElapsedTimer slice;
     slice.start();
     while (!m_items.empty() || takeArrived()) {
-        wakeUp(); // before the consumer, which may not come back for a while
+        wakeUp(true); // before the consumer, which may not come back for a while
         if (slice.elapsed() >= sliceMs)
             return;
         const Item item = std::move(m_items.front());

@@ -12,7 +12,9 @@
 namespace vms_sdk {
 
 /// What a transport raises, on its way to the GUI thread, in its order. Thousands of answers that come at once are
-/// passed on in slices of a few milliseconds: between them the event loop serves timers, input and painting.
+/// passed on in slices of a few milliseconds: between them the event loop serves timers, input and painting. Status
+/// changes wait for company: nobody notices 10 ms, and a site that comes on line does not wake the GUI thread for each
+/// device.
 class Inbox : public QObject
 {
     Q_OBJECT
@@ -36,13 +38,14 @@ public:
     void put(Item item); ///< from any thread
 
 private:
-    void wakeUp();
+    void wakeUp(bool isUrgent);
     void passOn();
     bool takeArrived();
 
     std::function<void(const Item &)> m_consumer;
     QMutex m_mutex;
     std::deque<Item> m_arrived; ///< under the mutex
+    bool m_isUrgent = false; ///< under the mutex: there is an answer among them
     std::deque<Item> m_items; ///< taken over from m_arrived
     QTimer m_next; ///< the next slice: a timer, for posted events go on until there are none
 };

@@ -178,13 +178,13 @@ void DeviceLink::onSignOnMessage(const QString &message)
         break;
     case ClientSignOn::Step::Welcome:
         m_phase = Phase::Online;
-        m_host.leave(this);
         m_host.setDeadline(this, m_host.options().pingInterval);
         m_warned.clear();
         m_unansweredPings = 0;
         if (!m_signOn->state())
             warn(QStringLiteral("reports an unknown state; it counts as online"));
         setStatus(m_signOn->state().value_or(DevOnline));
+        m_host.leave(this); // last: another one is dialled
         break;
     }
 }
@@ -275,13 +275,13 @@ void DeviceLink::refused(const QString &why)
 void DeviceLink::rest(DevStatus status, int closeCode)
 {
     m_phase = Phase::Resting;
-    m_host.leave(this);
     m_host.clearDeadline(this);
     if (QWebSocket *socket = std::exchange(m_socket, nullptr)) {
         socket->disconnect(this);
         m_host.closeSocket(socket, closeCode);
     }
     setStatus(status);
+    m_host.leave(this); // last: another one is dialled
 }
 
 void DeviceLink::setStatus(DevStatus status)

@@ -66,21 +66,23 @@ void LinkHost::leave(DeviceLink *link)
         m_queue.removeOne(link);
 }
 
+void LinkHost::stopDialling()
+{
+    m_queue.clear();
+}
+
 void LinkHost::fillPlaces()
 {
-    if (std::exchange(m_fillPosted, true))
+    // Dialling can fail at once and leave its place again: thousands of such failures must not pile up on the stack.
+    // Not posted: with thousands of sockets each further turn of the event loop costs as much as a connection.
+    if (std::exchange(m_isFilling, true))
         return;
-    // Posted, because dialling can fail at once and leave its place again: thousands of such failures must not pile up
-    // on the stack.
-    const auto fill = [this] {
-        m_fillPosted = false;
-        while (m_settingUp.size() < m_options.maxSettingUp && !m_queue.isEmpty()) {
-            DeviceLink *link = m_queue.dequeue();
-            m_settingUp.insert(link);
-            link->dial();
-        }
-    };
-    QMetaObject::invokeMethod(this, fill, Qt::QueuedConnection);
+    while (m_settingUp.size() < m_options.maxSettingUp && !m_queue.isEmpty()) {
+        DeviceLink *link = m_queue.dequeue();
+        m_settingUp.insert(link);
+        link->dial();
+    }
+    m_isFilling = false;
 }
 
 void LinkHost::closeSocket(QWebSocket *socket, int closeCode)

@@ -31,11 +31,14 @@ public:
     void setDeadline(DeviceLink *link, std::chrono::milliseconds fromNow);
     void clearDeadline(DeviceLink *link);
 
-    /// DeviceLink::dial() is called from the event loop as soon as one of the places is free; the link keeps it until
-    /// leave().
+    /// DeviceLink::dial() is called as soon as one of the places is free, maybe from inside this call; the link keeps
+    /// it until leave().
     void queueForDialling(DeviceLink *link);
     /// Gives up the place, or the place in the queue.
     void leave(DeviceLink *link);
+
+    /// Nobody in the queue is dialled any more.
+    void stopDialling();
 
     /// Takes over a socket that nobody listens to any more: closes it, cuts it off if that takes too long, deletes it.
     void closeSocket(QWebSocket *socket, int closeCode);
@@ -52,7 +55,7 @@ private:
     QHash<DeviceLink *, qint64> m_deadlineOf;
     QQueue<DeviceLink *> m_queue;
     QSet<DeviceLink *> m_settingUp;
-    bool m_fillPosted = false;
+    bool m_isFilling = false;
 };
 
 } // namespace vms_sdk

@@ -11,7 +11,10 @@ NetworkWorker::NetworkWorker(const WebSocketOptions &options)
 {
 }
 
-NetworkWorker::~NetworkWorker() = default;
+NetworkWorker::~NetworkWorker()
+{
+    m_host->stopDialling(); // the links, going one by one, leave their places to each other
+}
 
 void NetworkWorker::setDevices(const QList<DevInfo> &devices)
 {

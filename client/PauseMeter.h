@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-/// How long the event loop of this thread did not turn: the lateness of a 5 ms timer.
+/// How long the event loop of this thread did not turn: the lateness of a 5 ms timer. A window stands still as long.
 class PauseMeter
 {
 public:
@@ -12,11 +12,16 @@ public:
         m_timer.setTimerType(Qt::PreciseTimer);
         m_timer.setInterval(intervalMs);
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { tick(); });
-        m_timer.start();
-        m_sinceTick.start();
     }
 
-    /// In milliseconds, up to now.
+    void start()
+    {
+        m_longest = 0;
+        m_sinceTick.start();
+        m_timer.start();
+    }
+
+    /// In milliseconds, since start().
     double longestPause()
     {
         tick();
