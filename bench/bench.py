@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """All figures of docs/performance.md: runs the benchmark programs, each beside its floor, and prints one table.
 
-    bench.py BIN [--sizes 100,1000,10000] [--repeat 5] [--json OUT] [--only run,list,site,start]
+    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,start]
 
 BIN is the directory of the built programs. A figure is the median of its repetitions; a ratio is that of the medians of
 two programs that ran in turn.
@@ -63,7 +63,7 @@ def run(command, env):
 
 def google_benchmark(program, sizes, repeat, env):
     """The repetitions of each benchmark, in milliseconds of CPU time or by the name of a counter."""
-    options = ["--benchmark_format=json", "--benchmark_repetitions=%d" % repeat, "--benchmark_min_time=0.1",
+    options = ["--benchmark_format=json", "--benchmark_repetitions=%d" % repeat, "--benchmark_min_time=%g" % (0.1 if repeat > 1 else 0.01),
                "--benchmark_enable_random_interleaving=true", "--benchmark_filter=/(%s)$" % "|".join(map(str, sizes))]
     figures = collections.defaultdict(list)
     for entry in json.loads(run([program, *options], env))["benchmarks"]:
@@ -223,7 +223,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("bin", type=pathlib.Path)
     parser.add_argument("--sizes", default="100,1000,10000", type=lambda text: [int(n) for n in text.split(",")])
-    parser.add_argument("--repeat", default=5, type=int)
+    parser.add_argument("--repeat", default=3, type=int)
     parser.add_argument("--json", type=pathlib.Path)
     parser.add_argument("--only", default=",".join(PARTS), type=lambda text: text.split(","))
     options = parser.parse_args()

@@ -7,6 +7,7 @@
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/EventConfirmInfo.h>
+#include <vms_client_sdk/ClientSignals.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -54,6 +55,10 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
 {
     const auto &assistant = orda_worker::AssistantSignals::instance();
     connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this, &RunDriver::handleSummary);
+    const auto &sdk = vms_sdk::ClientSignals::instance();
+    const auto heard = [this] { m_lastHeard = m_duration.elapsed(); };
+    connect(&sdk, &vms_sdk::ClientSignals::signalCommonRes, this, heard);
+    connect(&sdk, &vms_sdk::ClientSignals::signalRequestTimeout, this, heard);
     window->installEventFilter(this);
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [](const QString &, const QString &text) {
@@ -187,8 +192,7 @@ void RunDriver::followProgress()
 
 void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
 {
-    const qint64 duration = m_duration.elapsed();
-    out() << info.title << Qt::endl << info.text << Qt::endl << "run: " << duration << " ms" << Qt::endl;
+    out() << info.title << Qt::endl << info.text << Qt::endl << "run: " << m_lastHeard << " ms" << Qt::endl;
     out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
     printRecord();
 

@@ -55,7 +55,8 @@ private:
     bool m_started = false;
     bool m_hasSummary = false;
     bool m_isAllDone = false;
-    QElapsedTimer m_duration;
+    QElapsedTimer m_duration; // since the press
+    qint64 m_lastHeard = 0; // of m_duration: the last answer or time-out
     PauseMeter m_pauses;
     QString m_lastProgress;
 };

@@ -33,8 +33,7 @@ void WebSocketTransport::send(const QString &requestId, const QString &devId, co
         return;
     }
     if (m_worker)
-        QMetaObject::invokeMethod(
-            m_worker, [=, worker = m_worker] { worker->send(requestId, devId, text); }, Qt::QueuedConnection);
+        m_worker->send(requestId, devId, text);
 }
 
 void WebSocketTransport::setDevices(const QList<DevInfo> &devices)

@@ -4,6 +4,8 @@
 #include "DeviceLink.h"
 #include "LinkHost.h"
 
+#include <utility>
+
 namespace vms_sdk {
 
 NetworkWorker::NetworkWorker(const WebSocketOptions &options)
@@ -51,11 +53,24 @@ void NetworkWorker::connectAgain()
 
 void NetworkWorker::send(const QString &requestId, const QString &devId, const QString &text)
 {
-    const auto known = m_links.find(devId);
-    if (known != m_links.end())
-        known->second->send(requestId, text);
-    else
-        qCDebug(sdkLog) << "request" << requestId << "dropped: device" << devId << "is unknown";
+    const QMutexLocker lock(&m_mutex);
+    m_requests.append({requestId, devId, text});
+    if (m_requests.size() == 1)
+        QMetaObject::invokeMethod(this, &NetworkWorker::sendRequests, Qt::QueuedConnection);
+}
+
+void NetworkWorker::sendRequests()
+{
+    QMutexLocker lock(&m_mutex);
+    const QVector<Request> requests = std::exchange(m_requests, {});
+    lock.unlock();
+    for (const Request &request : requests) {
+        const auto known = m_links.find(request.devId);
+        if (known != m_links.end())
+            known->second->send(request.requestId, request.text);
+        else
+            qCDebug(sdkLog) << "request" << request.requestId << "dropped: device" << request.devId << "is unknown";
+    }
 }
 
 } // namespace vms_sdk

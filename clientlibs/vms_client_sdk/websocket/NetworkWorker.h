@@ -3,7 +3,9 @@
 #include "../DevInfo.h"
 #include "../WebSocketOptions.h"
 
+#include <QMutex>
 #include <QObject>
+#include <QVector>
 #include <memory>
 #include <unordered_map>
 
@@ -23,7 +25,7 @@ public:
 
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
-    void send(const QString &requestId, const QString &devId, const QString &text);
+    void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
 
 signals:
     void answered(const QString &requestId, const QString &text);
@@ -32,8 +34,16 @@ signals:
 private:
     using Links = std::unordered_map<QString, std::unique_ptr<DeviceLink>>;
 
-    std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
+    struct Request
+    {
+        QString requestId, devId, text;
+    };
 
+    std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
+    void sendRequests();
+
+    QMutex m_mutex;
+    QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
     LinkHost *m_host;
     Links m_links; ///< by device id; go before the host
 };
