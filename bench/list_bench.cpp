@@ -21,8 +21,8 @@ namespace {
 
 using orda_data::DevsMgrData;
 
-const QStringList keyStrokes{QStringLiteral("1"), QStringLiteral("12"), QStringLiteral("123"), QStringLiteral("12"),
-                             QStringLiteral("1"), QString()};
+const QStringList keyStrokes{QStringLiteral("1"),  QStringLiteral("12"), QStringLiteral("123"),
+                             QStringLiteral("12"), QStringLiteral("1"),  QString()};
 
 QStringList silent(const ScriptedTransport::Request &)
 {

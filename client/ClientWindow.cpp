@@ -134,8 +134,7 @@ void ClientWindow::updateStatusBar()
     if (!devId.isEmpty())
         showLast(QStringLiteral("%1: %2").arg(displayName(store.getDevInfoById(devId)),
                                               statusText(store.getDevStatus(devId))));
-    m_onlineCount->setText(
-        tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false)));
+    m_onlineCount->setText(tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false)));
 }
 
 void ClientWindow::showLast(const QString &text)

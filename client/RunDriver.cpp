@@ -108,8 +108,7 @@ void RunDriver::whenSettled()
     if (std::exchange(m_started, true))
         return;
     const auto &store = orda_data::DevsMgrData::instance();
-    out() << tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false))
-          << Qt::endl;
+    out() << tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false)) << Qt::endl;
     if (m_options.screenshotsDir.isEmpty())
         tickAndConfigure();
     else

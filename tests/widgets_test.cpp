@@ -20,8 +20,10 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QShortcut>
 #include <QSignalSpy>
 
@@ -72,6 +74,7 @@ private slots:
     void orderNumbersTouchOnlyWhatChanges();
     void overlayLetsNothingThrough();
     void overlayDiesWithItsParent();
+    void tableHidesTheRowsThatAPlainOneHides();
     void dialogAnswersOnce_data();
     void dialogAnswersOnce();
     void navigationFoldsAndHighlights();
@@ -335,6 +338,60 @@ void WidgetsTest::passwordStrength()
     QFETCH(QString, password);
     QFETCH(int, strength);
     QCOMPARE(int(XCOMMON::checkPwdStrength(password)), strength);
+}
+
+void WidgetsTest::tableHidesTheRowsThatAPlainOneHides()
+{
+    // At random, in bursts, with and without the event loop between: rows come, go, are hidden, shown and sorted.
+    QRandomGenerator random(3);
+    XCOMMON::XTableWidget table;
+    QTableWidget plain;
+    for (QTableWidget *each : {static_cast<QTableWidget *>(&table), &plain}) {
+        each->setColumnCount(1);
+        each->verticalHeader()->setDefaultSectionSize(20);
+        each->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        each->resize(300, 400);
+        each->show();
+    }
+    int number = 0;
+    for (int round = 0; round < 2000; ++round) {
+        const int action = random.bounded(6);
+        const int rows = plain.rowCount();
+        const int burst = 1 + random.bounded(5);
+        for (int i = 0; i < burst; ++i) {
+            const int row = plain.rowCount() == 0 ? 0 : random.bounded(plain.rowCount());
+            if (action == 0 || plain.rowCount() == 0) {
+                const int at = random.bounded(4) == 0 ? row : plain.rowCount();
+                const QString text = QString::number(++number * 7919 % 10007);
+                table.insertRow(at);
+                plain.insertRow(at);
+                table.setItem(at, 0, new QTableWidgetItem(text));
+                plain.setItem(at, 0, new QTableWidgetItem(text));
+            } else if (action == 1 || (action == 5 && rows > 60)) {
+                table.removeRow(row);
+                plain.removeRow(row);
+            } else if (action == 2 || action == 3) {
+                table.setRowHidden(row, action == 2);
+                plain.setRowHidden(row, action == 2);
+            }
+        }
+        if (action == 4 && random.bounded(10) == 0) {
+            table.sortItems(0);
+            plain.sortItems(0);
+        }
+        if (random.bounded(3) == 0)
+            QCoreApplication::processEvents();
+        if (random.bounded(3) == 0)
+            continue; // unseen
+        QCOMPARE(table.rowCount(), plain.rowCount());
+        for (int row = 0; row < plain.rowCount(); ++row) {
+            QCOMPARE(table.item(row, 0)->text(), plain.item(row, 0)->text());
+            QVERIFY2(table.isRowHidden(row) == plain.isRowHidden(row), qPrintable(QString::number(round)));
+            QCOMPARE(table.rowHeight(row), plain.rowHeight(row));
+            QCOMPARE(table.verticalHeader()->sectionPosition(row), plain.verticalHeader()->sectionPosition(row));
+        }
+        QCOMPARE(table.verticalHeader()->length(), plain.verticalHeader()->length());
+    }
 }
 
 ORDA_TEST_MAIN(WidgetsTest)

@@ -2,10 +2,14 @@
 
 #include <QHeaderView>
 
+#include <vector>
+
 namespace XCOMMON {
 
-/// The vertical header of the client's tables. QHeaderView writes the list of its hidden rows anew for each row that is
-/// added; where thousands are hidden and rows are added one by one at the bottom, that is all it does.
+/// The vertical header of the client's tables. QHeaderView writes its list of hidden rows anew for each single row that
+/// comes or goes; where a search hides thousands, that is all it does. This one appends without looking at the others,
+/// and brings the hidden rows in line with many removals at a time: before the next look at any row, for which
+/// QHeaderView asks for the layout that has been put off.
 class RowHeader : public QHeaderView
 {
     Q_OBJECT
@@ -13,9 +17,18 @@ class RowHeader : public QHeaderView
 public:
     explicit RowHeader(QWidget *parent = nullptr);
 
+    void setModel(QAbstractItemModel *model) override;
+    void doItemsLayout() override;
+
 protected slots:
-    /// In place of QHeaderView's slot, which the header connects to its model by this name.
-    void sectionsInserted(const QModelIndex &parent, int logicalFirst, int logicalLast);
+    // In place of QHeaderView's slots of the same names, by which it connects itself to its model.
+    void sectionsInserted(const QModelIndex &parent, int first, int last);
+    void sectionsAboutToBeRemoved(const QModelIndex &parent, int first, int last);
+    void _q_sectionsRemoved(const QModelIndex &parent, int first, int last);
+
+private:
+    bool m_isStale = false; ///< rows have gone that the sections do not show yet
+    std::vector<bool> m_hidden; ///< by row, as it is to be; kept up while stale
 };
 
 } // namespace XCOMMON
