@@ -6,7 +6,6 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTimer>
 #include <QWebSocket>
 
 #include <chrono>
@@ -32,10 +31,8 @@ DeviceConnection::DeviceConnection(QWebSocket *socket, const vms_sdk::DevInfo &d
     m_socket->setMaxAllowedIncomingMessageSize(vms_sdk::maxFrameBytes);
     connect(m_socket, &QWebSocket::textMessageReceived, this, &DeviceConnection::handleText);
     connect(m_socket, &QWebSocket::disconnected, this, &DeviceConnection::closed);
-    QTimer::singleShot(signOnLimit, this, [this] {
-        if (!m_isSignedOn)
-            cut();
-    });
+    connect(&m_signOnTimer, &QTimer::timeout, this, &DeviceConnection::cut);
+    m_signOnTimer.start(signOnLimit);
     sendJson(QStringLiteral("hello"), {{QStringLiteral("serial"), m_device.serialNumber},
                                        {QStringLiteral("nonce"), QString::fromLatin1(m_nonce)}});
 }
@@ -74,6 +71,7 @@ void DeviceConnection::signOn(const QJsonObject &auth)
         return refuse(QStringLiteral("wrong user or password"));
 
     m_isSignedOn = true;
+    m_signOnTimer.stop(); // and not left to run out: Qt looks through all timers for each one that is stopped
     sendJson(QStringLiteral("welcome"),
              {{QStringLiteral("state"), int(m_state)},
               {QStringLiteral("proof"), QString::fromLatin1(proofOf(vms_sdk::SignOnSide::Device))}});

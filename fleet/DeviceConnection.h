@@ -4,6 +4,7 @@
 #include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 
@@ -42,6 +43,7 @@ private:
     vms_sdk::DevInfo m_device;
     vms_sdk::DevStatus m_state;
     QByteArray m_nonce;
+    QTimer m_signOnTimer;
     bool m_isSignedOn = false;
 };
 

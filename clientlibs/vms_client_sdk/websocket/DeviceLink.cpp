@@ -234,7 +234,9 @@ void DeviceLink::send(const QString &requestId, const QString &text)
         return;
     }
     const QString frame = toFrameText({requestId, text});
-    if (unsentBytes(m_socket) + frame.toUtf8().size() > maxFrameBytes)
+    const qint64 room = maxFrameBytes - unsentBytes(m_socket);
+    constexpr int maxUtf8Bytes = 3; // of one UTF-16 unit: most frames need no counting
+    if (frame.size() * maxUtf8Bytes > room && frame.toUtf8().size() > room)
         warn(QStringLiteral("does not take its requests fast enough, or they are too large; some are dropped"));
     else
         m_socket->sendTextMessage(frame);
