@@ -145,7 +145,7 @@ class Client:
     """One OSD run of the client over an inventory, from the start of the program to its end."""
 
     def __init__(self, options, inventory, env):
-        command = [options.bin / "orda_client", "--inventory", inventory, "--run", "osd"]
+        command = [options.bin / "orda_client", "--language", "en", "--inventory", inventory, "--run", "osd"]
         start = time.monotonic()
         process = subprocess.Popen([str(part) for part in command], env=env, stdout=subprocess.PIPE, text=True)
         self.record = []
@@ -210,7 +210,8 @@ def measure_start(options, env, table):
     times = []
     for _ in range(options.repeat):
         start = time.monotonic()
-        process = subprocess.Popen([str(options.bin / "orda_client"), "--demo", "200", "--run", "osd"], env=env,
+        process = subprocess.Popen([str(options.bin / "orda_client"), "--language", "en", "--demo", "200",
+                                    "--run", "osd"], env=env,
                                    stdout=subprocess.PIPE, text=True)
         for line in process.stdout:
             if line.startswith("window shown"):
