@@ -46,7 +46,7 @@ QString writeRequest(const QString &readAnswer)
     static const QJsonObject wanted{{QStringLiteral("bShowOSD"), false},
                                     {QStringLiteral("timeFormat"), QStringLiteral("YYYY-MM-DD hh:mm:ss")},
                                     {QStringLiteral("timePos"), QStringLiteral("left_top")},
-                                    {QStringLiteral("channelName"), QString()},
+                                    {QStringLiteral("channelName"), QStringLiteral("HD IPC")},
                                     {QStringLiteral("position"), QStringLiteral("left_top")},
                                     {QStringLiteral("bLargeOSD"), false}};
     const QJsonObject answer = parse(readAnswer);

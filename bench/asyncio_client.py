@@ -19,7 +19,7 @@ import uuid
 
 import websockets
 
-WANTED = {"bShowOSD": False, "timeFormat": "YYYY-MM-DD hh:mm:ss", "timePos": "left_top", "channelName": "",
+WANTED = {"bShowOSD": False, "timeFormat": "YYYY-MM-DD hh:mm:ss", "timePos": "left_top", "channelName": "HD IPC",
           "position": "left_top", "bLargeOSD": False}
 PAUSE = 0.010
 SETTING_UP_AT_ONCE = 32

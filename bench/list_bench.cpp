@@ -1,3 +1,4 @@
+#include "Benchmarks.h"
 #include "support/FormFixture.h"
 
 #include <PauseMeter.h>
@@ -21,8 +22,12 @@ namespace {
 
 using orda_data::DevsMgrData;
 
-const QStringList keyStrokes{QStringLiteral("1"),  QStringLiteral("12"), QStringLiteral("123"),
-                             QStringLiteral("12"), QStringLiteral("1"),  QString()};
+/// The search text after each of six key strokes: three typed and three taken back, again and again.
+QString typed(int stroke)
+{
+    constexpr int lengths[]{1, 2, 3, 2, 1, 0};
+    return QStringLiteral("123").left(lengths[stroke % 6]);
+}
 
 QStringList silent(const ScriptedTransport::Request &)
 {
@@ -147,7 +152,7 @@ private:
 
 void listFill(benchmark::State &state)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         {
             const EmptyList list(int(state.range(0)));
@@ -165,7 +170,7 @@ void listFill(benchmark::State &state)
 void listFillFloor(benchmark::State &state)
 {
     const QList<vms_sdk::DevInfo> devices = shuffledDevices(int(state.range(0)));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         {
             BareList list;
@@ -183,8 +188,8 @@ void listSearch(benchmark::State &state)
     const EmptyList list(int(state.range(0)));
     EmptyList::fill();
     int stroke = 0;
-    for (auto _ : state) {
-        list.f.searchEdit()->setText(keyStrokes.at(stroke++ % keyStrokes.size()));
+    while (state.KeepRunning()) {
+        list.f.searchEdit()->setText(typed(stroke++));
         settle();
     }
 }
@@ -194,8 +199,8 @@ void listSearchFloor(benchmark::State &state)
     BareList list;
     list.fill(shuffledDevices(int(state.range(0))));
     int stroke = 0;
-    for (auto _ : state)
-        list.search(keyStrokes.at(stroke++ % keyStrokes.size()));
+    while (state.KeepRunning())
+        list.search(typed(stroke++));
 }
 
 /// A click on a header, by name and by address in turn.
@@ -205,7 +210,7 @@ void listSort(benchmark::State &state)
     EmptyList::fill();
     const QList<QWidget *> headers{list.f.page("devName"), list.f.page("devIp")};
     int click = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QTest::mouseClick(headers.at(click++ % 2), Qt::LeftButton);
         settle();
     }
@@ -216,7 +221,7 @@ void listSortFloor(benchmark::State &state)
     BareList list;
     list.fill(shuffledDevices(int(state.range(0))));
     int click = 0;
-    for (auto _ : state)
+    while (state.KeepRunning())
         list.sort(click++ % 2 == 0 ? 1 : 3, Qt::AscendingOrder);
 }
 
@@ -244,7 +249,7 @@ void listComesAndGoes(benchmark::State &state, const QString &keyword)
     PauseMeter meter;
     f.searchEdit()->setText(keyword);
     meter.start();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QElapsedTimer timer;
         timer.start();
         change(vms_sdk::DevOnline);
@@ -261,14 +266,19 @@ void listComesAndGoes(benchmark::State &state, const QString &keyword)
     state.counters["pauseMs"] = meter.longestPause();
 }
 
-#define ORDA_LIST_SIZES Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond)
-BENCHMARK(listFill)->ORDA_LIST_SIZES;
-BENCHMARK(listFillFloor)->ORDA_LIST_SIZES;
-BENCHMARK(listSearch)->ORDA_LIST_SIZES;
-BENCHMARK(listSearchFloor)->ORDA_LIST_SIZES;
-BENCHMARK(listSort)->ORDA_LIST_SIZES;
-BENCHMARK(listSortFloor)->ORDA_LIST_SIZES;
-BENCHMARK_CAPTURE(listComesAndGoes, all, QString())->ORDA_LIST_SIZES;
-BENCHMARK_CAPTURE(listComesAndGoes, searched, QStringLiteral("cam 1"))->ORDA_LIST_SIZES;
-
 } // namespace
+
+void registerBenchmarks()
+{
+    const auto add = [](const char *name, const auto &function) {
+        benchmark::RegisterBenchmark(name, function)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+    };
+    add("listFill", listFill);
+    add("listFillFloor", listFillFloor);
+    add("listSearch", listSearch);
+    add("listSearchFloor", listSearchFloor);
+    add("listSort", listSort);
+    add("listSortFloor", listSortFloor);
+    add("listComesAndGoes/all", [](benchmark::State &state) { listComesAndGoes(state, QString()); });
+    add("listComesAndGoes/searched", [](benchmark::State &state) { listComesAndGoes(state, QStringLiteral("cam 1")); });
+}

@@ -1,3 +1,4 @@
+#include "Benchmarks.h"
 #include "OsdExchange.h"
 #include "support/FormFixture.h"
 
@@ -55,7 +56,7 @@ void osdRun(benchmark::State &state)
     f.form->findChild<QAbstractButton *>(QStringLiteral("osd_param"))->click();
     auto *configure = f.page("osdParamsCfgPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
     QTest::qWait(20);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         configure->click();
         state.PauseTiming();
         if (std::exchange(transport->requests, 0) != 2 * state.range(0))
@@ -70,7 +71,7 @@ void osdFloor(benchmark::State &state)
 {
     const QString readAnswer = osd_exchange::readAnswer();
     const QString writeAnswer = osd_exchange::writeAnswer();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (qint64 device = 0; device < state.range(0); ++device) {
             QString read = osd_exchange::readRequest();
             QString write = osd_exchange::writeRequest(readAnswer);
@@ -82,9 +83,20 @@ void osdFloor(benchmark::State &state)
     }
 }
 
-BENCHMARK(osdRun)->Arg(1)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(osdFloor)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
-
 } // namespace
+
+void registerBenchmarks()
+{
+    const auto add = [](const char *name, void (*function)(benchmark::State &)) {
+        benchmark::RegisterBenchmark(name, function)
+            ->Arg(1)
+            ->Arg(100)
+            ->Arg(1'000)
+            ->Arg(10'000)
+            ->Unit(benchmark::kMillisecond);
+    };
+    add("osdRun", osdRun);
+    add("osdFloor", osdFloor);
+}
 
 #include "run_bench.moc"

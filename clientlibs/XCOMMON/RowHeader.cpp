@@ -25,7 +25,7 @@ void RowHeader::setModel(QAbstractItemModel *model)
 void RowHeader::sectionsInserted(const QModelIndex &parent, int first, int last)
 {
     if (m_isStale)
-        m_hidden.insert(m_hidden.begin() + first, std::size_t(last - first + 1), false);
+        m_hidden.insert(m_hidden.begin() + first, std::size_t(last) - std::size_t(first) + 1, false);
     else if (first >= count())
         initializeSections(first, last);
     else

@@ -235,7 +235,7 @@ void DeviceLink::send(const QString &requestId, const QString &text)
     }
     const QString frame = toFrameText({requestId, text});
     const qint64 room = maxFrameBytes - unsentBytes(m_socket);
-    constexpr int maxUtf8Bytes = 3; // of one UTF-16 unit: most frames need no counting
+    constexpr qint64 maxUtf8Bytes = 3; // of one UTF-16 unit: most frames need no counting
     if (frame.size() * maxUtf8Bytes > room && frame.toUtf8().size() > room)
         warn(QStringLiteral("does not take its requests fast enough, or they are too large; some are dropped"));
     else
