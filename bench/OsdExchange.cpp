@@ -53,9 +53,11 @@ QString writeRequest(const QString &readAnswer)
     if (isRefused(answer))
         return {};
     QJsonObject merged = answer.value(QLatin1String("result")).toObject();
-    for (auto it = wanted.begin(); it != wanted.end(); ++it)
-        if (merged.contains(it.key()))
-            merged.insert(it.key(), it.value());
+    for (auto it = wanted.begin(); it != wanted.end(); ++it) {
+        const auto known = merged.find(it.key());
+        if (known != merged.end())
+            *known = it.value();
+    }
     return request(QStringLiteral("chnosd_set_param"),
                    {{QStringLiteral("channelid"), 0}, {QStringLiteral("attr"), merged}});
 }

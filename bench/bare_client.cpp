@@ -108,6 +108,8 @@ int residentKiB()
 
 int main(int argc, char *argv[])
 {
+    QElapsedTimer clock;
+    clock.start();
     qputenv("QT_NO_GLIB", "1"); // as the programs do
     const QCoreApplication app(argc, argv);
     vms_sdk::raiseOpenFileLimit();
@@ -119,7 +121,6 @@ int main(int argc, char *argv[])
     std::size_t dialled = 0;
     std::size_t online = 0;
     std::size_t configured = 0;
-    QElapsedTimer clock;
     QJsonObject figures;
     const auto dialNext = [&] {
         if (dialled < devices.size())
@@ -146,7 +147,6 @@ int main(int argc, char *argv[])
     };
     for (const vms_sdk::DevInfo &dev : inventory.devices)
         devices.push_back(std::make_unique<BareDevice>(dev, isOnline, isConfigured));
-    clock.start();
     for (int i = 0; i < settingUpAtOnce; ++i)
         dialNext();
     return QCoreApplication::exec();

@@ -143,6 +143,7 @@ public:
 private:
     void renumber()
     {
+        const QSignalBlocker quiet(model()); // which would look each item up; the view draws all of it anyway
         int number = 0;
         for (int row = 0; row < rowCount(); ++row)
             if (!isRowHidden(row))

@@ -131,9 +131,9 @@ void ClientWindow::updateStatusBar()
 {
     const auto &store = orda_data::DevsMgrData::instance();
     const QString devId = std::exchange(m_lastChanged, {});
-    if (!devId.isEmpty())
-        showLast(QStringLiteral("%1: %2").arg(displayName(store.getDevInfoById(devId)),
-                                              statusText(store.getDevStatus(devId))));
+    const vms_sdk::DevInfo dev = store.getDevInfoById(devId);
+    if (!dev.id.isEmpty()) // it may have been removed since
+        showLast(QStringLiteral("%1: %2").arg(displayName(dev), statusText(store.getDevStatus(devId))));
     m_onlineCount->setText(tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false)));
 }
 

@@ -172,7 +172,12 @@ void RunDriver::configure()
     const QWidget *page = m_window->findChild<QWidget *>(m_family->pageName);
     page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click(); // comes back when the run is over
     progress->stop();
+    QCoreApplication::processEvents(); // the summary is drawn
     if (m_hasSummary) { // else the application is quitting
+        out() << "run: " << m_lastHeard << " ms to the last answer, " << m_duration.elapsed() << " ms in all"
+              << Qt::endl;
+        out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
+        printRecord();
         answerSummary();
         end(m_isAllDone ? ExitOk : ExitSomeFailed);
     }
@@ -191,9 +196,7 @@ void RunDriver::followProgress()
 
 void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
 {
-    out() << info.title << Qt::endl << info.text << Qt::endl << "run: " << m_lastHeard << " ms" << Qt::endl;
-    out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
-    printRecord();
+    out() << info.title << Qt::endl << info.text << Qt::endl;
 
     // Total, success, failure, in every language.
     QList<int> counts;

@@ -293,6 +293,23 @@ private slots:
             QCOMPARE(m_states[device.id].mid(0, 2), States({DevConnecting, DevOffline}));
     }
 
+    void devicesThatAreTakenAwayAreNotDialledInTheGoing()
+    {
+        QTcpServer silent;
+        QVERIFY(silent.listen(QHostAddress::LocalHost));
+        QList<DevInfo> devices;
+        for (int i = 0; i < 40; ++i) { // two are being set up, the others wait
+            devices.append(TestDevice(QString::number(i)).info);
+            devices.last().port = silent.serverPort();
+        }
+        m_transport->setDevices(devices);
+        m_transport->setDevices({});
+        for (int i = 0; i < 2; ++i)
+            QTRY_COMPARE(m_states[devices.at(i).id], States({DevConnecting, DevOffline}));
+        QTest::qWait(20); // nothing more comes
+        QCOMPARE(m_states.size(), 2);
+    }
+
     void certificatesAreTakenWhenPinnedOrTrusted_data()
     {
         QTest::addColumn<QString>("certificate");

@@ -125,6 +125,21 @@ private slots:
         QCOMPARE(answers.at(0), QVariantList({QStringLiteral("r"), QStringLiteral("text")}));
     }
 
+    void answersThatCameInTimeGoBeforeTheTimeOut()
+    {
+        ClientSdk::instance().setRequestTimeout(20ms);
+        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+        QStringList order;
+        QObject context;
+        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context,
+                [&] { order.append(QStringLiteral("answer")); });
+        connect(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout, &context,
+                [&] { order.append(QStringLiteral("time-out")); });
+        request("r");
+        QThread::msleep(50); // a busy user interface
+        QTRY_COMPARE(order, (QStringList{QStringLiteral("answer"), QStringLiteral("time-out")}));
+    }
+
     void manyAnswersAtOnceLeaveTheEventLoopItsTurns()
     {
         auto eager = std::make_unique<EagerTransport>();

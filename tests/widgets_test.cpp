@@ -12,6 +12,7 @@
 #include <orda_base/PortEditWt.h>
 #include <orda_base/SearchBox.h>
 #include <orda_base/TableOperWtStyle.h>
+#include <orda_base/TableWidget.h>
 #include <orda_base/Theme.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/SystemAssistant.h>
@@ -344,7 +345,7 @@ void WidgetsTest::tableHidesTheRowsThatAPlainOneHides()
 {
     // At random, in bursts, with and without the event loop between: rows come, go, are hidden, shown and sorted.
     QRandomGenerator random(3);
-    XCOMMON::XTableWidget table;
+    orda_base::TableWidget table;
     QTableWidget plain;
     for (QTableWidget *each : {static_cast<QTableWidget *>(&table), &plain}) {
         each->setColumnCount(1);

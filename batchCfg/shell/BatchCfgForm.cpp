@@ -340,7 +340,9 @@ void BatchCfgForm::addEligibleDevs()
     int row = table->rowCount();
     table->setRowCount(row + devs.size());
     for (const vms_sdk::DevInfo &dev : qAsConst(devs))
-        fillRow(row++, dev);
+        if (!m_devItemById.contains(dev.id)) // a store may have an id twice
+            fillRow(row++, dev);
+    table->setRowCount(row);
     table->setUpdatesEnabled(true);
     orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
 }

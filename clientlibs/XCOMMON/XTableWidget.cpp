@@ -1,7 +1,5 @@
 #include "XCOMMON/XTableWidget.h"
 
-#include "XCOMMON/RowHeader.h"
-
 #include <chrono>
 
 namespace XCOMMON {
@@ -14,9 +12,13 @@ constexpr int maxChangesInFrame = 20; // more are drawn at the end of the frame
 } // namespace
 
 XTableWidget::XTableWidget(QWidget *parent)
-    : QTableWidget(parent)
+    : XTableWidget(0, 0, parent)
 {
-    setVerticalHeader(new RowHeader(this));
+}
+
+XTableWidget::XTableWidget(int rows, int columns, QWidget *parent)
+    : QTableWidget(rows, columns, parent)
+{
     m_frame.setSingleShot(true);
     m_frame.setInterval(frameInterval);
     connect(&m_frame, &QTimer::timeout, this, [this] {

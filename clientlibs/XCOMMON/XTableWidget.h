@@ -13,6 +13,7 @@ class XTableWidget : public QTableWidget
 
 public:
     explicit XTableWidget(QWidget *parent = nullptr);
+    XTableWidget(int rows, int columns, QWidget *parent = nullptr);
 
     void setRowCount(int rows);
     void insertRow(int row);

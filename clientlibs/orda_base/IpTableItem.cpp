@@ -1,6 +1,6 @@
 #include "orda_base/IpTableItem.h"
 
-#include <arpa/inet.h>
+#include <QStringList>
 
 namespace orda_base {
 
@@ -9,10 +9,18 @@ namespace {
 // The number of a dotted address; false for every other text.
 bool parseIpv4(const QString &text, quint32 *number)
 {
-    in_addr address = {};
-    if (::inet_pton(AF_INET, text.toLatin1().constData(), &address) != 1)
+    const QVector<QStringRef> bytes = text.splitRef(QLatin1Char('.'));
+    if (bytes.size() != 4)
         return false;
-    *number = ntohl(address.s_addr);
+    quint32 result = 0;
+    for (const QStringRef &byte : bytes) {
+        bool isNumber = false;
+        const ushort value = byte.toUShort(&isNumber);
+        if (!isNumber || value > 255)
+            return false;
+        result = result << 8U | value;
+    }
+    *number = result;
     return true;
 }
 

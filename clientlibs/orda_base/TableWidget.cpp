@@ -1,6 +1,6 @@
 #include "orda_base/TableWidget.h"
 
-#include <QHeaderView>
+#include "orda_base/RowHeader.h"
 
 namespace orda_base {
 
@@ -17,6 +17,7 @@ TableWidget::TableWidget(QWidget *parent)
     setVerticalScrollMode(ScrollPerPixel);
     setAlternatingRowColors(true);
     setWordWrap(false);
+    setVerticalHeader(new RowHeader(this));
     // Rows of one fixed height: measuring contents would look at every row.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(rowPixels);

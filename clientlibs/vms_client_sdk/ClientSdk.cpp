@@ -14,6 +14,12 @@
 
 namespace vms_sdk {
 
+namespace {
+
+constexpr qint64 sliceMs = 8; // as the inbox's
+
+} // namespace
+
 ClientSdk &ClientSdk::instance()
 {
     static ClientSdk sdk;
@@ -36,6 +42,7 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
 {
     m_transport.reset();
     m_inbox.reset();
+    m_answersFirst = 0;
     m_pending.clear();
     m_timedOut.clear();
     m_timer.stop();
@@ -123,14 +130,31 @@ void ClientSdk::passOnAnswer(const QString &requestId, const QString &text)
 
 void ClientSdk::checkTimeouts()
 {
+    // An answer that came in time, to a thread that was busy, goes before the time-out.
+    if (m_inbox && m_timedOut.isEmpty()) {
+        if (m_answersFirst == 0)
+            m_answersFirst = m_inbox->putCount();
+        if (m_inbox->passedOnCount() < m_answersFirst) {
+            m_timer.start(1);
+            return;
+        }
+        m_answersFirst = 0;
+    }
     m_pending.advanceTo(m_clock.elapsed());
     m_timedOut += m_pending.takeDue();
     // Before the signals: a listener may wait in an event loop of its own, and the others' time-outs must come all the
     // same.
     if (!m_pending.isEmpty() || !m_timedOut.isEmpty())
         startTimer();
-    while (!m_timedOut.isEmpty())
+    QElapsedTimer slice;
+    slice.start();
+    while (!m_timedOut.isEmpty()) {
+        if (slice.elapsed() >= sliceMs) {
+            m_timer.start(0); // the event loop has its turn
+            return;
+        }
         raise([id = m_timedOut.takeFirst()](ClientSignals &sdk) { emit sdk.signalRequestTimeout(id, QVariant()); });
+    }
 }
 
 void ClientSdk::startTimer()

@@ -49,6 +49,7 @@ private:
     std::unique_ptr<Inbox> m_inbox; ///< of this transport: what it raised and was not passed on goes with it
     PendingRequests m_pending;
     QStringList m_timedOut; ///< taken out of m_pending, time-out not raised yet
+    quint64 m_answersFirst = 0; ///< so many are to be passed on by the inbox before time-outs are looked for
     QElapsedTimer m_clock;
     /// A signal is being raised, and no event loop has turned since the clock was read: a listener may wait in one of
     /// its own, for as long as it likes.

@@ -25,6 +25,7 @@ void Inbox::put(Item item)
     const QMutexLocker lock(&m_mutex);
     const bool isUrgent = std::holds_alternative<Answer>(item);
     m_arrived.push_back(std::move(item));
+    ++m_put;
     if (m_arrived.size() > 1 && (m_isUrgent || !isUrgent))
         return; // the GUI thread knows
     m_isUrgent = isUrgent;
@@ -36,6 +37,12 @@ void Inbox::wakeUp(bool isUrgent)
 {
     if (!m_next.isActive() || (isUrgent && m_next.interval() > 0))
         m_next.start(isUrgent ? 0 : companyMs);
+}
+
+quint64 Inbox::putCount()
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_put;
 }
 
 bool Inbox::takeArrived()
@@ -57,6 +64,7 @@ void Inbox::passOn()
             return;
         const Item item = std::move(m_items.front());
         m_items.pop_front();
+        ++m_passedOn;
         m_consumer(item);
         if (!self)
             return;

@@ -36,6 +36,9 @@ public:
     explicit Inbox(std::function<void(const Item &)> consumer);
 
     void put(Item item); ///< from any thread
+    // How many have been put and passed on since the beginning.
+    quint64 putCount();
+    quint64 passedOnCount() const { return m_passedOn; }
 
 private:
     void wakeUp(bool isUrgent);
@@ -45,8 +48,10 @@ private:
     std::function<void(const Item &)> m_consumer;
     QMutex m_mutex;
     std::deque<Item> m_arrived; ///< under the mutex
+    quint64 m_put = 0; ///< under the mutex
     bool m_isUrgent = false; ///< under the mutex: there is an answer among them
     std::deque<Item> m_items; ///< taken over from m_arrived
+    quint64 m_passedOn = 0;
     QTimer m_next; ///< the next slice: a timer, for posted events go on until there are none
 };
 

@@ -13,7 +13,7 @@ namespace vms_sdk {
 /// Deadlines are rounded up to a tick, a tenth of the waiting time, so that ids sent together end together.
 /// A run renews all its ids after each result, 5 * 10^7 renewals for 10,000 devices. So the deadline that a renewal
 /// sets is worked out once per advanceTo(), and each id remembers which one was renewed after it the last time: the
-/// hash is asked once for each id that has left the round, not once for each renewal.
+/// hash is asked when an id has left the round, not for each renewal.
 class PendingRequests
 {
 public:

@@ -66,9 +66,15 @@ void LinkHost::leave(DeviceLink *link)
         m_queue.removeOne(link);
 }
 
-void LinkHost::stopDialling()
+void LinkHost::holdDialling()
 {
-    m_queue.clear();
+    m_isFilling = true;
+}
+
+void LinkHost::goOnDialling()
+{
+    m_isFilling = false;
+    fillPlaces();
 }
 
 void LinkHost::fillPlaces()

@@ -37,8 +37,10 @@ public:
     /// Gives up the place, or the place in the queue.
     void leave(DeviceLink *link);
 
-    /// Nobody in the queue is dialled any more.
-    void stopDialling();
+    /// Nobody is dialled before goOnDialling(): for whoever ends many links, which would leave their places to each
+    /// other.
+    void holdDialling();
+    void goOnDialling();
 
     /// Takes over a socket that nobody listens to any more: closes it, cuts it off if that takes too long, deletes it.
     void closeSocket(QWebSocket *socket, int closeCode);

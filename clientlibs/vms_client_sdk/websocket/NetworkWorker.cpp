@@ -15,7 +15,7 @@ NetworkWorker::NetworkWorker(const WebSocketOptions &options)
 
 NetworkWorker::~NetworkWorker()
 {
-    m_host->stopDialling(); // the links, going one by one, leave their places to each other
+    m_host->holdDialling();
 }
 
 void NetworkWorker::setDevices(const QList<DevInfo> &devices)
@@ -26,8 +26,11 @@ void NetworkWorker::setDevices(const QList<DevInfo> &devices)
         if (known != previous.end() && known->second->device() == device)
             m_links.insert(previous.extract(known));
     }
+    m_host->holdDialling();
     for (const auto &[id, link] : previous)
         link->end();
+    previous.clear();
+    m_host->goOnDialling();
     for (const DevInfo &device : devices) {
         std::unique_ptr<DeviceLink> &link = m_links[device.id];
         if (!link) {

@@ -4,12 +4,12 @@
 
 #include <vector>
 
-namespace XCOMMON {
+namespace orda_base {
 
-/// The vertical header of the client's tables. QHeaderView writes its list of hidden rows anew for each single row that
-/// comes or goes; where a search hides thousands, that is all it does. This one appends without looking at the others,
-/// and brings the hidden rows in line with many removals at a time: before the next look at any row, for which
-/// QHeaderView asks for the layout that has been put off.
+/// The vertical header of a table whose rows are all of one fixed height. QHeaderView writes its list of hidden rows
+/// anew for each single row that comes or goes; where a search hides thousands, that is all it does. This one appends
+/// without looking at the others, and brings the hidden rows in line with many removals at a time: before the next look
+/// at any row, for which QHeaderView asks for the layout that has been put off.
 class RowHeader : public QHeaderView
 {
     Q_OBJECT
@@ -31,4 +31,4 @@ private:
     std::vector<bool> m_hidden; ///< by row, as it is to be; kept up while stale
 };
 
-} // namespace XCOMMON
+} // namespace orda_base

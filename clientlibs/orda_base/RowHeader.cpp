@@ -1,8 +1,8 @@
-#include "XCOMMON/RowHeader.h"
+#include "orda_base/RowHeader.h"
 
 #include <QMetaMethod>
 
-namespace XCOMMON {
+namespace orda_base {
 
 RowHeader::RowHeader(QWidget *parent)
     : QHeaderView(Qt::Vertical, parent)
@@ -66,4 +66,4 @@ void RowHeader::doItemsLayout()
             setSectionHidden(row, m_hidden[std::size_t(row)]);
 }
 
-} // namespace XCOMMON
+} // namespace orda_base
