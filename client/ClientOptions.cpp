@@ -8,11 +8,6 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ClientOptions", text);
-}
-
 QString familyList()
 {
     return familyNames().join(QStringLiteral(", "));
@@ -26,27 +21,33 @@ constexpr int maxDemoDevices = 100000;
 ClientOptions parseOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr(
+    parser.setApplicationDescription(ClientOptions::tr(
         "Configures many online cameras and recorders at once.\n\n"
         "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device."));
-    const QCommandLineOption demo(QStringLiteral("demo"), tr("Bring N simulated devices along."), QStringLiteral("N"));
+    const QCommandLineOption demo(QStringLiteral("demo"), ClientOptions::tr("Bring N simulated devices along."),
+                                  QStringLiteral("N"));
     const QCommandLineOption inventory(QStringLiteral("inventory"),
-                                       tr("Connect to the devices of this inventory file."), QStringLiteral("FILE"));
-    const QCommandLineOption faults(QStringLiteral("faults"), tr("Faults of the simulated devices (with --demo)."),
+                                       ClientOptions::tr("Connect to the devices of this inventory file."),
+                                       QStringLiteral("FILE"));
+    const QCommandLineOption faults(QStringLiteral("faults"),
+                                    ClientOptions::tr("Faults of the simulated devices (with --demo)."),
                                     QStringLiteral("FILE"));
-    const QCommandLineOption language(QStringLiteral("language"),
-                                      tr("Language of the window, such as \"en\"; the system's when not given."),
-                                      QStringLiteral("CODE"));
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        ClientOptions::tr("Language of the window, such as \"en\"; the system's when not given."),
+        QStringLiteral("CODE"));
     const QCommandLineOption run(
         QStringLiteral("run"),
-        tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
+        ClientOptions::tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
         QStringLiteral("FAMILY"));
-    const QCommandLineOption devices(QStringLiteral("devices"),
-                                     tr("Devices to configure with --run: \"all\" (default) or ids with commas."),
-                                     QStringLiteral("IDS"));
-    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
-                                         tr("Save pictures of the pages, the run and its summary here (with --run)."),
-                                         QStringLiteral("DIR"));
+    const QCommandLineOption devices(
+        QStringLiteral("devices"),
+        ClientOptions::tr("Devices to configure with --run: \"all\" (default) or ids with commas."),
+        QStringLiteral("IDS"));
+    const QCommandLineOption screenshots(
+        QStringLiteral("screenshots"),
+        ClientOptions::tr("Save pictures of the pages, the run and its summary here (with --run)."),
+        QStringLiteral("DIR"));
     parser.addOptions({demo, inventory, faults, language, run, devices, screenshots});
 
     ClientOptions options;
@@ -67,28 +68,28 @@ ClientOptions parseOptions(const QStringList &arguments)
         return options;
     };
     if (!parser.positionalArguments().isEmpty())
-        return fail(tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
+        return fail(ClientOptions::tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
     if (parser.isSet(demo)) {
         bool isNumber = false;
         options.demoDevices = parser.value(demo).toInt(&isNumber);
         if (!isNumber || options.demoDevices < 1 || options.demoDevices > maxDemoDevices) {
-            return fail(tr("--demo takes a number of devices from 1 to %1, not \"%2\"")
+            return fail(ClientOptions::tr("--demo takes a number of devices from 1 to %1, not \"%2\"")
                             .arg(QString::number(maxDemoDevices), parser.value(demo)));
         }
     }
     if (parser.isSet(demo) && parser.isSet(inventory))
-        return fail(tr("--demo and --inventory exclude each other"));
+        return fail(ClientOptions::tr("--demo and --inventory exclude each other"));
     if (parser.isSet(faults) && !parser.isSet(demo))
-        return fail(tr("--faults needs --demo: only simulated devices have faults to order"));
+        return fail(ClientOptions::tr("--faults needs --demo: only simulated devices have faults to order"));
     if (parser.isSet(run) && !findFamily(options.family))
-        return fail(tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family));
+        return fail(ClientOptions::tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family));
     if (parser.isSet(run) && !parser.isSet(demo) && !parser.isSet(inventory))
-        return fail(tr("--run needs devices: --demo N or --inventory FILE"));
+        return fail(ClientOptions::tr("--run needs devices: --demo N or --inventory FILE"));
     if (!parser.isSet(run) && (parser.isSet(devices) || parser.isSet(screenshots)))
-        return fail(tr("--devices and --screenshots need --run"));
+        return fail(ClientOptions::tr("--devices and --screenshots need --run"));
     if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all") && options.deviceIds.isEmpty())
-        return fail(tr("--devices takes \"all\" or device ids with commas between them"));
+        return fail(ClientOptions::tr("--devices takes \"all\" or device ids with commas between them"));
     if (parser.isSet(screenshots) && !QDir().mkpath(options.screenshotsDir))
-        return fail(tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir));
+        return fail(ClientOptions::tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir));
     return options;
 }

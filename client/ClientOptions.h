@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,9 @@ enum ExitCode
 /// What the command line asks for.
 struct ClientOptions
 {
+    Q_DECLARE_TR_FUNCTIONS(ClientOptions)
+
+public:
     int demoDevices = 0; ///< 0: no embedded fleet
     QString inventoryFile;
     QString faultsFile; ///< for the embedded fleet

@@ -1,0 +1,204 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>ClientOptions</name>
+    <message>
+        <source>Configures many online cameras and recorders at once.
+
+Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device.</source>
+        <translation>一次配置许多在线摄像机和录像机。
+
+退出码：0 全部设备已配置，1 部分未配置，2 用法错误，3 文件有误，4 没有设备。</translation>
+    </message>
+    <message>
+        <source>Bring N simulated devices along.</source>
+        <translation>附带 N 台模拟设备。</translation>
+    </message>
+    <message>
+        <source>Connect to the devices of this inventory file.</source>
+        <translation>连接此清单文件中的设备。</translation>
+    </message>
+    <message>
+        <source>Faults of the simulated devices (with --demo).</source>
+        <translation>模拟设备的故障（与 --demo 一起使用）。</translation>
+    </message>
+    <message>
+        <source>Language of the window, such as &quot;en&quot;; the system&apos;s when not given.</source>
+        <translation>窗口语言，例如“en”；未给出时使用系统语言。</translation>
+    </message>
+    <message>
+        <source>Drive the form without a person: one run of FAMILY (%1), then exit.</source>
+        <translation>无人操作表单：执行一次 FAMILY（%1）后退出。</translation>
+    </message>
+    <message>
+        <source>Devices to configure with --run: &quot;all&quot; (default) or ids with commas.</source>
+        <translation>--run 要配置的设备：“all”（默认）或以逗号分隔的 id。</translation>
+    </message>
+    <message>
+        <source>Save pictures of the pages, the run and its summary here (with --run).</source>
+        <translation>在此保存页面、运行和摘要的图片（与 --run 一起使用）。</translation>
+    </message>
+    <message>
+        <source>unexpected argument &quot;%1&quot;</source>
+        <translation>意外的参数“%1”</translation>
+    </message>
+    <message>
+        <source>--demo takes a number of devices from 1 to %1, not &quot;%2&quot;</source>
+        <translation>--demo 接受 1 到 %1 的设备数，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>--demo and --inventory exclude each other</source>
+        <translation>--demo 与 --inventory 互斥</translation>
+    </message>
+    <message>
+        <source>--faults needs --demo: only simulated devices have faults to order</source>
+        <translation>--faults 需要 --demo：只有模拟设备才能设定故障</translation>
+    </message>
+    <message>
+        <source>--run takes one of %1, not &quot;%2&quot;</source>
+        <translation>--run 只接受 %1 之一，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>--run needs devices: --demo N or --inventory FILE</source>
+        <translation>--run 需要设备：--demo N 或 --inventory FILE</translation>
+    </message>
+    <message>
+        <source>--devices and --screenshots need --run</source>
+        <translation>--devices 和 --screenshots 需要 --run</translation>
+    </message>
+    <message>
+        <source>--devices takes &quot;all&quot; or device ids with commas between them</source>
+        <translation>--devices 接受“all”或以逗号分隔的设备 id</translation>
+    </message>
+    <message>
+        <source>--screenshots: cannot make the directory &quot;%1&quot;</source>
+        <translation>--screenshots：无法创建目录“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>ClientWindow</name>
+    <message>
+        <source>off line</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <source>on line</source>
+        <translation>在线</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>sign-on refused</source>
+        <translation>登录被拒绝</translation>
+    </message>
+    <message>
+        <source>on line with the factory password</source>
+        <translation>在线（使用出厂密码）</translation>
+    </message>
+    <message>
+        <source>on line, locked</source>
+        <translation>在线，已锁定</translation>
+    </message>
+    <message>
+        <source>Batch Configuration</source>
+        <translation>批量配置</translation>
+    </message>
+    <message>
+        <source>&amp;Devices</source>
+        <translation>设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Open inventory…</source>
+        <translation>打开清单(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Connect again</source>
+        <translation>重新连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Tries the devices again that refused the sign-on</source>
+        <translation>重试拒绝登录的设备</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Open inventory</source>
+        <translation>打开清单</translation>
+    </message>
+    <message>
+        <source>Inventories (*.json);;All files (*)</source>
+        <translation>清单 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices on line</source>
+        <translation>%2 台设备中 %1 台在线</translation>
+    </message>
+    <message>
+        <source>Remote configuration of %1</source>
+        <translation>%1 的远程设置</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>RunDriver</name>
+    <message>
+        <source>--devices: there is no device &quot;%1&quot;</source>
+        <translation>--devices：没有设备“%1”</translation>
+    </message>
+    <message>
+        <source>window shown</source>
+        <translation>窗口已显示</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices on line</source>
+        <translation>%2 台设备中 %1 台在线</translation>
+    </message>
+    <message>
+        <source>%1 devices ticked</source>
+        <translation>已勾选 %1 台设备</translation>
+    </message>
+    <message>
+        <source>%1 of the given devices are off line or may not be configured</source>
+        <translation>指定的设备中有 %1 台离线或不允许配置</translation>
+    </message>
+    <message>
+        <source>cannot read the record file %1: %2</source>
+        <translation>无法读取记录文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>cannot write the picture %1</source>
+        <translation>无法写入图片 %1</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>there is no display to show the window on; --run needs none</source>
+        <translation>没有可显示窗口的显示器；--run 不需要显示器</translation>
+    </message>
+    <message>
+        <source>--language takes one of %1, not &quot;%2&quot;</source>
+        <translation>--language 只接受 %1 之一，而不是“%2”</translation>
+    </message>
+</context>
+</TS>

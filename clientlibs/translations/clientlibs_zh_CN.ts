@@ -1,0 +1,128 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>DictDef</name>
+    <message>
+        <source>Notice</source>
+        <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>Inventory</name>
+    <message>
+        <source>field &quot;%1&quot;: %2</source>
+        <translation>字段“%1”：%2</translation>
+    </message>
+    <message>
+        <source>must be a text in quotes</source>
+        <translation>必须是带引号的文本</translation>
+    </message>
+    <message>
+        <source>must not hold line breaks, tabs or control characters</source>
+        <translation>不得包含换行符、制表符或控制字符</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>必须是 %1 到 %2 之间的整数</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>must be an IPv4 address such as 192.168.1.20, or empty where &quot;url&quot; is given</source>
+        <translation>必须是 IPv4 地址（如 192.168.1.20），给出“url”时可为空</translation>
+    </message>
+    <message>
+        <source>must be a SHA-256: 64 hexadecimal digits, with or without colons</source>
+        <translation>必须是 SHA-256：64 位十六进制数字，可带或不带冒号</translation>
+    </message>
+    <message>
+        <source>must be there and not be empty</source>
+        <translation>必须存在且不能为空</translation>
+    </message>
+    <message>
+        <source>must be an address such as wss://relay.example:443/camera-1</source>
+        <translation>必须是类似 wss://relay.example:443/camera-1 的地址</translation>
+    </message>
+    <message>
+        <source>must not be true beside a &quot;url&quot; that begins with ws:</source>
+        <translation>“url”以 ws: 开头时不得为 true</translation>
+    </message>
+    <message>
+        <source>must be an IPv4 address where no &quot;url&quot; is given</source>
+        <translation>未给出“url”时必须是 IPv4 地址</translation>
+    </message>
+    <message>
+        <source>must be a whole number from 1 to 65535 where no &quot;url&quot; is given</source>
+        <translation>未给出“url”时必须是 1 到 65535 之间的整数</translation>
+    </message>
+    <message>
+        <source>must be the path of an address and begin with &quot;/&quot;</source>
+        <translation>必须是地址的路径并以“/”开头</translation>
+    </message>
+    <message>
+        <source>has no use without TLS: set tls to true or give a wss: url</source>
+        <translation>没有 TLS 时无用：请将 tls 设为 true 或给出 wss: 地址</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>is not JSON: %1 at byte %2</source>
+        <translation>不是 JSON：第 %2 字节处 %1</translation>
+    </message>
+    <message>
+        <source>holds passwords and may be read by others; set its mode to 0600 (chmod 600)</source>
+        <translation>包含密码且其他用户可读；请将其权限设为 0600（chmod 600）</translation>
+    </message>
+    <message>
+        <source>must be an object with a list &quot;devices&quot;</source>
+        <translation>必须是包含“devices”列表的对象</translation>
+    </message>
+    <message>
+        <source>%1: unknown key &quot;%2&quot; is not used</source>
+        <translation>%1：未知键“%2”未被使用</translation>
+    </message>
+    <message>
+        <source>%1: field &quot;%2&quot;: must not be the same as in %3</source>
+        <translation>%1：字段“%2”：不得与 %3 相同</translation>
+    </message>
+    <message>
+        <source>devices[%1] (id &quot;%2&quot;)</source>
+        <translation>devices[%1]（id“%2”）</translation>
+    </message>
+    <message>
+        <source>%1: must be an object</source>
+        <translation>%1：必须是对象</translation>
+    </message>
+    <message>
+        <source>%1: %2: unknown key &quot;%3&quot; is not used</source>
+        <translation>%1：%2：未知键“%3”未被使用</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1：无法写入：%2</translation>
+    </message>
+</context>
+<context>
+    <name>SystemAssistant</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>orda_base::SearchBox</name>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+</context>
+</TS>
