@@ -18,6 +18,15 @@ constexpr int maxDemoDevices = 100000;
 
 } // namespace
 
+QString requestedLanguage(const QStringList &arguments)
+{
+    const QCommandLineOption language(QStringLiteral("language"), {}, QStringLiteral("CODE"));
+    QCommandLineParser parser;
+    parser.addOption(language);
+    parser.parse(arguments); // whatever else is there
+    return parser.value(language);
+}
+
 ClientOptions parseOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
@@ -57,7 +66,6 @@ ClientOptions parseOptions(const QStringList &arguments)
 
     options.inventoryFile = parser.value(inventory);
     options.faultsFile = parser.value(faults);
-    options.language = parser.value(language);
     options.family = parser.value(run);
     options.screenshotsDir = parser.value(screenshots);
     if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all"))

@@ -50,17 +50,18 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(ORDA_VERSION));
     vms_sdk::raiseOpenFileLimit();
 
-    const ClientOptions options = parseOptions(QCoreApplication::arguments());
-    if (!options.error.isEmpty())
-        return fail(options.error + QStringLiteral(" (see orda_client --help)"), ExitUsage);
-    if (isBlind && options.family.isEmpty()) {
-        return fail(QCoreApplication::translate("main", "there is no display to show the window on; --run needs none"),
+    const QString language = requestedLanguage(QCoreApplication::arguments());
+    Translations translations; // first: what the command line gets wrong is said in it too
+    if (!translations.install(language)) {
+        return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
+                        .arg(Translations::languages().join(QStringLiteral(", ")), language),
                     ExitUsage);
     }
-    Translations translations;
-    if (!translations.install(options.language)) {
-        return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
-                        .arg(Translations::languages().join(QStringLiteral(", ")), options.language),
+    const ClientOptions options = parseOptions(QCoreApplication::arguments());
+    if (!options.error.isEmpty())
+        return fail(QCoreApplication::translate("main", "%1 (see orda_client --help)").arg(options.error), ExitUsage);
+    if (isBlind && options.family.isEmpty()) {
+        return fail(QCoreApplication::translate("main", "there is no display to show the window on; --run needs none"),
                     ExitUsage);
     }
     orda_base::Theme::apply(app);

@@ -200,5 +200,9 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>--language takes one of %1, not &quot;%2&quot;</source>
         <translation>--language nimmt eine von %1, nicht „%2“</translation>
     </message>
+    <message>
+        <source>%1 (see orda_client --help)</source>
+        <translation>%1 (siehe orda_client --help)</translation>
+    </message>
 </context>
 </TS>

@@ -200,5 +200,9 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>--language takes one of %1, not &quot;%2&quot;</source>
         <translation>--language 只接受 %1 之一，而不是“%2”</translation>
     </message>
+    <message>
+        <source>%1 (see orda_client --help)</source>
+        <translation>%1（参见 orda_client --help）</translation>
+    </message>
 </context>
 </TS>

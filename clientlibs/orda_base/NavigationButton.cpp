@@ -16,6 +16,7 @@ constexpr int markWidth = 3;
 constexpr int textRight = 8;
 constexpr int arrowRight = 18;
 constexpr int arrowSize = 5;
+constexpr int textFlags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap; // a long text takes two lines
 
 } // namespace
 
@@ -62,10 +63,16 @@ QRect NavigationButton::textRect() const
     return {textLeft, 0, width() - textLeft - right, height()};
 }
 
+bool NavigationButton::isTextWhole() const
+{
+    const QRect room = textRect();
+    return room.contains(fontMetrics().boundingRect(room, textFlags, text()));
+}
+
 bool NavigationButton::event(QEvent *event)
 {
-    if (event->type() == QEvent::ToolTip) // the whole text where it is cut off
-        setToolTip(fontMetrics().horizontalAdvance(text()) > textRect().width() ? text() : QString());
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(isTextWhole() ? QString() : text());
     return QAbstractButton::event(event);
 }
 
@@ -90,8 +97,8 @@ void NavigationButton::paintEvent(QPaintEvent *)
     icon.paint(&painter, QRect(iconLeft, (height() - iconPixels) / 2, iconPixels, iconPixels));
 
     painter.setPen(isCurrent ? accent : palette().color(QPalette::WindowText));
-    painter.drawText(textRect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, textRect().width()));
+    painter.drawText(textRect(), textFlags,
+                     isTextWhole() ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, textRect().width()));
 
     if (m_kind == FoldingBar) {
         painter.setPen(QPen(palette().color(QPalette::WindowText), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

@@ -25,6 +25,8 @@ public:
     /// Of a folding bar: which way its arrow points.
     void setUnfolded(bool unfolded);
     bool isUnfolded() const { return m_isUnfolded; }
+    /// Whether the text has room in one line or two; else it is elided, and the tool tip has the whole of it.
+    bool isTextWhole() const;
 
     QSize sizeHint() const override;
 
