@@ -23,6 +23,7 @@ public:
     int demoDevices = 0; ///< 0: no embedded fleet
     QString inventoryFile;
     QString faultsFile; ///< for the embedded fleet
+    QString theme; ///< "light" or "dark"; empty: as the desktop is
     QString family; ///< to drive without a person; empty: a person drives
     QStringList deviceIds; ///< for the driven run; empty: all
     QString screenshotsDir;

@@ -64,7 +64,10 @@ int main(int argc, char *argv[])
         return fail(QCoreApplication::translate("main", "there is no display to show the window on; --run needs none"),
                     ExitUsage);
     }
-    orda_base::Theme::apply(app);
+    using orda_base::Theme;
+    Theme::apply(app, options.theme.isEmpty()                  ? Theme::FollowPalette
+                      : options.theme == QLatin1String("dark") ? Theme::Dark
+                                                               : Theme::Light);
 
     ClientSession session;
     QObject::connect(&session, &ClientSession::signalWarning, &app, complain);

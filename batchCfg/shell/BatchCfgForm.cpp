@@ -1,6 +1,7 @@
 #include "shell/BatchCfgForm.h"
 
 #include "run/BatchCfgContact.h"
+#include "shell/EmptyListHint.h"
 #include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
 
@@ -161,6 +162,7 @@ void BatchCfgForm::initDevTable()
     for (int column = Name; column < ColumnCount; ++column)
         m_headerSortWidgets.at(column)->installEventFilter(this);
     addEligibleDevs();
+    new EmptyListHint(table, m_ui->searchBox);
 }
 
 void BatchCfgForm::connectStore()

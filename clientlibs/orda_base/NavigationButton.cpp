@@ -18,6 +18,17 @@ constexpr int arrowRight = 18;
 constexpr int arrowSize = 5;
 constexpr int textFlags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap; // a long text takes two lines
 
+constexpr int darkLightness = 128;
+
+// Modules draw their icons for light windows; on dark ones only their shape is of use.
+QPixmap inColour(QPixmap icon, const QColor &colour)
+{
+    QPainter painter(&icon);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(icon.rect(), colour);
+    return icon;
+}
+
 } // namespace
 
 NavigationButton::NavigationButton(Kind kind, const QString &title, QWidget *parent)
@@ -94,7 +105,12 @@ void NavigationButton::paintEvent(QPaintEvent *)
     }
 
     const QIcon &icon = m_isHighlighted ? m_highlighted : m_normal;
-    icon.paint(&painter, QRect(iconLeft, (height() - iconPixels) / 2, iconPixels, iconPixels));
+    const QRect iconRect(iconLeft, (height() - iconPixels) / 2, iconPixels, iconPixels);
+    if (palette().color(QPalette::Window).lightness() > darkLightness)
+        icon.paint(&painter, iconRect);
+    else if (!icon.isNull())
+        painter.drawPixmap(iconRect, inColour(icon.pixmap(window()->windowHandle(), iconRect.size()),
+                                              m_isHighlighted ? accent : palette().color(QPalette::WindowText)));
 
     painter.setPen(isCurrent ? accent : palette().color(QPalette::WindowText));
     painter.drawText(textRect(), textFlags,

@@ -1,5 +1,7 @@
 #include "orda_base/SearchBox.h"
 
+#include "orda_base/Theme.h"
+
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLineEdit>
@@ -13,7 +15,7 @@ SearchBox::SearchBox(QWidget *parent)
     m_edit->setPlaceholderText(tr("Search"));
     m_edit->setAccessibleName(tr("Search"));
     m_edit->setClearButtonEnabled(true);
-    m_edit->addAction(QIcon(QStringLiteral(":/orda_base/images/search.svg")), QLineEdit::LeadingPosition);
+    m_edit->addAction(QIcon(Theme::image(QStringLiteral("search"))), QLineEdit::LeadingPosition);
     setFocusProxy(m_edit);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
