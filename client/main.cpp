@@ -44,6 +44,8 @@ int main(int argc, char *argv[])
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // A screen at 1.5 shows everything at 1.5, not at 2.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const bool isBlind = chooseScreen();
     QApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orda_client"));
