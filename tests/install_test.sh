@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# What a client's developer does: installs this build tree, builds a client against it, builds the module against the installed client
+# libraries. Called by ctest: install_test.sh SOURCE BUILD SCRATCH CONFIG [CMAKE OPTION…], the options being those of this build.
+set -euo pipefail
+source=$1 build=$2 scratch=$3 config=$4
+shift 4
+fail() { echo "install_test: $*" >&2; exit 1; }
+
+rm -rf "$scratch"
+mkdir -p "$scratch/tmp"
+export TMPDIR=$scratch/tmp
+cmake --install "$build" --config "$config" --prefix "$scratch/first" >/dev/null
+mv "$scratch/first" "$scratch/prefix" # nothing may know where it was installed
+prefix=$scratch/prefix
+libraries=$(dirname "$(find "$prefix" -name liborda_batchCfg.so)")
+
+# configure_and_build SOURCE NAME [CMAKE OPTION…]
+configure_and_build() {
+  cmake -S "$1" -B "$scratch/$2" -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH="$prefix" "${@:3}" >"$scratch/$2.log" 2>&1 &&
+    cmake --build "$scratch/$2" --parallel >>"$scratch/$2.log" 2>&1 || { cat "$scratch/$2.log"; fail "$2 cannot be built"; }
+}
+
+# exports_only_the_entry LIBRARY
+exports_only_the_entry() {
+  local symbols others
+  symbols=$(nm -D --defined-only -C "$1" | cut -d ' ' -f 3-)
+  others=$(grep -vE '^((vtable|typeinfo|typeinfo name) for )?orda_batchCfg::BatchCfgInit(::|$)' <<<"$symbols") && fail "$1 exports" "$others"
+  for symbol in 'createBatchCfgForm()' 'instance()' 'staticMetaObject'; do
+    grep -qxF "orda_batchCfg::BatchCfgInit::$symbol" <<<"$symbols" || fail "$1 does not export BatchCfgInit::$symbol"
+  done
+}
+
+text=$(grep -rIlF -e "$source" -e "$build" -e "$scratch/first" "$prefix" || true)
+[ -z "$text" ] || fail "paths of the build in" "$text"
+runpaths=$(find "$prefix" -type f \( -name '*.so.*' -o -path '*/bin/*' \) -exec readelf -d {} + | grep -E 'R(UN)?PATH' | grep -vE '\[\$ORIGIN[^:]*\]' || true)
+[ -z "$runpaths" ] || fail "libraries are looked for at" "$runpaths"
+result=$("$prefix/bin/orda_client" --demo 5 --run audio 2>&1) || fail "the installed client says: $result"
+for program in orda_client orda_fleet; do # each option has its entry in the manual, and the other way round
+  diff <("$prefix/bin/$program" --help | grep -oP '^  (-., )?--\K[a-z-]+' | sort) \
+    <(sed -nE 's/^\.It .*Fl Fl ([a-z-]+).*/\1/p' "$source/man/$program.1" | sort) || fail "the manual of $program is not up to date"
+done
+
+configure_and_build "$source/tests/consumer" consumer "$@"
+"$scratch/consumer/consumer" || fail "the consumer's run failed"
+configure_and_build "$source/tests/consumer/headers" headers "$@" -DINCLUDE_DIR="$prefix/include"
+exports_only_the_entry "$libraries/liborda_batchCfg.so"
+
+configure_and_build "$source" module "$@" -DORDA_BUNDLED_CLIENTLIBS=OFF
+[ ! -e "$scratch/module/lib/liborda_base.so" ] || fail "the client libraries were built although they were given"
+exports_only_the_entry "$scratch/module/lib/liborda_batchCfg.so"
+cmake --install "$scratch/module" --prefix "$prefix" >/dev/null # replaces the module
+"$scratch/consumer/consumer" || fail "the consumer's run with the module built alone failed"
