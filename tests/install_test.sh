@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What a client's developer does: installs this build tree, builds a client against it, builds the module against the installed client
-# libraries. Called by ctest: install_test.sh SOURCE BUILD SCRATCH CONFIG [CMAKE OPTION…], the options being those of this build.
+# libraries, or makes these sources a part of the client's own. Called by ctest: install_test.sh SOURCE BUILD SCRATCH CONFIG [CMAKE OPTION…], the options being those of this build.
 set -euo pipefail
 source=$1 build=$2 scratch=$3 config=$4
 shift 4
@@ -50,3 +50,14 @@ configure_and_build "$source" module "$@" -DORDA_BUNDLED_CLIENTLIBS=OFF
 exports_only_the_entry "$scratch/module/lib/liborda_batchCfg.so"
 cmake --install "$scratch/module" --prefix "$prefix" >/dev/null # replaces the module
 "$scratch/consumer/consumer" || fail "the consumer's run with the module built alone failed"
+
+mkdir "$scratch/embedding"
+cat >"$scratch/embedding/CMakeLists.txt" <<TEXT
+cmake_minimum_required(VERSION 3.25)
+project(embedding LANGUAGES CXX)
+add_subdirectory("$source" orda EXCLUDE_FROM_ALL)
+add_executable(consumer "$source/tests/consumer/main.cpp")
+target_link_libraries(consumer PRIVATE orda::orda_batchCfg orda::orda_data orda::orda_worker)
+TEXT
+configure_and_build "$scratch/embedding" embedded "$@" -DBUILD_TESTING=OFF
+"$scratch/embedded/consumer" || fail "the consumer's run with the sources as a part of its own failed"

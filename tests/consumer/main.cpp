@@ -18,8 +18,6 @@ namespace {
 
 class SiteTransport : public vms_sdk::DeviceTransport
 {
-    Q_OBJECT
-
 public:
     void send(const QString &requestId, const QString &devId, const QString &text) override
     {
@@ -81,5 +79,3 @@ int main(int argc, char *argv[])
     qInfo("%s", isDone ? qPrintable(summary) : "the devices were not configured");
     return isDone ? 0 : 1;
 }
-
-#include "main.moc"
