@@ -18,7 +18,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 # The check marks and arrows of the theme are SVG, which Qt reads by a plug-in.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt5svg5, fonts-dejavu-core")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-wqy-microhei, xdg-utils")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n, xdg-utils")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "qtwayland5")
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "configure many online cameras and recorders at once
 An operator ticks cameras and recorders that are on line, ticks the parameters
