@@ -17,7 +17,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME orda-batchcfg)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 # The check marks and arrows of the theme are SVG, which Qt reads by a plug-in.
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt5svg5, fonts-dejavu-core")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt5svg5, fonts-dejavu-core, hicolor-icon-theme")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n, xdg-utils")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "qtwayland5")
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "configure many online cameras and recorders at once
