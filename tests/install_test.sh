@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# What a client's developer does: installs this build tree, builds a client against it, builds the module against the installed client
-# libraries, or makes these sources a part of the client's own. Called by ctest: install_test.sh SOURCE BUILD SCRATCH CONFIG [CMAKE OPTION…], the options being those of this build.
+# What a client's developer does: installs this build tree and builds a client against it, or makes these sources a part of the
+# client's own tree, where the client libraries come from elsewhere. Called by ctest:
+# install_test.sh SOURCE BUILD SCRATCH CONFIG [CMAKE OPTION…], the options being those of this build.
 set -euo pipefail
 source=$1 build=$2 scratch=$3 config=$4
 shift 4
@@ -14,10 +15,16 @@ mv "$scratch/first" "$scratch/prefix" # nothing may know where it was installed
 prefix=$scratch/prefix
 libraries=$(dirname "$(find "$prefix" -name liborda_batchCfg.so)")
 
+# configure SOURCE NAME [CMAKE OPTION…]
+configure() {
+  cmake -S "$1" -B "$scratch/$2" -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH="$prefix" "${@:3}" >"$scratch/$2.log" 2>&1 ||
+    { cat "$scratch/$2.log"; fail "$2 cannot be configured"; }
+}
+
 # configure_and_build SOURCE NAME [CMAKE OPTION…]
 configure_and_build() {
-  cmake -S "$1" -B "$scratch/$2" -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH="$prefix" "${@:3}" >"$scratch/$2.log" 2>&1 &&
-    cmake --build "$scratch/$2" --parallel >>"$scratch/$2.log" 2>&1 || { cat "$scratch/$2.log"; fail "$2 cannot be built"; }
+  configure "$@"
+  cmake --build "$scratch/$2" --parallel >"$scratch/$2.log" 2>&1 || { cat "$scratch/$2.log"; fail "$2 cannot be built"; }
 }
 
 # exports_only_the_entry LIBRARY
@@ -45,19 +52,18 @@ configure_and_build "$source/tests/consumer" consumer "$@"
 configure_and_build "$source/tests/consumer/headers" headers "$@" -DINCLUDE_DIR="$prefix/include"
 exports_only_the_entry "$libraries/liborda_batchCfg.so"
 
-configure_and_build "$source" module "$@" -DORDA_BUNDLED_CLIENTLIBS=OFF
-[ ! -e "$scratch/module/lib/liborda_base.so" ] || fail "the client libraries were built although they were given"
-exports_only_the_entry "$scratch/module/lib/liborda_batchCfg.so"
-cmake --install "$scratch/module" --prefix "$prefix" >/dev/null # replaces the module
-"$scratch/consumer/consumer" || fail "the consumer's run with the module built alone failed"
-
-mkdir "$scratch/embedding"
-cat >"$scratch/embedding/CMakeLists.txt" <<TEXT
+# A client's own tree, with these sources as a part of it and the client libraries from elsewhere.
+mkdir "$scratch/tree"
+cat >"$scratch/tree/CMakeLists.txt" <<TEXT
 cmake_minimum_required(VERSION 3.25)
-project(embedding LANGUAGES CXX)
-add_subdirectory("$source" orda EXCLUDE_FROM_ALL)
+project(tree LANGUAGES CXX)
+find_package(orda_clientlibs CONFIG)
+add_subdirectory("$source" orda)
 add_executable(consumer "$source/tests/consumer/main.cpp")
 target_link_libraries(consumer PRIVATE orda::orda_batchCfg orda::orda_data orda::orda_worker)
 TEXT
-configure_and_build "$scratch/embedding" embedded "$@" -DBUILD_TESTING=OFF
-"$scratch/embedded/consumer" || fail "the consumer's run with the sources as a part of its own failed"
+configure_and_build "$scratch/tree" module "$@" -DORDA_BUNDLED_CLIENTLIBS=OFF
+[ -z "$(find "$scratch/module" -name 'liborda_base*')" ] || fail "the client libraries were built although they were given"
+exports_only_the_entry "$(find "$scratch/module" -name liborda_batchCfg.so)"
+"$scratch/module/consumer" || fail "the consumer's run with the module built alone failed"
+configure "$scratch/tree" whole "$@" -DCMAKE_DISABLE_FIND_PACKAGE_orda_clientlibs=ON -DBUILD_TESTING=OFF
