@@ -8,6 +8,7 @@
 #include <vms_client_sdk/OpenFiles.h>
 
 #include <QApplication>
+#include <QIcon>
 #include <QTextStream>
 #include <QTimer>
 
@@ -50,6 +51,8 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orda_client"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORDA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("orda_client")); // its menu entry, for the task bar
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("orda_client")));
     vms_sdk::raiseOpenFileLimit();
 
     const QString language = requestedLanguage(QCoreApplication::arguments());

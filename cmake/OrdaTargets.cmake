@@ -24,17 +24,47 @@ function(orda_target name)
     ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 endfunction()
 
-# orda_client_library(<name> LINKS <targets> SOURCES <files>): one of the six client libraries, with clientlibs/ as its include root.
+# orda_install(<name> <component> [<export set> <include directory>]): a program or a library, to be run from any prefix: it finds our libraries by their
+# place beside its own. Headers and what else only developers need go to the component "development".
+function(orda_install name component)
+  get_target_property(type ${name} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    file(RELATIVE_PATH to_libraries "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "\$ORIGIN/${to_libraries}")
+    install(TARGETS ${name} RUNTIME COMPONENT ${component})
+  else()
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "\$ORIGIN" VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    install(TARGETS ${name} EXPORT ${ARGV2}
+      LIBRARY COMPONENT ${component} NAMELINK_COMPONENT development
+      FILE_SET HEADERS COMPONENT development DESTINATION "${ARGV3}"
+      INCLUDES DESTINATION "${ARGV3}")
+  endif()
+endfunction()
+
+# orda_install_package(<name>): what find_package(<name> CONFIG) reads, from cmake/<name>Config.cmake and the export
+# set <name>.
+function(orda_install_package name)
+  set(place "${ORDA_INSTALL_CMAKEDIR}/${name}")
+  set(version_file "${PROJECT_BINARY_DIR}/${name}ConfigVersion.cmake")
+  write_basic_package_version_file("${version_file}" COMPATIBILITY SameMajorVersion)
+  install(FILES "${PROJECT_SOURCE_DIR}/cmake/${name}Config.cmake" "${version_file}" DESTINATION "${place}" COMPONENT development)
+  install(EXPORT ${name} FILE ${name}Targets.cmake NAMESPACE orda:: DESTINATION "${place}" COMPONENT development)
+endfunction()
+
+# orda_client_library(<name> LINKS <targets> SOURCES <files> [INTERNAL <files>]): one of the six client libraries, with clientlibs/ as
+# its include root. The headers among SOURCES are its users', those among INTERNAL are not installed.
 function(orda_client_library name)
-  cmake_parse_arguments(arg "" "" "LINKS;PRIVATE_LINKS;SOURCES" ${ARGN})
-  add_library(${name} SHARED ${arg_SOURCES})
+  cmake_parse_arguments(arg "" "" "LINKS;PRIVATE_LINKS;SOURCES;INTERNAL" ${ARGN})
+  add_library(${name} SHARED ${arg_SOURCES} ${arg_INTERNAL})
   add_library(orda::${name} ALIAS ${name})
   orda_target(${name})
   # Nobody replaces single functions of these: calls within a file are direct.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
-  target_include_directories(${name} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/clientlibs> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  set(headers ${arg_SOURCES})
+  list(FILTER headers INCLUDE REGEX "\\.h$")
+  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/clientlibs" FILES ${headers})
   target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
+  orda_install(${name} clientlibs orda_clientlibs "${CMAKE_INSTALL_INCLUDEDIR}")
 endfunction()
 
 # orda_translations(<target> <part> <directory>): builds the part's translations, <directory>/<part>_<language>.ts, into the

@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include <QCoreApplication>
+
 #include <cstdio>
 #include <cstdlib>
 
@@ -7,7 +9,10 @@ namespace device_fleet {
 
 QString parseCommandLine(QCommandLineParser &parser, const QStringList &arguments)
 {
-    const QCommandLineOption help = parser.addHelpOption();
+    // Not addHelpOption(): that offers --help-all too, which only process() obeys.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QCoreApplication::translate("CommandLine", "Print this help."));
+    parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     if (!parser.parse(arguments))
         return parser.errorText();

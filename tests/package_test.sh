@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# The Debian packages in use: a client is built against what the -dev package holds, then orda_client configures simulated devices in a
+# bare Debian 12 in which nothing was installed but its package. Called by `./dev package --try`: package_test.sh DIRECTORY, which
+# has the .deb files. Ends with 77 where a bare Debian cannot be made.
+set -euo pipefail
+packages=$(realpath "$1")
+here=$(dirname "$(realpath "$0")")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+fail() { echo "package_test: $*" >&2; exit 1; }
+skip() { echo "package_test: skipped: $*" >&2; exit 77; }
+
+for package in "$packages"/*.deb; do
+  dpkg-deb --extract "$package" "$work/root"
+done
+cmake -S "$here/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/root/usr" >"$work/consumer.log" &&
+  cmake --build "$work/consumer" >>"$work/consumer.log" || fail "no client can be built: $(cat "$work/consumer.log")"
+QT_QPA_PLATFORM=offscreen TMPDIR=$work "$work/consumer/consumer" || fail "the run of the client that was built failed"
+
+[ "$(id -u)" -eq 0 ] || skip "a bare Debian is made by root only"
+command -v mmdebstrap >/dev/null || skip "mmdebstrap is not installed"
+rm -rf "$packages/pictures"
+echo "package_test: making a bare Debian 12" >&2
+run='cd /home/guard && LC_ALL=C.UTF-8 QT_DEBUG_PLUGINS=1 orda_client --demo 20 --run audio --screenshots pictures'
+if ! mmdebstrap --quiet --mode=root --variant=minbase --format=null \
+  --customize-hook="touch '$work/made'" \
+  --customize-hook="copy-in '$(ls "$packages"/orda-batchcfg_*.deb)' /tmp" \
+  --customize-hook='chroot "$1" sh -c "apt-get install --yes --no-install-recommends /tmp/*.deb && useradd --create-home guard" >&2' \
+  --customize-hook="chroot \"\$1\" runuser --user guard -- sh -c '$run' >'$work/run.log' 2>'$work/plugins.log'; echo \$? >'$work/result'" \
+  --customize-hook="if [ -d \"\$1/home/guard/pictures\" ]; then cp -r \"\$1/home/guard/pictures\" '$packages'; fi" \
+  bookworm /dev/null >"$work/debian.log" 2>&1; then
+  [ -e "$work/made" ] || skip "no bare Debian could be made: $(tail -n 5 "$work/debian.log")"
+  fail "the package cannot be installed: $(tail -n 20 "$work/debian.log")"
+fi
+cat "$work/run.log"
+[ "$(cat "$work/result")" = 0 ] || fail "orda_client ended with $(cat "$work/result"): $(tail -n 3 "$work/plugins.log")"
+grep -qE 'success:[1-9][0-9]*, failure:0' "$work/run.log" || fail "orda_client printed no summary"
+grep -q 'loaded library.*imageformats/libqsvg.so' "$work/plugins.log" || fail "Qt could not draw the theme's check marks and arrows: no SVG"
+echo "package_test: passed; pictures of the run: $packages/pictures" >&2
