@@ -1,0 +1,45 @@
+#include "RunRecordView.h"
+
+#include "RunRecordModel.h"
+
+#include <QHeaderView>
+
+#include <utility>
+
+namespace {
+
+constexpr int rowPixels = 28;
+
+// Room for a column, in digits; the last one takes what is left.
+constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Outcome, 14},
+                                                          {RunRecordModel::Name, 20},
+                                                          {RunRecordModel::SerialNumber, 20},
+                                                          {RunRecordModel::Ip, 17},
+                                                          {RunRecordModel::Time, 22}};
+
+} // namespace
+
+RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
+    : QTableView(parent)
+{
+    setModel(record);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollMode(ScrollPerPixel);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(rowPixels);
+    setSortingEnabled(true);
+    sortByColumn(RunRecordModel::Outcome, Qt::AscendingOrder);
+
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setHighlightSections(false);
+    ensurePolished(); // with the font that it will have
+    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    for (const auto &[column, digits] : widths)
+        horizontalHeader()->resizeSection(column, digits * digit);
+}
