@@ -13,6 +13,7 @@ FailureGroupList::FailureGroupList(QWidget *parent)
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
     setShowGrid(false);
+    setTextElideMode(Qt::ElideMiddle); // messages differ in the code at their end
     horizontalHeader()->hide();
     verticalHeader()->hide();
     // The message gives way, the number is always seen.

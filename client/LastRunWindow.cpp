@@ -83,7 +83,7 @@ LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
     layout->addWidget(buildButtons());
     setCentralWidget(central);
     setKeys();
-    resize(1180, 640);
+    resize(1240, 660);
 
     m_lookAgain.setSingleShot(true);
     connect(&m_lookAgain, &QTimer::timeout, this, &LastRunWindow::lookAndFollow);

@@ -96,7 +96,9 @@ int endOfEntry(const QString &text, int from)
         if (time.hasMatch())
             return next;
     }
-    return text.size();
+    // The last entry too ends with an empty line; what lies behind it was cut off.
+    const int last = text.endsWith(emptyLine) ? -1 : text.lastIndexOf(emptyLine);
+    return last > from ? last + emptyLine.size() : text.size();
 }
 
 bool isTime(const QString &text)

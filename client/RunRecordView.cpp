@@ -11,11 +11,11 @@ namespace {
 constexpr int rowPixels = 28;
 
 // Room for a column, in digits; the last one takes what is left.
-constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Outcome, 14},
-                                                          {RunRecordModel::Name, 20},
-                                                          {RunRecordModel::SerialNumber, 20},
-                                                          {RunRecordModel::Ip, 17},
-                                                          {RunRecordModel::Time, 22}};
+constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Outcome, 12},
+                                                          {RunRecordModel::Name, 19},
+                                                          {RunRecordModel::SerialNumber, 17},
+                                                          {RunRecordModel::Ip, 16},
+                                                          {RunRecordModel::Time, 20}};
 
 } // namespace
 
