@@ -40,6 +40,8 @@ using namespace std::chrono_literals;
 constexpr auto lookInterval = 500ms;
 constexpr int restPerWork = 20; // reading a large record leaves the run its time
 
+constexpr QSize windowSize(1320, 660);
+constexpr int groupsWidth = 320;
 constexpr int margin = 12;
 constexpr int reportLines = 5;
 
@@ -78,12 +80,13 @@ LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
     splitter->addWidget(buildTable());
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
+    splitter->setSizes({groupsWidth, windowSize.width() - groupsWidth});
     layout->addWidget(splitter, 1);
     layout->addWidget(buildReport());
     layout->addWidget(buildButtons());
     setCentralWidget(central);
     setKeys();
-    resize(1240, 660);
+    resize(windowSize);
 
     m_lookAgain.setSingleShot(true);
     connect(&m_lookAgain, &QTimer::timeout, this, &LastRunWindow::lookAndFollow);
@@ -97,8 +100,7 @@ QWidget *LastRunWindow::buildTop()
     m_families->setObjectName(QStringLiteral("families"));
     m_families->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(m_families, QOverload<int>::of(&QComboBox::activated), this, &LastRunWindow::showFamily);
-    m_when = plainLabel("when");
-    m_counts = plainLabel("counts");
+    m_summary = plainLabel("summary");
 
     m_outcomes = new QComboBox;
     m_outcomes->setObjectName(QStringLiteral("outcomes"));
@@ -114,21 +116,18 @@ QWidget *LastRunWindow::buildTop()
         updateView();
     });
 
+    auto *choices = new QHBoxLayout;
+    choices->addWidget(caption(tr("&Parameters:"), m_families));
+    choices->addWidget(m_families);
+    choices->addStretch(1);
+    choices->addWidget(caption(tr("S&how:"), m_outcomes));
+    choices->addWidget(m_outcomes);
+    choices->addWidget(m_search);
     auto *top = new QWidget;
-    auto *layout = new QHBoxLayout(top);
+    auto *layout = new QVBoxLayout(top);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(caption(tr("&Parameters:"), m_families));
-    layout->addWidget(m_families);
-    layout->addSpacing(margin);
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(0);
-    texts->addWidget(m_when);
-    texts->addWidget(m_counts);
-    layout->addLayout(texts, 1);
-    layout->addSpacing(margin);
-    layout->addWidget(caption(tr("S&how:"), m_outcomes));
-    layout->addWidget(m_outcomes);
-    layout->addWidget(m_search);
+    layout->addLayout(choices);
+    layout->addWidget(m_summary);
     return top;
 }
 
@@ -256,6 +255,8 @@ void LastRunWindow::look(bool turnToNewest)
     });
     if (!m_records.isEmpty() && (turnToNewest || !m_family))
         m_family = m_records.constFirst().family;
+    if (turnToNewest)
+        m_report->hide();
     listFamilies();
     load();
 }
@@ -283,6 +284,7 @@ void LastRunWindow::listFamilies()
 void LastRunWindow::showFamily(int index)
 {
     m_family = m_records.at(index).family;
+    m_report->hide();
     load();
 }
 
@@ -311,14 +313,13 @@ void LastRunWindow::updateView()
     for (const RunEntry &entry : entries)
         ++counts[entry.outcome];
     const QLocale locale;
-    QStringList texts{tr("Devices: %1").arg(locale.toString(entries.size())),
+    QStringList texts{timeText(), tr("Devices: %1").arg(locale.toString(entries.size())),
                       tr("Succeeded: %1").arg(locale.toString(counts[RunEntry::Succeeded])),
                       tr("Failed: %1").arg(locale.toString(counts[RunEntry::Failed]))};
     if (counts[RunEntry::Unreadable] > 0)
         texts.append(tr("Unreadable: %1").arg(locale.toString(counts[RunEntry::Unreadable])));
-    m_counts->setText(entries.isEmpty() ? QString() : texts.join(QStringLiteral("   ")));
-    m_when->setText(timeText());
-
+    m_summary->setText(texts.join(QStringLiteral("   ")));
+    m_summary->setVisible(!entries.isEmpty());
     m_empty->setText(emptyText());
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_export->setEnabled(m_filter->rowCount() > 0);

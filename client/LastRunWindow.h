@@ -78,8 +78,7 @@ private:
     QString m_error; // why the record is not there
 
     QComboBox *m_families;
-    QLabel *m_when;
-    QLabel *m_counts;
+    QLabel *m_summary;
     QComboBox *m_outcomes;
     orda_base::SearchBox *m_search;
     FailureGroupList *m_groups;

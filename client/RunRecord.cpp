@@ -6,7 +6,6 @@
 #include <QDate>
 #include <QMap>
 #include <QPair>
-#include <QRegularExpression>
 #include <QTime>
 
 #include <algorithm>
@@ -79,10 +78,28 @@ std::optional<RunEntry> parseAround(const QString &text, bool anyWord)
     return {};
 }
 
-const QRegularExpression &timeAndGap()
+// Whether a time and a gap begin at this place; a regular expression would look at the whole record each time.
+bool isTimeAt(const QString &text, int place)
 {
-    static const QRegularExpression pattern(QStringLiteral("\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d    "));
-    return pattern;
+    const QLatin1String pattern("0000-00-00 00:00:00    ");
+    if (place < 0 || text.size() - place < pattern.size())
+        return false;
+    for (int i = 0; i < pattern.size(); ++i) {
+        const QChar character = text.at(place + i);
+        const bool isDigit = character >= QLatin1Char('0') && character <= QLatin1Char('9');
+        if (pattern.at(i) == QLatin1Char('0') ? !isDigit : character != pattern.at(i))
+            return false;
+    }
+    return true;
+}
+
+bool hasOtherTime(const QString &text)
+{
+    const QString gap = blanks(gapWidth);
+    for (int end = text.indexOf(gap, timeWidth + 1); end >= 0; end = text.indexOf(gap, end + 1))
+        if (isTimeAt(text, end - timeWidth))
+            return true;
+    return false;
 }
 
 // An empty line alone ends no entry, a name may have one; the next entry's time must follow.
@@ -91,9 +108,7 @@ int endOfEntry(const QString &text, int from)
     const QLatin1String emptyLine("\n\n");
     for (int end = text.indexOf(emptyLine, from); end >= 0; end = text.indexOf(emptyLine, end + 1)) {
         const int next = end + emptyLine.size();
-        const auto time =
-            timeAndGap().match(text, next, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
-        if (time.hasMatch())
+        if (isTimeAt(text, next))
             return next;
     }
     // The last entry too ends with an empty line; what lies behind it was cut off.
@@ -101,7 +116,7 @@ int endOfEntry(const QString &text, int from)
     return last > from ? last + emptyLine.size() : text.size();
 }
 
-bool isTime(const QString &text)
+bool isRealTime(const QString &text)
 {
     return QDate::fromString(text.left(10), Qt::ISODate).isValid() && QTime::fromString(text.mid(11, 8)).isValid();
 }
@@ -111,7 +126,7 @@ RunEntry parseEntry(const QString &text)
     RunEntry unreadable;
     unreadable.message = text;
     // A second time inside is another entry: the end of the first was never written.
-    if (text.indexOf(timeAndGap()) != 0 || !isTime(text) || text.indexOf(timeAndGap(), 1) > 0)
+    if (!isTimeAt(text, 0) || !isRealTime(text) || hasOtherTime(text))
         return unreadable;
     // Addresses of other kinds, such as host names, are not told from serial numbers with gaps in them as safely.
     const std::optional<RunEntry> entry = parseAround(text, false);

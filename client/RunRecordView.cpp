@@ -11,7 +11,7 @@ namespace {
 constexpr int rowPixels = 28;
 
 // Room for a column, in digits; the last one takes what is left.
-constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Outcome, 12},
+constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Outcome, 14},
                                                           {RunRecordModel::Name, 19},
                                                           {RunRecordModel::SerialNumber, 17},
                                                           {RunRecordModel::Ip, 16},
@@ -28,6 +28,7 @@ RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
     setVerticalScrollMode(ScrollPerPixel);
     setAlternatingRowColors(true);
     setShowGrid(false);
+    setTextElideMode(Qt::ElideMiddle); // messages differ in the code at their end
     setWordWrap(false);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
@@ -38,6 +39,7 @@ RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
 
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStyleSheet(QStringLiteral("QHeaderView::section { padding-left: 6px; }"));
     ensurePolished(); // with the font that it will have
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const auto &[column, digits] : widths)

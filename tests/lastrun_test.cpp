@@ -271,24 +271,26 @@ void LastRunTest::failedDevicesAreConfiguredAtTheSecondTry()
                                  .arg(devices.at(1).serialNumber, devices.at(1).ip, row)
                                  .toUtf8());
 
-    // The record grows by what leaves a doubt, and one device goes off line.
+    // The record grows by what leaves a doubt, two devices in the list have one number, another goes off line.
+    list->findItems(devices.at(0).serialNumber, Qt::MatchExactly).constFirst()->setText(devices.at(6).serialNumber);
     append(entry("", "10.0.0.1", "no", "nameless") + entry("unknown", "10.0.0.1", "no", "stranger")
            + entry(qPrintable(devices.at(2).serialNumber), "10.0.0.1", "success", "twin") + QStringLiteral("2026-"));
     fleet.setOnline(devices.at(4).id, false);
     QTRY_VERIFY(list->findItems(devices.at(4).serialNumber, Qt::MatchExactly).isEmpty());
     QTRY_VERIFY(again->isEnabled() && groups->rowCount() == 5);
     auto *search = child<QWidget>(client, "searchBox")->findChild<QLineEdit *>();
-    search->setText(devices.at(0).serialNumber);
+    search->setText(devices.at(6).serialNumber);
     again->click();
-    QStringList expected{devices.at(1).serialNumber, devices.at(5).serialNumber, devices.at(6).serialNumber};
+    QStringList expected{devices.at(1).serialNumber, devices.at(5).serialNumber};
     expected.sort();
     QCOMPARE(ticked(), expected);
     QCOMPARE(search->text(), QString());
-    QVERIFY(child<QLabel>(window, "tickReport")->text().startsWith(QLatin1String("Ticked 3 of 8")));
+    QVERIFY(child<QLabel>(window, "tickReport")->text().startsWith(QLatin1String("Ticked 2 of 8")));
     QStringList left = child<QPlainTextEdit>(window, "tickReportList")->toPlainText().split(QLatin1Char('\n'));
-    QCOMPARE(left.size(), 5);
+    QCOMPARE(left.size(), 6);
     QCOMPARE(left.filter(QStringLiteral("not in the list")).size(), 2);
     QCOMPARE(left.filter(QStringLiteral("several devices of the run")).size(), 1);
+    QCOMPARE(left.filter(QStringLiteral("several devices in the list")).size(), 1);
     QCOMPARE(left.filter(QStringLiteral("nameless: it has no serial number")).size(), 1);
     QCOMPARE(left.filter(QStringLiteral("2026-: its entry in the record cannot be read")).size(), 1);
 
@@ -307,8 +309,7 @@ void LastRunTest::failedDevicesAreConfiguredAtTheSecondTry()
     QCOMPARE(changed, expected.mid(1));
     child<QWidget>(window, "recordSearch")->findChild<QLineEdit *>()->clear();
     child<QComboBox>(window, "outcomes")->setCurrentIndex(0);
-    QCOMPARE(column(shown, 5),
-             QStringList({QStringLiteral("success"), QStringLiteral("success"), QStringLiteral("success")}));
+    QCOMPARE(column(shown, 5), QStringList({QStringLiteral("success"), QStringLiteral("success")}));
     QVERIFY(!again->isEnabled());
 }
 
