@@ -165,6 +165,7 @@ void ClientWindow::showLastRun()
 {
     if (!m_lastRun)
         m_lastRun = new LastRunWindow(centralWidget(), this);
+    m_lastRun->setWindowState(m_lastRun->windowState() & ~Qt::WindowMinimized);
     m_lastRun->show();
     m_lastRun->raise();
     m_lastRun->activateWindow();

@@ -67,6 +67,7 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
     };
 
     Ticked result;
+    int first = table->rowCount();
     bool isOneHidden = false;
     {
         // Told of each row on its own, the list would look at all rows each time.
@@ -83,6 +84,7 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
             }
             const int row = rows.value(entry.serialNumber).constFirst();
             table->item(row, checkColumn)->setCheckState(Qt::Checked);
+            first = std::min(first, row);
             isOneHidden |= table->isRowHidden(row);
             ++result.count;
         }
@@ -96,5 +98,7 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
         form->findChild<QWidget *>(QStringLiteral("searchBox"))->findChild<QLineEdit *>()->clear();
         result.isSearchCleared = true;
     }
+    if (result.count > 0)
+        table->scrollToItem(table->item(first, checkColumn));
     return result;
 }

@@ -27,6 +27,6 @@ public:
 
     /// Ticks the failed devices in the form's list and no others. The record knows a device by its serial number only;
     /// one that leaves a doubt is not ticked. The list's search is cleared when it hides a ticked row: a run leaves
-    /// such rows out.
+    /// such rows out. The first ticked row is brought into sight.
     static Ticked tickAgain(QWidget *form, const QVector<RunEntry> &entries);
 };

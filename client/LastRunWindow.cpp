@@ -111,6 +111,8 @@ QWidget *LastRunWindow::buildTop()
     });
     m_search = new orda_base::SearchBox;
     m_search->setObjectName(QStringLiteral("recordSearch"));
+    m_search->setToolTip(tr("Searches names, serial numbers, addresses and messages (%1)")
+                             .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
         updateView();

@@ -8,6 +8,12 @@
 #include <algorithm>
 #include <tuple>
 
+namespace {
+
+constexpr int maxShown = 2000; // characters; what cannot be read may be of any length
+
+} // namespace
+
 RunRecordModel::RunRecordModel(QObject *parent)
     : QAbstractTableModel(parent)
 {
@@ -118,13 +124,13 @@ QVariant RunRecordModel::data(const QModelIndex &index, int role) const
     const RunEntry &entry = m_entries.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return text(entry, index.column()).replace(QLatin1Char('\n'), QChar(0x21B5));
+        return text(entry, index.column()).left(maxShown).replace(QLatin1Char('\n'), QChar(0x21B5));
     case Qt::EditRole:
         return text(entry, index.column());
     case Qt::ToolTipRole: {
         // A name may look like mark-up, which a tool tip would take it for.
-        const QString whole = text(entry, index.column());
-        return whole.isEmpty() ? QString() : Qt::convertFromPlainText(whole, Qt::WhiteSpaceNormal);
+        const QString shown = text(entry, index.column()).left(maxShown);
+        return shown.isEmpty() ? QString() : Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal);
     }
     case Qt::FontRole:
         if (index.column() == Outcome && entry.outcome != RunEntry::Succeeded) {

@@ -25,7 +25,8 @@ public:
         ColumnCount
     };
 
-    /// Qt::EditRole gives a cell's text as the record has it, Qt::DisplayRole on one line.
+    /// Qt::EditRole gives a cell's text as the record has it, Qt::DisplayRole on one line, and the beginning of a very
+    /// long one.
     explicit RunRecordModel(QObject *parent = nullptr);
 
     /// A record that has grown keeps its rows and gets the new ones, so that selections last.
