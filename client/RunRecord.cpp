@@ -24,7 +24,7 @@ constexpr char successText[] = "success";
 
 QString blanks(int count)
 {
-    return QString(count, QLatin1Char(' '));
+    return {count, QLatin1Char(' ')};
 }
 
 int endOfBlanks(const QString &text, int from)

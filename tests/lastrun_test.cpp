@@ -157,7 +157,8 @@ void LastRunTest::recordIsReadWhateverItsTextsHold()
     QFETCH(QString, text);
     QFETCH(QStringList, expected);
     QStringList read;
-    for (const RunEntry &entry : parseRunRecord(text, {QStringLiteral("success")})) {
+    const QVector<RunEntry> entries = parseRunRecord(text, {QStringLiteral("success")});
+    for (const RunEntry &entry : entries) {
         const QString fields =
             entry.outcome == RunEntry::Unreadable
                 ? QStringLiteral("||||") + entry.message
