@@ -82,6 +82,9 @@ protected:
     void showEvent(QShowEvent *event) override;
     /// Keeps the values' area as wide as they need.
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /// Return presses the button that has the focus, and nothing else.
+    void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     /// A task for one device; the page owns it. It has sent its first request when it is returned.
     virtual ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) = 0;
 

@@ -1,6 +1,7 @@
 #include "orda_base/NavigationButton.h"
 
-#include <QEvent>
+#include <QAccessibleWidget>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace orda_base {
@@ -29,6 +30,60 @@ QPixmap inColour(QPixmap icon, const QColor &colour)
     return icon;
 }
 
+/// An entry is one of several pages, of which one is open; a folding bar is a button that shows and hides its entries.
+class NavigationButtonAccess : public QAccessibleWidget
+{
+public:
+    explicit NavigationButtonAccess(NavigationButton *button)
+        : QAccessibleWidget(button,
+                            button->kind() == NavigationButton::FoldingBar ? QAccessible::Button : QAccessible::PageTab)
+        , m_button(button)
+    {
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        if (m_button->kind() == NavigationButton::FoldingBar) {
+            state.expandable = true;
+            state.expanded = m_button->isUnfolded();
+            state.collapsed = !m_button->isUnfolded();
+        } else {
+            state.selectable = true;
+            state.selected = m_button->isHighlighted();
+        }
+        return state;
+    }
+
+    QStringList actionNames() const override { return QStringList{pressAction()} + QAccessibleWidget::actionNames(); }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction() && m_button->isEnabled())
+            m_button->animateClick();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    NavigationButton *m_button;
+};
+
+QAccessibleInterface *makeAccess(const QString &className, QObject *object)
+{
+    if (className == QLatin1String("orda_base::NavigationButton"))
+        return new NavigationButtonAccess(qobject_cast<NavigationButton *>(object));
+    if (className == QLatin1String("orda_base::NavigationWidget"))
+        return new QAccessibleWidget(qobject_cast<QWidget *>(object), QAccessible::PageTabList);
+    return nullptr;
+}
+
+void reportState(NavigationButton *button, QAccessible::State changed)
+{
+    QAccessibleStateChangeEvent event(button, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 } // namespace
 
 NavigationButton::NavigationButton(Kind kind, const QString &title, QWidget *parent)
@@ -43,6 +98,11 @@ NavigationButton::NavigationButton(Kind kind, const QString &title, QWidget *par
     setCursor(Qt::PointingHandCursor);
 }
 
+void NavigationButton::installAccess()
+{
+    QAccessible::installFactory(makeAccess); // does nothing when it is there already
+}
+
 void NavigationButton::setIcons(const QIcon &normal, const QIcon &highlighted)
 {
     m_normal = normal;
@@ -52,13 +112,21 @@ void NavigationButton::setIcons(const QIcon &normal, const QIcon &highlighted)
 
 void NavigationButton::setHighlighted(bool highlighted)
 {
-    m_isHighlighted = highlighted;
+    if (std::exchange(m_isHighlighted, highlighted) != highlighted && m_kind != FoldingBar) {
+        QAccessible::State changed;
+        changed.selected = true;
+        reportState(this, changed);
+    }
     update();
 }
 
 void NavigationButton::setUnfolded(bool unfolded)
 {
-    m_isUnfolded = unfolded;
+    if (std::exchange(m_isUnfolded, unfolded) != unfolded) {
+        QAccessible::State changed;
+        changed.expanded = true;
+        reportState(this, changed);
+    }
     update();
 }
 
@@ -85,6 +153,37 @@ bool NavigationButton::event(QEvent *event)
     if (event->type() == QEvent::ToolTip)
         setToolTip(isTextWhole() ? QString() : text());
     return QAbstractButton::event(event);
+}
+
+void NavigationButton::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        moveFocus(event->key() == Qt::Key_Down);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat())
+            click();
+        break;
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+void NavigationButton::moveFocus(bool down) const
+{
+    NavigationButton *nearest = nullptr;
+    const auto buttons = parentWidget()->findChildren<NavigationButton *>(QString(), Qt::FindDirectChildrenOnly);
+    for (NavigationButton *button : buttons) {
+        const bool isFurther = down ? button->y() > y() : button->y() < y();
+        const bool isNearer = !nearest || qAbs(button->y() - y()) < qAbs(nearest->y() - y());
+        if (isFurther && isNearer && button->isVisible() && button->isEnabled())
+            nearest = button;
+    }
+    if (nearest)
+        nearest->setFocus(down ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 void NavigationButton::paintEvent(QPaintEvent *)
