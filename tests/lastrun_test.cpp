@@ -115,12 +115,11 @@ void LastRunTest::recordIsReadWhateverItsTextsHold_data()
     const auto row = [](const char *what, const QString &text, const QStringList &expected) {
         QTest::newRow(what) << text << expected;
     };
-    const auto whole = [&row](const char *what, const char *sn, const char *ip, const char *message, const char *name) {
-        const QString fields = QStringList{QString::fromUtf8(sn), QString::fromUtf8(ip), QString::fromUtf8(message),
-                                           QString::fromUtf8(name)}
-                                   .join(QLatin1Char('|'));
-        row(what, entry(sn, ip, message, name) + entry("B", "10.0.0.2", "success", "next"),
-            {QStringLiteral("0|") + fields, QStringLiteral("2|B|10.0.0.2|success|next")});
+    const QString next = entry("B", "10.0.0.2", "success", "next");
+    const QString nextFields = QStringLiteral("2|B|10.0.0.2|success|next");
+    const auto whole = [&](const char *what, const char *sn, const char *ip, const char *message, const char *name) {
+        const QString fields = QString::fromUtf8(QByteArrayList{"0", sn, ip, message, name}.join('|'));
+        row(what, entry(sn, ip, message, name) + next, {fields, nextFields});
     };
     whole("address", "SN 1", "10.20.30.40", "Failed to get audio parameters(-1)", "Cam 1");
     whole("widest address", "A", "255.255.255.255", "no", "Cam");
@@ -139,17 +138,14 @@ void LastRunTest::recordIsReadWhateverItsTextsHold_data()
     whole("gaps around the name", "A", "10.0.0.1", "no", "    Cam                    2  ");
     whole("lines in name and result", "A", "10.0.0.1", "no\nanswer", "Cam\n\n2026\n\nHall\n");
 
-    const QString next = entry("B", "10.0.0.2", "success", "next");
-    const QString nextFields = QStringLiteral("2|B|10.0.0.2|success|next");
+    const QString noSuchDay = QString(next).replace(QLatin1String("03-04"), QLatin1String("13-44"));
+    const auto unreadable = [](const QString &text) { return QStringLiteral("1|||%1|").arg(text.trimmed()); };
     row("nothing", {}, {});
-    row("foreign text", QStringLiteral("hello\n\n") + next, {QStringLiteral("1||||hello"), nextFields});
-    row("no such day", QString(next).replace(QLatin1String("03-04"), QLatin1String("13-44")) + next,
-        {QStringLiteral("1||||") + QString(next).replace(QLatin1String("03-04"), QLatin1String("13-44")).trimmed(),
-         nextFields});
-    row("cut off in the result", next + next.left(50), {nextFields, QStringLiteral("1||||") + next.left(50)});
-    row("cut off in the time", next + next.left(5), {nextFields, QStringLiteral("1||||2026-")});
-    row("cut off, and another behind it", next.chopped(4) + next,
-        {QStringLiteral("1||||") + (next.chopped(4) + next).trimmed()});
+    row("foreign text", QStringLiteral("hello\n\n") + next, {unreadable(QStringLiteral("hello")), nextFields});
+    row("no such day", noSuchDay + next, {unreadable(noSuchDay), nextFields});
+    row("cut off in the result", next + next.left(50), {nextFields, unreadable(next.left(50))});
+    row("cut off in the time", next + next.left(5), {nextFields, unreadable(next.left(5))});
+    row("cut off, and another behind it", next.chopped(4) + next, {unreadable(next.chopped(4) + next)});
 }
 
 void LastRunTest::recordIsReadWhateverItsTextsHold()
@@ -159,11 +155,8 @@ void LastRunTest::recordIsReadWhateverItsTextsHold()
     QStringList read;
     const QVector<RunEntry> entries = parseRunRecord(text, {QStringLiteral("success")});
     for (const RunEntry &entry : entries) {
-        const QString fields =
-            entry.outcome == RunEntry::Unreadable
-                ? QStringLiteral("||||") + entry.message
-                : QStringList{{}, entry.serialNumber, entry.ip, entry.message, entry.name}.join(QLatin1Char('|'));
-        read.append(QString::number(entry.outcome) + fields);
+        const QStringList fields{entry.serialNumber, entry.ip, entry.message, entry.name};
+        read.append(QStringLiteral("%1|%2").arg(QString::number(entry.outcome), fields.join(QLatin1Char('|'))));
     }
     QCOMPARE(read, expected);
 }
