@@ -107,6 +107,7 @@ void ClientWindow::buildStatusBar()
     statusBar()->addWidget(m_last, 1);
     // From the first run on; the summary keeps the focus.
     m_lastRunBt = new QToolButton(this);
+    m_showLastRun->setIconText(tr("Last run")); // on the button, without the menu's mnemonic
     m_lastRunBt->setDefaultAction(m_showLastRun);
     m_lastRunBt->setFocusPolicy(Qt::TabFocus);
     m_lastRunBt->hide();
@@ -153,7 +154,7 @@ void ClientWindow::updateStatusBar()
     const vms_sdk::DevInfo dev = store.getDevInfoById(devId);
     if (!dev.id.isEmpty()) // it may have been removed since
         showLast(QStringLiteral("%1: %2").arg(displayName(dev), statusText(store.getDevStatus(devId))));
-    m_onlineCount->setText(tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false)));
+    m_onlineCount->setText(tr("%1 of %n device(s) on line", nullptr, store.devCount(false)).arg(store.devCount(true)));
 }
 
 void ClientWindow::showLast(const QString &text)

@@ -373,8 +373,9 @@ void LastRunWindow::tickFailedAgain()
     m_form->findChild<QAbstractButton *>(m_family->navigationKey)->click();
 
     const QLocale locale;
-    QString text = tr("Ticked %1 of %2 failed devices in the device list.")
-                       .arg(locale.toString(ticked.count), locale.toString(ticked.count + ticked.left.size()));
+    const int failed = ticked.count + ticked.left.size();
+    QString text = tr("Ticked %1 of %Ln failed device(s) in the device list.", nullptr, failed)
+                       .arg(locale.toString(ticked.count));
     if (ticked.isSearchCleared)
         text += QLatin1Char(' ') + tr("The list's search was cleared: it hid some of them.");
     if (!ticked.left.isEmpty())

@@ -110,7 +110,7 @@ void RunDriver::whenSettled()
     if (std::exchange(m_started, true))
         return;
     const auto &store = orda_data::DevsMgrData::instance();
-    out() << tr("%1 of %2 devices on line").arg(store.devCount(true)).arg(store.devCount(false)) << Qt::endl;
+    out() << tr("%1 of %n device(s) on line", nullptr, store.devCount(false)).arg(store.devCount(true)) << Qt::endl;
     if (m_options.screenshotsDir.isEmpty())
         tickAndConfigure();
     else
@@ -134,10 +134,10 @@ void RunDriver::tickAndConfigure()
 {
     openPage(*m_family);
     const int ticked = tickDevices();
-    out() << tr("%1 devices ticked").arg(ticked) << Qt::endl;
+    out() << tr("%n device(s) ticked", nullptr, ticked) << Qt::endl;
     const int missing = m_options.deviceIds.size() - ticked;
     if (missing > 0)
-        printError(tr("%1 of the given devices are off line or may not be configured").arg(missing));
+        printError(tr("%n of the given devices is off line or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
 }
 

@@ -42,6 +42,8 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+    static QString outcomeText(RunEntry::Outcome outcome);
+
 private:
     struct Keys
     {
@@ -51,7 +53,6 @@ private:
 
     void appendKeys(int from);
     static QString text(const RunEntry &entry, int column);
-    static QString outcomeText(RunEntry::Outcome outcome);
 
     QVector<RunEntry> m_entries;
     std::vector<Keys> m_keys; // by row; comparing texts anew each time would be most of a sort

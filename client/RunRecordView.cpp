@@ -2,17 +2,20 @@
 
 #include "RunRecordModel.h"
 
+#include <QFontMetrics>
 #include <QHeaderView>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 constexpr int rowPixels = 28;
 
-// Room for a column, in digits; the last one takes what is left.
-constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Outcome, 14},
-                                                          {RunRecordModel::Name, 19},
+constexpr int cellPadding = 16;
+
+// Room for a column, in digits; the outcome has what its texts take, the message what is left.
+constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Name, 19},
                                                           {RunRecordModel::SerialNumber, 17},
                                                           {RunRecordModel::Ip, 16},
                                                           {RunRecordModel::Time, 20}};
@@ -44,4 +47,12 @@ RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const auto &[column, digits] : widths)
         horizontalHeader()->resizeSection(column, digits * digit);
+    QFont bold = font();
+    bold.setBold(true);
+    int outcomeWidth = horizontalHeader()->sectionSizeHint(RunRecordModel::Outcome);
+    for (const RunEntry::Outcome outcome : {RunEntry::Failed, RunEntry::Unreadable, RunEntry::Succeeded}) {
+        const int textWidth = QFontMetrics(bold).horizontalAdvance(RunRecordModel::outcomeText(outcome));
+        outcomeWidth = std::max(outcomeWidth, textWidth + cellPadding);
+    }
+    horizontalHeader()->resizeSection(RunRecordModel::Outcome, outcomeWidth);
 }

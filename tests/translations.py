@@ -33,7 +33,7 @@ def update(part, files):
 
 def carried(text):
     """What a translation must keep: the places to fill in."""
-    return collections.Counter(re.findall(r"%(?:\d+|n)", text))
+    return collections.Counter(re.findall(r"%L?(?:\d+|n)", text))
 
 
 def faults(file):
@@ -44,7 +44,7 @@ def faults(file):
             where = f"{file.name}: {context.findtext('name')}: {source!r}"
             if translation.get("type") or not all(forms):
                 yield f"{where} is not translated"
-            elif any(carried(form) != carried(source) for form in forms if "%n" in form or "%n" not in source):
+            elif any(carried(form) != carried(source) for form in forms):
                 yield f"{where} does not fill in the same: {forms}"
             elif "&" in source.replace("&&", "") and not all("&" in form for form in forms):
                 yield f"{where} loses its mnemonic: {forms}"

@@ -143,10 +143,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Bestände (*.json);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>%1 of %2 devices on line</source>
-        <translation>%1 von %2 Geräten online</translation>
-    </message>
-    <message>
         <source>Remote configuration of %1</source>
         <translation>Gerät %1 einrichten</translation>
     </message>
@@ -177,6 +173,17 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Lists the outcome of each device, and ticks the failed ones again</source>
         <translation>Zeigt das Ergebnis jedes Geräts und wählt die fehlgeschlagenen wieder aus</translation>
+    </message>
+    <message>
+        <source>Last run</source>
+        <translation>Letzter Lauf</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n device(s) on line</source>
+        <translation>
+            <numerusform>%1 von %n Gerät online</numerusform>
+            <numerusform>%1 von %n Geräten online</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -331,10 +338,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>%1 bis %2</translation>
     </message>
     <message>
-        <source>Ticked %1 of %2 failed devices in the device list.</source>
-        <translation>%1 von %2 fehlgeschlagenen Geräten in der Geräteliste ausgewählt.</translation>
-    </message>
-    <message>
         <source>The list&apos;s search was cleared: it hid some of them.</source>
         <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
     </message>
@@ -349,6 +352,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>Kommagetrennte Werte (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste ausgewählt.</numerusform>
+            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste ausgewählt.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -385,24 +395,33 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Fenster angezeigt</translation>
     </message>
     <message>
-        <source>%1 of %2 devices on line</source>
-        <translation>%1 von %2 Geräten online</translation>
-    </message>
-    <message>
-        <source>%1 devices ticked</source>
-        <translation>%1 Geräte ausgewählt</translation>
-    </message>
-    <message>
-        <source>%1 of the given devices are off line or may not be configured</source>
-        <translation>%1 der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</translation>
-    </message>
-    <message>
         <source>cannot read the record file %1: %2</source>
         <translation>Protokolldatei %1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>cannot write the picture %1</source>
         <translation>Bild %1 kann nicht geschrieben werden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n device(s) on line</source>
+        <translation>
+            <numerusform>%1 von %n Gerät online</numerusform>
+            <numerusform>%1 von %n Geräten online</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) ticked</source>
+        <translation>
+            <numerusform>%n Gerät ausgewählt</numerusform>
+            <numerusform>%n Geräte ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>%n der angegebenen Geräte ist offline oder darf nicht konfiguriert werden</numerusform>
+            <numerusform>%n der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -143,10 +143,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>清单 (*.json);;所有文件 (*)</translation>
     </message>
     <message>
-        <source>%1 of %2 devices on line</source>
-        <translation>%2 台设备中 %1 台在线</translation>
-    </message>
-    <message>
         <source>Remote configuration of %1</source>
         <translation>%1 的远程设置</translation>
     </message>
@@ -177,6 +173,16 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Lists the outcome of each device, and ticks the failed ones again</source>
         <translation>列出每台设备的结果，并可重新勾选失败的设备</translation>
+    </message>
+    <message>
+        <source>Last run</source>
+        <translation>上次运行</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n device(s) on line</source>
+        <translation>
+            <numerusform>%n 台设备中 %1 台在线</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -331,10 +337,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>%1 至 %2</translation>
     </message>
     <message>
-        <source>Ticked %1 of %2 failed devices in the device list.</source>
-        <translation>已在设备列表中勾选 %2 台失败设备中的 %1 台。</translation>
-    </message>
-    <message>
         <source>The list&apos;s search was cleared: it hid some of them.</source>
         <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
     </message>
@@ -349,6 +351,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>逗号分隔值 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -385,24 +393,30 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>窗口已显示</translation>
     </message>
     <message>
-        <source>%1 of %2 devices on line</source>
-        <translation>%2 台设备中 %1 台在线</translation>
-    </message>
-    <message>
-        <source>%1 devices ticked</source>
-        <translation>已勾选 %1 台设备</translation>
-    </message>
-    <message>
-        <source>%1 of the given devices are off line or may not be configured</source>
-        <translation>指定的设备中有 %1 台离线或不允许配置</translation>
-    </message>
-    <message>
         <source>cannot read the record file %1: %2</source>
         <translation>无法读取记录文件 %1：%2</translation>
     </message>
     <message>
         <source>cannot write the picture %1</source>
         <translation>无法写入图片 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n device(s) on line</source>
+        <translation>
+            <numerusform>%n 台设备中 %1 台在线</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) ticked</source>
+        <translation>
+            <numerusform>已勾选 %n 台设备</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>指定的设备中有 %n 台离线或不允许配置</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,48 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>ClientWindow</name>
+    <message numerus="yes">
+        <source>%1 of %n device(s) on line</source>
+        <translation>
+            <numerusform>%1 of %n device on line</numerusform>
+            <numerusform>%1 of %n devices on line</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LastRunWindow</name>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>Ticked %1 of %Ln failed device in the device list.</numerusform>
+            <numerusform>Ticked %1 of %Ln failed devices in the device list.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RunDriver</name>
+    <message numerus="yes">
+        <source>%1 of %n device(s) on line</source>
+        <translation>
+            <numerusform>%1 of %n device on line</numerusform>
+            <numerusform>%1 of %n devices on line</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) ticked</source>
+        <translation>
+            <numerusform>%n device ticked</numerusform>
+            <numerusform>%n devices ticked</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>%n of the given devices is off line or may not be configured</numerusform>
+            <numerusform>%n of the given devices are off line or may not be configured</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
