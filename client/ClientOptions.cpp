@@ -18,6 +18,15 @@ constexpr int maxDemoDevices = 100000;
 
 } // namespace
 
+QString requestedLanguage(const QStringList &arguments)
+{
+    const QCommandLineOption language(QStringLiteral("language"), {}, QStringLiteral("CODE"));
+    QCommandLineParser parser;
+    parser.addOption(language);
+    parser.parse(arguments); // whatever else is there
+    return parser.value(language);
+}
+
 ClientOptions parseOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
@@ -36,6 +45,9 @@ ClientOptions parseOptions(const QStringList &arguments)
         QStringLiteral("language"),
         ClientOptions::tr("Language of the window, such as \"en\"; the system's when not given."),
         QStringLiteral("CODE"));
+    const QCommandLineOption theme(QStringLiteral("theme"),
+                                   ClientOptions::tr("\"light\" or \"dark\"; as the desktop is when not given."),
+                                   QStringLiteral("NAME"));
     const QCommandLineOption run(
         QStringLiteral("run"),
         ClientOptions::tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
@@ -48,7 +60,7 @@ ClientOptions parseOptions(const QStringList &arguments)
         QStringLiteral("screenshots"),
         ClientOptions::tr("Save pictures of the pages, the run and its summary here (with --run)."),
         QStringLiteral("DIR"));
-    parser.addOptions({demo, inventory, faults, language, run, devices, screenshots});
+    parser.addOptions({demo, inventory, faults, language, theme, run, devices, screenshots});
 
     ClientOptions options;
     options.error = device_fleet::parseCommandLine(parser, arguments);
@@ -57,7 +69,6 @@ ClientOptions parseOptions(const QStringList &arguments)
 
     options.inventoryFile = parser.value(inventory);
     options.faultsFile = parser.value(faults);
-    options.language = parser.value(language);
     options.family = parser.value(run);
     options.screenshotsDir = parser.value(screenshots);
     if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all"))
@@ -81,6 +92,9 @@ ClientOptions parseOptions(const QStringList &arguments)
         return fail(ClientOptions::tr("--demo and --inventory exclude each other"));
     if (parser.isSet(faults) && !parser.isSet(demo))
         return fail(ClientOptions::tr("--faults needs --demo: only simulated devices have faults to order"));
+    options.theme = parser.value(theme);
+    if (parser.isSet(theme) && options.theme != QLatin1String("light") && options.theme != QLatin1String("dark"))
+        return fail(ClientOptions::tr("--theme takes light or dark, not \"%1\"").arg(options.theme));
     if (parser.isSet(run) && !findFamily(options.family))
         return fail(ClientOptions::tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family));
     if (parser.isSet(run) && !parser.isSet(demo) && !parser.isSet(inventory))

@@ -23,13 +23,16 @@ public:
     int demoDevices = 0; ///< 0: no embedded fleet
     QString inventoryFile;
     QString faultsFile; ///< for the embedded fleet
-    QString language; ///< empty: the system's
+    QString theme; ///< "light" or "dark"; empty: as the desktop is
     QString family; ///< to drive without a person; empty: a person drives
     QStringList deviceIds; ///< for the driven run; empty: all
     QString screenshotsDir;
 
     QString error; ///< not empty: the command line is wrong; the text names what and what would be right
 };
+
+/// The value of --language; empty when it is not given. It is asked for first: mistakes are said in that language.
+QString requestedLanguage(const QStringList &arguments);
 
 /// @param arguments the application's, program name first. --help and --version print and end the program here.
 ClientOptions parseOptions(const QStringList &arguments);

@@ -1,6 +1,7 @@
 #include "ClientWindow.h"
 
 #include "ClientSession.h"
+#include "LastRunWindow.h"
 
 #include <orda_base/BaseForm.h>
 #include <orda_base/BaseTools.h>
@@ -19,6 +20,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolButton>
 
 #include <chrono>
 
@@ -57,6 +59,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     , m_session(session)
     , m_onlineCount(new QLabel(this))
     , m_last(new QLabel(this))
+    , m_showLastRun(new QAction(tr("&Last run"), this))
 {
     setWindowTitle(tr("Batch Configuration"));
     setCentralWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
@@ -71,7 +74,10 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) { showLast(text); });
     connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
-            [this](const orda_worker::EventConfirmInfo &info) { showLast(info.text); });
+            [this](const orda_worker::EventConfirmInfo &info) {
+                showLast(info.text);
+                m_lastRunBt->show(); // what is asked is always a run's summary
+            });
 }
 
 void ClientWindow::buildMenu()
@@ -87,11 +93,24 @@ void ClientWindow::buildMenu()
     QAction *quit = devices->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
+
+    QMenu *run = menuBar()->addMenu(tr("&Run"));
+    m_showLastRun->setObjectName(QStringLiteral("showLastRun"));
+    m_showLastRun->setShortcut(Qt::Key_F9);
+    m_showLastRun->setStatusTip(tr("Lists the outcome of each device, and ticks the failed ones again"));
+    connect(m_showLastRun, &QAction::triggered, this, &ClientWindow::showLastRun);
+    run->addAction(m_showLastRun);
 }
 
 void ClientWindow::buildStatusBar()
 {
     statusBar()->addWidget(m_last, 1);
+    // From the first run on; the summary keeps the focus.
+    m_lastRunBt = new QToolButton(this);
+    m_lastRunBt->setDefaultAction(m_showLastRun);
+    m_lastRunBt->setFocusPolicy(Qt::TabFocus);
+    m_lastRunBt->hide();
+    statusBar()->addPermanentWidget(m_lastRunBt);
     statusBar()->addPermanentWidget(m_onlineCount);
 
     // Thousands of devices come on line in one go: the bar is brought up to date at most ten times a second.
@@ -140,6 +159,16 @@ void ClientWindow::updateStatusBar()
 void ClientWindow::showLast(const QString &text)
 {
     m_last->setText(QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), text));
+}
+
+void ClientWindow::showLastRun()
+{
+    if (!m_lastRun)
+        m_lastRun = new LastRunWindow(centralWidget(), this);
+    m_lastRun->setWindowState(m_lastRun->windowState() & ~Qt::WindowMinimized);
+    m_lastRun->show();
+    m_lastRun->raise();
+    m_lastRun->activateWindow();
 }
 
 void ClientWindow::showRemoteConfig(const QString &devId)

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QToolButton;
 QT_END_NAMESPACE
 
 class ClientSession;
+class LastRunWindow;
 
 /// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are on line
-/// and what happened last.
+/// and what happened last. From there opens the window of the last run.
 class ClientWindow : public QMainWindow
 {
     Q_OBJECT
@@ -23,10 +26,14 @@ private:
     void openInventory();
     void updateStatusBar();
     void showLast(const QString &text);
+    void showLastRun();
     void showRemoteConfig(const QString &devId);
 
     ClientSession *m_session;
     QLabel *m_onlineCount;
     QLabel *m_last;
+    QAction *m_showLastRun;
+    QToolButton *m_lastRunBt = nullptr;
+    QPointer<LastRunWindow> m_lastRun;
     QString m_lastChanged; // id of a device whose state has changed and is to be shown
 };

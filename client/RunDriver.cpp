@@ -1,6 +1,7 @@
 #include "RunDriver.h"
 
 #include "Families.h"
+#include "LastRunWindow.h"
 
 #include <orda_base/DisabledWaitingWt.h>
 #include <orda_data/DataSignals.h>
@@ -10,6 +11,7 @@
 #include <vms_client_sdk/ClientSignals.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
@@ -179,6 +181,7 @@ void RunDriver::configure()
         out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
         printRecord();
         answerSummary();
+        pictureLastRun();
         end(m_isAllDone ? ExitOk : ExitSomeFailed);
     }
 }
@@ -217,6 +220,17 @@ void RunDriver::answerSummary()
             dialog->reject();
         }
     }
+}
+
+void RunDriver::pictureLastRun() const
+{
+    if (m_options.screenshotsDir.isEmpty())
+        return;
+    m_window->findChild<QAction *>(QStringLiteral("showLastRun"))->trigger();
+    QCoreApplication::processEvents(); // it is laid out
+    auto *lastRun = m_window->findChild<LastRunWindow *>();
+    picture(lastRun, QStringLiteral("last-run"));
+    lastRun->close();
 }
 
 void RunDriver::printRecord() const

@@ -44,6 +44,7 @@ private:
     void followProgress();
     void handleSummary(const orda_worker::EventConfirmInfo &info);
     void answerSummary();
+    void pictureLastRun() const;
     void printRecord() const;
     void picture(QWidget *widget, const QString &name) const;
     static void end(ExitCode code);

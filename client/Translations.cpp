@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLibraryInfo>
 #include <QLocale>
 
 namespace {
@@ -25,22 +26,39 @@ QStringList Translations::languages()
     return codes;
 }
 
-bool Translations::install(const QString &language)
+QString Translations::systemLanguage()
 {
-    QString code = language;
-    if (code.isEmpty()) {
-        const QString system = QLocale::system().name(); // such as "de_DE"
-        code = languages().contains(system) ? system : system.section(QLatin1Char('_'), 0, 0);
-    } else if (!languages().contains(code)) {
-        return false;
-    }
-    const QStringList files = filesOf(code);
-    for (const QString &file : files) {
-        auto translator = std::make_unique<QTranslator>();
-        if (translator->load(QStringLiteral(":/translations/") + file)) {
-            QCoreApplication::installTranslator(translator.get());
-            m_translators.push_back(std::move(translator));
+    const QStringList offered = languages();
+    const QStringList wanted = QLocale::system().uiLanguages(); // such as "de-AT", "zh-Hans-SG"
+    for (const QString &name : wanted) {
+        const QLocale locale(name);
+        for (const QString &code : offered) {
+            const QLocale candidate(code);
+            if (candidate.language() == locale.language() && candidate.script() == locale.script())
+                return code;
         }
     }
+    return offered.constFirst();
+}
+
+bool Translations::install(const QString &language)
+{
+    const QString code = language.isEmpty() ? systemLanguage() : language;
+    if (!languages().contains(code))
+        return false;
+    // Qt's own texts, of its file dialog for one, where they are installed.
+    load(QLibraryInfo::location(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_%1").arg(code));
+    const QStringList files = filesOf(code);
+    for (const QString &file : files)
+        load(QStringLiteral(":/translations/") + file);
     return true;
+}
+
+void Translations::load(const QString &file)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (translator->load(file)) {
+        QCoreApplication::installTranslator(translator.get());
+        m_translators.push_back(std::move(translator));
+    }
 }

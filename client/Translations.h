@@ -15,10 +15,15 @@ public:
     /// Codes of the languages to choose from.
     static QStringList languages();
 
-    /// @param language a code; empty: the system's, or English where there is none for it
+    /// The code for the system's locale, whatever its country; English where there is none.
+    static QString systemLanguage();
+
+    /// @param language a code; empty: the system's
     /// @return false when there is no such language
     bool install(const QString &language);
 
 private:
+    void load(const QString &file);
+
     std::vector<std::unique_ptr<QTranslator>> m_translators;
 };

@@ -45,6 +45,8 @@ int main(int argc, char *argv[])
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // A screen at 1.5 shows everything at 1.5, not at 2.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const bool isBlind = chooseScreen();
     QApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orda_client"));
@@ -53,20 +55,24 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("orda_client")));
     vms_sdk::raiseOpenFileLimit();
 
+    const QString language = requestedLanguage(QCoreApplication::arguments());
+    Translations translations; // first: what the command line gets wrong is said in it too
+    if (!translations.install(language)) {
+        return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
+                        .arg(Translations::languages().join(QStringLiteral(", ")), language),
+                    ExitUsage);
+    }
     const ClientOptions options = parseOptions(QCoreApplication::arguments());
     if (!options.error.isEmpty())
-        return fail(options.error + QStringLiteral(" (see orda_client --help)"), ExitUsage);
+        return fail(QCoreApplication::translate("main", "%1 (see orda_client --help)").arg(options.error), ExitUsage);
     if (isBlind && options.family.isEmpty()) {
         return fail(QCoreApplication::translate("main", "there is no display to show the window on; --run needs none"),
                     ExitUsage);
     }
-    Translations translations;
-    if (!translations.install(options.language)) {
-        return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
-                        .arg(Translations::languages().join(QStringLiteral(", ")), options.language),
-                    ExitUsage);
-    }
-    orda_base::Theme::apply(app);
+    using orda_base::Theme;
+    Theme::apply(app, options.theme.isEmpty()                  ? Theme::FollowPalette
+                      : options.theme == QLatin1String("dark") ? Theme::Dark
+                                                               : Theme::Light);
 
     ClientSession session;
     QObject::connect(&session, &ClientSession::signalWarning, &app, complain);

@@ -66,3 +66,22 @@ function(orda_client_library name)
   target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
   orda_install(${name} clientlibs orda_clientlibs "${CMAKE_INSTALL_INCLUDEDIR}")
 endfunction()
+
+# orda_translations(<target> <part> <directory>): builds the part's translations, <directory>/<part>_<language>.ts, into the
+# target, as the resource ":/translations/<part>_<language>.qm". A part's name holds no underscore.
+function(orda_translations target part directory)
+  find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
+  file(GLOB sources CONFIGURE_DEPENDS "${directory}/${part}_*.ts")
+  set(output "${CMAKE_CURRENT_BINARY_DIR}/translations")
+  set_source_files_properties(${sources} PROPERTIES OUTPUT_LOCATION "${output}")
+  qt5_add_translation(compiled ${sources})
+  set(entries "")
+  foreach(file IN LISTS compiled)
+    get_filename_component(name "${file}" NAME)
+    string(APPEND entries "    <file>${name}</file>\n")
+  endforeach()
+  file(CONFIGURE OUTPUT "${output}/${part}_translations.qrc"
+    CONTENT "<RCC>\n  <qresource prefix=\"/translations\">\n${entries}  </qresource>\n</RCC>\n" @ONLY)
+  qt5_add_resources(resource "${output}/${part}_translations.qrc")
+  target_sources(${target} PRIVATE ${resource})
+endfunction()

@@ -10,6 +10,7 @@
 #include <shell/BatchCfgInit.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -61,6 +62,7 @@ private slots:
     void sortsByHeaders();
     void contextMenuOpensTheDevice();
     void contextMenuSurvivesItsRowAndItsForm();
+    void saysWhyItIsEmpty();
     void everyCallMakesAForm();
 };
 
@@ -279,6 +281,31 @@ void DevlistTest::contextMenuSurvivesItsRowAndItsForm()
     QTimer::singleShot(0, menu, [&f] { delete f.form; });
     emit f.table()->customContextMenuRequested(QPoint(10, 10));
     QVERIFY(f.form.isNull());
+}
+
+void DevlistTest::saysWhyItIsEmpty()
+{
+    const FormFixture f(0, silent);
+    const auto *hint = f.form->findChild<QLabel *>(QStringLiteral("emptyListHint"));
+    const auto hintText = [hint] {
+        return hint->isVisible() ? hint->text().section(QLatin1Char(' '), 0, 2) : QString();
+    };
+    QTRY_COMPARE(hintText(), QStringLiteral("There are no"));
+
+    DevInfo dev = FormFixture::device(1);
+    dev.kindCode = 9;
+    store().updateDevs({dev});
+    QTRY_COMPARE(hintText(), QStringLiteral("No device is"));
+    store().setDevStatus(dev.id, vms_sdk::DevOnline);
+    QTRY_COMPARE(hintText(), QStringLiteral("None of the"));
+    addOnline(FormFixture::device(2));
+    QTRY_COMPARE(hintText(), QString());
+    f.searchEdit()->setText(QStringLiteral("nowhere"));
+    QTRY_COMPARE(hintText(), QStringLiteral("No device in"));
+    f.searchEdit()->clear();
+    QTRY_COMPARE(hintText(), QString());
+    store().setDevStatus(QStringLiteral("dev2"), vms_sdk::DevOffline);
+    QTRY_COMPARE(hintText(), QStringLiteral("None of the"));
 }
 
 void DevlistTest::everyCallMakesAForm()

@@ -2,6 +2,7 @@
 
 #include "run/BatchCfgContact.h"
 #include "run/CfgResultsRecorder.h"
+#include "run/CheckBoxAccess.h"
 #include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
 
@@ -17,9 +18,12 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QUrl>
 #include <QUuid>
 
@@ -87,6 +91,7 @@ ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QW
     , m_title(title)
     , m_recorder(new CfgResultsRecorder(recordFile, this))
 {
+    installCheckBoxAccess();
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked,
             this, [this](const QString &uuid, int button) {
                 if (uuid == m_confirmUuid && button == 0)
@@ -112,13 +117,18 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
             connect(param.box, &QCheckBox::clicked, this, &ParamsCfgPage::slotSelectedParamsChanged);
         }
     }
-    addSelection(findChild<QCheckBox *>(QStringLiteral("allParams")), boxes,
-                 tr("Please select the parameters to be configured"));
+    auto *all = findChild<QCheckBox *>(QStringLiteral("allParams"));
+    all->setAccessibleName(tr("All parameters"));
+    addSelection(all, boxes, tr("Please select the parameters to be configured"));
     updateFlags();
 
     m_okBt = findChild<QPushButton *>(QStringLiteral("okBt"));
     m_reportBt = findChild<QPushButton *>(QStringLiteral("reportBt"));
     m_reportBt->hide();
+    // In a client's dialog, Return in any editor would press the first button that it finds.
+    const auto buttons = findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->setAutoDefault(false);
     connect(m_okBt, &QPushButton::clicked, this, &ParamsCfgPage::configure);
     connect(m_reportBt, &QPushButton::clicked, this, &ParamsCfgPage::openReport);
 }
@@ -126,6 +136,8 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
 void ParamsCfgPage::addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes, const QString &noneAlert)
 {
     m_selections.append({all, boxes, noneAlert});
+    for (QCheckBox *box : boxes)
+        box->setAccessibleName(tr("Configure %1").arg(box->text())); // the editor of the value has the name itself
     connect(all, &QCheckBox::clicked, this, [this, all, boxes](bool checked) {
         all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         for (QCheckBox *box : boxes)
@@ -199,7 +211,40 @@ void ParamsCfgPage::showEvent(QShowEvent *event)
     }
     for (XCOMMON::XLabel *caption : captions)
         caption->setMinimumWidth(widest);
+    if (const auto *area = findChild<QScrollArea *>())
+        area->widget()->installEventFilter(this);
     QWidget::showEvent(event);
+}
+
+bool ParamsCfgPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        // Longer texts widen the window; they are not scrolled sideways.
+        auto *area = findChild<QScrollArea *>();
+        const int needed = area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width();
+        area->setMinimumWidth(qMax(area->minimumWidth(), needed));
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ParamsCfgPage::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (isReturn && button && !event->isAutoRepeat())
+        button->click(); // the page may be gone afterwards: nothing may follow
+    else
+        QWidget::keyPressEvent(event);
+}
+
+bool ParamsCfgPage::focusNextPrevChild(bool next)
+{
+    const bool hasMoved = QWidget::focusNextPrevChild(next);
+    // A scroll area follows the focus only from one of its own widgets to another.
+    auto *area = findChild<QScrollArea *>();
+    if (hasMoved && area && area->isAncestorOf(focusWidget()))
+        area->ensureWidgetVisible(focusWidget());
+    return hasMoved;
 }
 
 bool ParamsCfgPage::isSelectionComplete(QString *alertText) const

@@ -1,6 +1,8 @@
 #include "shell/BatchCfgForm.h"
 
 #include "run/BatchCfgContact.h"
+#include "run/CheckBoxAccess.h"
+#include "shell/EmptyListHint.h"
 #include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
 
@@ -17,8 +19,10 @@
 #include <orda_saas/SaasWorker.h>
 
 #include <QCursor>
-#include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -53,6 +57,14 @@ QTableWidgetItem *centred(QTableWidgetItem *item)
     return item;
 }
 
+bool isPressByKey(const QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent *>(event)->key();
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 } // namespace
 
 BatchCfgForm::BatchCfgForm(QWidget *parent)
@@ -60,11 +72,13 @@ BatchCfgForm::BatchCfgForm(QWidget *parent)
     , m_ui(std::make_unique<Ui::BatchCfgForm>())
     , m_tableOperStyle(new orda_base::TableOperWtStyle(this))
 {
+    installCheckBoxAccess();
     m_ui->setupUi(this);
     BatchCfgContact::instance().setForm(this);
     initContextMenu();
     initNavigation();
     initDevTable();
+    initShortcuts();
     connect(m_ui->searchBox, &orda_base::SearchBox::signalSearchByKeyword, this,
             &BatchCfgForm::slotSearchDevsFromTable);
     connect(m_ui->navigationWt, &orda_base::NavigationWidget::signalCurAction, this, &BatchCfgForm::showPage);
@@ -99,28 +113,27 @@ void BatchCfgForm::initContextMenu()
 void BatchCfgForm::initNavigation()
 {
     using orda_base::NavigationActionInfo;
-    const auto addBar = [this](const QString &title, const QString &key, const QList<NavigationActionInfo> &entries) {
+    const auto addBar = [this](const NavigationActionInfo &bar, const QList<NavigationActionInfo> &entries) {
         const QString icon = QStringLiteral(":/batchCfg_images/images/%1_%2.png");
-        m_ui->navigationWt->addNavigationBar(icon.arg(key, QStringLiteral("n")), icon.arg(key, QStringLiteral("h")),
-                                             {title, key}, entries, this);
+        m_ui->navigationWt->addNavigationBar(icon.arg(bar.key, QStringLiteral("n")),
+                                             icon.arg(bar.key, QStringLiteral("h")), bar, entries, this);
     };
-    const QString audio = QStringLiteral("audio_param");
-    const QString video = QStringLiteral("video_param");
-    const QString image = QStringLiteral("image_param");
-    const QString cloud = QStringLiteral("cloud_service_param");
-    const QString platform9100 = QStringLiteral("9100_param");
-    const QString network = QStringLiteral("network_param");
-    const QString osd = QStringLiteral("osd_param");
-    addBar(tr("Audio-Video Parameters"), QStringLiteral("audio_video_param"),
-           {{tr("Audio Parameters"), audio}, {tr("Video Parameters"), video}});
-    addBar(tr("Image Parameters"), image, {});
-    addBar(tr("Platform Parameters"), QStringLiteral("platform_param"),
-           {{tr("Cloud Service Parameters"), cloud}, {tr("Platform 9100 Parameters"), platform9100}});
-    addBar(tr("Network Parameters"), network, {});
-    addBar(tr("OSD Parameters"), osd, {});
+    const NavigationActionInfo audio{tr("Audio Parameters"), QStringLiteral("audio_param")};
+    const NavigationActionInfo video{tr("Video Parameters"), QStringLiteral("video_param")};
+    const NavigationActionInfo image{tr("Image Parameters"), QStringLiteral("image_param")};
+    const NavigationActionInfo cloud{tr("Cloud Service Parameters"), QStringLiteral("cloud_service_param")};
+    const NavigationActionInfo platform9100{tr("Platform 9100 Parameters"), QStringLiteral("9100_param")};
+    const NavigationActionInfo network{tr("Network Parameters"), QStringLiteral("network_param")};
+    const NavigationActionInfo osd{tr("OSD Parameters"), QStringLiteral("osd_param")};
+    addBar({tr("Audio-Video Parameters"), QStringLiteral("audio_video_param")}, {audio, video});
+    addBar(image, {});
+    addBar({tr("Platform Parameters"), QStringLiteral("platform_param")}, {cloud, platform9100});
+    addBar(network, {});
+    addBar(osd, {});
 
-    const auto addPage = [this](const QString &key, QWidget *page) {
-        m_pageIndexByKey.insert(key, m_ui->stackedWidget->indexOf(page));
+    const auto addPage = [this](const NavigationActionInfo &entry, QWidget *page) {
+        page->setAccessibleName(entry.title);
+        m_pageIndexByKey.insert(entry.key, m_ui->stackedWidget->indexOf(page));
     };
     addPage(audio, m_ui->audioParametersPage);
     addPage(video, m_ui->videoParametersPage);
@@ -130,7 +143,7 @@ void BatchCfgForm::initNavigation()
     addPage(network, m_ui->networkParamsCfgPage);
     addPage(osd, m_ui->osdParamsCfgPage);
 
-    showPage(m_ui->navigationWt->setDefaultAction(video));
+    showPage(m_ui->navigationWt->setDefaultAction(video.key));
 }
 
 void BatchCfgForm::showPage(const QString &key)
@@ -140,10 +153,30 @@ void BatchCfgForm::showPage(const QString &key)
         m_ui->stackedWidget->setCurrentIndex(*index);
 }
 
+void BatchCfgForm::initShortcuts()
+{
+    const auto add = [this](const QKeySequence &keys, auto action) {
+        auto *shortcut = new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    add(QKeySequence::Find, [this] {
+        m_ui->searchBox->setFocus(Qt::ShortcutFocusReason);
+        m_ui->searchBox->findChild<QLineEdit *>()->selectAll();
+    });
+    const auto configure = [this] {
+        m_ui->stackedWidget->currentWidget()->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
+    };
+    add(Qt::CTRL + Qt::Key_Return, configure);
+    add(Qt::CTRL + Qt::Key_Enter, configure);
+}
+
 void BatchCfgForm::initDevTable()
 {
     auto *table = m_ui->devsTableWt;
     table->setColumnCount(ColumnCount);
+    // Not shown, but read out: the header row that is shown is no part of the table.
+    table->setHorizontalHeaderLabels({tr("Number"), m_ui->devName->text(), m_ui->devSn->text(), m_ui->devIp->text()});
     table->horizontalHeader()->hide();
     table->verticalHeader()->hide();
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -161,6 +194,7 @@ void BatchCfgForm::initDevTable()
     for (int column = Name; column < ColumnCount; ++column)
         m_headerSortWidgets.at(column)->installEventFilter(this);
     addEligibleDevs();
+    new EmptyListHint(table, m_ui->searchBox);
 }
 
 void BatchCfgForm::connectStore()
@@ -258,7 +292,7 @@ QStringList BatchCfgForm::checkedDevIds() const
 
 bool BatchCfgForm::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonRelease) {
+    if (event->type() == QEvent::MouseButtonRelease || isPressByKey(event)) {
         const int column = m_headerSortWidgets.indexOf(qobject_cast<QWidget *>(watched));
         if (column >= Name) {
             m_ui->devsTableWt->sortItems(column, Qt::AscendingOrder);

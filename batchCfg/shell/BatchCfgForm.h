@@ -53,6 +53,7 @@ private:
     void initNavigation();
     void showPage(const QString &key);
     void initDevTable();
+    void initShortcuts();
     void connectStore();
 
     bool isDevEligible(const vms_sdk::DevInfo &dev) const;

@@ -15,7 +15,11 @@ public:
 
     QVariant data(int role) const override
     {
-        return role == Qt::DisplayRole ? QString::number(m_numbers->numberOf(this)) : QTableWidgetItem::data(role);
+        if (role == Qt::DisplayRole)
+            return QString::number(m_numbers->numberOf(this));
+        if (role == Qt::AccessibleTextRole)
+            return m_numbers->rowText(this);
+        return QTableWidgetItem::data(role);
     }
 
     void setData(int role, const QVariant &value) override
@@ -59,6 +63,12 @@ int OrderNumbers::numberOf(const QTableWidgetItem *item)
         }
     }
     return m_numbers.value(m_table->row(item));
+}
+
+QString OrderNumbers::rowText(const QTableWidgetItem *item)
+{
+    const QTableWidgetItem *next = m_table->item(item->row(), item->column() + 1);
+    return QStringLiteral("%1 %2").arg(numberOf(item)).arg(next ? next->text() : QString());
 }
 
 } // namespace orda_batchCfg

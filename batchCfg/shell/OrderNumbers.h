@@ -21,12 +21,14 @@ public:
     /// @param table owns this object and must have its columns
     explicit OrderNumbers(QTableWidget *table);
 
-    /// A cell whose text is the order number of the row that it is in. The table that it is put into owns it.
+    /// A cell whose text is the order number of the row that it is in; assistive technology is told the text of the
+    /// cell beside it too. The table that it is put into owns it.
     QTableWidgetItem *makeItem();
 
 private:
     class Item;
     int numberOf(const QTableWidgetItem *item);
+    QString rowText(const QTableWidgetItem *item);
 
     QTableWidget *m_table;
     QVector<int> m_numbers; // by row; empty when they have to be counted anew

@@ -143,6 +143,25 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::EmptyListHint</name>
+    <message>
+        <source>No device in the list matches the search.</source>
+        <translation>Kein Gerät der Liste passt zur Suche.</translation>
+    </message>
+    <message>
+        <source>There are no devices yet.</source>
+        <translation>Es gibt noch keine Geräte.</translation>
+    </message>
+    <message>
+        <source>No device is on line. Devices appear here as soon as they are.</source>
+        <translation>Kein Gerät ist online. Sobald Geräte online sind, erscheinen sie hier.</translation>
+    </message>
+    <message>
+        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address or a strong password.</source>
+        <translation>Keines der Geräte, die online sind, kann von hier aus konfiguriert werden: Es muss eine Kamera oder ein Rekorder sein, direkt erreichbar, mit einer IP-Adresse oder einem starken Passwort.</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::ImageParamsCfgPage</name>
     <message>
         <source>Please select the parameters to be configured</source>

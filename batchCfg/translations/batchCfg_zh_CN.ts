@@ -143,6 +143,25 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::EmptyListHint</name>
+    <message>
+        <source>No device in the list matches the search.</source>
+        <translation>列表中没有与搜索匹配的设备。</translation>
+    </message>
+    <message>
+        <source>There are no devices yet.</source>
+        <translation>还没有设备。</translation>
+    </message>
+    <message>
+        <source>No device is on line. Devices appear here as soon as they are.</source>
+        <translation>没有设备在线。设备上线后会立即显示在此处。</translation>
+    </message>
+    <message>
+        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address or a strong password.</source>
+        <translation>在线设备均无法在此配置：需要可直接访问的摄像机或录像机，并具有 IP 地址或强密码。</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::ImageParamsCfgPage</name>
     <message>
         <source>Please select the parameters to be configured</source>

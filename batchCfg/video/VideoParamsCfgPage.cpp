@@ -5,6 +5,7 @@
 #include "video/VideoParamsPanel.h"
 
 #include <QJsonArray>
+#include <QSpinBox>
 
 namespace orda_batchCfg {
 
@@ -18,6 +19,9 @@ VideoParamsCfgPage::VideoParamsCfgPage(QWidget *parent)
         {QStringLiteral("open"), QStringLiteral("close"), QStringLiteral("autoopen")});
     m_hdPanel = addPanel(VideoParamsPanel::MainStream);
     m_sdPanel = addPanel(VideoParamsPanel::SubStream);
+    // The panels were made after the buttons, which stand below them.
+    setTabOrder(m_sdPanel->findChild<QSpinBox *>(), m_ui->okBt);
+    setTabOrder(m_ui->okBt, m_ui->reportBt);
     connect(m_hdPanel, &VideoParamsPanel::signalAlignmentGlobalPosX, this, &VideoParamsCfgPage::alignSmartEncoding);
 
     for (const QCheckBox *stream : {m_ui->HDStream, m_ui->SDStream})

@@ -35,6 +35,13 @@ VideoParamsPanel::VideoParamsPanel(int streamType, QWidget *parent)
             m_ui->resolution->removeItem(0);
         m_ui->resolution->setCurrentIndex(subStreamResolution);
     }
+    // There are two of these panels: each editor is named with its stream. Where an editor has a caption, some systems
+    // take the caption's name and others the editor's own.
+    const auto captions = findChildren<XCOMMON::XLabel *>();
+    for (XCOMMON::XLabel *caption : captions) {
+        caption->setAccessibleName(tr("%1, %2", "stream, parameter").arg(m_ui->title->text(), caption->text()));
+        caption->buddy()->setAccessibleName(caption->accessibleName());
+    }
     m_fieldWidgets = {{EncodingFormat, m_ui->encodingFormatWt}, {Resolution, m_ui->resolutionWt},
                       {FrameRate, m_ui->frameRateWt},           {BitRate, m_ui->bitRateModeWt},
                       {BitRate, m_ui->bitRateStrategyWt},       {BitRate, m_ui->videoQualityWt}};

@@ -75,6 +75,14 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>--screenshots: cannot make the directory &quot;%1&quot;</source>
         <translation>--screenshots: Verzeichnis „%1“ kann nicht angelegt werden</translation>
     </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;; as the desktop is when not given.</source>
+        <translation>„light“ (hell) oder „dark“ (dunkel); ohne Angabe wie der Desktop.</translation>
+    </message>
+    <message>
+        <source>--theme takes light or dark, not &quot;%1&quot;</source>
+        <translation>--theme nimmt light oder dark, nicht „%1“</translation>
+    </message>
 </context>
 <context>
     <name>ClientWindow</name>
@@ -199,6 +207,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>--language takes one of %1, not &quot;%2&quot;</source>
         <translation>--language nimmt eine von %1, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>%1 (see orda_client --help)</source>
+        <translation>%1 (siehe orda_client --help)</translation>
     </message>
 </context>
 </TS>

@@ -75,6 +75,14 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>--screenshots: cannot make the directory &quot;%1&quot;</source>
         <translation>--screenshots：无法创建目录“%1”</translation>
     </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;; as the desktop is when not given.</source>
+        <translation>“light”（浅色）或“dark”（深色）；未给出时跟随桌面。</translation>
+    </message>
+    <message>
+        <source>--theme takes light or dark, not &quot;%1&quot;</source>
+        <translation>--theme 只接受 light 或 dark，而不是“%1”</translation>
+    </message>
 </context>
 <context>
     <name>ClientWindow</name>
@@ -199,6 +207,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>--language takes one of %1, not &quot;%2&quot;</source>
         <translation>--language 只接受 %1 之一，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>%1 (see orda_client --help)</source>
+        <translation>%1（参见 orda_client --help）</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,10 @@
 #include "orda_base/ComboBox.h"
 
+#include <QAbstractItemView>
 #include <QLoggingCategory>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
 namespace orda_base {
@@ -22,6 +26,27 @@ void ComboBox::setItemsData(const QList<QVariant> &values)
         qCWarning(logUi) << objectName() << "has" << count() << "items but gets" << values.size() << "values";
     for (int i = 0; i < qMin(count(), values.size()); ++i)
         setItemData(i, values.at(i));
+}
+
+bool ComboBox::isTextWhole() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    return fontMetrics().horizontalAdvance(currentText()) <= room.width();
+}
+
+bool ComboBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(isTextWhole() ? QString() : currentText());
+    return QComboBox::event(event);
+}
+
+void ComboBox::showPopup()
+{
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
+    QComboBox::showPopup();
 }
 
 void ComboBox::wheelEvent(QWheelEvent *event)

@@ -18,7 +18,14 @@ public:
     /// is a mistake in the program: it is logged, and the values reach as far as they go.
     void setItemsData(const QList<QVariant> &values);
 
+    /// Whether the current text has room; else the tool tip has the whole of it. The list that pops up is always wide
+    /// enough.
+    bool isTextWhole() const;
+
+    void showPopup() override;
+
 protected:
+    bool event(QEvent *event) override;
     /// Scrolling over a page must not change a value by the way.
     void wheelEvent(QWheelEvent *event) override;
 };

@@ -3,6 +3,7 @@
 #include "orda_base/BusyIndicator.h"
 #include "orda_base/DisabledWaitingWtManager.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 #include <QLabel>
@@ -19,6 +20,7 @@ constexpr QColor veil(20, 30, 45, 90);
 constexpr int cardMinWidth = 260;
 constexpr int cardMargin = 24;
 constexpr std::chrono::milliseconds updateInterval{40};
+constexpr std::chrono::milliseconds announceInterval{2000}; // a voice needs that long for one text
 
 bool isInput(QEvent::Type type)
 {
@@ -53,8 +55,12 @@ DisabledWaitingWt::DisabledWaitingWt(QWidget *parent, const QString &description
     m_showSoon.setInterval(updateInterval);
     connect(&m_showSoon, &QTimer::timeout, this, [this] {
         m_description->setText(m_text);
-        setAccessibleName(m_text);
+        if (!m_announceSoon.isActive())
+            m_announceSoon.start();
     });
+    m_announceSoon.setSingleShot(true);
+    m_announceSoon.setInterval(announceInterval);
+    connect(&m_announceSoon, &QTimer::timeout, this, &DisabledWaitingWt::announce);
     setObjectName(QStringLiteral("disabledWaitingWt"));
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(description);
@@ -95,6 +101,13 @@ void DisabledWaitingWt::updateDescription(const QString &description)
     m_text = description;
     if (!m_showSoon.isActive())
         m_showSoon.start();
+}
+
+void DisabledWaitingWt::announce()
+{
+    setAccessibleName(m_text); // which reports a change of the name
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 bool DisabledWaitingWt::event(QEvent *event)
@@ -148,6 +161,7 @@ void DisabledWaitingWt::showEvent(QShowEvent *event)
     raise();
     setFocus();
     qApp->installEventFilter(this);
+    announce();
 }
 
 void DisabledWaitingWt::hideEvent(QHideEvent *event)

@@ -11,8 +11,8 @@ QT_END_NAMESPACE
 
 namespace orda_base {
 
-/// Covers a widget while something goes on: shows that it does, and lets no mouse, key or shortcut through. Destroyed
-/// through DisabledWaitingWtManager, or with its parent. GUI thread only.
+/// Covers a widget while something goes on: shows that it does, tells assistive technology how far it has got, and lets
+/// no mouse, key or shortcut through. Destroyed through DisabledWaitingWtManager, or with its parent. GUI thread only.
 class DisabledWaitingWt : public QWidget
 {
     Q_OBJECT
@@ -41,6 +41,7 @@ protected:
 
 private:
     bool covers(const QWidget *widget) const;
+    void announce();
 
     QUuid m_uuid;
     bool m_keepsBright;
@@ -48,6 +49,7 @@ private:
     QString m_text;
     QLabel *m_description;
     QTimer m_showSoon;
+    QTimer m_announceSoon;
     QPointer<QWidget> m_focusBefore;
 };
 

@@ -1,6 +1,7 @@
 #include "orda_base/NavigationButton.h"
 
-#include <QEvent>
+#include <QAccessibleWidget>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace orda_base {
@@ -16,6 +17,72 @@ constexpr int markWidth = 3;
 constexpr int textRight = 8;
 constexpr int arrowRight = 18;
 constexpr int arrowSize = 5;
+constexpr int textFlags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap; // a long text takes two lines
+
+constexpr int darkLightness = 128;
+
+// Modules draw their icons for light windows; on dark ones only their shape is of use.
+QPixmap inColour(QPixmap icon, const QColor &colour)
+{
+    QPainter painter(&icon);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(icon.rect(), colour);
+    return icon;
+}
+
+/// An entry is one of several pages, of which one is open; a folding bar is a button that shows and hides its entries.
+class NavigationButtonAccess : public QAccessibleWidget
+{
+public:
+    explicit NavigationButtonAccess(NavigationButton *button)
+        : QAccessibleWidget(button,
+                            button->kind() == NavigationButton::FoldingBar ? QAccessible::Button : QAccessible::PageTab)
+        , m_button(button)
+    {
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        if (m_button->kind() == NavigationButton::FoldingBar) {
+            state.expandable = true;
+            state.expanded = m_button->isUnfolded();
+            state.collapsed = !m_button->isUnfolded();
+        } else {
+            state.selectable = true;
+            state.selected = m_button->isHighlighted();
+        }
+        return state;
+    }
+
+    QStringList actionNames() const override { return QStringList{pressAction()} + QAccessibleWidget::actionNames(); }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction() && m_button->isEnabled())
+            m_button->animateClick();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    NavigationButton *m_button;
+};
+
+QAccessibleInterface *makeAccess(const QString &className, QObject *object)
+{
+    if (className == QLatin1String("orda_base::NavigationButton"))
+        return new NavigationButtonAccess(qobject_cast<NavigationButton *>(object));
+    if (className == QLatin1String("orda_base::NavigationWidget"))
+        return new QAccessibleWidget(qobject_cast<QWidget *>(object), QAccessible::PageTabList);
+    return nullptr;
+}
+
+void reportState(NavigationButton *button, QAccessible::State changed)
+{
+    QAccessibleStateChangeEvent event(button, changed);
+    QAccessible::updateAccessibility(&event);
+}
 
 } // namespace
 
@@ -31,6 +98,11 @@ NavigationButton::NavigationButton(Kind kind, const QString &title, QWidget *par
     setCursor(Qt::PointingHandCursor);
 }
 
+void NavigationButton::installAccess()
+{
+    QAccessible::installFactory(makeAccess); // does nothing when it is there already
+}
+
 void NavigationButton::setIcons(const QIcon &normal, const QIcon &highlighted)
 {
     m_normal = normal;
@@ -40,13 +112,21 @@ void NavigationButton::setIcons(const QIcon &normal, const QIcon &highlighted)
 
 void NavigationButton::setHighlighted(bool highlighted)
 {
-    m_isHighlighted = highlighted;
+    if (std::exchange(m_isHighlighted, highlighted) != highlighted && m_kind != FoldingBar) {
+        QAccessible::State changed;
+        changed.selected = true;
+        reportState(this, changed);
+    }
     update();
 }
 
 void NavigationButton::setUnfolded(bool unfolded)
 {
-    m_isUnfolded = unfolded;
+    if (std::exchange(m_isUnfolded, unfolded) != unfolded) {
+        QAccessible::State changed;
+        changed.expanded = true;
+        reportState(this, changed);
+    }
     update();
 }
 
@@ -62,11 +142,48 @@ QRect NavigationButton::textRect() const
     return {textLeft, 0, width() - textLeft - right, height()};
 }
 
+bool NavigationButton::isTextWhole() const
+{
+    const QRect room = textRect();
+    return room.contains(fontMetrics().boundingRect(room, textFlags, text()));
+}
+
 bool NavigationButton::event(QEvent *event)
 {
-    if (event->type() == QEvent::ToolTip) // the whole text where it is cut off
-        setToolTip(fontMetrics().horizontalAdvance(text()) > textRect().width() ? text() : QString());
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(isTextWhole() ? QString() : text());
     return QAbstractButton::event(event);
+}
+
+void NavigationButton::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        moveFocus(event->key() == Qt::Key_Down);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat())
+            click();
+        break;
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+void NavigationButton::moveFocus(bool down) const
+{
+    NavigationButton *nearest = nullptr;
+    const auto buttons = parentWidget()->findChildren<NavigationButton *>(QString(), Qt::FindDirectChildrenOnly);
+    for (NavigationButton *button : buttons) {
+        const bool isFurther = down ? button->y() > y() : button->y() < y();
+        const bool isNearer = !nearest || qAbs(button->y() - y()) < qAbs(nearest->y() - y());
+        if (isFurther && isNearer && button->isVisible() && button->isEnabled())
+            nearest = button;
+    }
+    if (nearest)
+        nearest->setFocus(down ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 void NavigationButton::paintEvent(QPaintEvent *)
@@ -87,11 +204,16 @@ void NavigationButton::paintEvent(QPaintEvent *)
     }
 
     const QIcon &icon = m_isHighlighted ? m_highlighted : m_normal;
-    icon.paint(&painter, QRect(iconLeft, (height() - iconPixels) / 2, iconPixels, iconPixels));
+    const QRect iconRect(iconLeft, (height() - iconPixels) / 2, iconPixels, iconPixels);
+    if (palette().color(QPalette::Window).lightness() > darkLightness)
+        icon.paint(&painter, iconRect);
+    else if (!icon.isNull())
+        painter.drawPixmap(iconRect, inColour(icon.pixmap(window()->windowHandle(), iconRect.size()),
+                                              m_isHighlighted ? accent : palette().color(QPalette::WindowText)));
 
     painter.setPen(isCurrent ? accent : palette().color(QPalette::WindowText));
-    painter.drawText(textRect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, textRect().width()));
+    painter.drawText(textRect(), textFlags,
+                     isTextWhole() ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, textRect().width()));
 
     if (m_kind == FoldingBar) {
         painter.setPen(QPen(palette().color(QPalette::WindowText), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

@@ -10,7 +10,9 @@ NavigationWidget::NavigationWidget(QWidget *parent)
     : QWidget(parent)
     , m_layout(new QVBoxLayout(this))
 {
+    NavigationButton::installAccess();
     setAttribute(Qt::WA_StyledBackground);
+    setAccessibleName(tr("Navigation"));
     m_layout->setContentsMargins(0, 8, 0, 8);
     m_layout->setSpacing(0);
     m_layout->addStretch();
@@ -40,6 +42,13 @@ NavigationButton *NavigationWidget::addButton(int kind, const NavigationActionIn
     auto *button = new NavigationButton(NavigationButton::Kind(kind), info.title, this);
     button->setObjectName(info.key);
     m_layout->insertWidget(m_layout->count() - 1, button); // before the stretch
+    // Qt puts new widgets behind all others of the window; these belong where the navigation stands. It takes the focus
+    // only for setTabOrder(), which looks at that.
+    const Qt::FocusPolicy policy = focusPolicy();
+    setFocusPolicy(Qt::TabFocus);
+    setTabOrder(m_lowest ? static_cast<QWidget *>(m_lowest) : this, button);
+    setFocusPolicy(policy);
+    m_lowest = button;
     return button;
 }
 

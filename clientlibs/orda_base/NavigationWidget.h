@@ -15,7 +15,7 @@ namespace orda_base {
 class NavigationButton;
 
 /// A column of bars with icons. A bar either is an entry itself or opens and closes its entries. Every bar and entry is
-/// a QAbstractButton whose object name is its key. GUI thread only.
+/// a QAbstractButton whose object name is its key; the Tab key goes through them from top to bottom. GUI thread only.
 class NavigationWidget : public QWidget
 {
     Q_OBJECT
@@ -53,6 +53,7 @@ private:
     void makeCurrent(const QString &key);
 
     QVBoxLayout *m_layout;
+    NavigationButton *m_lowest = nullptr;
     QMap<QString, Entry> m_entryByKey;
     QString m_currentKey;
 };

@@ -1,8 +1,13 @@
 #include "orda_base/SearchBox.h"
 
+#include "orda_base/Theme.h"
+
+#include <QAction>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QToolButton>
 
 namespace orda_base {
 
@@ -12,19 +17,46 @@ SearchBox::SearchBox(QWidget *parent)
 {
     m_edit->setPlaceholderText(tr("Search"));
     m_edit->setAccessibleName(tr("Search"));
+    const QAction *search =
+        m_edit->addAction(QIcon(Theme::image(QStringLiteral("search"))), QLineEdit::LeadingPosition);
+    nameIcon(tr("Start search"));
     m_edit->setClearButtonEnabled(true);
-    m_edit->addAction(QIcon(QStringLiteral(":/orda_base/images/search.svg")), QLineEdit::LeadingPosition);
+    nameIcon(tr("Clear search"));
+    m_edit->installEventFilter(this);
     setFocusProxy(m_edit);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_edit);
     connect(m_edit, &QLineEdit::textChanged, this, &SearchBox::signalSearchByKeyword);
-    connect(m_edit, &QLineEdit::returnPressed, this, [this] { emit signalSearchByKeyword(m_edit->text()); });
+    const auto searchAgain = [this] { emit signalSearchByKeyword(m_edit->text()); };
+    connect(m_edit, &QLineEdit::returnPressed, this, searchAgain);
+    connect(search, &QAction::triggered, this, searchAgain);
+}
+
+void SearchBox::nameIcon(const QString &name)
+{
+    const auto icons = m_edit->findChildren<QToolButton *>();
+    for (QToolButton *icon : icons)
+        if (icon->accessibleName().isEmpty())
+            icon->setAccessibleName(name);
 }
 
 QString SearchBox::text() const
 {
     return m_edit->text();
+}
+
+bool SearchBox::eventFilter(QObject *watched, QEvent *event)
+{
+    // An empty line leaves Esc to the window, which may be a dialog that closes on it.
+    if ((event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) && !m_edit->text().isEmpty()
+        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        if (event->type() == QEvent::KeyPress)
+            m_edit->clear();
+        event->accept();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace orda_base

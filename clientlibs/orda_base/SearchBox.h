@@ -8,7 +8,7 @@ QT_END_NAMESPACE
 
 namespace orda_base {
 
-/// A line to search by: looks at every key stroke and at Return, and has a button that clears it. GUI thread only.
+/// A line to search by: looks at every key stroke and at Return; Esc or its button clears it. GUI thread only.
 class SearchBox : public QWidget
 {
     Q_OBJECT
@@ -22,7 +22,12 @@ signals:
     /// @param keyword the text as it stands; empty when it was cleared
     void signalSearchByKeyword(const QString &keyword);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void nameIcon(const QString &name); ///< the one that has just been added
+
     QLineEdit *m_edit;
 };
 

@@ -3,7 +3,7 @@
 #include <XCOMMON/XTableWidget.h>
 
 #include <QCheckBox>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLayout>
 
 namespace orda_base {
@@ -57,6 +57,7 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
         m_all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         setVisibleRows(checked);
     });
+    table->installEventFilter(this);
     table->viewport()->installEventFilter(this);
     alignHeader();
     updateAllBox();
@@ -70,6 +71,32 @@ void TableOperWtStyle::setVisibleRows(bool checked)
         if (isCheckable(item) && !m_table->isRowHidden(row))
             item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
     }
+    m_isTickingAll = false;
+    updateAllBox();
+}
+
+void TableOperWtStyle::toggleSelectedRows()
+{
+    QList<QTableWidgetItem *> items;
+    bool areAllChecked = true;
+    const auto add = [&](int row) {
+        QTableWidgetItem *item = m_table->item(row, checkColumn);
+        if (isCheckable(item) && !m_table->isRowHidden(row)) {
+            items.append(item);
+            areAllChecked = areAllChecked && item->checkState() == Qt::Checked;
+        }
+    };
+    const QModelIndexList selected = m_table->selectionModel()->selectedRows();
+    for (const QModelIndex &index : selected)
+        add(index.row());
+    if (!m_table->selectionModel()->isRowSelected(m_table->currentRow(), QModelIndex())) {
+        items.clear(); // the keys have moved on without selecting
+        areAllChecked = true;
+        add(m_table->currentRow());
+    }
+    m_isTickingAll = true;
+    for (QTableWidgetItem *item : qAsConst(items))
+        item->setCheckState(areAllChecked ? Qt::Unchecked : Qt::Checked);
     m_isTickingAll = false;
     updateAllBox();
 }
@@ -108,6 +135,14 @@ bool TableOperWtStyle::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize) // the scroll bar comes and goes
         alignHeader();
+    if (event->type() == QEvent::KeyPress && watched == m_table) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Space && key->modifiers() == Qt::NoModifier) {
+            if (!key->isAutoRepeat())
+                toggleSelectedRows();
+            return true;
+        }
+    }
     return QObject::eventFilter(watched, event);
 }
 

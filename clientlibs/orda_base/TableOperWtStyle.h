@@ -17,7 +17,8 @@ class XTableWidget;
 
 namespace orda_base {
 
-/// Ties an "All" check box and a header row of its own to a table with check marks in column 0.
+/// Ties an "All" check box and a header row of its own to a table with check marks in column 0, and lets the Space key
+/// tick the selected rows.
 class TableOperWtStyle : public QObject
 {
     Q_OBJECT
@@ -39,6 +40,7 @@ protected:
 
 private:
     void setVisibleRows(bool checked);
+    void toggleSelectedRows();
     void updateAllBox();
     void alignHeader();
 

@@ -1,6 +1,9 @@
 #include "orda_base/TableWidget.h"
 
 #include "orda_base/RowHeader.h"
+#include "orda_base/TableAccess.h"
+
+#include <QFocusEvent>
 
 namespace orda_base {
 
@@ -13,6 +16,7 @@ constexpr int rowPixels = 32;
 TableWidget::TableWidget(QWidget *parent)
     : XCOMMON::XTableWidget(parent)
 {
+    TableAccess::install(this);
     setSelectionBehavior(SelectRows);
     setVerticalScrollMode(ScrollPerPixel);
     setAlternatingRowColors(true);
@@ -21,6 +25,15 @@ TableWidget::TableWidget(QWidget *parent)
     // Rows of one fixed height: measuring contents would look at every row.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(rowPixels);
+    setTabKeyNavigation(false); // Tab leaves the table; it would go through each of its cells first
+}
+
+void TableWidget::focusInEvent(QFocusEvent *event)
+{
+    XCOMMON::XTableWidget::focusInEvent(event);
+    const bool isByKey = event->reason() != Qt::MouseFocusReason && event->reason() != Qt::PopupFocusReason;
+    if (isByKey && currentIndex().isValid() && !selectionModel()->hasSelection())
+        selectRow(currentIndex().row()); // else nothing would show where the keys go
 }
 
 } // namespace orda_base

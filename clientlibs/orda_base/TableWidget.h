@@ -4,13 +4,17 @@
 
 namespace orda_base {
 
-/// The table of the client's lists: whole rows, smooth scrolling, no focus frame around single cells.
+/// The table of the client's lists: whole rows, smooth scrolling, no focus frame around single cells; one stop of the
+/// Tab key. Its check marks can be read and toggled by assistive technology.
 class TableWidget : public XCOMMON::XTableWidget
 {
     Q_OBJECT
 
 public:
     explicit TableWidget(QWidget *parent = nullptr);
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
 };
 
 } // namespace orda_base

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 QT_BEGIN_NAMESPACE
 class QApplication;
@@ -14,8 +14,18 @@ namespace orda_base {
 class Theme
 {
 public:
-    /// Called once, before the first window is shown.
-    static void apply(QApplication &app);
+    enum Scheme
+    {
+        FollowPalette, ///< dark where the application's palette is: light text on dark windows
+        Light,
+        Dark
+    };
+
+    /// Called once, before the first window is made.
+    static void apply(QApplication &app, Scheme scheme = FollowPalette);
+
+    /// Path of one of the theme's own images, such as "search", as the scheme has it.
+    static QString image(const QString &name);
 };
 
 } // namespace orda_base

@@ -20,6 +20,8 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
     , m_answer(buttons.size() - 1)
 {
     setWindowTitle(title);
+    setAccessibleName(title);
+    setAccessibleDescription(text); // read out when the dialog opens
     setAttribute(Qt::WA_DeleteOnClose);
     setMinimumWidth(minWidth);
 

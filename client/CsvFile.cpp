@@ -1,0 +1,44 @@
+#include "CsvFile.h"
+
+#include <QAbstractItemModel>
+#include <QSaveFile>
+
+#include <functional>
+
+namespace {
+
+QString cell(QString text)
+{
+    static const QString formulaStarts = QStringLiteral("=+-@\t\r\n");
+    if (!text.isEmpty() && formulaStarts.contains(text.front()))
+        text.prepend(QLatin1Char('\''));
+    const auto has = [&text](char character) { return text.contains(QLatin1Char(character)); };
+    if (has(',') || has('"') || has('\r') || has('\n'))
+        text = QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
+    return text;
+}
+
+QString line(int columns, const std::function<QVariant(int column)> &value)
+{
+    QStringList cells;
+    for (int column = 0; column < columns; ++column)
+        cells.append(cell(value(column).toString()));
+    return cells.join(QLatin1Char(',')) + QLatin1String("\r\n");
+}
+
+} // namespace
+
+QString CsvFile::write(const QString &path, const QAbstractItemModel &table)
+{
+    const int columns = table.columnCount();
+    QString text = QChar(QChar::ByteOrderMark);
+    text += line(columns, [&table](int column) { return table.headerData(column, Qt::Horizontal); });
+    for (int row = 0; row < table.rowCount(); ++row)
+        text += line(columns, [&table, row](int column) { return table.index(row, column).data(Qt::EditRole); });
+
+    QSaveFile file(path);
+    const QByteArray bytes = text.toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return tr("cannot write the file %1: %2").arg(path, file.errorString());
+    return {};
+}

@@ -1,0 +1,404 @@
+#include "LastRunWindow.h"
+
+#include "CsvFile.h"
+#include "FailedDevices.h"
+#include "FailureGroupList.h"
+#include "Families.h"
+#include "RunRecordFilter.h"
+#include "RunRecordModel.h"
+#include "RunRecordView.h"
+
+#include <orda_base/SearchBox.h>
+#include <orda_worker/AssistantSignals.h>
+#include <orda_worker/SystemAssistant.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDate>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// Files that are emptied, written thousands of times a second, replaced or gone: looking now and then sees it all.
+constexpr auto lookInterval = 500ms;
+constexpr int restPerWork = 20; // reading a large record leaves the run its time
+
+constexpr QSize windowSize(1320, 660);
+constexpr int groupsWidth = 320;
+constexpr int margin = 12;
+constexpr int reportLines = 5;
+
+QLabel *caption(const QString &text, QWidget *buddy)
+{
+    auto *label = new QLabel(text);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QLabel *plainLabel(const char *name)
+{
+    auto *label = new QLabel;
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
+    : QMainWindow(parent)
+    , m_form(form)
+    , m_model(new RunRecordModel(this))
+    , m_filter(new RunRecordFilter(m_model, this))
+{
+    setWindowTitle(tr("Last run"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto *splitter = new QSplitter;
+    auto *central = new QWidget;
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addWidget(buildTop());
+    splitter->addWidget(buildGroups());
+    splitter->addWidget(buildTable());
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+    splitter->setSizes({groupsWidth, windowSize.width() - groupsWidth});
+    layout->addWidget(splitter, 1);
+    layout->addWidget(buildReport());
+    layout->addWidget(buildButtons());
+    setCentralWidget(central);
+    setKeys();
+    resize(windowSize);
+
+    m_lookAgain.setSingleShot(true);
+    connect(&m_lookAgain, &QTimer::timeout, this, &LastRunWindow::lookAndFollow);
+    connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
+            [this] { look(true); }); // a run has ended
+}
+
+QWidget *LastRunWindow::buildTop()
+{
+    m_families = new QComboBox;
+    m_families->setObjectName(QStringLiteral("families"));
+    m_families->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    connect(m_families, QOverload<int>::of(&QComboBox::activated), this, &LastRunWindow::showFamily);
+    m_summary = plainLabel("summary");
+
+    m_outcomes = new QComboBox;
+    m_outcomes->setObjectName(QStringLiteral("outcomes"));
+    m_outcomes->addItems({tr("All"), tr("Failed only")});
+    connect(m_outcomes, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int index) {
+        m_filter->setFailedOnly(index > 0);
+        updateView();
+    });
+    m_search = new orda_base::SearchBox;
+    m_search->setObjectName(QStringLiteral("recordSearch"));
+    m_search->setToolTip(tr("Searches names, serial numbers, addresses and messages (%1)")
+                             .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+    connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
+        m_filter->setKeyword(keyword);
+        updateView();
+    });
+
+    auto *choices = new QHBoxLayout;
+    choices->addWidget(caption(tr("&Parameters:"), m_families));
+    choices->addWidget(m_families);
+    choices->addStretch(1);
+    choices->addWidget(caption(tr("S&how:"), m_outcomes));
+    choices->addWidget(m_outcomes);
+    choices->addWidget(m_search);
+    auto *top = new QWidget;
+    auto *layout = new QVBoxLayout(top);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(choices);
+    layout->addWidget(m_summary);
+    return top;
+}
+
+QWidget *LastRunWindow::buildGroups()
+{
+    m_groups = new FailureGroupList;
+    m_groups->setObjectName(QStringLiteral("groups"));
+    m_groups->setAccessibleName(tr("Failures by message"));
+    connect(m_groups, &FailureGroupList::signalGroupChosen, this, [this] {
+        m_filter->setGroup(m_groups->group());
+        updateView();
+    });
+
+    auto *groups = new QWidget;
+    auto *layout = new QVBoxLayout(groups);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(caption(tr("Failures by &message"), m_groups));
+    layout->addWidget(m_groups);
+    return groups;
+}
+
+QWidget *LastRunWindow::buildTable()
+{
+    m_table = new RunRecordView(m_filter);
+    m_table->setObjectName(QStringLiteral("record"));
+    m_table->setAccessibleName(tr("Devices of the run"));
+    m_empty = plainLabel("empty");
+    m_empty->setAlignment(Qt::AlignCenter);
+    m_empty->setMargin(margin);
+    m_stack = new QStackedWidget;
+    m_stack->addWidget(m_table);
+    m_stack->addWidget(m_empty);
+    return m_stack;
+}
+
+QWidget *LastRunWindow::buildReport()
+{
+    m_reportText = plainLabel("tickReport");
+    m_reportList = new QPlainTextEdit;
+    m_reportList->setObjectName(QStringLiteral("tickReportList"));
+    m_reportList->setAccessibleName(tr("Failed devices that are not ticked"));
+    m_reportList->setReadOnly(true);
+    m_reportList->setTabChangesFocus(true);
+    m_reportList->setMaximumHeight(reportLines * fontMetrics().lineSpacing() + 2 * margin);
+
+    m_report = new QWidget;
+    auto *layout = new QVBoxLayout(m_report);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_reportText);
+    layout->addWidget(m_reportList);
+    m_report->hide();
+    return m_report;
+}
+
+QWidget *LastRunWindow::buildButtons()
+{
+    m_tickAgain = new QPushButton(tr("&Tick failed again"));
+    m_tickAgain->setObjectName(QStringLiteral("tickFailedAgain"));
+    m_tickAgain->setProperty("common_bt_style1", true);
+    m_tickAgain->setToolTip(tr("Ticks exactly the failed devices of this run in the device list, and opens the page"));
+    connect(m_tickAgain, &QPushButton::clicked, this, &LastRunWindow::tickFailedAgain);
+    m_export = new QPushButton(tr("&Export CSV…"));
+    m_export->setObjectName(QStringLiteral("exportCsv"));
+    m_export->setProperty("common_bt_style2", true);
+    m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
+    connect(m_export, &QPushButton::clicked, this, &LastRunWindow::exportCsv);
+    auto *close = new QPushButton(tr("&Close"));
+    close->setProperty("common_bt_style2", true);
+    connect(close, &QPushButton::clicked, this, &QWidget::close);
+
+    auto *buttons = new QWidget;
+    auto *layout = new QHBoxLayout(buttons);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_tickAgain);
+    layout->addWidget(m_export);
+    layout->addStretch();
+    layout->addWidget(close);
+    return buttons;
+}
+
+void LastRunWindow::setKeys()
+{
+    auto *escape = new QShortcut(QKeySequence::Cancel, this);
+    connect(escape, &QShortcut::activated, this, &QWidget::close);
+    auto *find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, m_search, [this] { m_search->setFocus(Qt::ShortcutFocusReason); });
+    m_table->setFocus();
+}
+
+void LastRunWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_lookAgain.isActive()) {
+        look(true);
+        m_lookAgain.start(lookInterval);
+    }
+}
+
+void LastRunWindow::hideEvent(QHideEvent *event)
+{
+    m_lookAgain.stop();
+    QMainWindow::hideEvent(event);
+}
+
+void LastRunWindow::lookAndFollow()
+{
+    QElapsedTimer work;
+    work.start();
+    look(false);
+    m_lookAgain.start(std::max(lookInterval, restPerWork * std::chrono::milliseconds(work.elapsed())));
+}
+
+void LastRunWindow::look(bool turnToNewest)
+{
+    m_records.clear();
+    for (const Family &family : families()) {
+        const RecordFile::State state = RecordFile(family.recordFile).look();
+        if (state.exists || &family == m_family)
+            m_records.append({&family, state});
+    }
+    std::stable_sort(m_records.begin(), m_records.end(), [](const Record &record, const Record &other) {
+        if (record.state.refusal.isEmpty() != other.state.refusal.isEmpty())
+            return record.state.refusal.isEmpty();
+        return record.state.changed > other.state.changed;
+    });
+    if (!m_records.isEmpty() && (turnToNewest || !m_family))
+        m_family = m_records.constFirst().family;
+    if (turnToNewest)
+        m_report->hide();
+    listFamilies();
+    load();
+}
+
+void LastRunWindow::listFamilies()
+{
+    QStringList titles;
+    int current = -1;
+    for (const Record &record : qAsConst(m_records)) {
+        if (record.family == m_family)
+            current = titles.size();
+        titles.append(familyTitle(*record.family));
+    }
+    QStringList listed;
+    for (int i = 0; i < m_families->count(); ++i)
+        listed.append(m_families->itemText(i));
+    if (listed != titles) {
+        m_families->clear();
+        m_families->addItems(titles);
+    }
+    m_families->setEnabled(!titles.isEmpty());
+    m_families->setCurrentIndex(current);
+}
+
+void LastRunWindow::showFamily(int index)
+{
+    m_family = m_records.at(index).family;
+    m_report->hide();
+    load();
+}
+
+void LastRunWindow::load()
+{
+    const Record *shown = nullptr;
+    for (const Record &record : qAsConst(m_records))
+        if (record.family == m_family)
+            shown = &record;
+    if (!shown || !m_loaded || *m_loaded != *shown) {
+        m_loaded = shown ? std::make_optional(*shown) : std::nullopt;
+        RecordFile::Content content;
+        if (shown && shown->state.exists)
+            content = RecordFile(m_family->recordFile).read();
+        m_error = content.error;
+        m_model->setEntries(parseRunRecord(content.text, successTexts()));
+        m_groups->setEntries(m_model->entries());
+    }
+    updateView();
+}
+
+void LastRunWindow::updateView()
+{
+    const QVector<RunEntry> &entries = m_model->entries();
+    int counts[RunEntry::Succeeded + 1] = {};
+    for (const RunEntry &entry : entries)
+        ++counts[entry.outcome];
+    const QLocale locale;
+    QStringList texts{timeText(), tr("Devices: %1").arg(locale.toString(entries.size())),
+                      tr("Succeeded: %1").arg(locale.toString(counts[RunEntry::Succeeded])),
+                      tr("Failed: %1").arg(locale.toString(counts[RunEntry::Failed]))};
+    if (counts[RunEntry::Unreadable] > 0)
+        texts.append(tr("Unreadable: %1").arg(locale.toString(counts[RunEntry::Unreadable])));
+    m_summary->setText(texts.join(QStringLiteral("   ")));
+    m_summary->setVisible(!entries.isEmpty());
+    m_empty->setText(emptyText());
+    m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
+    m_export->setEnabled(m_filter->rowCount() > 0);
+    m_tickAgain->setEnabled(counts[RunEntry::Succeeded] < entries.size() && !FailedDevices::isRunUnderWay(m_form));
+}
+
+QString LastRunWindow::emptyText() const
+{
+    if (!m_loaded)
+        return tr("No run yet. Tick devices and parameters in the form and press Configure; "
+                  "the outcome of each device is then listed here.");
+    const QString path = RecordFile(m_family->recordFile).path();
+    if (!m_loaded->state.exists)
+        return tr("The record %1 is gone. The next run writes it again.").arg(path);
+    if (!m_error.isEmpty())
+        return tr("The record %1 is not read: %2. Move it away; the next run writes a new one.").arg(path, m_error);
+    if (m_model->entries().isEmpty())
+        return tr("The run has no result yet.");
+    if (m_outcomes->currentIndex() > 0 && m_search->text().isEmpty() && !m_groups->group())
+        return tr("No device failed.");
+    return tr("No device of this run fits the search and the choice beside it.");
+}
+
+QString LastRunWindow::timeText() const
+{
+    QString begin, end;
+    for (const RunEntry &entry : m_model->entries()) {
+        if (entry.time.isEmpty())
+            continue;
+        if (begin.isEmpty() || entry.time < begin)
+            begin = entry.time;
+        end = std::max(end, entry.time);
+    }
+    return begin == end ? begin : tr("%1 to %2").arg(begin, end);
+}
+
+QString LastRunWindow::familyTitle(const Family &family) const
+{
+    return m_form->findChild<QAbstractButton *>(family.navigationKey)->text();
+}
+
+void LastRunWindow::tickFailedAgain()
+{
+    if (FailedDevices::isRunUnderWay(m_form)) {
+        updateView();
+        return;
+    }
+    const FailedDevices::Ticked ticked = FailedDevices::tickAgain(m_form, m_model->entries());
+    m_form->findChild<QAbstractButton *>(m_family->navigationKey)->click();
+
+    const QLocale locale;
+    QString text = tr("Ticked %1 of %2 failed devices in the device list.")
+                       .arg(locale.toString(ticked.count), locale.toString(ticked.count + ticked.left.size()));
+    if (ticked.isSearchCleared)
+        text += QLatin1Char(' ') + tr("The list's search was cleared: it hid some of them.");
+    if (!ticked.left.isEmpty())
+        text += QLatin1Char(' ') + tr("Not ticked:");
+    m_reportText->setText(text);
+    m_reportList->setPlainText(ticked.left.join(QLatin1Char('\n')));
+    m_reportList->setVisible(!ticked.left.isEmpty());
+    m_report->show();
+}
+
+void LastRunWindow::exportCsv()
+{
+    const QDir directory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString name = QStringLiteral("%1-%2.csv").arg(m_family->name, QDate::currentDate().toString(Qt::ISODate));
+    auto *dialog = new QFileDialog(this, tr("Export CSV"), directory.filePath(name),
+                                   tr("Comma-separated values (*.csv);;All files (*)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("csv"));
+    dialog->selectFile(name);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        const QString error = CsvFile::write(path, *m_filter);
+        if (!error.isEmpty())
+            orda_worker::SystemAssistant::instance().messageAlert(tr("Export CSV"), error);
+    });
+    dialog->open();
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "RecordFile.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <optional>
+
+QT_BEGIN_NAMESPACE
+class QComboBox;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class QStackedWidget;
+QT_END_NAMESPACE
+
+namespace orda_base {
+class SearchBox;
+}
+class FailureGroupList;
+class RunRecordFilter;
+class RunRecordModel;
+class RunRecordView;
+struct Family;
+
+/// The outcome of a family's last run, device by device, from its record: sorted, searched, grouped by failure, saved
+/// as a table, and the failed devices ticked again in the form. Follows the record while it is shown, and turns to the
+/// family whose run has ended. Deletes itself when it is closed.
+class LastRunWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param form the batch-configuration form, or a window that has it; must outlive this window
+    explicit LastRunWindow(QWidget *form, QWidget *parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    struct Record
+    {
+        const Family *family;
+        RecordFile::State state;
+
+        bool operator!=(const Record &other) const { return family != other.family || !(state == other.state); }
+    };
+
+    QWidget *buildTop();
+    QWidget *buildGroups();
+    QWidget *buildTable();
+    QWidget *buildReport();
+    QWidget *buildButtons();
+    void setKeys();
+
+    void lookAndFollow();
+    void look(bool turnToNewest);
+    void listFamilies();
+    void showFamily(int index);
+    void load();
+    void updateView();
+    QString emptyText() const;
+    QString timeText() const;
+    QString familyTitle(const Family &family) const;
+
+    void tickFailedAgain();
+    void exportCsv();
+
+    QWidget *m_form;
+    RunRecordModel *m_model;
+    RunRecordFilter *m_filter;
+    QTimer m_lookAgain;
+    QVector<Record> m_records; // those that may be read first, then the newest first
+    const Family *m_family = nullptr; // which is shown
+    std::optional<Record> m_loaded; // the record that the model has, or has not for an error
+    QString m_error; // why the record is not there
+
+    QComboBox *m_families;
+    QLabel *m_summary;
+    QComboBox *m_outcomes;
+    orda_base::SearchBox *m_search;
+    FailureGroupList *m_groups;
+    QStackedWidget *m_stack;
+    RunRecordView *m_table;
+    QLabel *m_empty;
+    QWidget *m_report;
+    QLabel *m_reportText;
+    QPlainTextEdit *m_reportList;
+    QPushButton *m_tickAgain;
+    QPushButton *m_export;
+};

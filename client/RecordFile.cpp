@@ -1,0 +1,76 @@
+#include "RecordFile.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+// A hundred times the record of ten thousand devices.
+constexpr qint64 maxSize = qint64(256) << 20U;
+
+QString refusalOf(const struct stat &info)
+{
+    if (S_ISLNK(info.st_mode))
+        return RecordFile::tr("it is a symbolic link");
+    if (!S_ISREG(info.st_mode))
+        return RecordFile::tr("it is not a regular file");
+    if (info.st_uid != ::geteuid())
+        return RecordFile::tr("it belongs to another user");
+    if (info.st_nlink > 1)
+        return RecordFile::tr("it has more than one name");
+    if (info.st_size > maxSize)
+        return RecordFile::tr("it is too large for a record");
+    return {};
+}
+
+} // namespace
+
+bool RecordFile::State::operator==(const State &other) const
+{
+    return exists == other.exists && refusal == other.refusal && changed == other.changed && size == other.size
+        && inode == other.inode;
+}
+
+RecordFile::RecordFile(const QString &name)
+    : m_path(QDir::temp().filePath(name))
+{
+}
+
+RecordFile::State RecordFile::look() const
+{
+    State state;
+    struct stat info = {};
+    if (::lstat(QFile::encodeName(m_path).constData(), &info) == 0) {
+        state.exists = true;
+        state.refusal = refusalOf(info);
+        state.changed = qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;
+        state.size = info.st_size;
+        state.inode = info.st_ino;
+    }
+    return state;
+}
+
+RecordFile::Content RecordFile::read() const
+{
+    const auto fail = [](const QString &why) { return Content{{}, why}; };
+    // Not waiting: the name may be a pipe's.
+    const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0)
+        return fail(errno == ELOOP ? tr("it is a symbolic link") : qt_error_string(errno));
+    struct stat info = {};
+    const QString why = ::fstat(fd, &info) == 0 ? refusalOf(info) : qt_error_string(errno);
+    QFile file;
+    if (!why.isEmpty() || !file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        return fail(why.isEmpty() ? file.errorString() : why);
+    }
+    const QByteArray bytes = file.read(maxSize);
+    if (file.error() != QFileDevice::NoError)
+        return fail(file.errorString());
+    return {QString::fromLocal8Bit(bytes), {}};
+}

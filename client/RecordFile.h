@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+/// A record on the disk. It lies in a directory that all users of the machine may share, so only a regular file of the
+/// user's own is ever read.
+class RecordFile
+{
+    Q_DECLARE_TR_FUNCTIONS(RecordFile)
+
+public:
+    /// What is there, told without reading. Two looks that are equal saw the same record.
+    struct State
+    {
+        bool exists = false;
+        QString refusal; ///< for the user: why the file is not read; empty when it may be
+        qint64 changed = 0; ///< nanoseconds since the epoch
+        qint64 size = 0;
+        quint64 inode = 0;
+
+        bool operator==(const State &other) const;
+    };
+
+    struct Content
+    {
+        QString text;
+        QString error; ///< for the user, empty when the text is there
+    };
+
+    /// @param name without a directory
+    explicit RecordFile(const QString &name);
+
+    QString path() const { return m_path; }
+    State look() const;
+    Content read() const;
+
+private:
+    QString m_path;
+};

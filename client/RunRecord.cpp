@@ -1,0 +1,184 @@
+#include "RunRecord.h"
+
+#include <orda_base/SortOrder.h>
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QMap>
+#include <QPair>
+#include <QTime>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr int timeWidth = 19;
+constexpr int gapWidth = 4;
+constexpr int ipWidth = 16;
+constexpr int wideGapWidth = 16;
+
+// Where the module keeps its text for a device that was configured. No literals in the call: its own catalogue has it.
+constexpr char successContext[] = "orda_batchCfg::ParamsCfgTask";
+constexpr char successText[] = "success";
+
+QString blanks(int count)
+{
+    return {count, QLatin1Char(' ')};
+}
+
+int endOfBlanks(const QString &text, int from)
+{
+    while (from < text.size() && text.at(from) == QLatin1Char(' '))
+        ++from;
+    return from;
+}
+
+// The address in the column that begins at this place; empty for an empty column, nothing when no column begins there.
+std::optional<QString> addressAt(const QString &text, int place, bool anyWord)
+{
+    const QString word = text.mid(place, text.indexOf(QLatin1Char(' '), place) - place);
+    if (!word.isEmpty() && !anyWord && !orda_base::ipv4Number(word))
+        return {};
+    const int end = place + std::max(ipWidth, word.size()) + gapWidth;
+    if (endOfBlanks(text, place + word.size()) < end)
+        return {};
+    return word;
+}
+
+std::optional<RunEntry> parseAround(const QString &text, bool anyWord)
+{
+    const int serialNumber = timeWidth + gapWidth;
+    const QString gap = blanks(gapWidth);
+    for (int end = text.indexOf(gap, serialNumber); end >= 0; end = text.indexOf(gap, end + 1)) {
+        const std::optional<QString> ip = addressAt(text, end + gapWidth, anyWord);
+        if (!ip)
+            continue;
+        int message = end + gapWidth + std::max(ipWidth, ip->size()) + gapWidth;
+        if (ip->isEmpty()) {
+            // Serial numbers may end with blanks, messages do not begin with any.
+            const int surplus = endOfBlanks(text, message) - message;
+            if (surplus < wideGapWidth) {
+                end += surplus;
+                message += surplus;
+            }
+        }
+        const int messageEnd = text.indexOf(blanks(wideGapWidth), message);
+        if (messageEnd < 0)
+            return {};
+        RunEntry entry;
+        entry.outcome = RunEntry::Failed;
+        entry.time = text.left(timeWidth);
+        entry.serialNumber = text.mid(serialNumber, end - serialNumber);
+        entry.ip = *ip;
+        entry.message = text.mid(message, messageEnd - message);
+        entry.name = text.mid(messageEnd + wideGapWidth);
+        return entry;
+    }
+    return {};
+}
+
+// Whether a time and a gap begin at this place; a regular expression would look at the whole record each time.
+bool isTimeAt(const QString &text, int place)
+{
+    const QLatin1String pattern("0000-00-00 00:00:00    ");
+    if (place < 0 || text.size() - place < pattern.size())
+        return false;
+    for (int i = 0; i < pattern.size(); ++i) {
+        const QChar character = text.at(place + i);
+        const bool isDigit = character >= QLatin1Char('0') && character <= QLatin1Char('9');
+        if (pattern.at(i) == QLatin1Char('0') ? !isDigit : character != pattern.at(i))
+            return false;
+    }
+    return true;
+}
+
+bool hasOtherTime(const QString &text)
+{
+    const QString gap = blanks(gapWidth);
+    for (int end = text.indexOf(gap, timeWidth + 1); end >= 0; end = text.indexOf(gap, end + 1))
+        if (isTimeAt(text, end - timeWidth))
+            return true;
+    return false;
+}
+
+// An empty line alone ends no entry, a name may have one; the next entry's time must follow.
+int endOfEntry(const QString &text, int from)
+{
+    const QLatin1String emptyLine("\n\n");
+    for (int end = text.indexOf(emptyLine, from); end >= 0; end = text.indexOf(emptyLine, end + 1)) {
+        const int next = end + emptyLine.size();
+        if (isTimeAt(text, next))
+            return next;
+    }
+    // The last entry too ends with an empty line; what lies behind it was cut off.
+    const int last = text.endsWith(emptyLine) ? -1 : text.lastIndexOf(emptyLine);
+    return last > from ? last + emptyLine.size() : text.size();
+}
+
+bool isRealTime(const QString &text)
+{
+    return QDate::fromString(text.left(10), Qt::ISODate).isValid() && QTime::fromString(text.mid(11, 8)).isValid();
+}
+
+RunEntry parseEntry(const QString &text)
+{
+    RunEntry unreadable;
+    unreadable.message = text;
+    // A second time inside is another entry: the end of the first was never written.
+    if (!isTimeAt(text, 0) || !isRealTime(text) || hasOtherTime(text))
+        return unreadable;
+    // Addresses of other kinds, such as host names, are not told from serial numbers with gaps in them as safely.
+    const std::optional<RunEntry> entry = parseAround(text, false);
+    return entry ? *entry : parseAround(text, true).value_or(unreadable);
+}
+
+} // namespace
+
+bool RunEntry::operator==(const RunEntry &other) const
+{
+    return outcome == other.outcome && time == other.time && serialNumber == other.serialNumber && ip == other.ip
+        && message == other.message && name == other.name;
+}
+
+bool FailureGroup::has(const RunEntry &entry) const
+{
+    return entry.outcome == outcome && (outcome == RunEntry::Unreadable || entry.message == message);
+}
+
+QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &successTexts)
+{
+    QVector<RunEntry> entries;
+    for (int from = 0; from < text.size();) {
+        const int end = endOfEntry(text, from);
+        const int chopped = text.midRef(from, end - from).endsWith(QLatin1String("\n\n")) ? 2 : 0;
+        RunEntry entry = parseEntry(text.mid(from, end - from - chopped));
+        if (entry.outcome != RunEntry::Unreadable && successTexts.contains(entry.message))
+            entry.outcome = RunEntry::Succeeded;
+        entries.append(entry);
+        from = end;
+    }
+    return entries;
+}
+
+QStringList successTexts()
+{
+    return {QCoreApplication::translate(successContext, successText), QLatin1String(successText)};
+}
+
+QVector<FailureGroup> groupFailures(const QVector<RunEntry> &entries)
+{
+    QMap<QPair<RunEntry::Outcome, QString>, int> counts;
+    for (const RunEntry &entry : entries) {
+        if (entry.outcome == RunEntry::Failed)
+            ++counts[{entry.outcome, entry.message}];
+        else if (entry.outcome == RunEntry::Unreadable)
+            ++counts[{entry.outcome, QString()}];
+    }
+    QVector<FailureGroup> groups;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        groups.append({it.key().first, it.key().second, it.value()});
+    std::stable_sort(groups.begin(), groups.end(),
+                     [](const FailureGroup &group, const FailureGroup &other) { return group.count > other.count; });
+    return groups;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// The outcome of one device, as a run's record has it.
+struct RunEntry
+{
+    /// In the order in which an operator wants to see them.
+    enum Outcome
+    {
+        Failed,
+        Unreadable,
+        Succeeded
+    };
+
+    Outcome outcome = Unreadable;
+    QString time; ///< local, "yyyy-MM-dd hh:mm:ss"
+    QString serialNumber, ip, name; ///< any of them may be empty
+    QString message; ///< the result; of an unreadable entry its whole text, and the other fields are empty
+
+    bool operator==(const RunEntry &other) const;
+};
+
+/// Failures that have one message, or all entries that cannot be read.
+struct FailureGroup
+{
+    RunEntry::Outcome outcome = RunEntry::Failed; ///< never Succeeded
+    QString message; ///< empty for unreadable entries
+    int count = 0;
+
+    bool has(const RunEntry &entry) const;
+};
+
+/// Reads a record: one entry a device, in the order of the text. An entry is the time, the serial number, the IP
+/// address (16 characters wide, or wider when it is longer), the result and the device's name, with 4 blanks in between
+/// but 16 before the name, and ends with an empty line. The fields are free texts that may look like gaps themselves;
+/// the address, or the empty column where a device has none, tells where the others begin and end. What makes no sense
+/// is an unreadable entry: no text is dropped.
+/// @param successTexts results of devices that were configured; any other is a failure
+QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &successTexts);
+
+/// The module's text for a device that was configured: in the language of the window, and in English for records from
+/// before the language was changed.
+QStringList successTexts();
+
+/// The largest group first, equal ones by their message.
+QVector<FailureGroup> groupFailures(const QVector<RunEntry> &entries);

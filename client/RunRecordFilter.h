@@ -1,0 +1,36 @@
+#pragma once
+
+#include "RunRecord.h"
+
+#include <QSortFilterProxyModel>
+
+#include <optional>
+
+class RunRecordModel;
+
+/// The rows of a record that are looked at, in the order that is asked for.
+class RunRecordFilter : public QSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    /// @param model must outlive the filter
+    explicit RunRecordFilter(RunRecordModel *model, QObject *parent = nullptr);
+
+    /// What is left out: devices that were configured.
+    void setFailedOnly(bool failedOnly);
+    /// Only the failures of this group; nothing: whatever the message.
+    void setGroup(const std::optional<FailureGroup> &group);
+    /// Only rows with this text in their name, serial number, address or message, in capitals or not.
+    void setKeyword(const QString &keyword);
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
+    bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
+
+private:
+    RunRecordModel *m_model;
+    bool m_failedOnly = false;
+    std::optional<FailureGroup> m_group;
+    QString m_keyword;
+};

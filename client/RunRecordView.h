@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QTableView>
+
+/// The table in which a record is looked at, sorted by a click on a title.
+class RunRecordView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    /// @param record has the columns of RunRecordModel, and must outlive the view
+    explicit RunRecordView(QAbstractItemModel *record, QWidget *parent = nullptr);
+};

@@ -1,0 +1,193 @@
+#include "support/FamilyTable.h"
+#include "support/FormFixture.h"
+#include "support/OrdaTest.h"
+
+#include <onvif/OnvifParamsCfgPage.h>
+#include <orda_base/Theme.h>
+#include <orda_worker/AssistantSignals.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+/// What a screen reader says: the caption that labels the control, else its own name. A combo box has none of its own.
+QString spokenName(QWidget *widget)
+{
+    const QAccessibleInterface *access = QAccessible::queryAccessibleInterface(widget);
+    const auto labels = access->relations(QAccessible::Label);
+    if (!labels.isEmpty())
+        return labels.constFirst().first->text(QAccessible::Name);
+    return qobject_cast<QComboBox *>(widget) ? QString() : access->text(QAccessible::Name);
+}
+
+QList<QWidget *> shownControls(const QWidget *window)
+{
+    QList<QWidget *> controls;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        bool isControl = (widget->focusPolicy() & Qt::TabFocus) != 0;
+        for (const char *type : {"QAbstractButton", "QLineEdit", "QComboBox", "QAbstractSlider", "QAbstractSpinBox"})
+            isControl = isControl || (widget->inherits(type) && !widget->inherits("QScrollBar"));
+        if (isControl && widget->isVisible() && widget->isEnabled() && !widget->parent()->inherits("QAbstractSpinBox"))
+            controls.append(widget);
+    }
+    return controls;
+}
+
+void press(int key, QWidget *focus = QApplication::focusWidget())
+{
+    QTest::keyClick(focus, Qt::Key(key & ~Qt::KeyboardModifierMask), Qt::KeyboardModifiers(key & Qt::CTRL));
+}
+
+/// No request is answered.
+struct Form : FormFixture
+{
+    explicit Form(int devices)
+        : FormFixture(devices, [](const ScriptedTransport::Request &) { return QStringList(); })
+    {
+        QApplication::setActiveWindow(form);
+    }
+    QWidget *find(const QString &name) const { return form->findChild<QWidget *>(name); }
+};
+
+} // namespace
+
+/// The form without a mouse and without a screen: by keyboard, and as assistive technology sees it.
+class AccessTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { orda_base::Theme::apply(*qApp); }
+
+    void everyControlIsNamedAndReached_data();
+    void everyControlIsNamedAndReached();
+    void onlyConfigureConfigures_data();
+    void onlyConfigureConfigures();
+    void keysNavigateSearchAndTick();
+};
+
+void AccessTest::everyControlIsNamedAndReached_data()
+{
+    QTest::addColumn<FamilyRow>("family");
+    for (const FamilyRow &family : familyTable())
+        QTest::newRow(qPrintable(family.name)) << family;
+}
+
+void AccessTest::everyControlIsNamedAndReached()
+{
+    QFETCH(FamilyRow, family);
+    const Form f(3);
+    orda_batchCfg::OnvifParamsCfgPage onvif(nullptr);
+    QWidget *window = family.navigationKey.isEmpty() ? static_cast<QWidget *>(&onvif) : f.form;
+    if (window == f.form)
+        f.form->findChild<QAbstractButton *>(family.navigationKey)->click();
+    window->show();
+    const auto reports = window->findChildren<QWidget *>(QStringLiteral("reportBt"));
+    for (QWidget *report : reports) // as after a run
+        report->show();
+    QApplication::setActiveWindow(window);
+
+    QList<QWidget *> missing = shownControls(window);
+    QMap<QString, QString> names;
+    for (QWidget *control : qAsConst(missing)) {
+        const QString name = spokenName(control);
+        QVERIFY2(!name.trimmed().isEmpty(), qPrintable(control->objectName()));
+        QVERIFY2(!names.contains(name), qPrintable(name + QStringLiteral(": ") + names.value(name)));
+        names.insert(name, control->objectName());
+    }
+
+    // Once around as one reads: the columns from left to right, each row by row.
+    const QRect pages = f.form->findChild<QStackedWidget *>()->geometry();
+    const auto columnOf = [&](int x) { return window == f.form ? (x > pages.left()) + (x > pages.right()) : 0; };
+    const auto isRead = [&](const QWidget *before, const QWidget *after) {
+        const QPoint from = before->mapTo(window, before->rect().center());
+        const QPoint to = after->mapTo(window, after->rect().center());
+        const bool isInRow = qAbs(to.y() - from.y()) < 8;
+        return columnOf(to.x()) > columnOf(from.x())
+            || (columnOf(to.x()) == columnOf(from.x()) && (isInRow ? to.x() > from.x() : to.y() > from.y()));
+    };
+    if (window->focusWidget())
+        window->focusWidget()->clearFocus();
+    press(Qt::Key_Tab, window);
+    const QWidget *first = window->focusWidget();
+    for (QWidget *before = nullptr; missing.removeOne(window->focusWidget()); press(Qt::Key_Tab, before)) {
+        QVERIFY2(!before || isRead(before, window->focusWidget()), qPrintable(spokenName(window->focusWidget())));
+        before = window->focusWidget();
+    }
+    QCOMPARE(window->focusWidget(), first); // no control keeps the focus
+    for (QWidget *control : qAsConst(missing)) // the icons in a line are for the mouse
+        QVERIFY2(qobject_cast<QLineEdit *>(control->parent()), qPrintable(spokenName(control)));
+}
+
+void AccessTest::onlyConfigureConfigures_data()
+{
+    QTest::addColumn<QString>("focus");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("times");
+    for (const char *elsewhere : {"audioInVolumeParam", "BitWideParam", "audioEnable", "devsTableWt", "searchBox"}) {
+        QTest::addRow("Return in %s", elsewhere) << QString::fromLatin1(elsewhere) << int(Qt::Key_Return) << 0;
+        QTest::addRow("Ctrl+Return in %s", elsewhere)
+            << QString::fromLatin1(elsewhere) << int(Qt::CTRL + Qt::Key_Return) << 1;
+    }
+    for (const int key : {int(Qt::Key_Return), int(Qt::Key_Space), int(Qt::CTRL + Qt::Key_Return)})
+        QTest::addRow("%x on Configure", key) << QStringLiteral("okBt") << key << 1;
+}
+
+void AccessTest::onlyConfigureConfigures()
+{
+    QFETCH(QString, focus);
+    QFETCH(int, key);
+    QFETCH(int, times);
+    QDialog dialog; // a client may show the form in one, where Return presses buttons of its own accord
+    const Form f(1);
+    (new QVBoxLayout(&dialog))->addWidget(f.form);
+    f.form->findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    // No device is ticked: each press of Configure is answered by this alert.
+    QSignalSpy alerts(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalMessageAlerted);
+    auto *widget = f.page("audioParametersPage")->findChild<QWidget *>(focus);
+    (widget ? widget : f.find(focus))->setFocus();
+    press(key);
+    QCOMPARE(alerts.count(), times);
+    QVERIFY(!f.form->findChild<QAbstractButton *>(QStringLiteral("audioSwitch"))->isChecked());
+}
+
+void AccessTest::keysNavigateSearchAndTick()
+{
+    const Form f(12);
+    f.find(QStringLiteral("audio_video_param"))->setFocus();
+    for (const int key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Return}) // folds its entries away, goes on, opens
+        press(key);
+    QVERIFY(f.page("imageParametersPage")->isVisible());
+
+    press(Qt::CTRL + Qt::Key_F);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("cam 1"));
+    f.table()->setCurrentCell(10, 2); // any column
+    f.table()->setFocus();
+    press(Qt::Key_Space);
+    QCOMPARE(f.form->checkedDevIds(), QStringList{QStringLiteral("dev10")});
+    f.table()->selectAll(); // hidden rows too
+    press(Qt::Key_Space);
+    press(Qt::CTRL + Qt::Key_F);
+    press(Qt::Key_Escape);
+    QCOMPARE(f.column(0).size(), 12);
+    QCOMPARE(f.form->checkedDevIds().size(), 3);
+    f.table()->setCurrentCell(1, 0);
+    f.table()->setFocus();
+    press(Qt::Key_Space); // once, where Qt ticks by itself too
+    QCOMPARE(f.form->checkedDevIds(), (QStringList{QStringLiteral("dev10"), QStringLiteral("dev11")}));
+    f.find(QStringLiteral("devSn"))->setFocus();
+    press(Qt::Key_Space);
+    QCOMPARE(f.column(2).at(2), QStringLiteral("SN10")); // before SN2
+}
+
+ORDA_TEST_MAIN(AccessTest)
+#include "access_test.moc"

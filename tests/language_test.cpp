@@ -1,0 +1,195 @@
+#include "support/FamilyTable.h"
+#include "support/FormFixture.h"
+#include "support/OrdaTest.h"
+
+#include <orda_base/ComboBox.h>
+#include <orda_base/NavigationButton.h>
+#include <orda_base/Theme.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QJsonArray>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTranslator>
+#include <QtMath>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+/// A device that knows every key a page can write, so that every editor's value reaches the wire.
+QStringList knowsAll(const ScriptedTransport::Request &request)
+{
+    static const QJsonObject results = QJsonDocument::fromJson(R"({
+        "stream_get_params": {"streams": [{"streamid": 0}, {"streamid": 1}]},
+        "image_get_adjust_param": {"flip": ""}, "image_get_dncut_param": {"lightmode": ""},
+        "image_get_expertsetting_param": {"expertmode": ""},
+        "chnosd_get_param": {"bShowOSD": true, "timeFormat": "", "timePos": "", "channelName": "", "position": "",
+                             "bLargeOSD": true}})")
+                                           .object();
+    return {answer(request.method(), results.value(request.method()).toObject())};
+}
+
+void dismissDialogs()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        if (auto *dialog = qobject_cast<QDialog *>(window))
+            dialog->reject();
+}
+
+/// What the page sends with everything ticked, once for each choice of its combos.
+QStringList sentBy(const FamilyRow &family)
+{
+    const FormFixture f(1, knowsAll);
+    f.tickAll();
+    const QWidget *page = f.form->findChild<QWidget *>(family.pageName);
+    if (auto *name = page->findChild<QLineEdit *>(QStringLiteral("nameParam")))
+        name->setText(QStringLiteral("Gate 1")); // what stands there at first is a text of the language
+    const auto combos = page->findChildren<QComboBox *>();
+    int choices = 1;
+    for (const QComboBox *combo : combos)
+        choices = qMax(choices, combo->count());
+    for (int choice = 0; choice < choices; ++choice) {
+        for (QComboBox *combo : combos)
+            combo->setCurrentIndex(qMin(choice, combo->count() - 1));
+        f.configure(family.navigationKey, family.pageName);
+        dismissDialogs();
+    }
+    QStringList texts;
+    for (const ScriptedTransport::Request &request : qAsConst(f.transport->requests))
+        texts.append(request.text);
+    return texts;
+}
+
+/// Every text four tenths longer, by a word.
+class Lengthened : public QTranslator
+{
+    Q_OBJECT
+
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        return text + QLatin1Char(' ') + QString(qCeil(text.size() * 0.4) - 1, QLatin1Char('n'));
+    }
+};
+
+} // namespace
+
+/// The languages of the window: what they must not change, and whether their texts have room.
+class LanguageTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { orda_base::Theme::apply(*qApp); }
+    void wireIsTheSameInEveryLanguage_data();
+    void wireIsTheSameInEveryLanguage();
+    void longerTextsAreNotCutOff_data() { addFamilies({}); }
+    void longerTextsAreNotCutOff();
+
+private:
+    static void addFamilies(const QStringList &languages);
+};
+
+void LanguageTest::addFamilies(const QStringList &languages)
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("language");
+    for (const FamilyRow &family : familyTable()) {
+        if (family.navigationKey.isEmpty())
+            continue;
+        for (const QString &language : languages)
+            QTest::addRow("%s, %s", qPrintable(family.name), qPrintable(language)) << family.name << language;
+        if (languages.isEmpty())
+            QTest::addRow("%s", qPrintable(family.name)) << family.name << QString();
+    }
+}
+
+void LanguageTest::wireIsTheSameInEveryLanguage_data()
+{
+    addFamilies({QStringLiteral("de"), QStringLiteral("zh_CN")});
+}
+
+void LanguageTest::wireIsTheSameInEveryLanguage()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, language);
+    const FamilyRow family = familyRow(name);
+    const QStringList inEnglish = sentBy(family);
+    QVERIFY(inEnglish.size() >= 2);
+
+    std::vector<std::unique_ptr<QTranslator>> translators;
+    for (const char *part : {"batchCfg", "clientlibs"}) {
+        translators.push_back(std::make_unique<QTranslator>());
+        QVERIFY(translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(QLatin1String(part), language)));
+        QCoreApplication::installTranslator(translators.back().get());
+    }
+    QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != QLatin1String("success"));
+    QCOMPARE(sentBy(family), inEnglish);
+}
+
+void LanguageTest::longerTextsAreNotCutOff()
+{
+    QFETCH(QString, name);
+    const FamilyRow family = familyRow(name);
+    Lengthened lengthened;
+    QCoreApplication::installTranslator(&lengthened);
+    const FormFixture f(3, knowsAll);
+    f.form->findChild<QAbstractButton *>(family.navigationKey)->click();
+    f.form->resize(f.form->minimumSizeHint());
+    QApplication::processEvents();
+
+    QVERIFY2(f.form->width() <= 1920, "the form does not fit on a screen");
+    const auto combos = f.form->findChildren<orda_base::ComboBox *>();
+    for (orda_base::ComboBox *combo : combos) {
+        for (int item = 0; item < combo->count() && combo->isVisible(); ++item) {
+            combo->setCurrentIndex(item);
+            QHelpEvent help(QEvent::ToolTip, {}, {});
+            QCoreApplication::sendEvent(combo, &help);
+            QVERIFY2(combo->isTextWhole() || combo->toolTip() == combo->currentText(),
+                     qPrintable(combo->currentText()));
+        }
+    }
+    // A choice may have shown more editors, for which the window widens.
+    auto *area = f.form->findChild<QWidget *>(family.pageName)->findChild<QScrollArea *>();
+    QTRY_COMPARE(area->visibleRegion().boundingRect().width(), area->width());
+    QTRY_COMPARE(area->horizontalScrollBar()->maximum(), 0);
+
+    int looked = 0;
+    const auto widgets = f.form->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        const QString text = label ? label->text() : button ? button->text() : QString();
+        if (text.isEmpty() || !widget->isVisible())
+            continue;
+        ++looked;
+        if (const auto *entry = qobject_cast<const orda_base::NavigationButton *>(widget)) {
+            QVERIFY2(entry->isTextWhole(), qPrintable(text));
+            continue;
+        }
+        QVERIFY2(widget->width() >= widget->sizeHint().width() && widget->height() >= widget->sizeHint().height(),
+                 qPrintable(QStringLiteral("%1 \"%2\"").arg(widget->objectName(), text)));
+        if (area->isAncestorOf(widget))
+            area->ensureWidgetVisible(widget, 0, 0);
+        QVERIFY2(widget->visibleRegion().boundingRect().width() == widget->width(), qPrintable(text));
+    }
+    QVERIFY(looked > 10);
+    const QHeaderView *header = f.table()->horizontalHeader();
+    for (int column = 0; column < header->count(); ++column)
+        QVERIFY(header->sectionSize(column) >= header->sectionSizeHint(column));
+}
+
+ORDA_TEST_MAIN(LanguageTest)
+
+#include "language_test.moc"

@@ -1,0 +1,168 @@
+#include "support/FamilyTable.h"
+#include "support/FormFixture.h"
+#include "support/OrdaTest.h"
+
+#include <orda_base/NavigationButton.h>
+#include <orda_base/Theme.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QHash>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOptionButton>
+
+#include <cmath>
+
+using orda_base::Theme;
+
+namespace {
+
+constexpr double wanted = 4.5; // WCAG 2.1, 1.4.3, for text of ordinary size
+constexpr int scale = 3; // so that the strokes of a letter are wider than their smooth edges
+constexpr int border = 3;
+
+double luminance(QRgb colour)
+{
+    const auto linear = [](int value) {
+        const double part = value / 255.0;
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+}
+
+double contrast(QRgb one, QRgb other)
+{
+    const double first = luminance(one) + 0.05;
+    const double second = luminance(other) + 0.05;
+    return std::max(first / second, second / first);
+}
+
+QImage pictureOf(QWidget *window)
+{
+    QImage image(window->size() * scale, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    window->render(&image);
+    return image;
+}
+
+/// Of what is drawn in a part of a picture: the colour that most of it has, against the one that differs most.
+double contrastIn(const QImage &picture, const QRect &rect)
+{
+    const QImage image = picture.copy(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale);
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    QRgb ground = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        if (it.value() > counts.value(ground))
+            ground = it.key();
+    double best = 1;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        best = std::max(best, contrast(it.key(), ground));
+    return best;
+}
+
+/// Where a widget's text stands, without frame, mark and icon; empty when it shows none.
+QRect textRect(const QWidget *widget)
+{
+    if (const auto *box = qobject_cast<const QCheckBox *>(widget)) {
+        QStyleOptionButton option;
+        option.initFrom(box);
+        return box->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, box);
+    }
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    const auto *combo = qobject_cast<const QComboBox *>(widget);
+    const auto *edit = qobject_cast<const QLineEdit *>(widget);
+    if (qobject_cast<const orda_base::NavigationButton *>(button))
+        return widget->rect().adjusted(48, border, -36, -border);
+    const bool hasText = button ? !button->text().isEmpty()
+                       : label  ? !label->text().isEmpty()
+                       : combo  ? combo->count() > 0
+                                : edit && !(edit->text() + edit->placeholderText()).isEmpty();
+    return hasText ? widget->rect().adjusted(border, border, combo || edit ? -30 : -border, -border) : QRect();
+}
+
+} // namespace
+
+/// The theme, light and dark, on all pages: whether its texts can be read.
+class ThemeTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void followsThePalette();
+    void textsCanBeRead_data();
+    void textsCanBeRead();
+};
+
+void ThemeTest::followsThePalette()
+{
+    const auto isDark = [] { return QApplication::palette().color(QPalette::Window).lightness() < 128; };
+    QApplication::setPalette(QPalette(Qt::black));
+    Theme::apply(*qApp);
+    QVERIFY(isDark());
+    QApplication::setPalette(QPalette(Qt::lightGray));
+    Theme::apply(*qApp);
+    QVERIFY(!isDark());
+}
+
+void ThemeTest::textsCanBeRead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<bool>("enabled");
+    for (const FamilyRow &family : familyTable()) {
+        if (family.navigationKey.isEmpty())
+            continue;
+        for (const int scheme : {Theme::Light, Theme::Dark})
+            for (const bool enabled : {true, false})
+                QTest::addRow("%s, %s, %s", qPrintable(family.name), scheme == Theme::Dark ? "dark" : "light",
+                              enabled ? "enabled" : "disabled")
+                    << family.name << scheme << enabled;
+    }
+}
+
+void ThemeTest::textsCanBeRead()
+{
+    QFETCH(QString, name);
+    QFETCH(int, scheme);
+    QFETCH(bool, enabled);
+    Theme::apply(*qApp, Theme::Scheme(scheme));
+    const FormFixture f(3, [](const ScriptedTransport::Request &) { return QStringList(); });
+    f.form->findChild<QAbstractButton *>(familyRow(name).navigationKey)->click();
+    f.form->setEnabled(enabled);
+    f.form->resize(1500, 850);
+    QApplication::processEvents();
+
+    QImage picture = pictureOf(f.form);
+    int looked = 0;
+    const auto check = [&](const QRect &rect, const QString &what) {
+        ++looked;
+        const double found = contrastIn(picture, rect);
+        QVERIFY2(found >= wanted, qPrintable(QStringLiteral("%1 has %2").arg(what).arg(found)));
+    };
+    const auto widgets = f.form->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const QRect rect = textRect(widget);
+        if (rect.isEmpty() || !widget->isVisible())
+            continue;
+        check({widget->mapTo(f.form, rect.topLeft()), rect.size()}, widget->objectName());
+        if (QTest::currentTestFailed())
+            return;
+    }
+    f.table()->selectRow(1);
+    picture = pictureOf(f.form);
+    for (int row = 0; row < 3; ++row) {
+        const QRect cell = f.table()->visualItemRect(f.table()->item(row, 1));
+        check({f.table()->viewport()->mapTo(f.form, cell.topLeft()), cell.size()}, QStringLiteral("row %1").arg(row));
+    }
+    QVERIFY(looked > 20);
+}
+
+ORDA_TEST_MAIN(ThemeTest)
+
+#include "theme_test.moc"
