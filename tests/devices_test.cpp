@@ -290,7 +290,7 @@ private slots:
         m_transport->setDevices(devices);
         QTRY_VERIFY(dials > 5);
         for (const DevInfo &device : qAsConst(devices))
-            QCOMPARE(m_states[device.id].mid(0, 2), States({DevConnecting, DevOffline}));
+            QTRY_COMPARE(m_states[device.id].mid(0, 2), States({DevConnecting, DevOffline}));
     }
 
     void devicesThatAreTakenAwayAreNotDialledInTheGoing()

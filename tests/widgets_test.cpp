@@ -22,6 +22,7 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -74,6 +75,7 @@ private slots:
     void cellsSortAsPeopleRead();
     void orderNumbersTouchOnlyWhatChanges();
     void overlayLetsNothingThrough();
+    void overlayAnnouncesAtTheSpeedOfSpeech();
     void overlayDiesWithItsParent();
     void tableHidesTheRowsThatAPlainOneHides();
     void dialogAnswersOnce_data();
@@ -200,6 +202,20 @@ void WidgetsTest::overlayLetsNothingThrough()
     QCOMPARE(shortcuts.count(), 1);
 }
 
+void WidgetsTest::overlayAnnouncesAtTheSpeedOfSpeech()
+{
+    QWidget window;
+    window.show();
+    orda_base::DisabledWaitingWt overlay(&window, QStringLiteral("0"));
+    overlay.show();
+    for (int i = 1; i <= 20; ++i) {
+        overlay.updateDescription(QString::number(i));
+        QTRY_COMPARE(overlay.findChild<QLabel *>()->text(), QString::number(i));
+        QCOMPARE(overlay.accessibleName(), QStringLiteral("0")); // seen, but not yet said
+    }
+    QTRY_COMPARE(overlay.accessibleName(), QStringLiteral("20"));
+}
+
 void WidgetsTest::overlayDiesWithItsParent()
 {
     auto window = std::make_unique<QWidget>();
@@ -233,6 +249,13 @@ void WidgetsTest::dialogAnswersOnce_data()
         },
         {1});
     row("Return takes the first", [](QDialog *d) { QTest::keyClick(d, Qt::Key_Return); }, {0});
+    row("a held Return does not",
+        [](QDialog *d) {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(d->focusWidget(), &held);
+            d->reject();
+        },
+        {1});
     row("Esc counts as the last", [](QDialog *d) { QTest::keyClick(d, Qt::Key_Escape); }, {1});
     row("closing counts as the last", [](QDialog *d) { d->close(); }, {1});
     row("its window is deleted", [](QDialog *d) { delete d->parentWidget(); }, {});

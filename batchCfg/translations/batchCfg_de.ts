@@ -55,6 +55,14 @@
         <source>Audio Parameters Configuration Result</source>
         <translation>Ergebnis der Konfiguration: Audio-Parameter</translation>
     </message>
+    <message>
+        <source>Audio In Volume, number</source>
+        <translation>Lautstärke Audioeingang, Zahl</translation>
+    </message>
+    <message>
+        <source>Alarm Out Volume, number</source>
+        <translation>Lautstärke Alarmausgang, Zahl</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::AudioParamsCfgTask</name>
@@ -140,6 +148,22 @@
     <message>
         <source>OSD Parameters</source>
         <translation>OSD-Parameter</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation>Alle Geräte</translation>
+    </message>
+    <message>
+        <source>Press Space to sort the devices by this column</source>
+        <translation>Die Leertaste sortiert die Geräte nach dieser Spalte</translation>
+    </message>
+    <message>
+        <source>Space ticks and unticks the selected devices</source>
+        <translation>Die Leertaste wählt die markierten Geräte aus und ab</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
     </message>
 </context>
 <context>
@@ -503,6 +527,14 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>All parameters</source>
+        <translation>Alle Parameter</translation>
+    </message>
+    <message>
+        <source>Configure %1</source>
+        <translation>%1 konfigurieren</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::ParamsCfgTask</name>
@@ -713,6 +745,10 @@
         <source>Video Parameters Configuration Result</source>
         <translation>Ergebnis der Konfiguration: Video-Parameter</translation>
     </message>
+    <message>
+        <source>All streams</source>
+        <translation>Alle Streams</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::VideoParamsCfgTask</name>
@@ -790,6 +826,11 @@
     <message>
         <source>SD Stream</source>
         <translation>SD-Stream</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>stream, parameter</comment>
+        <translation>%1, %2</translation>
     </message>
 </context>
 </TS>

@@ -55,6 +55,14 @@
         <source>Audio Parameters Configuration Result</source>
         <translation>音频参数配置结果</translation>
     </message>
+    <message>
+        <source>Audio In Volume, number</source>
+        <translation>音频输入音量，数值</translation>
+    </message>
+    <message>
+        <source>Alarm Out Volume, number</source>
+        <translation>报警输出音量，数值</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::AudioParamsCfgTask</name>
@@ -140,6 +148,22 @@
     <message>
         <source>OSD Parameters</source>
         <translation>OSD 参数</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation>所有设备</translation>
+    </message>
+    <message>
+        <source>Press Space to sort the devices by this column</source>
+        <translation>按空格键按此列对设备排序</translation>
+    </message>
+    <message>
+        <source>Space ticks and unticks the selected devices</source>
+        <translation>按空格键勾选或取消勾选所选设备</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>编号</translation>
     </message>
 </context>
 <context>
@@ -503,6 +527,14 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>All parameters</source>
+        <translation>所有参数</translation>
+    </message>
+    <message>
+        <source>Configure %1</source>
+        <translation>配置 %1</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::ParamsCfgTask</name>
@@ -713,6 +745,10 @@
         <source>Video Parameters Configuration Result</source>
         <translation>视频参数配置结果</translation>
     </message>
+    <message>
+        <source>All streams</source>
+        <translation>所有码流</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::VideoParamsCfgTask</name>
@@ -790,6 +826,11 @@
     <message>
         <source>SD Stream</source>
         <translation>标清码流</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>stream, parameter</comment>
+        <translation>%1，%2</translation>
     </message>
 </context>
 </TS>

@@ -166,6 +166,213 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>State</source>
         <translation>Zustand</translation>
     </message>
+    <message>
+        <source>&amp;Last run</source>
+        <translation>&amp;Letzter Lauf</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Lauf</translation>
+    </message>
+    <message>
+        <source>Lists the outcome of each device, and ticks the failed ones again</source>
+        <translation>Zeigt das Ergebnis jedes Geräts und wählt die fehlgeschlagenen wieder aus</translation>
+    </message>
+</context>
+<context>
+    <name>CsvFile</name>
+    <message>
+        <source>cannot write the file %1: %2</source>
+        <translation>Datei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FailedDevices</name>
+    <message>
+        <source>its entry in the record cannot be read</source>
+        <translation>sein Eintrag im Protokoll ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>it has no serial number</source>
+        <translation>es hat keine Seriennummer</translation>
+    </message>
+    <message>
+        <source>several devices of the run have its serial number</source>
+        <translation>mehrere Geräte des Laufs haben seine Seriennummer</translation>
+    </message>
+    <message>
+        <source>it is not in the list now: off line, or not to be configured</source>
+        <translation>es steht jetzt nicht in der Liste: offline oder nicht konfigurierbar</translation>
+    </message>
+    <message>
+        <source>several devices in the list have its serial number</source>
+        <translation>mehrere Geräte der Liste haben seine Seriennummer</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FailureGroupList</name>
+    <message>
+        <source>All devices</source>
+        <translation>Alle Geräte</translation>
+    </message>
+    <message>
+        <source>Unreadable entries</source>
+        <translation>Unlesbare Einträge</translation>
+    </message>
+</context>
+<context>
+    <name>LastRunWindow</name>
+    <message>
+        <source>Last run</source>
+        <translation>Letzter Lauf</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Failed only</source>
+        <translation>Nur fehlgeschlagene</translation>
+    </message>
+    <message>
+        <source>Searches names, serial numbers, addresses and messages (%1)</source>
+        <translation>Sucht in Namen, Seriennummern, Adressen und Meldungen (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Parameters:</source>
+        <translation>&amp;Parameter:</translation>
+    </message>
+    <message>
+        <source>S&amp;how:</source>
+        <translation>&amp;Anzeigen:</translation>
+    </message>
+    <message>
+        <source>Failures by message</source>
+        <translation>Fehler nach Meldung</translation>
+    </message>
+    <message>
+        <source>Failures by &amp;message</source>
+        <translation>Fehler nach &amp;Meldung</translation>
+    </message>
+    <message>
+        <source>Devices of the run</source>
+        <translation>Geräte des Laufs</translation>
+    </message>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>Fehlgeschlagene Geräte, die nicht ausgewählt sind</translation>
+    </message>
+    <message>
+        <source>&amp;Tick failed again</source>
+        <translation>&amp;Fehlgeschlagene wieder auswählen</translation>
+    </message>
+    <message>
+        <source>Ticks exactly the failed devices of this run in the device list, and opens the page</source>
+        <translation>Wählt genau die fehlgeschlagenen Geräte dieses Laufs in der Geräteliste aus und öffnet die Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV…</source>
+        <translation>CSV &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Saves the rows that are shown, in their order, for a spreadsheet</source>
+        <translation>Speichert die angezeigten Zeilen in ihrer Reihenfolge für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Devices: %1</source>
+        <translation>Geräte: %1</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1</source>
+        <translation>Erfolgreich: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Unreadable: %1</source>
+        <translation>Unlesbar: %1</translation>
+    </message>
+    <message>
+        <source>No run yet. Tick devices and parameters in the form and press Configure; the outcome of each device is then listed here.</source>
+        <translation>Noch kein Lauf. Wählen Sie im Formular Geräte und Parameter und drücken Sie Konfigurieren; das Ergebnis jedes Geräts steht dann hier.</translation>
+    </message>
+    <message>
+        <source>The record %1 is gone. The next run writes it again.</source>
+        <translation>Das Protokoll %1 ist nicht mehr da. Der nächste Lauf schreibt es neu.</translation>
+    </message>
+    <message>
+        <source>The record %1 is not read: %2. Move it away; the next run writes a new one.</source>
+        <translation>Das Protokoll %1 wird nicht gelesen: %2. Verschieben Sie es; der nächste Lauf schreibt ein neues.</translation>
+    </message>
+    <message>
+        <source>The run has no result yet.</source>
+        <translation>Der Lauf hat noch kein Ergebnis.</translation>
+    </message>
+    <message>
+        <source>No device failed.</source>
+        <translation>Kein Gerät ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>No device of this run fits the search and the choice beside it.</source>
+        <translation>Kein Gerät dieses Laufs passt zur Suche und zur Auswahl daneben.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Ticked %1 of %2 failed devices in the device list.</source>
+        <translation>%1 von %2 fehlgeschlagenen Geräten in der Geräteliste ausgewählt.</translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>Nicht ausgewählt:</translation>
+    </message>
+    <message>
+        <source>Export CSV</source>
+        <translation>CSV exportieren</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv);;All files (*)</source>
+        <translation>Kommagetrennte Werte (*.csv);;Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>RecordFile</name>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>es ist ein symbolischer Link</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>es gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>it has more than one name</source>
+        <translation>es hat mehr als einen Namen</translation>
+    </message>
+    <message>
+        <source>it is too large for a record</source>
+        <translation>es ist zu groß für ein Protokoll</translation>
+    </message>
 </context>
 <context>
     <name>RunDriver</name>
@@ -196,6 +403,45 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>cannot write the picture %1</source>
         <translation>Bild %1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>RunRecordModel</name>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Unreadable</source>
+        <translation>Unlesbar</translation>
+    </message>
+    <message>
+        <source>Succeeded</source>
+        <translation>Erfolgreich</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
     </message>
 </context>
 <context>

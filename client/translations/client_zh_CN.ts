@@ -166,6 +166,213 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>State</source>
         <translation>状态</translation>
     </message>
+    <message>
+        <source>&amp;Last run</source>
+        <translation>上次运行(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>运行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Lists the outcome of each device, and ticks the failed ones again</source>
+        <translation>列出每台设备的结果，并可重新勾选失败的设备</translation>
+    </message>
+</context>
+<context>
+    <name>CsvFile</name>
+    <message>
+        <source>cannot write the file %1: %2</source>
+        <translation>无法写入文件 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FailedDevices</name>
+    <message>
+        <source>its entry in the record cannot be read</source>
+        <translation>无法读取其在记录中的条目</translation>
+    </message>
+    <message>
+        <source>it has no serial number</source>
+        <translation>它没有序列号</translation>
+    </message>
+    <message>
+        <source>several devices of the run have its serial number</source>
+        <translation>本次运行中有多台设备使用其序列号</translation>
+    </message>
+    <message>
+        <source>it is not in the list now: off line, or not to be configured</source>
+        <translation>它现在不在列表中：离线或不可配置</translation>
+    </message>
+    <message>
+        <source>several devices in the list have its serial number</source>
+        <translation>列表中有多台设备使用其序列号</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FailureGroupList</name>
+    <message>
+        <source>All devices</source>
+        <translation>所有设备</translation>
+    </message>
+    <message>
+        <source>Unreadable entries</source>
+        <translation>无法读取的条目</translation>
+    </message>
+</context>
+<context>
+    <name>LastRunWindow</name>
+    <message>
+        <source>Last run</source>
+        <translation>上次运行</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Failed only</source>
+        <translation>仅失败</translation>
+    </message>
+    <message>
+        <source>Searches names, serial numbers, addresses and messages (%1)</source>
+        <translation>搜索名称、序列号、地址和消息 (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Parameters:</source>
+        <translation>参数(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>S&amp;how:</source>
+        <translation>显示(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>Failures by message</source>
+        <translation>按消息分组的失败</translation>
+    </message>
+    <message>
+        <source>Failures by &amp;message</source>
+        <translation>按消息分组的失败(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Devices of the run</source>
+        <translation>本次运行的设备</translation>
+    </message>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>未勾选的失败设备</translation>
+    </message>
+    <message>
+        <source>&amp;Tick failed again</source>
+        <translation>重新勾选失败的设备(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Ticks exactly the failed devices of this run in the device list, and opens the page</source>
+        <translation>在设备列表中只勾选本次运行失败的设备，并打开相应页面</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV…</source>
+        <translation>导出 CSV(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Saves the rows that are shown, in their order, for a spreadsheet</source>
+        <translation>按当前顺序保存显示的行，供电子表格使用</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Devices: %1</source>
+        <translation>设备：%1</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1</source>
+        <translation>成功：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>Unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>No run yet. Tick devices and parameters in the form and press Configure; the outcome of each device is then listed here.</source>
+        <translation>尚无运行。请在表单中勾选设备和参数并按“配置”；随后此处将列出每台设备的结果。</translation>
+    </message>
+    <message>
+        <source>The record %1 is gone. The next run writes it again.</source>
+        <translation>记录 %1 已不存在。下次运行会重新写入。</translation>
+    </message>
+    <message>
+        <source>The record %1 is not read: %2. Move it away; the next run writes a new one.</source>
+        <translation>未读取记录 %1：%2。请将其移走；下次运行会写入新的记录。</translation>
+    </message>
+    <message>
+        <source>The run has no result yet.</source>
+        <translation>本次运行尚无结果。</translation>
+    </message>
+    <message>
+        <source>No device failed.</source>
+        <translation>没有失败的设备。</translation>
+    </message>
+    <message>
+        <source>No device of this run fits the search and the choice beside it.</source>
+        <translation>本次运行中没有符合搜索和筛选条件的设备。</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Ticked %1 of %2 failed devices in the device list.</source>
+        <translation>已在设备列表中勾选 %2 台失败设备中的 %1 台。</translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>未勾选：</translation>
+    </message>
+    <message>
+        <source>Export CSV</source>
+        <translation>导出 CSV</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv);;All files (*)</source>
+        <translation>逗号分隔值 (*.csv);;所有文件 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>RecordFile</name>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>它是符号链接</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>它属于其他用户</translation>
+    </message>
+    <message>
+        <source>it has more than one name</source>
+        <translation>它有多个名称</translation>
+    </message>
+    <message>
+        <source>it is too large for a record</source>
+        <translation>它过大，不像是记录</translation>
+    </message>
 </context>
 <context>
     <name>RunDriver</name>
@@ -196,6 +403,45 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>cannot write the picture %1</source>
         <translation>无法写入图片 %1</translation>
+    </message>
+</context>
+<context>
+    <name>RunRecordModel</name>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Unreadable</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>Succeeded</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
     </message>
 </context>
 <context>

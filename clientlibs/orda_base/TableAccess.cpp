@@ -272,10 +272,9 @@ QAccessibleInterface *TableAccess::child(int number) const
 QAccessibleInterface *TableAccess::header(Qt::Orientation orientation, int section) const
 {
     const int number = orientation == Qt::Horizontal ? section + 1 : (section + 1) * (columnCount() + 1);
-    QAccessible::Id &id = m_headers[number];
-    if (id == 0)
-        id = QAccessible::registerAccessibleInterface(new Header(m_view, orientation, section));
-    return QAccessible::accessibleInterface(id);
+    if (!m_headers.contains(number))
+        m_headers.insert(number, QAccessible::registerAccessibleInterface(new Header(m_view, orientation, section)));
+    return QAccessible::accessibleInterface(m_headers.value(number));
 }
 
 QAccessibleInterface *TableAccess::cellAt(int row, int column) const
@@ -283,10 +282,9 @@ QAccessibleInterface *TableAccess::cellAt(int row, int column) const
     const QModelIndex index = m_view->model()->index(row, column);
     if (!index.isValid())
         return nullptr;
-    QAccessible::Id &id = m_cells[index];
-    if (id == 0)
-        id = QAccessible::registerAccessibleInterface(new Cell(m_view, index));
-    return QAccessible::accessibleInterface(id);
+    if (!m_cells.contains(index))
+        m_cells.insert(index, QAccessible::registerAccessibleInterface(new Cell(m_view, index)));
+    return QAccessible::accessibleInterface(m_cells.value(index));
 }
 
 QAccessibleInterface *TableAccess::childAt(int x, int y) const

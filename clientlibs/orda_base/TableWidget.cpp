@@ -31,9 +31,15 @@ TableWidget::TableWidget(QWidget *parent)
 void TableWidget::focusInEvent(QFocusEvent *event)
 {
     XCOMMON::XTableWidget::focusInEvent(event);
-    const bool isByKey = event->reason() != Qt::MouseFocusReason && event->reason() != Qt::PopupFocusReason;
-    if (isByKey && currentIndex().isValid() && !selectionModel()->hasSelection())
-        selectRow(currentIndex().row()); // else nothing would show where the keys go
+    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::PopupFocusReason)
+        return;
+    // Else nothing would show where the keys go.
+    int row = qMax(0, currentRow());
+    if (row < rowCount() && isRowHidden(row))
+        for (row = 0; row < rowCount() && isRowHidden(row);)
+            ++row;
+    if (row < rowCount() && (row != currentRow() || !selectionModel()->hasSelection()))
+        selectRow(row);
 }
 
 } // namespace orda_base

@@ -1,6 +1,7 @@
 #include "orda_worker/EventDialog.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVariant>
@@ -40,6 +41,7 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
         button->setMinimumWidth(buttonWidth);
         button->setProperty(i == 0 ? "common_bt_style1" : "common_bt_style2", true);
         button->setDefault(i == 0);
+        button->installEventFilter(this);
         connect(button, &QPushButton::clicked, this, [this, i] {
             m_answer = i;
             accept();
@@ -60,6 +62,13 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
         if (!std::exchange(m_isAnswered, true)) // a button may be clicked again before the dialog is deleted
             emit signalAnswered(m_answer);
     });
+}
+
+bool EventDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    // Return held down on the button that has led here is no answer.
+    const bool isKey = event->type() == QEvent::KeyPress;
+    return (isKey && static_cast<QKeyEvent *>(event)->isAutoRepeat()) || QDialog::eventFilter(watched, event);
 }
 
 } // namespace orda_worker

@@ -16,6 +16,9 @@ signals:
     /// Once, for the button that was clicked; for the last one when the dialog was closed without.
     void signalAnswered(int button);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     int m_answer;
     bool m_isAnswered = false;

@@ -119,10 +119,25 @@
     </message>
 </context>
 <context>
+    <name>orda_base::NavigationWidget</name>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+</context>
+<context>
     <name>orda_base::SearchBox</name>
     <message>
         <source>Search</source>
         <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Start search</source>
+        <translation>Suche starten</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>Suche leeren</translation>
     </message>
 </context>
 </TS>

@@ -119,10 +119,25 @@
     </message>
 </context>
 <context>
+    <name>orda_base::NavigationWidget</name>
+    <message>
+        <source>Navigation</source>
+        <translation>导航</translation>
+    </message>
+</context>
+<context>
     <name>orda_base::SearchBox</name>
     <message>
         <source>Search</source>
         <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Start search</source>
+        <translation>开始搜索</translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation>清除搜索</translation>
     </message>
 </context>
 </TS>
