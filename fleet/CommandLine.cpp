@@ -1,7 +1,5 @@
 #include "CommandLine.h"
 
-#include <QCoreApplication>
-
 #include <cstdio>
 #include <cstdlib>
 
@@ -9,9 +7,9 @@ namespace device_fleet {
 
 QString parseCommandLine(QCommandLineParser &parser, const QStringList &arguments)
 {
-    // Not addHelpOption(): that offers --help-all too, which only process() obeys.
+    // Not addHelpOption(): that offers --help-all too, which only process() obeys. Its text has Qt's own translations.
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QCoreApplication::translate("CommandLine", "Print this help."));
+                                  QCommandLineParser::tr("Displays help on commandline options."));
     parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     if (!parser.parse(arguments))

@@ -24,7 +24,7 @@ configure() {
 # configure_and_build SOURCE NAME [CMAKE OPTION…]
 configure_and_build() {
   configure "$@"
-  cmake --build "$scratch/$2" --parallel >"$scratch/$2.log" 2>&1 || { cat "$scratch/$2.log"; fail "$2 cannot be built"; }
+  nice cmake --build "$scratch/$2" --parallel "$(nproc)" >"$scratch/$2.log" 2>&1 || { cat "$scratch/$2.log"; fail "$2 cannot be built"; }
 }
 
 # exports_only_the_entry LIBRARY

@@ -33,6 +33,15 @@ public:
     QHash<QString, QJsonValue> volumes; // as the devices were told to set them; each reports 1
 };
 
+void pressConfigure(const QWidget *form)
+{
+    form->findChild<QAbstractButton *>("audio_param")->click(); // a navigation key
+    form->findChild<QAbstractButton *>("selAll")->click();
+    const auto *page = form->findChild<QWidget *>("audioParametersPage");
+    page->findChild<QAbstractButton *>("okBt")->click(); // comes back when the run is over
+    QCoreApplication::quit();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -61,21 +70,16 @@ int main(int argc, char *argv[])
     QObject::connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, &app,
                      [&summary](const orda_worker::EventConfirmInfo &info) { summary = info.text; });
     const auto *table = form->findChild<QTableWidget *>("devsTableWt");
-    QObject::connect(table->model(), &QAbstractItemModel::rowsInserted, &app, [&] {
-        if (table->rowCount() == cameras.size())
-            QTimer::singleShot(0, form.get(), [&form] { // the row is filled after it has been inserted
-                form->findChild<QAbstractButton *>("audio_param")->click(); // a navigation key
-                form->findChild<QAbstractButton *>("selAll")->click();
-                const auto *page = form->findChild<QWidget *>("audioParametersPage");
-                page->findChild<QAbstractButton *>("okBt")->click(); // comes back when the run is over
-                QCoreApplication::quit();
-            });
-    });
+    QObject::connect(table->model(), &QAbstractItemModel::rowsInserted, form.get(),
+                     [form = form.get(), count = cameras.size()](const QModelIndex &, int, int last) {
+                         if (last + 1 == count) // the row is filled after it has been inserted
+                             QTimer::singleShot(0, form, [form] { pressConfigure(form); });
+                     });
     QTimer::singleShot(20'000, &app, [] { QCoreApplication::exit(1); });
     const bool inTime = QApplication::exec() == 0;
 
     const bool isDone = inTime && summary.contains(QLatin1String("success:3, failure:0")) && site->volumes.size() == 3
-                     && !site->volumes.values().contains(QJsonValue(1));
+                     && site->volumes.key(1).isEmpty();
     qInfo("%s", isDone ? qPrintable(summary) : "the devices were not configured");
     return isDone ? 0 : 1;
 }
