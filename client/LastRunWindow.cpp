@@ -374,8 +374,8 @@ void LastRunWindow::tickFailedAgain()
 
     const QLocale locale;
     const int failed = ticked.count + ticked.left.size();
-    QString text = tr("Ticked %1 of %Ln failed device(s) in the device list.", nullptr, failed)
-                       .arg(locale.toString(ticked.count));
+    QString text =
+        tr("Ticked %1 of %Ln failed device(s) in the device list.", nullptr, failed).arg(locale.toString(ticked.count));
     if (ticked.isSearchCleared)
         text += QLatin1Char(' ') + tr("The list's search was cleared: it hid some of them.");
     if (!ticked.left.isEmpty())
