@@ -46,7 +46,7 @@ ClientOptions parseOptions(const QStringList &arguments)
         ClientOptions::tr("Language of the window, such as \"en\"; the system's when not given."),
         QStringLiteral("CODE"));
     const QCommandLineOption theme(QStringLiteral("theme"),
-                                   ClientOptions::tr("\"light\" or \"dark\"; as the desktop is when not given."),
+                                   ClientOptions::tr(R"("light" or "dark"; as the desktop is when not given.)"),
                                    QStringLiteral("NAME"));
     const QCommandLineOption run(
         QStringLiteral("run"),
