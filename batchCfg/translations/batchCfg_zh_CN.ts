@@ -63,6 +63,26 @@
         <source>Alarm Out Volume, number</source>
         <translation>报警输出音量，数值</translation>
     </message>
+    <message>
+        <source>AudioParamsCfgPage</source>
+        <translation>AudioParamsCfgPage</translation>
+    </message>
+    <message>
+        <source>G711U</source>
+        <translation>G711U</translation>
+    </message>
+    <message>
+        <source>G711A</source>
+        <translation>G711A</translation>
+    </message>
+    <message>
+        <source>8000</source>
+        <translation>8000</translation>
+    </message>
+    <message>
+        <source>16bit</source>
+        <translation>16bit</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::AudioParamsCfgTask</name>
@@ -164,6 +184,10 @@
     <message>
         <source>Number</source>
         <translation>编号</translation>
+    </message>
+    <message>
+        <source>BatchCfgForm</source>
+        <translation>BatchCfgForm</translation>
     </message>
 </context>
 <context>
@@ -267,6 +291,10 @@
         <source>Image Parameters Configuration Result</source>
         <translation>图像参数配置结果</translation>
     </message>
+    <message>
+        <source>ImageParamsCfgPage</source>
+        <translation>ImageParamsCfgPage</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::ImageParamsCfgTask</name>
@@ -336,6 +364,10 @@
     <message>
         <source>Network Parameters Configuration Result</source>
         <translation>网络参数配置结果</translation>
+    </message>
+    <message>
+        <source>NetworkParamsCfgPage</source>
+        <translation>NetworkParamsCfgPage</translation>
     </message>
 </context>
 <context>
@@ -435,6 +467,22 @@
         <source>OSD Parameters Configuration Result</source>
         <translation>OSD参数配置结果</translation>
     </message>
+    <message>
+        <source>OSDParamsCfgPage</source>
+        <translation>OSDParamsCfgPage</translation>
+    </message>
+    <message>
+        <source>YYYY-MM-DD</source>
+        <translation>YYYY-MM-DD</translation>
+    </message>
+    <message>
+        <source>MM/DD/YYYY</source>
+        <translation>MM/DD/YYYY</translation>
+    </message>
+    <message>
+        <source>DD/MM/YYYY</source>
+        <translation>DD/MM/YYYY</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::OSDParamsCfgTask</name>
@@ -480,6 +528,10 @@
     <message>
         <source>Onvif Parameters Configuration Result</source>
         <translation>Onvif参数配置结果</translation>
+    </message>
+    <message>
+        <source>OnvifParamsCfgPage</source>
+        <translation>OnvifParamsCfgPage</translation>
     </message>
 </context>
 <context>
@@ -597,6 +649,18 @@
         <source>Platform 9100 Parameters Configuration Result</source>
         <translation>9100 平台参数配置结果</translation>
     </message>
+    <message>
+        <source>Platform9100ParamsCfgPage</source>
+        <translation>Platform9100ParamsCfgPage</translation>
+    </message>
+    <message>
+        <source>15030</source>
+        <translation>15030</translation>
+    </message>
+    <message>
+        <source>8081</source>
+        <translation>8081</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::Platform9100ParamsCfgTask</name>
@@ -658,6 +722,14 @@
     <message>
         <source>Platform Parameters Configuration Result</source>
         <translation>平台参数配置结果</translation>
+    </message>
+    <message>
+        <source>PlatformParamsCfgPage</source>
+        <translation>PlatformParamsCfgPage</translation>
+    </message>
+    <message>
+        <source>https://device.cloud.example.com:8443</source>
+        <translation>https://device.cloud.example.com:8443</translation>
     </message>
 </context>
 <context>
@@ -749,6 +821,10 @@
         <source>All streams</source>
         <translation>所有码流</translation>
     </message>
+    <message>
+        <source>VideoParamsCfgPage</source>
+        <translation>VideoParamsCfgPage</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::VideoParamsCfgTask</name>
@@ -831,6 +907,106 @@
         <source>%1, %2</source>
         <comment>stream, parameter</comment>
         <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>H264</source>
+        <translation>H264</translation>
+    </message>
+    <message>
+        <source>H265</source>
+        <translation>H265</translation>
+    </message>
+    <message>
+        <source>2560*1440</source>
+        <translation>2560*1440</translation>
+    </message>
+    <message>
+        <source>2304*1296</source>
+        <translation>2304*1296</translation>
+    </message>
+    <message>
+        <source>1920*1080</source>
+        <translation>1920*1080</translation>
+    </message>
+    <message>
+        <source>1280*960</source>
+        <translation>1280*960</translation>
+    </message>
+    <message>
+        <source>1280*720</source>
+        <translation>1280*720</translation>
+    </message>
+    <message>
+        <source>960*540</source>
+        <translation>960*540</translation>
+    </message>
+    <message>
+        <source>768*432</source>
+        <translation>768*432</translation>
+    </message>
+    <message>
+        <source>720*576</source>
+        <translation>720*576</translation>
+    </message>
+    <message>
+        <source>720*480</source>
+        <translation>720*480</translation>
+    </message>
+    <message>
+        <source>704*576</source>
+        <translation>704*576</translation>
+    </message>
+    <message>
+        <source>640*480</source>
+        <translation>640*480</translation>
+    </message>
+    <message>
+        <source>352*288</source>
+        <translation>352*288</translation>
+    </message>
+    <message>
+        <source>368*208</source>
+        <translation>368*208</translation>
+    </message>
+    <message>
+        <source>10</source>
+        <translation>10</translation>
+    </message>
+    <message>
+        <source>15</source>
+        <translation>15</translation>
+    </message>
+    <message>
+        <source>20</source>
+        <translation>20</translation>
+    </message>
+    <message>
+        <source>21</source>
+        <translation>21</translation>
+    </message>
+    <message>
+        <source>22</source>
+        <translation>22</translation>
+    </message>
+    <message>
+        <source>23</source>
+        <translation>23</translation>
+    </message>
+    <message>
+        <source>24</source>
+        <translation>24</translation>
+    </message>
+    <message>
+        <source>25</source>
+        <translation>25</translation>
+    </message>
+    <message>
+        <source>30</source>
+        <translation>30</translation>
+    </message>
+    <message>
+        <source> kbps</source>
+        <translation> kbps</translation>
     </message>
 </context>
 </TS>
