@@ -1,6 +1,7 @@
 #include "CsvFile.h"
 
 #include <QAbstractItemModel>
+#include <QRegularExpression>
 #include <QSaveFile>
 
 #include <functional>
@@ -9,11 +10,12 @@ namespace {
 
 QString cell(QString text)
 {
-    static const QString formulaStarts = QStringLiteral("=+-@\t\r\n");
-    if (!text.isEmpty() && formulaStarts.contains(text.front()))
-        text.prepend(QLatin1Char('\''));
+    // Nothing that a device calls itself becomes a formula, also where a spreadsheet splits cells in another way.
+    static const QRegularExpression formula(
+        QStringLiteral("(^|[;|\\t\\r\\n])(?=[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
+    text.replace(formula, QStringLiteral("\\1'"));
     const auto has = [&text](char character) { return text.contains(QLatin1Char(character)); };
-    if (has(',') || has('"') || has('\r') || has('\n'))
+    if (has(',') || has(';') || has('\t') || has('"') || has('\r') || has('\n'))
         text = QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
     return text;
 }

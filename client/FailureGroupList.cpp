@@ -45,7 +45,8 @@ void FailureGroupList::setEntries(const QVector<RunEntry> &entries)
 
 std::optional<FailureGroup> FailureGroupList::group() const
 {
-    const int row = currentRow();
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    const int row = selected.isEmpty() ? 0 : selected.constFirst().row();
     return row > 0 && row <= m_groups.size() ? std::make_optional(m_groups.at(row - 1)) : std::nullopt;
 }
 

@@ -2,11 +2,12 @@
 
 #include <orda_base/SortOrder.h>
 
-#include <QCoreApplication>
 #include <QDate>
+#include <QDir>
 #include <QMap>
 #include <QPair>
 #include <QTime>
+#include <QTranslator>
 
 #include <algorithm>
 #include <optional>
@@ -18,7 +19,7 @@ constexpr int gapWidth = 4;
 constexpr int ipWidth = 16;
 constexpr int wideGapWidth = 16;
 
-// Where the module keeps its text for a device that was configured. No literals in the call: its own catalogue has it.
+// Where the module keeps its text for a device that was configured.
 constexpr char successContext[] = "orda_batchCfg::ParamsCfgTask";
 constexpr char successText[] = "success";
 
@@ -163,7 +164,15 @@ QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &success
 
 QStringList successTexts()
 {
-    return {QCoreApplication::translate(successContext, successText), QLatin1String(successText)};
+    QStringList texts{QLatin1String(successText)};
+    const QString catalogues = QStringLiteral(":/translations");
+    const QStringList files = QDir(catalogues).entryList({QStringLiteral("batchCfg_*.qm")});
+    for (const QString &file : files) {
+        QTranslator catalogue;
+        if (catalogue.load(file, catalogues))
+            texts.append(catalogue.translate(successContext, successText));
+    }
+    return texts;
 }
 
 QVector<FailureGroup> groupFailures(const QVector<RunEntry> &entries)

@@ -41,8 +41,8 @@ struct FailureGroup
 /// @param successTexts results of devices that were configured; any other is a failure
 QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &successTexts);
 
-/// The module's text for a device that was configured: in the language of the window, and in English for records from
-/// before the language was changed.
+/// The module's text for a device that was configured, in all its languages: the record may be from before the window's
+/// was changed.
 QStringList successTexts();
 
 /// The largest group first, equal ones by their message.

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -111,9 +112,14 @@ void AccessTest::everyControlIsNamedAndReached()
         window->focusWidget()->clearFocus();
     press(Qt::Key_Tab, window);
     const QWidget *first = window->focusWidget();
+    QRect place; // of the control before, and how it looked with the focus
+    QImage focused;
     for (QWidget *before = nullptr; missing.removeOne(window->focusWidget()); press(Qt::Key_Tab, before)) {
         QVERIFY2(!before || isRead(before, window->focusWidget()), qPrintable(spokenName(window->focusWidget())));
+        QVERIFY2(!before || window->grab(place).toImage() != focused, "it shows no focus");
         before = window->focusWidget();
+        place = {before->mapTo(window, QPoint()), before->size()};
+        focused = window->grab(place).toImage();
     }
     QCOMPARE(window->focusWidget(), first); // no control keeps the focus
     for (QWidget *control : qAsConst(missing)) // the icons in a line are for the mouse
@@ -125,7 +131,8 @@ void AccessTest::onlyConfigureConfigures_data()
     QTest::addColumn<QString>("focus");
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("times");
-    for (const char *elsewhere : {"audioInVolumeParam", "BitWideParam", "audioEnable", "devsTableWt", "searchBox"}) {
+    for (const char *elsewhere :
+         {"audioInVolumeParam", "BitWideParam", "audioEnable", "devName", "devsTableWt", "searchBox"}) {
         QTest::addRow("Return in %s", elsewhere) << QString::fromLatin1(elsewhere) << int(Qt::Key_Return) << 0;
         QTest::addRow("Ctrl+Return in %s", elsewhere)
             << QString::fromLatin1(elsewhere) << int(Qt::CTRL + Qt::Key_Return) << 1;
@@ -141,7 +148,12 @@ void AccessTest::onlyConfigureConfigures()
     QFETCH(int, times);
     QDialog dialog; // a client may show the form in one, where Return presses buttons of its own accord
     const FormFixture f(1, silent);
-    (new QVBoxLayout(&dialog))->addWidget(f.form);
+    QPushButton theirs;
+    theirs.setDefault(true);
+    const QSignalSpy foreign(&theirs, &QAbstractButton::clicked);
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(f.form);
+    layout->addWidget(&theirs);
     f.form->findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
     dialog.show();
     QApplication::setActiveWindow(&dialog);
@@ -150,6 +162,7 @@ void AccessTest::onlyConfigureConfigures()
     f.page(qPrintable(focus))->setFocus();
     press(key);
     QCOMPARE(alerts.count(), times);
+    QVERIFY(foreign.isEmpty() || focus == QLatin1String("devsTableWt")); // which has no use for Return
     QVERIFY(!f.form->findChild<QAbstractButton *>(QStringLiteral("audioSwitch"))->isChecked());
 }
 
@@ -181,6 +194,12 @@ void AccessTest::keysNavigateSearchAndTick()
     f.table()->setFocus();
     press(Qt::Key_Space); // once, where Qt ticks by itself too
     QCOMPARE(f.form->checkedDevIds(), (QStringList{QStringLiteral("dev10"), QStringLiteral("dev11")}));
+    f.table()->selectAll();
+    QTest::mouseClick(f.table()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      f.table()->visualItemRect(f.table()->item(1, 1)).center()); // the current row, but not selected
+    press(Qt::Key_Space);
+    QCOMPARE(f.form->checkedDevIds().size(), 11);
+    QVERIFY(!f.form->checkedDevIds().contains(QStringLiteral("dev1")));
     f.page("devSn")->setFocus();
     press(Qt::Key_Space);
     QCOMPARE(f.column(2).at(2), QStringLiteral("SN10")); // before SN2

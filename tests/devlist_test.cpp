@@ -63,6 +63,7 @@ private slots:
     void contextMenuOpensTheDevice();
     void contextMenuSurvivesItsRowAndItsForm();
     void saysWhyItIsEmpty();
+    void saysWhyItIsEmptyWhereItIsSeen();
     void everyCallMakesAForm();
 };
 
@@ -306,6 +307,21 @@ void DevlistTest::saysWhyItIsEmpty()
     QTRY_COMPARE(hintText(), QString());
     store().setDevStatus(QStringLiteral("dev2"), vms_sdk::DevOffline);
     QTRY_COMPARE(hintText(), QStringLiteral("None of the"));
+    QCOMPARE(f.table()->accessibleDescription(), hint->text());
+}
+
+void DevlistTest::saysWhyItIsEmptyWhereItIsSeen()
+{
+    const FormFixture f(200, silent);
+    f.table()->scrollToBottom();
+    f.form->hide();
+    f.searchEdit()->setText(QStringLiteral("nowhere"));
+    f.form->show();
+    const auto *hint = f.form->findChild<QLabel *>(QStringLiteral("emptyListHint"));
+    QTRY_VERIFY(hint->isVisible());
+    QCOMPARE(hint->geometry(), f.table()->viewport()->rect());
+    f.searchEdit()->clear();
+    QTRY_VERIFY(!hint->isVisible() && f.table()->accessibleDescription() != hint->text());
 }
 
 void DevlistTest::everyCallMakesAForm()

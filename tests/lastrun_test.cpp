@@ -104,6 +104,7 @@ private slots:
     void recordIsReadWhateverItsTextsHold();
     void recordOfDoubtfulOriginIsNotRead_data();
     void recordOfDoubtfulOriginIsNotRead();
+    void successIsKnownInEveryLanguage();
     void columnsSortAsPeopleReadThem();
     void failedDevicesAreConfiguredAtTheSecondTry();
 };
@@ -164,7 +165,7 @@ void LastRunTest::recordIsReadWhateverItsTextsHold()
 void LastRunTest::recordOfDoubtfulOriginIsNotRead_data()
 {
     QTest::addColumn<QString>("said");
-    for (const char *what : {"symbolic link", "not a regular file", "more than one name"})
+    for (const char *what : {"symbolic link", "not a regular file", "more than one name", "too large", "another user"})
         QTest::newRow(what) << QString::fromLatin1(what);
 }
 
@@ -179,12 +180,25 @@ void LastRunTest::recordOfDoubtfulOriginIsNotRead()
         QVERIFY(QFile::remove(recordPath()) && ::mkfifo(path.constData(), 0600) == 0);
     else if (said == QLatin1String("symbolic link"))
         QVERIFY(QFile::rename(recordPath(), elsewhere) && QFile::link(elsewhere, recordPath()));
-    else
+    else if (said == QLatin1String("too large"))
+        QVERIFY(QFile::resize(recordPath(), qint64(1) << 32));
+    else if (said == QLatin1String("another user")) {
+        if (::geteuid() != 0)
+            QSKIP("only root can give a file away");
+        QVERIFY(::chown(path.constData(), 65534, 65534) == 0);
+    } else
         QVERIFY(::link(path.constData(), QFile::encodeName(elsewhere).constData()) == 0);
 
     const Client client;
     QCOMPARE(client.shown()->rowCount(), 0);
     QVERIFY(child<QLabel>(client.lastRun(), "empty")->text().contains(said));
+}
+
+void LastRunTest::successIsKnownInEveryLanguage()
+{
+    const QStringList texts = successTexts();
+    for (const char *text : {"success", "erfolgreich", "成功"})
+        QVERIFY2(texts.contains(QString::fromUtf8(text)), text);
 }
 
 void LastRunTest::columnsSortAsPeopleReadThem()
@@ -209,7 +223,7 @@ void LastRunTest::failedDevicesAreConfiguredAtTheSecondTry()
     EmbeddedFleet fleet(options);
     QCOMPARE(fleet.start(), QString());
     QList<vms_sdk::DevInfo> devices = fleet.inventory();
-    devices[1].name = QStringLiteral("=1+\"1\", north");
+    devices[1].name = QStringLiteral("=1+\"1\";=2, north");
     const Client client;
     orda_data::DevsMgrData::instance().updateDevs(devices);
     auto *list = child<QTableWidget>(client.window, "devsTableWt");
@@ -266,7 +280,7 @@ void LastRunTest::failedDevicesAreConfiguredAtTheSecondTry()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString row = column(shown, 4).constFirst() + QStringLiteral(",Failed to get audio in parameters(-1)\r\n");
     QCOMPARE(file.readAll(), QStringLiteral("\uFEFFOutcome,Name,Serial number,IP address,Time,Message\r\n"
-                                            "Failed,\"'=1+\"\"1\"\", north\",%1,%2,%3")
+                                            "Failed,\"'=1+\"\"1\"\";'=2, north\",%1,%2,%3")
                                  .arg(devices.at(1).serialNumber, devices.at(1).ip, row)
                                  .toUtf8());
 

@@ -229,12 +229,14 @@ bool ParamsCfgPage::eventFilter(QObject *watched, QEvent *event)
 
 void ParamsCfgPage::keyPressEvent(QKeyEvent *event)
 {
-    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    auto *button = qobject_cast<QPushButton *>(focusWidget());
-    if (isReturn && button && !event->isAutoRepeat())
-        button->click(); // the page may be gone afterwards: nothing may follow
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QWidget::keyPressEvent(event);
+        return;
+    }
+    // It goes no further: a dialog around the form would press a button of its own.
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (button && !event->isAutoRepeat())
+        button->click(); // the page may be gone afterwards: nothing may follow
 }
 
 bool ParamsCfgPage::focusNextPrevChild(bool next)

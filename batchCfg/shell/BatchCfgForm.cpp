@@ -161,8 +161,9 @@ void BatchCfgForm::initShortcuts()
         connect(shortcut, &QShortcut::activated, this, action);
     };
     add(QKeySequence::Find, [this] {
-        m_ui->searchBox->setFocus(Qt::ShortcutFocusReason);
-        m_ui->searchBox->findChild<QLineEdit *>()->selectAll();
+        auto *edit = m_ui->searchBox->findChild<QLineEdit *>();
+        edit->setFocus(Qt::ShortcutFocusReason);
+        edit->selectAll();
     });
     const auto configure = [this] {
         m_ui->stackedWidget->currentWidget()->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
@@ -292,11 +293,14 @@ QStringList BatchCfgForm::checkedDevIds() const
 
 bool BatchCfgForm::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonRelease || isPressByKey(event)) {
+    const bool isKey = isPressByKey(event);
+    if (event->type() == QEvent::MouseButtonRelease || isKey) {
         const int column = m_headerSortWidgets.indexOf(qobject_cast<QWidget *>(watched));
         if (column >= Name) {
             m_ui->devsTableWt->sortItems(column, Qt::AscendingOrder);
             orda_base::BaseTools::instance().updateTableOrderNum(m_ui->devsTableWt, 1);
+            if (isKey)
+                return true; // a dialog around the form would press a button of its own
         }
     }
     return orda_base::BaseForm::eventFilter(watched, event);

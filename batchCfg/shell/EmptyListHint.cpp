@@ -32,6 +32,7 @@ EmptyListHint::EmptyListHint(QTableWidget *table, const orda_base::SearchBox *se
     : QLabel(table->viewport())
     , m_table(table)
     , m_searchBox(searchBox)
+    , m_description(table->accessibleDescription())
 {
     setObjectName(QStringLiteral("emptyListHint"));
     setAlignment(Qt::AlignCenter);
@@ -61,16 +62,19 @@ EmptyListHint::EmptyListHint(QTableWidget *table, const orda_base::SearchBox *se
 bool EmptyListHint::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize)
-        resize(parentWidget()->size());
+        setGeometry(parentWidget()->rect());
     return QLabel::eventFilter(watched, event);
 }
 
 void EmptyListHint::follow()
 {
     const bool isEmpty = !hasVisibleRow(m_table);
-    if (isEmpty)
+    if (isEmpty) {
         setText(reason());
+        setGeometry(parentWidget()->rect()); // scrolling the list has moved it along
+    }
     setVisible(isEmpty);
+    m_table->setAccessibleDescription(isEmpty ? text() : m_description);
 }
 
 QString EmptyListHint::reason() const
@@ -82,8 +86,9 @@ QString EmptyListHint::reason() const
         return tr("There are no devices yet.");
     if (store.getAllDevs(true).isEmpty())
         return tr("No device is on line. Devices appear here as soon as they are.");
-    return tr("None of the devices on line can be configured from here: it takes a camera or a recorder that is "
-              "reached directly, with an IP address or a strong password.");
+    return tr(
+        "None of the devices on line can be configured from here: it takes a camera or a recorder that is "
+        "reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.");
 }
 
 } // namespace orda_batchCfg

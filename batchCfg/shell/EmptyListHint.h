@@ -13,7 +13,8 @@ class SearchBox;
 
 namespace orda_batchCfg {
 
-/// Says in the middle of the device list why no row of it can be seen; hidden while one can.
+/// Says in the middle of the device list, and to assistive technology, why no row of it can be seen; hidden while one
+/// can.
 class EmptyListHint : public QLabel
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ private:
 
     QTableWidget *m_table;
     const orda_base::SearchBox *m_searchBox;
+    QString m_description; // the table's, for assistive technology, while it has rows
     QTimer m_soon; // devices come and go by the thousand
 };
 

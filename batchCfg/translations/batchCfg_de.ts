@@ -178,10 +178,6 @@
         <translation>Die Leertaste sortiert die Geräte nach dieser Spalte</translation>
     </message>
     <message>
-        <source>Space ticks and unticks the selected devices</source>
-        <translation>Die Leertaste wählt die markierten Geräte aus und ab</translation>
-    </message>
-    <message>
         <source>Number</source>
         <translation>Nummer</translation>
     </message>
@@ -205,8 +201,8 @@
         <translation>Kein Gerät ist online. Sobald Geräte online sind, erscheinen sie hier.</translation>
     </message>
     <message>
-        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address or a strong password.</source>
-        <translation>Keines der Geräte, die online sind, kann von hier aus konfiguriert werden: Es muss eine Kamera oder ein Rekorder sein, direkt erreichbar, mit einer IP-Adresse oder einem starken Passwort.</translation>
+        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
+        <translation>Keines der Geräte, die online sind, kann von hier aus konfiguriert werden: Es muss eine Kamera oder ein Rekorder sein, direkt erreichbar, mit einer IP-Adresse, einem nicht schwachen Passwort oder dem Recht daran beim Cloud-Dienst.</translation>
     </message>
 </context>
 <context>

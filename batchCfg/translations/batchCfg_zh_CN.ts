@@ -178,10 +178,6 @@
         <translation>按空格键按此列对设备排序</translation>
     </message>
     <message>
-        <source>Space ticks and unticks the selected devices</source>
-        <translation>按空格键勾选或取消勾选所选设备</translation>
-    </message>
-    <message>
         <source>Number</source>
         <translation>编号</translation>
     </message>
@@ -205,8 +201,8 @@
         <translation>没有设备在线。设备上线后会立即显示在此处。</translation>
     </message>
     <message>
-        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address or a strong password.</source>
-        <translation>在线设备均无法在此配置：需要可直接访问的摄像机或录像机，并具有 IP 地址或强密码。</translation>
+        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
+        <translation>在线设备均无法在此配置：需要可直接访问的摄像机或录像机，并具有 IP 地址、非弱密码或云服务上的操作权限。</translation>
     </message>
 </context>
 <context>

@@ -29,7 +29,6 @@ SearchBox::SearchBox(QWidget *parent)
     layout->addWidget(m_edit);
     connect(m_edit, &QLineEdit::textChanged, this, &SearchBox::signalSearchByKeyword);
     const auto searchAgain = [this] { emit signalSearchByKeyword(m_edit->text()); };
-    connect(m_edit, &QLineEdit::returnPressed, this, searchAgain);
     connect(search, &QAction::triggered, this, searchAgain);
 }
 
@@ -48,13 +47,20 @@ QString SearchBox::text() const
 
 bool SearchBox::eventFilter(QObject *watched, QEvent *event)
 {
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (event->type() != QEvent::ShortcutOverride && !isPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
     // An empty line leaves Esc to the window, which may be a dialog that closes on it.
-    if ((event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) && !m_edit->text().isEmpty()
-        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        if (event->type() == QEvent::KeyPress)
+    if (key == Qt::Key_Escape && !m_edit->text().isEmpty()) {
+        if (isPress)
             m_edit->clear();
         event->accept();
         return true;
+    }
+    if (isPress && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        emit signalSearchByKeyword(m_edit->text());
+        return true; // a dialog around it would press a button of its own
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -192,7 +192,8 @@ public:
 private:
     bool isCheckable() const
     {
-        return (m_index.flags() & Qt::ItemIsUserCheckable) != 0 && m_index.data(Qt::CheckStateRole).isValid();
+        return (m_index.flags() & Qt::ItemIsUserCheckable) != 0 && m_index.data(Qt::CheckStateRole).isValid()
+            && !view()->isRowHidden(m_index.row());
     }
 
     QPersistentModelIndex m_index;
@@ -217,6 +218,8 @@ TableAccess::TableAccess(QTableView *view)
                   reportCheckStates(topLeft, bottomRight);
           }))
 {
+    m_forgetSoon.setSingleShot(true);
+    QObject::connect(&m_forgetSoon, &QTimer::timeout, &m_forgetSoon, [this] { forgetWhatIsGone(); });
 }
 
 TableAccess::~TableAccess()
@@ -360,8 +363,14 @@ bool TableAccess::isRowSelected(int row) const
 bool TableAccess::select(int row, bool selected)
 {
     const QModelIndex index = m_view->model()->index(row, 0);
-    if (!index.isValid() || m_view->isRowHidden(row))
+    const QAbstractItemView::SelectionMode mode = m_view->selectionMode();
+    if (!index.isValid() || m_view->isRowHidden(row) || mode == QAbstractItemView::NoSelection)
         return false;
+    if (mode == QAbstractItemView::SingleSelection) {
+        if (selected)
+            m_view->selectRow(row); // makes it the current one too
+        return selected;
+    }
     m_view->selectionModel()->select(index, (selected ? QItemSelectionModel::Select : QItemSelectionModel::Deselect)
                                                 | QItemSelectionModel::Rows);
     return true;
@@ -370,14 +379,27 @@ bool TableAccess::select(int row, bool selected)
 void TableAccess::modelChange(QAccessibleTableModelChangeEvent *event)
 {
     using Event = QAccessibleTableModelChangeEvent;
-    if (event->modelChangeType() != Event::RowsRemoved && event->modelChangeType() != Event::ModelReset)
-        return;
+    const bool isLess = event->modelChangeType() == Event::RowsRemoved || event->modelChangeType() == Event::ModelReset;
+    if (isLess && !m_forgetSoon.isActive())
+        m_forgetSoon.start(); // once for the thousands of rows that a site has when it goes off line
+}
+
+void TableAccess::forgetWhatIsGone()
+{
     for (auto cell = m_cells.begin(); cell != m_cells.end();) {
         if (cell.key().isValid()) {
             ++cell;
         } else {
             QAccessible::deleteAccessibleInterface(*cell);
             cell = m_cells.erase(cell);
+        }
+    }
+    for (auto bar = m_headers.begin(); bar != m_headers.end();) {
+        if (QAccessible::accessibleInterface(*bar)->isValid()) {
+            ++bar;
+        } else {
+            QAccessible::deleteAccessibleInterface(*bar);
+            bar = m_headers.erase(bar);
         }
     }
 }

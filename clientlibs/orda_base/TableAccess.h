@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QHash>
 #include <QPersistentModelIndex>
+#include <QTimer>
 
 QT_BEGIN_NAMESPACE
 class QTableView;
@@ -56,6 +57,7 @@ protected:
 private:
     bool select(int row, bool selected);
     QAccessibleInterface *header(Qt::Orientation orientation, int section) const;
+    void forgetWhatIsGone();
     void reportCheckStates(const QModelIndex &topLeft, const QModelIndex &bottomRight) const;
 
     QTableView *m_view;
@@ -63,6 +65,7 @@ private:
     // What has been asked for; the cells move with their rows.
     mutable QHash<QPersistentModelIndex, QAccessible::Id> m_cells;
     mutable QHash<int, QAccessible::Id> m_headers; ///< by child number
+    QTimer m_forgetSoon;
 };
 
 } // namespace orda_base

@@ -57,6 +57,7 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
         m_all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         setVisibleRows(checked);
     });
+    table->setAccessibleDescription(tr("Space ticks and unticks the selected rows"));
     table->installEventFilter(this);
     table->viewport()->installEventFilter(this);
     alignHeader();
@@ -89,11 +90,8 @@ void TableOperWtStyle::toggleSelectedRows()
     const QModelIndexList selected = m_table->selectionModel()->selectedRows();
     for (const QModelIndex &index : selected)
         add(index.row());
-    if (!m_table->selectionModel()->isRowSelected(m_table->currentRow(), QModelIndex())) {
-        items.clear(); // the keys have moved on without selecting
-        areAllChecked = true;
-        add(m_table->currentRow());
-    }
+    if (items.isEmpty())
+        add(m_table->currentRow()); // the keys move without selecting, with Ctrl
     m_isTickingAll = true;
     for (QTableWidgetItem *item : qAsConst(items))
         item->setCheckState(areAllChecked ? Qt::Unchecked : Qt::Checked);

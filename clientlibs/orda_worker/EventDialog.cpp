@@ -66,9 +66,15 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
 
 bool EventDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    // Return held down on the button that has led here is no answer.
-    const bool isKey = event->type() == QEvent::KeyPress;
-    return (isKey && static_cast<QKeyEvent *>(event)->isAutoRepeat()) || QDialog::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress) {
+        // A key held down on the button that has led here is no answer.
+        const auto *key = static_cast<QKeyEvent *>(event);
+        const bool isAnswer =
+            key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter || key->key() == Qt::Key_Space;
+        if (isAnswer && key->isAutoRepeat())
+            return true;
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 } // namespace orda_worker

@@ -140,4 +140,11 @@
         <translation>Suche leeren</translation>
     </message>
 </context>
+<context>
+    <name>orda_base::TableOperWtStyle</name>
+    <message>
+        <source>Space ticks and unticks the selected rows</source>
+        <translation>Die Leertaste wählt die markierten Zeilen aus und ab</translation>
+    </message>
+</context>
 </TS>

@@ -140,4 +140,11 @@
         <translation>清除搜索</translation>
     </message>
 </context>
+<context>
+    <name>orda_base::TableOperWtStyle</name>
+    <message>
+        <source>Space ticks and unticks the selected rows</source>
+        <translation>按空格键勾选或取消勾选所选行</translation>
+    </message>
+</context>
 </TS>
