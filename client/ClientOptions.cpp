@@ -13,6 +13,16 @@ QString familyList()
     return familyNames().join(QStringLiteral(", "));
 }
 
+QStringList idsIn(const QString &list)
+{
+    QStringList ids = list.split(QLatin1Char(','));
+    for (QString &id : ids)
+        id = id.trimmed();
+    ids.removeAll({});
+    ids.removeDuplicates();
+    return ids;
+}
+
 // 127.0.0.0/8 has room for more, the process's descriptors have not.
 constexpr int maxDemoDevices = 100000;
 
@@ -72,7 +82,7 @@ ClientOptions parseOptions(const QStringList &arguments)
     options.family = parser.value(run);
     options.screenshotsDir = parser.value(screenshots);
     if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all"))
-        options.deviceIds = parser.value(devices).split(QLatin1Char(','), Qt::SkipEmptyParts);
+        options.deviceIds = idsIn(parser.value(devices));
 
     const auto fail = [&options](const QString &why) {
         options.error = why;
@@ -88,6 +98,8 @@ ClientOptions parseOptions(const QStringList &arguments)
                             .arg(QString::number(maxDemoDevices), parser.value(demo)));
         }
     }
+    if (parser.isSet(inventory) && options.inventoryFile.isEmpty())
+        return fail(ClientOptions::tr("--inventory takes a file"));
     if (parser.isSet(demo) && parser.isSet(inventory))
         return fail(ClientOptions::tr("--demo and --inventory exclude each other"));
     if (parser.isSet(faults) && !parser.isSet(demo))

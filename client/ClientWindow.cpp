@@ -1,6 +1,7 @@
 #include "ClientWindow.h"
 
 #include "ClientSession.h"
+#include "FailedDevices.h"
 #include "LastRunWindow.h"
 
 #include <orda_base/BaseForm.h>
@@ -18,7 +19,9 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
+#include <QTextDocument>
 #include <QTimer>
 #include <QToolButton>
 
@@ -65,7 +68,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     setCentralWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
     buildMenu();
     buildStatusBar();
-    resize(1500, 850);
+    resize(QSize(1500, 850).boundedTo(screen()->availableSize()));
 
     connect(session, &ClientSession::signalWarning, this, &ClientWindow::showLast);
     connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,
@@ -104,6 +107,8 @@ void ClientWindow::buildMenu()
 
 void ClientWindow::buildStatusBar()
 {
+    m_last->setTextFormat(Qt::PlainText); // devices' names
+    m_last->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(m_last, 1);
     // From the first run on; the summary keeps the focus.
     m_lastRunBt = new QToolButton(this);
@@ -138,13 +143,18 @@ void ClientWindow::buildStatusBar()
 
 void ClientWindow::openInventory()
 {
-    const QString file =
-        QFileDialog::getOpenFileName(this, tr("Open inventory"), {}, tr("Inventories (*.json);;All files (*)"));
-    if (file.isEmpty())
-        return;
-    const QString error = m_session->openInventory(file);
-    if (!error.isEmpty())
-        orda_worker::SystemAssistant::instance().messageAlert(tr("Open inventory"), error);
+    auto *dialog = new QFileDialog(this, tr("Open inventory"), {}, tr("Inventories (*.json);;All files (*)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &file) {
+        const QString error =
+            FailedDevices::isRunUnderWay(centralWidget())
+                ? tr("A run is going on over the devices of this inventory. Open another when it has ended.")
+                : m_session->openInventory(file);
+        if (!error.isEmpty())
+            orda_worker::SystemAssistant::instance().messageAlert(tr("Open inventory"), error);
+    });
+    dialog->open();
 }
 
 void ClientWindow::updateStatusBar()
@@ -159,7 +169,9 @@ void ClientWindow::updateStatusBar()
 
 void ClientWindow::showLast(const QString &text)
 {
-    m_last->setText(QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), text));
+    const QString line = QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), text);
+    m_last->setText(m_last->fontMetrics().elidedText(line, Qt::ElideRight, m_last->contentsRect().width()));
+    m_last->setToolTip(Qt::convertFromPlainText(line, Qt::WhiteSpaceNormal));
 }
 
 void ClientWindow::showLastRun()

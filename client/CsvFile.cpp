@@ -30,14 +30,18 @@ QString line(int columns, const std::function<QVariant(int column)> &value)
 
 } // namespace
 
-QString CsvFile::write(const QString &path, const QAbstractItemModel &table)
+QString CsvFile::text(const QAbstractItemModel &table)
 {
     const int columns = table.columnCount();
     QString text = QChar(QChar::ByteOrderMark);
     text += line(columns, [&table](int column) { return table.headerData(column, Qt::Horizontal); });
     for (int row = 0; row < table.rowCount(); ++row)
         text += line(columns, [&table, row](int column) { return table.index(row, column).data(Qt::EditRole); });
+    return text;
+}
 
+QString CsvFile::write(const QString &path, const QString &text)
+{
     QSaveFile file(path);
     const QByteArray bytes = text.toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())

@@ -13,9 +13,10 @@ class CsvFile
     Q_DECLARE_TR_FUNCTIONS(CsvFile)
 
 public:
-    /// Writes a table with its column titles, row by row as it stands (Qt::EditRole). A file of that name is replaced
-    /// only when the new one is whole. A cell that a spreadsheet would take for a formula gets an apostrophe in front:
-    /// names and messages are other people's texts.
+    /// A table with its column titles, row by row as it stands (Qt::EditRole). What a spreadsheet would take for a
+    /// formula gets an apostrophe in front: names and messages are other people's texts.
+    static QString text(const QAbstractItemModel &table);
+    /// A file of that name is replaced only when the new one is whole.
     /// @return an error for the user, empty when the file is written
-    static QString write(const QString &path, const QAbstractItemModel &table);
+    static QString write(const QString &path, const QString &text);
 };

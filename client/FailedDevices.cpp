@@ -33,9 +33,10 @@ QHash<QString, int> timesInRecord(const QVector<RunEntry> &entries)
 
 QString deviceText(const RunEntry &entry)
 {
-    QString text = entry.outcome == RunEntry::Unreadable ? entry.message
-                 : entry.name.isEmpty()                  ? entry.serialNumber
-                 : entry.serialNumber.isEmpty()          ? entry.name
+    QString text = entry.outcome == RunEntry::Unreadable                ? entry.message
+                 : entry.name.isEmpty() && entry.serialNumber.isEmpty() ? FailedDevices::tr("a device without a name")
+                 : entry.name.isEmpty()                                 ? entry.serialNumber
+                 : entry.serialNumber.isEmpty()                         ? entry.name
                                                 : QStringLiteral("%1 (%2)").arg(entry.name, entry.serialNumber);
     return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }

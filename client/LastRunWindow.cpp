@@ -19,10 +19,12 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -86,7 +88,7 @@ LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
     layout->addWidget(buildButtons());
     setCentralWidget(central);
     setKeys();
-    resize(windowSize);
+    resize(windowSize.boundedTo(screen()->availableSize()));
 
     m_lookAgain.setSingleShot(true);
     connect(&m_lookAgain, &QTimer::timeout, this, &LastRunWindow::lookAndFollow);
@@ -107,7 +109,7 @@ QWidget *LastRunWindow::buildTop()
     m_outcomes->addItems({tr("All"), tr("Failed only")});
     connect(m_outcomes, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int index) {
         m_filter->setFailedOnly(index > 0);
-        updateView();
+        showOthers();
     });
     m_search = new orda_base::SearchBox;
     m_search->setObjectName(QStringLiteral("recordSearch"));
@@ -115,7 +117,7 @@ QWidget *LastRunWindow::buildTop()
                              .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
-        updateView();
+        showOthers();
     });
 
     auto *choices = new QHBoxLayout;
@@ -140,7 +142,7 @@ QWidget *LastRunWindow::buildGroups()
     m_groups->setAccessibleName(tr("Failures by message"));
     connect(m_groups, &FailureGroupList::signalGroupChosen, this, [this] {
         m_filter->setGroup(m_groups->group());
-        updateView();
+        showOthers();
     });
 
     auto *groups = new QWidget;
@@ -217,6 +219,15 @@ void LastRunWindow::setKeys()
     auto *find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, m_search, [this] { m_search->setFocus(Qt::ShortcutFocusReason); });
     m_table->setFocus();
+}
+
+void LastRunWindow::keyPressEvent(QKeyEvent *event)
+{
+    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
+        button->click(); // as in the form
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void LastRunWindow::showEvent(QShowEvent *event)
@@ -308,8 +319,15 @@ void LastRunWindow::load()
     updateView();
 }
 
+void LastRunWindow::showOthers()
+{
+    updateView();
+    m_table->scrollToTop(); // where the failures are
+}
+
 void LastRunWindow::updateView()
 {
+    const bool isUnderWay = FailedDevices::isRunUnderWay(m_form);
     const QVector<RunEntry> &entries = m_model->entries();
     int counts[RunEntry::Succeeded + 1] = {};
     for (const RunEntry &entry : entries)
@@ -320,12 +338,14 @@ void LastRunWindow::updateView()
                       tr("Failed: %1").arg(locale.toString(counts[RunEntry::Failed]))};
     if (counts[RunEntry::Unreadable] > 0)
         texts.append(tr("Unreadable: %1").arg(locale.toString(counts[RunEntry::Unreadable])));
+    if (isUnderWay)
+        texts.append(tr("The run is still going on."));
     m_summary->setText(texts.join(QStringLiteral("   ")));
     m_summary->setVisible(!entries.isEmpty());
     m_empty->setText(emptyText());
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_export->setEnabled(m_filter->rowCount() > 0);
-    m_tickAgain->setEnabled(counts[RunEntry::Succeeded] < entries.size() && !FailedDevices::isRunUnderWay(m_form));
+    m_tickAgain->setEnabled(counts[RunEntry::Succeeded] < entries.size() && !isUnderWay);
 }
 
 QString LastRunWindow::emptyText() const
@@ -396,8 +416,9 @@ void LastRunWindow::exportCsv()
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("csv"));
     dialog->selectFile(name);
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
-        const QString error = CsvFile::write(path, *m_filter);
+    // What is shown now: the record may change while the dialog is open.
+    connect(dialog, &QFileDialog::fileSelected, this, [csv = CsvFile::text(*m_filter)](const QString &path) {
+        const QString error = CsvFile::write(path, csv);
         if (!error.isEmpty())
             orda_worker::SystemAssistant::instance().messageAlert(tr("Export CSV"), error);
     });

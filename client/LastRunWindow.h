@@ -36,6 +36,7 @@ public:
     explicit LastRunWindow(QWidget *form, QWidget *parent = nullptr);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -60,6 +61,7 @@ private:
     void listFamilies();
     void showFamily(int index);
     void load();
+    void showOthers(); ///< rows than before
     void updateView();
     QString emptyText() const;
     QString timeText() const;

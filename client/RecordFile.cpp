@@ -72,5 +72,5 @@ RecordFile::Content RecordFile::read() const
     const QByteArray bytes = file.read(maxSize);
     if (file.error() != QFileDevice::NoError)
         return fail(file.errorString());
-    return {QString::fromLocal8Bit(bytes), {}};
+    return {QString::fromLocal8Bit(bytes.constData(), bytes.size()), {}};
 }

@@ -46,6 +46,9 @@ bool Translations::install(const QString &language)
     const QString code = language.isEmpty() ? systemLanguage() : language;
     if (!languages().contains(code))
         return false;
+    const QLocale locale(code);
+    if (locale.language() != QLocale::system().language())
+        QLocale::setDefault(locale); // its numbers too
     // Qt's own texts, of its file dialog for one, where they are installed.
     load(QLibraryInfo::location(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_%1").arg(code));
     const QStringList files = filesOf(code);

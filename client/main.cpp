@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <memory>
 
 namespace {
 
@@ -92,8 +93,10 @@ int main(int argc, char *argv[])
     if (!error.isEmpty())
         return fail(error, ExitInput);
 
-    RunDriver driver(options, &window);
-    if (!options.family.isEmpty())
-        QTimer::singleShot(std::chrono::milliseconds(0), &driver, &RunDriver::start);
+    std::unique_ptr<RunDriver> driver; // it ends the program at an alert: only where no person could answer that
+    if (!options.family.isEmpty()) {
+        driver = std::make_unique<RunDriver>(options, &window);
+        QTimer::singleShot(std::chrono::milliseconds(0), driver.get(), &RunDriver::start);
+    }
     return QApplication::exec();
 }

@@ -123,6 +123,13 @@ def application():
     return None
 
 
+def answer(client, title, text, button):
+    dialog = find(client, "dialog", title)
+    find(dialog, "label", text)
+    act(find(dialog, "push button", button), "Press")
+    wait_for("answered dialog", lambda: not any(child.get_role_name() == "dialog" for child in descendants(client)))
+
+
 def configure_audio(client):
     window = find(client, "frame", "Batch Configuration")
     entry = find(window, "page tab", "Audio Parameters")
@@ -142,6 +149,9 @@ def configure_audio(client):
     number = find(page, "text", "Audio In Volume, number")
     wait_for("volume beside the slider", lambda: Atspi.Text.get_text(number, 0, -1) == "80")
 
+    act(configure, "Press")  # too early
+    answer(client, "Notice", "Please select the devices to be configured", "OK")
+
     devices = find(window, "table", "Online Device List")
     table = devices.get_table_iface()
     rows = wait_for("devices", lambda: table.get_n_rows() >= DEVICES // 2 and table.get_n_rows())
@@ -157,10 +167,8 @@ def configure_audio(client):
     wait_for("untick at All", lambda: not has(every, "CHECKED"))
 
     act(configure, "Press")
-    dialog = find(client, "dialog", "Audio Parameters Configuration Result")
-    find(dialog, "label", "A total of 2 devices have been configured, success:2, failure:0")
-    act(find(dialog, "push button", "Cancel"), "Press")
-    wait_for("answered dialog", lambda: not any(child.get_role_name() == "dialog" for child in descendants(client)))
+    answer(client, "Audio Parameters Configuration Result",
+           "A total of 2 devices have been configured, success:2, failure:0", "Cancel")
     find(page, "push button", "Report")
 
 

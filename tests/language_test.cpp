@@ -166,7 +166,7 @@ void LanguageTest::longerTextsAreNotCutOff()
     f.form->resize(f.form->minimumSizeHint());
     QApplication::processEvents();
 
-    QVERIFY2(f.form->width() <= 1920, "the form does not fit on a screen");
+    QVERIFY2(f.form->width() <= 1600, "the form does not fit on a screen");
     const auto combos = f.form->findChildren<orda_base::ComboBox *>();
     for (orda_base::ComboBox *combo : combos) {
         for (int item = 0; item < combo->count() && combo->isVisible(); ++item) {
@@ -182,10 +182,9 @@ void LanguageTest::longerTextsAreNotCutOff()
             QVERIFY2(needed <= room || combo->toolTip() == combo->currentText(), qPrintable(combo->currentText()));
         }
     }
-    // A choice may have shown more editors, for which the window widens.
+    // A choice may have shown more editors; what the window has no room for is scrolled.
     auto *area = f.form->findChild<QWidget *>(family.pageName)->findChild<QScrollArea *>();
-    QTRY_VERIFY(area->widget()->minimumSizeHint().width() <= area->viewport()->width()
-                && area->visibleRegion().boundingRect().width() == area->width());
+    QTRY_VERIFY(area->widget()->width() >= area->widget()->minimumSizeHint().width());
 
     int looked = 0;
     const auto widgets = f.form->findChildren<QWidget *>();
@@ -204,7 +203,7 @@ void LanguageTest::longerTextsAreNotCutOff()
                  qPrintable(QStringLiteral("%1 \"%2\"").arg(widget->objectName(), text)));
         if (area->isAncestorOf(widget))
             area->ensureWidgetVisible(widget, 0, 0);
-        QVERIFY2(widget->visibleRegion().boundingRect().width() == widget->width(), qPrintable(text));
+        QVERIFY2(widget->visibleRegion().boundingRect().width() >= widget->sizeHint().width(), qPrintable(text));
     }
     QVERIFY(looked > 10);
 }

@@ -23,7 +23,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QUrl>
 #include <QUuid>
 
@@ -211,20 +210,7 @@ void ParamsCfgPage::showEvent(QShowEvent *event)
     }
     for (XCOMMON::XLabel *caption : captions)
         caption->setMinimumWidth(widest);
-    if (const auto *area = findChild<QScrollArea *>())
-        area->widget()->installEventFilter(this);
     QWidget::showEvent(event);
-}
-
-bool ParamsCfgPage::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::LayoutRequest) {
-        // Longer texts widen the window; they are not scrolled sideways.
-        auto *area = findChild<QScrollArea *>();
-        const int needed = area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width();
-        area->setMinimumWidth(qMax(area->minimumWidth(), needed));
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void ParamsCfgPage::keyPressEvent(QKeyEvent *event)

@@ -80,8 +80,6 @@ protected:
     virtual QJsonObject values() const;
     /// Brings the editors' captions to one width, so that the editors stand in line whatever the language and the font.
     void showEvent(QShowEvent *event) override;
-    /// Keeps the values' area as wide as they need.
-    bool eventFilter(QObject *watched, QEvent *event) override;
     /// Return presses the button that has the focus, and nothing else.
     void keyPressEvent(QKeyEvent *event) override;
     bool focusNextPrevChild(bool next) override;

@@ -565,7 +565,7 @@
     </message>
     <message>
         <source>A total of %1 devices have been configured, success:%2, failure:%3</source>
-        <translation>Insgesamt %1 Geräte konfiguriert, erfolgreich: %2, fehlgeschlagen: %3</translation>
+        <translation>Insgesamt %1 Geräte konfiguriert, erfolgreich:&#xa0;%2, fehlgeschlagen:&#xa0;%3</translation>
     </message>
     <message>
         <source>Detail</source>

@@ -461,7 +461,7 @@
     </message>
     <message>
         <source>OSD Parameters Configuration Result</source>
-        <translation>OSD参数配置结果</translation>
+        <translation>OSD 参数配置结果</translation>
     </message>
     <message>
         <source>OSDParamsCfgPage</source>
@@ -484,15 +484,15 @@
     <name>orda_batchCfg::OSDParamsCfgTask</name>
     <message>
         <source>Failed to get osd parameters(%1)</source>
-        <translation>获取OSD 参数失败(%1)</translation>
+        <translation>获取 OSD 参数失败(%1)</translation>
     </message>
     <message>
         <source>Failed to set osd parameters(%1)</source>
-        <translation>设置OSD 参数失败(%1)</translation>
+        <translation>设置 OSD 参数失败(%1)</translation>
     </message>
     <message>
         <source>set osd parameters time out</source>
-        <translation>设置OSD 参数超时</translation>
+        <translation>设置 OSD 参数超时</translation>
     </message>
 </context>
 <context>

@@ -83,6 +83,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>--theme takes light or dark, not &quot;%1&quot;</source>
         <translation>--theme nimmt light oder dark, nicht „%1“</translation>
     </message>
+    <message>
+        <source>--inventory takes a file</source>
+        <translation>--inventory nimmt eine Datei</translation>
+    </message>
 </context>
 <context>
     <name>ClientWindow</name>
@@ -185,6 +189,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
             <numerusform>%1 von %n Geräten online</numerusform>
         </translation>
     </message>
+    <message>
+        <source>A run is going on over the devices of this inventory. Open another when it has ended.</source>
+        <translation>Ein Lauf über die Geräte dieses Bestands ist im Gange. Öffnen Sie einen anderen, wenn er zu Ende ist.</translation>
+    </message>
 </context>
 <context>
     <name>CsvFile</name>
@@ -218,6 +226,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>a device without a name</source>
+        <translation>ein Gerät ohne Namen</translation>
     </message>
 </context>
 <context>
@@ -359,6 +371,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
             <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste ausgewählt.</numerusform>
             <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste ausgewählt.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The run is still going on.</source>
+        <translation>Der Lauf ist noch im Gange.</translation>
     </message>
 </context>
 <context>

@@ -83,6 +83,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>--theme takes light or dark, not &quot;%1&quot;</source>
         <translation>--theme 只接受 light 或 dark，而不是“%1”</translation>
     </message>
+    <message>
+        <source>--inventory takes a file</source>
+        <translation>--inventory 需要一个文件</translation>
+    </message>
 </context>
 <context>
     <name>ClientWindow</name>
@@ -184,6 +188,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
             <numerusform>%n 台设备中 %1 台在线</numerusform>
         </translation>
     </message>
+    <message>
+        <source>A run is going on over the devices of this inventory. Open another when it has ended.</source>
+        <translation>正在对此清单中的设备运行配置。请在运行结束后再打开其他清单。</translation>
+    </message>
 </context>
 <context>
     <name>CsvFile</name>
@@ -217,6 +225,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>a device without a name</source>
+        <translation>无名称的设备</translation>
     </message>
 </context>
 <context>
@@ -357,6 +369,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>
             <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The run is still going on.</source>
+        <translation>运行仍在进行。</translation>
     </message>
 </context>
 <context>
