@@ -7,6 +7,7 @@
 #include "RunRecordFilter.h"
 #include "RunRecordModel.h"
 #include "RunRecordView.h"
+#include "TickReport.h"
 
 #include <orda_base/SearchBox.h>
 #include <orda_worker/AssistantSignals.h>
@@ -22,7 +23,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -45,7 +45,6 @@ constexpr int restPerWork = 20; // reading a large record leaves the run its tim
 constexpr QSize windowSize(1320, 660);
 constexpr int groupsWidth = 320;
 constexpr int margin = 12;
-constexpr int reportLines = 5;
 
 QLabel *caption(const QString &text, QWidget *buddy)
 {
@@ -84,7 +83,9 @@ LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
     splitter->setChildrenCollapsible(false);
     splitter->setSizes({groupsWidth, windowSize.width() - groupsWidth});
     layout->addWidget(splitter, 1);
-    layout->addWidget(buildReport());
+    m_report = new TickReport;
+    m_report->hide();
+    layout->addWidget(m_report);
     layout->addWidget(buildButtons());
     setCentralWidget(central);
     setKeys();
@@ -165,25 +166,6 @@ QWidget *LastRunWindow::buildTable()
     m_stack->addWidget(m_table);
     m_stack->addWidget(m_empty);
     return m_stack;
-}
-
-QWidget *LastRunWindow::buildReport()
-{
-    m_reportText = plainLabel("tickReport");
-    m_reportList = new QPlainTextEdit;
-    m_reportList->setObjectName(QStringLiteral("tickReportList"));
-    m_reportList->setAccessibleName(tr("Failed devices that are not ticked"));
-    m_reportList->setReadOnly(true);
-    m_reportList->setTabChangesFocus(true);
-    m_reportList->setMaximumHeight(reportLines * fontMetrics().lineSpacing() + 2 * margin);
-
-    m_report = new QWidget;
-    auto *layout = new QVBoxLayout(m_report);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_reportText);
-    layout->addWidget(m_reportList);
-    m_report->hide();
-    return m_report;
 }
 
 QWidget *LastRunWindow::buildButtons()
@@ -389,21 +371,9 @@ void LastRunWindow::tickFailedAgain()
         updateView();
         return;
     }
-    const FailedDevices::Ticked ticked = FailedDevices::tickAgain(m_form, m_model->entries());
-    m_form->findChild<QAbstractButton *>(m_family->navigationKey)->click();
-
-    const QLocale locale;
-    const int failed = ticked.count + ticked.left.size();
-    QString text =
-        tr("Ticked %1 of %Ln failed device(s) in the device list.", nullptr, failed).arg(locale.toString(ticked.count));
-    if (ticked.isSearchCleared)
-        text += QLatin1Char(' ') + tr("The list's search was cleared: it hid some of them.");
-    if (!ticked.left.isEmpty())
-        text += QLatin1Char(' ') + tr("Not ticked:");
-    m_reportText->setText(text);
-    m_reportList->setPlainText(ticked.left.join(QLatin1Char('\n')));
-    m_reportList->setVisible(!ticked.left.isEmpty());
+    m_report->setTicked(FailedDevices::tickAgain(m_form, m_model->entries()));
     m_report->show();
+    m_form->findChild<QAbstractButton *>(m_family->navigationKey)->click();
 }
 
 void LastRunWindow::exportCsv()

@@ -10,7 +10,6 @@
 QT_BEGIN_NAMESPACE
 class QComboBox;
 class QLabel;
-class QPlainTextEdit;
 class QPushButton;
 class QStackedWidget;
 QT_END_NAMESPACE
@@ -22,6 +21,7 @@ class FailureGroupList;
 class RunRecordFilter;
 class RunRecordModel;
 class RunRecordView;
+class TickReport;
 struct Family;
 
 /// The outcome of a family's last run, device by device, from its record: sorted, searched, grouped by failure, saved
@@ -52,7 +52,6 @@ private:
     QWidget *buildTop();
     QWidget *buildGroups();
     QWidget *buildTable();
-    QWidget *buildReport();
     QWidget *buildButtons();
     void setKeys();
 
@@ -87,9 +86,7 @@ private:
     QStackedWidget *m_stack;
     RunRecordView *m_table;
     QLabel *m_empty;
-    QWidget *m_report;
-    QLabel *m_reportText;
-    QPlainTextEdit *m_reportList;
+    TickReport *m_report;
     QPushButton *m_tickAgain;
     QPushButton *m_export;
 };

@@ -282,10 +282,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Geräte des Laufs</translation>
     </message>
     <message>
-        <source>Failed devices that are not ticked</source>
-        <translation>Fehlgeschlagene Geräte, die nicht ausgewählt sind</translation>
-    </message>
-    <message>
         <source>&amp;Tick failed again</source>
         <translation>&amp;Fehlgeschlagene wieder auswählen</translation>
     </message>
@@ -350,27 +346,12 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>%1 bis %2</translation>
     </message>
     <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
-    </message>
-    <message>
-        <source>Not ticked:</source>
-        <translation>Nicht ausgewählt:</translation>
-    </message>
-    <message>
         <source>Export CSV</source>
         <translation>CSV exportieren</translation>
     </message>
     <message>
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>Kommagetrennte Werte (*.csv);;Alle Dateien (*)</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste ausgewählt.</numerusform>
-            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste ausgewählt.</numerusform>
-        </translation>
     </message>
     <message>
         <source>The run is still going on.</source>
@@ -477,6 +458,28 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Message</source>
         <translation>Meldung</translation>
+    </message>
+</context>
+<context>
+    <name>TickReport</name>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>Fehlgeschlagene Geräte, die nicht ausgewählt sind</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste ausgewählt.</numerusform>
+            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste ausgewählt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>Nicht ausgewählt:</translation>
     </message>
 </context>
 <context>

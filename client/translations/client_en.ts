@@ -12,16 +12,6 @@
     </message>
 </context>
 <context>
-    <name>LastRunWindow</name>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>Ticked %1 of %Ln failed device in the device list.</numerusform>
-            <numerusform>Ticked %1 of %Ln failed devices in the device list.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>RunDriver</name>
     <message numerus="yes">
         <source>%1 of %n device(s) on line</source>
@@ -42,6 +32,16 @@
         <translation>
             <numerusform>%n of the given devices is off line or may not be configured</numerusform>
             <numerusform>%n of the given devices are off line or may not be configured</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TickReport</name>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>Ticked %1 of %Ln failed device in the device list.</numerusform>
+            <numerusform>Ticked %1 of %Ln failed devices in the device list.</numerusform>
         </translation>
     </message>
 </context>

@@ -281,10 +281,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>本次运行的设备</translation>
     </message>
     <message>
-        <source>Failed devices that are not ticked</source>
-        <translation>未勾选的失败设备</translation>
-    </message>
-    <message>
         <source>&amp;Tick failed again</source>
         <translation>重新勾选失败的设备(&amp;T)</translation>
     </message>
@@ -349,26 +345,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>%1 至 %2</translation>
     </message>
     <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
-    </message>
-    <message>
-        <source>Not ticked:</source>
-        <translation>未勾选：</translation>
-    </message>
-    <message>
         <source>Export CSV</source>
         <translation>导出 CSV</translation>
     </message>
     <message>
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>逗号分隔值 (*.csv);;所有文件 (*)</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
-        </translation>
     </message>
     <message>
         <source>The run is still going on.</source>
@@ -472,6 +454,27 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Message</source>
         <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>TickReport</name>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>未勾选的失败设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>未勾选：</translation>
     </message>
 </context>
 <context>
