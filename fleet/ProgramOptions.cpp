@@ -4,6 +4,7 @@
 #include <FaultPlanReader.h>
 
 #include <QCoreApplication>
+#include <QDir>
 
 #include <limits>
 
@@ -54,6 +55,11 @@ QString checkAddress(const QHostAddress &address, const QString &text)
     if (address.protocol() == QAbstractSocket::IPv4Protocol)
         return {};
     return tr("--listen takes an IPv4 address of this machine, or 0.0.0.0 for all of them, not \"%1\"").arg(text);
+}
+
+QString place(const QString &file)
+{
+    return QDir::cleanPath(QDir::current().absoluteFilePath(file));
 }
 
 } // namespace
@@ -114,5 +120,7 @@ ProgramOptions parseOptions(const QStringList &arguments)
         options.error = tr("unexpected argument \"%1\"").arg(leftOver.at(keyFiles));
     else if (options.inventoryFile.isEmpty() && options.error.isEmpty())
         options.error = tr("--inventory OUT is missing: without it no client knows the devices");
+    else if (options.error.isEmpty() && place(options.dumpFile) == place(options.inventoryFile))
+        options.error = tr("--dump and --inventory name the same file \"%1\"").arg(options.dumpFile);
     return options;
 }

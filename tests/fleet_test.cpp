@@ -262,6 +262,7 @@ private slots:
         QTest::newRow("--devices 5") << 2 << "--inventory OUT is missing";
         QTest::newRow("--devices 0 --inventory x") << 2 << "--devices takes a whole number from 1 to ";
         QTest::newRow("--devices 1 --inventory x --tls cert.pem") << 2 << "--tls takes two files";
+        QTest::newRow("--devices 1 --inventory x --dump ./x") << 2 << "name the same file";
         QTest::newRow("--devices 1 --inventory x --listen localhost") << 2 << "--listen takes an IPv4 address";
         QTest::newRow("--devices 1 --inventory x y") << 2 << "unexpected argument \"y\"";
         QTest::newRow("--devices 1 --inventory x --faults /no/such") << 3 << "/no/such: cannot be read";
