@@ -18,16 +18,17 @@ public:
     /// is a mistake in the program: it is logged, and the values reach as far as they go.
     void setItemsData(const QList<QVariant> &values);
 
-    /// Whether the current text has room; else the tool tip has the whole of it. The list that pops up is always wide
-    /// enough.
-    bool isTextWhole() const;
-
+    /// The list that pops up is wide enough for all texts, however narrow the box is.
     void showPopup() override;
 
 protected:
+    /// A text that has no room stands as a whole in the tool tip.
     bool event(QEvent *event) override;
     /// Scrolling over a page must not change a value by the way.
     void wheelEvent(QWheelEvent *event) override;
+
+private:
+    bool isTextWhole() const;
 };
 
 } // namespace orda_base

@@ -1,5 +1,7 @@
 #include "orda_base/NavigationButton.h"
 
+#include "orda_base/Theme.h"
+
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
@@ -18,8 +20,6 @@ constexpr int textRight = 8;
 constexpr int arrowRight = 18;
 constexpr int arrowSize = 5;
 constexpr int textFlags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap; // a long text takes two lines
-
-constexpr int darkLightness = 128;
 
 // Modules draw their icons for light windows; on dark ones only their shape is of use.
 QPixmap inColour(QPixmap icon, const QColor &colour)
@@ -205,7 +205,7 @@ void NavigationButton::paintEvent(QPaintEvent *)
 
     const QIcon &icon = m_isHighlighted ? m_highlighted : m_normal;
     const QRect iconRect(iconLeft, (height() - iconPixels) / 2, iconPixels, iconPixels);
-    if (palette().color(QPalette::Window).lightness() > darkLightness)
+    if (!Theme::isDark(palette()))
         icon.paint(&painter, iconRect);
     else if (!icon.isNull())
         painter.drawPixmap(iconRect, inColour(icon.pixmap(window()->windowHandle(), iconRect.size()),

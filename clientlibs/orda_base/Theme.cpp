@@ -34,6 +34,11 @@ constexpr Colour colours[]{
 
 bool dark = false;
 
+QLatin1String schemeName()
+{
+    return QLatin1String(dark ? "dark" : "light");
+}
+
 QString colour(const QString &name)
 {
     const auto *found = std::find_if(std::begin(colours), std::end(colours),
@@ -48,7 +53,7 @@ QString styleSheet()
     QFile file(QStringLiteral(":/orda_base/theme.qss"));
     file.open(QIODevice::ReadOnly);
     QString sheet = QString::fromUtf8(file.readAll());
-    sheet.replace(QLatin1String("@{scheme}"), QLatin1String(dark ? "dark" : "light"));
+    sheet.replace(QLatin1String("@{scheme}"), schemeName());
     static const QRegularExpression token(QStringLiteral("@(\\w+)"));
     int from = 0;
     for (auto match = token.match(sheet); match.hasMatch(); match = token.match(sheet, from)) {
@@ -79,11 +84,6 @@ QPalette palette()
     return result;
 }
 
-bool isDark(const QPalette &palette)
-{
-    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
-}
-
 } // namespace
 
 void Theme::apply(QApplication &app, Scheme scheme)
@@ -94,9 +94,14 @@ void Theme::apply(QApplication &app, Scheme scheme)
     app.setStyleSheet(styleSheet());
 }
 
+bool Theme::isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
 QString Theme::image(const QString &name)
 {
-    return QStringLiteral(":/orda_base/images/%1_%2.svg").arg(QLatin1String(dark ? "dark" : "light"), name);
+    return QStringLiteral(":/orda_base/images/%1_%2.svg").arg(schemeName(), name);
 }
 
 } // namespace orda_base

@@ -4,6 +4,7 @@
 
 QT_BEGIN_NAMESPACE
 class QApplication;
+class QPalette;
 QT_END_NAMESPACE
 
 namespace orda_base {
@@ -23,6 +24,9 @@ public:
 
     /// Called once, before the first window is made.
     static void apply(QApplication &app, Scheme scheme = FollowPalette);
+
+    /// Whether its texts are lighter than its windows.
+    static bool isDark(const QPalette &palette);
 
     /// Path of one of the theme's own images, such as "search", as the scheme has it.
     static QString image(const QString &name);
