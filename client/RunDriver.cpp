@@ -2,6 +2,7 @@
 
 #include "Families.h"
 #include "LastRunWindow.h"
+#include "RecordFile.h"
 
 #include <orda_base/DisabledWaitingWt.h>
 #include <orda_data/DataSignals.h>
@@ -16,7 +17,6 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QDir>
-#include <QFile>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QTableWidget>
@@ -235,12 +235,12 @@ void RunDriver::pictureLastRun() const
 
 void RunDriver::printRecord() const
 {
-    QFile file(QDir::temp().filePath(m_family->recordFile));
-    out() << "record: " << file.fileName() << Qt::endl;
-    if (file.open(QIODevice::ReadOnly))
-        out() << QString::fromLocal8Bit(file.readAll()) << Qt::flush;
-    else
-        printError(tr("cannot read the record file %1: %2").arg(file.fileName(), file.errorString()));
+    const RecordFile file(m_family->recordFile);
+    out() << "record: " << file.path() << Qt::endl;
+    const RecordFile::Content content = file.read();
+    out() << content.text << Qt::flush;
+    if (!content.error.isEmpty())
+        printError(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
 }
 
 void RunDriver::picture(QWidget *widget, const QString &name) const
