@@ -18,11 +18,12 @@ QJsonObject writeParam(QJsonObject &values, const QJsonObject &device)
 
 } // namespace
 
-PlatformParamsCfgTask::PlatformParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent)
+PlatformParamsCfgTask::PlatformParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent,
+                                             std::chrono::milliseconds checkLimit)
     : ParamsCfgTask(devId, values,
                     {{QStringLiteral("ifconfig_qbcloud_get_param"), QStringLiteral("ifconfig_qbcloud_set_param"),
                       readParam(values), writeParam, tr("Failed to get platform parameters(%1)"),
-                      tr("Failed to set platform parameters(%1)"), 0, QString(), true}},
+                      tr("Failed to set platform parameters(%1)"), 0, QString(), true, checkLimit}},
                     tr("set platform parameters time out"), parent)
 {
     start();

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -33,6 +34,9 @@ struct CfgExchange
     /// A device that comes back on line after the write was sent is read again, and what it holds then decides the
     /// result: some settings make a device drop its connection before it can answer.
     bool checkWhenBack = false;
+    /// Counted from the first time that it is read again: then the result is that of a time-out. Nothing prolongs it,
+    /// for a device that comes and goes without end would keep the whole run waiting.
+    std::chrono::milliseconds checkLimit{0};
 };
 
 /// {"channelid": 0}: the first video channel, the one that a camera has.

@@ -7,10 +7,9 @@
 #include <vms_client_sdk/Requests.h>
 
 #include <QJsonDocument>
+#include <QTimer>
 #include <QUuid>
 
-#include <cmath>
-#include <limits>
 #include <utility>
 
 namespace orda_batchCfg {
@@ -24,12 +23,10 @@ QString requestText(const QString &method, const std::optional<QJsonObject> &par
     return QString::fromUtf8(QJsonDocument(request).toJson());
 }
 
-/// 0 when it is missing. A number that is not a whole one, or too large for an int, is an error all the same.
+/// 0, success, for everything that is no whole number in the range of an int: so the protocol has it.
 int errorCodeOf(const QJsonObject &answer)
 {
-    const double code = answer.value(QLatin1String("error")).toObject().value(QLatin1String("errorcode")).toDouble(0);
-    return int(qBound<double>(std::numeric_limits<int>::min(), code < 0 ? std::floor(code) : std::ceil(code),
-                              std::numeric_limits<int>::max()));
+    return answer.value(QLatin1String("error")).toObject().value(QLatin1String("errorcode")).toInt(0);
 }
 
 } // namespace
@@ -177,7 +174,14 @@ void ParamsCfgTask::handleDevStatus(vms_sdk::DevStatus status)
 {
     if (m_written >= 0 && m_exchanges.at(m_written).checkWhenBack
         && orda_base::BaseTools::instance().isDevOnline(status))
-        sendRead(m_written);
+        readAgain();
+}
+
+void ParamsCfgTask::readAgain()
+{
+    if (!std::exchange(m_readAgain, true))
+        QTimer::singleShot(m_exchanges.at(m_written).checkLimit, this, &ParamsCfgTask::handleTimeout);
+    sendRead(m_written);
 }
 
 void ParamsCfgTask::finish(const QString &msg, int errorCode)

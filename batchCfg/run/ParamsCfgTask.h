@@ -60,6 +60,7 @@ private:
     static quint32 answeredBit(int exchange, bool isRead) { return 1U << unsigned(2 * exchange + (isRead ? 0 : 1)); }
     /// The first exchange from @p from on that the flags ask for, or -1.
     int selectedFrom(int from) const;
+    void readAgain();
     void checkSettings(int exchange);
     void finish(const QString &msg, int errorCode);
 
@@ -72,6 +73,7 @@ private:
     QString m_timeoutText;
     quint32 m_answered = 0; // bits of the requests answered since they were last sent: answeredBit()
     int m_written = -1; // the exchange whose write was sent last
+    bool m_readAgain = false; // the limit of the check is running
     bool m_finished = false;
 };
 
