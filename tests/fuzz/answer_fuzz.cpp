@@ -10,6 +10,7 @@
 #include <orda_data/DataSignals.h>
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/websocket/AnswerCheck.h>
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -21,10 +22,11 @@
 
 using namespace orda_batchCfg;
 
-// What devices may answer. The first byte picks the family, its top bit whether the task is deleted while a step may be
-// due; the rest is a sequence of answers with null bytes between them: an empty one stands for the device's return, "t"
-// for the waiting time going by, and one that begins with a space is followed by the next at once. However they come, a
-// task ends at most once and asks for nothing after that, and a task that got no answer knows nothing of it.
+// What devices may answer, as the transport hands it on: empty where it is beyond a limit. The first byte picks the
+// family, its top bit whether the task is deleted while a step may be due; the rest is a sequence of answers with null
+// bytes between them: an empty one stands for the device's return, "t" for the waiting time going by, and one that
+// begins with a space is followed by the next at once. However they come, a task ends at most once and asks for nothing
+// after that, and a task that got no answer knows nothing of it.
 
 namespace {
 
@@ -149,7 +151,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
         if (answer.isEmpty())
             emit orda_data::DataSignals::instance().signalDevStatusChanged(watched.task->devId(), vms_sdk::DevOnline);
         else if (answer != "t")
-            emit transport.answered(requestId, QString::fromUtf8(answer));
+            emit transport.answered(requestId,
+                                    vms_sdk::checkAnswer(answer).fault ? QString() : QString::fromUtf8(answer));
         waited = waited || answer == "t";
         if (!answer.startsWith(' '))
             pass(answer == "t" ? 20s : 11ms);

@@ -1,15 +1,17 @@
 #include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/SignOn.h>
+#include <vms_client_sdk/websocket/AnswerCheck.h>
 #include <vms_client_sdk/websocket/ClientSignOn.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
 
 using namespace vms_sdk;
 
-// What a peer may say: sign-on messages with null bytes between them, read as frames too. "PROOF" in a message stands
-// for the right proof, as it takes the password to find; nobody gets in without it.
+// What a peer may say: sign-on messages with null bytes between them, read as frames and looked at as answers too.
+// "PROOF" in a message stands for the right proof, as it takes the password to find; nobody gets in without it.
 
 namespace {
 
@@ -36,6 +38,20 @@ void checkFrame(const QString &text)
         qFatal("a text changes on its way");
 }
 
+/// What passes the check can be taken apart and is no larger than the check says, a level deeper.
+void checkLimits(const QByteArray &text)
+{
+    const AnswerCheck check = checkAnswer(text);
+    if (check.fault)
+        return;
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    const QJsonValue content = document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+    const int around = QJsonDocument(QJsonObject{{QString(), 1}}).toJson().size() - 1;
+    const int written = QJsonDocument(QJsonObject{{QString(), content}}).toJson().size() - around;
+    if (document.isNull() || written > check.writtenBytes || check.writtenBytes > maxWrittenBytes)
+        qFatal("%d bytes written, %lld counted", written, static_cast<long long>(check.writtenBytes));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
@@ -51,6 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     const QList<QByteArray> messages = input.split('\0');
     for (QByteArray message : messages) {
         checkFrame(QString::fromUtf8(message));
+        checkLimits(message);
         if (!goesOn)
             continue;
         const bool knowsPassword = !proof.isEmpty() && message.contains("PROOF");

@@ -1,6 +1,7 @@
 #include "ClientSignOn.h"
 
 #include "../SignOn.h"
+#include "AnswerCheck.h"
 
 #include <QDebug>
 #include <QJsonDocument>
@@ -35,7 +36,10 @@ ClientSignOn::ClientSignOn(DevInfo device)
 
 ClientSignOn::Outcome ClientSignOn::take(const QString &message)
 {
-    const QJsonObject object = QJsonDocument::fromJson(message.toUtf8()).object();
+    const QByteArray text = message.toUtf8();
+    if (const AnswerCheck check = checkAnswer(text); check.fault)
+        return {Step::Broken, QStringLiteral("its message %1").arg(QLatin1String(check.fault))};
+    const QJsonObject object = QJsonDocument::fromJson(text).object();
     const QLatin1String expected(m_deviceNonce.isEmpty() ? "hello" : "welcome");
     const QJsonValue content = object.value(expected);
     if (!content.isObject())
