@@ -44,7 +44,7 @@ QSslConfiguration tlsWith(const QString &certificate)
     file.open(QIODevice::ReadOnly);
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setPrivateKey(QSslKey(&file, QSsl::Ec));
-    tls.setLocalCertificate(QSslCertificate::fromPath(path).value(0));
+    tls.setLocalCertificateChain(QSslCertificate::fromPath(path));
     return tls;
 }
 
@@ -328,6 +328,13 @@ private slots:
         row("trusted, but another one is pinned", local, other, true, DevOffline);
         row("self-signed, not pinned", valid, {}, false, DevOffline);
         row("pinned, but expired", expired, own, false, DevOffline);
+        for (const char *chain : {"chain", "chain-expired-intermediate", "chain-odd-intermediate"})
+            row(chain, QLatin1String(chain) + QStringLiteral(".pem"), own, false, DevDefaultPassword);
+        row("a chain with an expired leaf", QStringLiteral("chain-expired-leaf.pem"), own, false, DevOffline);
+        row("a chain of which another one is pinned", QStringLiteral("chain.pem"), other, false, DevOffline);
+        row("a chain, not pinned", QStringLiteral("chain.pem"), {}, false, DevOffline);
+        row("a pin without a digit", valid, QStringLiteral(":::"), false, DevOffline);
+        row("trusted, a pin without a digit", local, QStringLiteral(":::"), true, DevOffline);
         row("signed by one of the system's CAs", local, {}, true, DevDefaultPassword);
         row("trusted, for another host", valid, {}, true, DevOffline);
         row("pinned, TLS 1.1", valid, own, false, DevOffline, QSsl::TlsV1_1);

@@ -244,6 +244,9 @@ private slots:
         row("tls beside a plain url", "'url': 'ws://relay.example/7', 'tls': true", "'tls'");
         row("tls of a number", address + ", 'tls': 1", "'tls'.*true or false");
         row("fingerprint of a SHA-1", address + ", 'tls': true, 'fingerprint': 'abcd'", "'fingerprint'.*SHA-256");
+        row("fingerprint of colons", address + ", 'tls': true, 'fingerprint': ':::'", "'fingerprint'.*SHA-256");
+        row("fingerprint with colons inside bytes",
+            address + ", 'tls': true, 'fingerprint': 'A:BA" + QByteArray(61, '0') + "'", "'fingerprint'.*SHA-256");
         row("pinned without tls", address + pin, "'fingerprint'.*TLS");
     }
 

@@ -1,5 +1,7 @@
 #include "DeviceProtocol.h"
 
+#include <QRegularExpression>
+
 namespace vms_sdk {
 
 QString toFrameText(const DeviceFrame &frame)
@@ -13,6 +15,12 @@ std::optional<DeviceFrame> parseFrame(const QString &frameText)
     if (end < 0)
         return std::nullopt;
     return DeviceFrame{frameText.left(end), frameText.mid(end + 1)};
+}
+
+QByteArray sha256FromText(const QString &fingerprint)
+{
+    static const QRegularExpression bytes(QStringLiteral("^[0-9A-Fa-f]{2}(:?[0-9A-Fa-f]{2}){31}\\z"));
+    return bytes.match(fingerprint).hasMatch() ? QByteArray::fromHex(fingerprint.toLatin1()) : QByteArray();
 }
 
 QUrl deviceUrl(const DevInfo &device)

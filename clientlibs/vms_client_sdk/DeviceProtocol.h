@@ -2,6 +2,7 @@
 
 #include <vms_client_sdk/DevInfo.h>
 
+#include <QByteArray>
 #include <QString>
 #include <QUrl>
 #include <optional>
@@ -28,6 +29,10 @@ QString toFrameText(const DeviceFrame &frame);
 
 /// Nothing when there is no line break.
 std::optional<DeviceFrame> parseFrame(const QString &frameText);
+
+/// The SHA-256 that a certificate's fingerprint stands for: 64 hexadecimal digits, with or without a colon between two
+/// bytes. Empty for everything else.
+QByteArray sha256FromText(const QString &fingerprint);
 
 /// Where the device is dialled; invalid when the record gives no address.
 QUrl deviceUrl(const DevInfo &device);

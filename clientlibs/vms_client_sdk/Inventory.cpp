@@ -115,12 +115,12 @@ QString EntryReader::ipText()
 
 QString EntryReader::fingerprint()
 {
-    static const QRegularExpression sha256(QStringLiteral("^[0-9a-f]{64}$"));
     const QString key = QStringLiteral("fingerprint");
-    QString digits = text(key).remove(QLatin1Char(':')).toLower();
-    if (!digits.isEmpty() && !sha256.match(digits).hasMatch())
+    const QString value = text(key);
+    const QByteArray sha256 = sha256FromText(value);
+    if (sha256.isEmpty() && !value.isEmpty())
         fail(key, tr("must be a SHA-256: 64 hexadecimal digits, with or without colons"));
-    return digits;
+    return QString::fromLatin1(sha256.toHex());
 }
 
 DevInfo EntryReader::read()

@@ -112,7 +112,7 @@ QWebSocket *DeviceLink::makeSocket()
 
 void DeviceLink::onSslErrors(const QList<QSslError> &errors)
 {
-    const QList<QSslError> tolerated = m_pin.tolerated(errors);
+    const QList<QSslError> tolerated = m_pin.tolerated(errors, tlsSocket(m_socket)->peerCertificate());
     QStringList faults;
     for (const QSslError &error : errors)
         if (!tolerated.contains(error))

@@ -1,12 +1,51 @@
 #include "PinnedCertificate.h"
 
+#include "../DeviceProtocol.h"
+
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QSslCertificate>
 
 namespace vms_sdk {
 
+namespace {
+
+/// Who signed a certificate, whether that can be verified, and for which name: the pin answers all of it.
+bool isAboutSigner(QSslError::SslError error)
+{
+    switch (error) {
+    case QSslError::SelfSignedCertificate:
+    case QSslError::SelfSignedCertificateInChain:
+    case QSslError::UnableToGetIssuerCertificate:
+    case QSslError::UnableToGetLocalIssuerCertificate: // signed by a maker's CA that is not installed here
+    case QSslError::UnableToVerifyFirstCertificate:
+    case QSslError::UnableToDecodeIssuerPublicKey:
+    case QSslError::UnableToDecryptCertificateSignature:
+    case QSslError::CertificateSignatureFailed:
+    case QSslError::SubjectIssuerMismatch:
+    case QSslError::AuthorityIssuerSerialNumberMismatch:
+    case QSslError::InvalidCaCertificate:
+    case QSslError::PathLengthExceeded:
+    case QSslError::CertificateUntrusted:
+    case QSslError::HostNameMismatch:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Asked of the certificate itself: which certificate of a chain an error speaks of is the TLS library's finding.
+bool isInItsTime(const QSslCertificate &certificate)
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    return certificate.effectiveDate() <= now && now <= certificate.expiryDate();
+}
+
+} // namespace
+
 PinnedCertificate::PinnedCertificate(const QString &fingerprint)
-    : m_sha256(QByteArray::fromHex(fingerprint.toLatin1())) // which reads over colons
+    : m_isSet(!fingerprint.isEmpty())
+    , m_sha256(sha256FromText(fingerprint))
 {
 }
 
@@ -15,22 +54,15 @@ bool PinnedCertificate::matches(const QSslCertificate &certificate) const
     return isSet() && certificate.digest(QCryptographicHash::Sha256) == m_sha256;
 }
 
-QList<QSslError> PinnedCertificate::tolerated(const QList<QSslError> &errors) const
+QList<QSslError> PinnedCertificate::tolerated(const QList<QSslError> &errors, const QSslCertificate &leaf) const
 {
+    if (!matches(leaf) || !isInItsTime(leaf))
+        return {};
     QList<QSslError> list;
     for (const QSslError &error : errors) {
-        switch (error.error()) {
-        case QSslError::SelfSignedCertificate:
-        case QSslError::UnableToGetLocalIssuerCertificate: // signed by a maker's CA that is not installed here
-        case QSslError::UnableToVerifyFirstCertificate:
-        case QSslError::CertificateUntrusted:
-        case QSslError::HostNameMismatch:
-            if (matches(error.certificate()))
-                list.append(error);
-            break;
-        default:
-            break;
-        }
+        const bool isAboutAnother = !error.certificate().isNull() && error.certificate() != leaf;
+        if (isAboutAnother || isAboutSigner(error.error()))
+            list.append(error);
     }
     return list;
 }

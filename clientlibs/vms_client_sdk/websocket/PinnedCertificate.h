@@ -8,19 +8,22 @@ class QSslCertificate;
 namespace vms_sdk {
 
 /// The one certificate that a device may show, told by its SHA-256. The pin stands in for the chain of trust and the
-/// host name, for devices sign their certificates themselves; everything else about the certificate must be in order.
+/// host name, for devices sign their certificates themselves or bring a maker's chain along that nobody here knows;
+/// everything else about the certificate must be in order.
 class PinnedCertificate
 {
 public:
-    /// Hexadecimal, with or without colons. Empty: nothing is pinned.
+    /// As sha256FromText() takes it; a text that it does not take matches no certificate. Empty: nothing is pinned.
     explicit PinnedCertificate(const QString &fingerprint);
 
-    bool isSet() const { return !m_sha256.isEmpty(); }
+    bool isSet() const { return m_isSet; }
     bool matches(const QSslCertificate &certificate) const;
     /// Those of @p errors that the pin makes up for.
-    QList<QSslError> tolerated(const QList<QSslError> &errors) const;
+    /// @param leaf the device's own certificate, which the TLS layer calls the peer's
+    QList<QSslError> tolerated(const QList<QSslError> &errors, const QSslCertificate &leaf) const;
 
 private:
+    bool m_isSet;
     QByteArray m_sha256;
 };
 
