@@ -11,6 +11,7 @@
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/SystemAssistant.h>
 #include <shell/BatchCfgInit.h>
+#include <vms_client_sdk/ForeignText.h>
 
 #include <QDateTime>
 #include <QDialog>
@@ -52,7 +53,7 @@ QString statusText(vms_sdk::DevStatus status)
 
 QString displayName(const vms_sdk::DevInfo &dev)
 {
-    return dev.name.isEmpty() ? dev.serialNumber : dev.name;
+    return vms_sdk::displayText(dev.name.isEmpty() ? dev.serialNumber : dev.name);
 }
 
 } // namespace
@@ -194,7 +195,7 @@ void ClientWindow::showRemoteConfig(const QString &devId)
     dialog->setWindowTitle(tr("Remote configuration of %1").arg(displayName(dev)));
     auto *form = new QFormLayout(dialog);
     const auto addRow = [form](const QString &caption, const QString &text) {
-        auto *value = new QLabel(text.isEmpty() ? QStringLiteral("–") : text);
+        auto *value = new QLabel(text.isEmpty() ? QStringLiteral("–") : vms_sdk::displayText(text));
         value->setTextFormat(Qt::PlainText);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         form->addRow(caption, value);

@@ -1,5 +1,7 @@
 #include "FailureGroupList.h"
 
+#include <vms_client_sdk/ForeignText.h>
+
 #include <QHeaderView>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -50,8 +52,9 @@ std::optional<FailureGroup> FailureGroupList::group() const
     return row > 0 && row <= m_groups.size() ? std::make_optional(m_groups.at(row - 1)) : std::nullopt;
 }
 
-void FailureGroupList::addRow(const QString &text, int count)
+void FailureGroupList::addRow(const QString &recorded, int count)
 {
+    const QString text = vms_sdk::displayText(recorded, QStringLiteral("\n"));
     auto *message = new QTableWidgetItem(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     message->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
     auto *number = new QTableWidgetItem(QLocale().toString(count));

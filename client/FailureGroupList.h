@@ -25,7 +25,7 @@ signals:
     void signalGroupChosen();
 
 private:
-    void addRow(const QString &text, int count);
+    void addRow(const QString &recorded, int count);
 
     QVector<FailureGroup> m_groups; // below the first row
 };

@@ -10,6 +10,7 @@
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/EventConfirmInfo.h>
 #include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/ForeignText.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -44,7 +45,7 @@ QTextStream &out()
 
 void printError(const QString &text)
 {
-    QTextStream(stderr) << "orda_client: " << text << Qt::endl;
+    QTextStream(stderr) << "orda_client: " << vms_sdk::escaped(text) << Qt::endl;
 }
 
 } // namespace
@@ -238,7 +239,7 @@ void RunDriver::printRecord() const
     const RecordFile file(m_family->recordFile);
     out() << "record: " << file.path() << Qt::endl;
     const RecordFile::Content content = file.read();
-    out() << content.text << Qt::flush;
+    out() << vms_sdk::escaped(content.text, QStringLiteral("\n")) << Qt::flush;
     if (!content.error.isEmpty())
         printError(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
 }

@@ -1,6 +1,7 @@
 #include "RunRecordModel.h"
 
 #include <orda_base/SortOrder.h>
+#include <vms_client_sdk/ForeignText.h>
 
 #include <QFont>
 #include <QTextDocument>
@@ -124,12 +125,13 @@ QVariant RunRecordModel::data(const QModelIndex &index, int role) const
     const RunEntry &entry = m_entries.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return text(entry, index.column()).left(maxShown).replace(QLatin1Char('\n'), QChar(0x21B5));
+        return vms_sdk::displayText(
+            text(entry, index.column()).left(maxShown).replace(QLatin1Char('\n'), QChar(0x21B5)));
     case Qt::EditRole:
         return text(entry, index.column());
     case Qt::ToolTipRole: {
         // A name may look like mark-up, which a tool tip would take it for.
-        const QString shown = text(entry, index.column()).left(maxShown);
+        const QString shown = vms_sdk::displayText(text(entry, index.column()).left(maxShown), QStringLiteral("\n"));
         return shown.isEmpty() ? QString() : Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal);
     }
     case Qt::FontRole:

@@ -1,5 +1,7 @@
 #include "TickReport.h"
 
+#include <vms_client_sdk/ForeignText.h>
+
 #include <QLabel>
 #include <QLocale>
 #include <QPlainTextEdit>
@@ -41,6 +43,6 @@ void TickReport::setTicked(const FailedDevices::Ticked &ticked)
     if (!ticked.left.isEmpty())
         text += QLatin1Char(' ') + tr("Not ticked:");
     m_text->setText(text);
-    m_left->setPlainText(ticked.left.join(QLatin1Char('\n')));
+    m_left->setPlainText(vms_sdk::displayText(ticked.left.join(QLatin1Char('\n')), QStringLiteral("\n")));
     m_left->setVisible(!ticked.left.isEmpty());
 }

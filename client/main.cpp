@@ -5,6 +5,7 @@
 #include "Translations.h"
 
 #include <orda_base/Theme.h>
+#include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/OpenFiles.h>
 
 #include <QApplication>
@@ -19,7 +20,7 @@ namespace {
 
 void complain(const QString &text)
 {
-    QTextStream(stderr) << "orda_client: " << text << Qt::endl;
+    QTextStream(stderr) << "orda_client: " << vms_sdk::escaped(text) << Qt::endl;
 }
 
 int fail(const QString &error, ExitCode code)

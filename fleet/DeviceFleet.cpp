@@ -7,6 +7,8 @@
 #include "SimulatedDevice.h"
 #include "Site.h"
 
+#include <vms_client_sdk/ForeignText.h>
+
 #include <QJsonDocument>
 #include <QPointer>
 #include <QTimer>
@@ -58,7 +60,8 @@ DeviceFleet::DeviceFleet(const FleetOptions &options, const FaultPlan &faults, Q
     const QStringList faultyIds = faults.deviceIds();
     for (const QString &id : faultyIds)
         if (!find(id))
-            qCWarning(fleetLog).noquote() << tr("no device is called \"%1\": its faults have no effect").arg(id);
+            qCWarning(fleetLog).noquote()
+                << tr("no device is called \"%1\": its faults have no effect").arg(vms_sdk::escaped(id));
 }
 
 DeviceFleet::~DeviceFleet() = default;

@@ -2,14 +2,18 @@
 
 #include "FaultPlanReader.h"
 
+#include <vms_client_sdk/ForeignText.h>
+
 namespace device_fleet {
 
 FaultPlan FaultPlan::read(const QString &path, QString *error, QStringList *warnings)
 {
     FaultPlanReader reader(path);
     FaultPlan plan = reader.read();
-    *error = reader.error();
-    warnings->append(reader.warnings());
+    *error = vms_sdk::escaped(reader.error());
+    const QStringList read = reader.warnings();
+    for (const QString &warning : read)
+        warnings->append(vms_sdk::escaped(warning));
     return plan;
 }
 

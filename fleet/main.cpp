@@ -4,6 +4,7 @@
 #include <DeviceFleet.h>
 #include <FaultPlan.h>
 
+#include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
 
@@ -19,7 +20,7 @@ constexpr qint64 otherFiles = 64; // libraries, the server socket, input and out
 
 void complain(const QString &text)
 {
-    QTextStream(stderr) << "orda_fleet: " << text << Qt::endl;
+    QTextStream(stderr) << "orda_fleet: " << vms_sdk::escaped(text) << Qt::endl;
 }
 
 int fail(const QString &error, ExitCode code)

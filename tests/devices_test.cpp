@@ -187,7 +187,7 @@ private slots:
         QTest::addColumn<Fault>("fault");
         QTest::addColumn<QString>("warning");
         QTest::newRow("the device refuses") << Refuses << QStringLiteral("password");
-        QTest::newRow("another device") << OtherSerial << QStringLiteral("\"\\\\t\", not \"SN-1\"");
+        QTest::newRow("another device") << OtherSerial << QStringLiteral("\"\\\\u0009\", not \"SN-1\"");
         QTest::newRow("short nonce") << ShortNonce << QStringLiteral("nonce");
         QTest::newRow("our own proof sent back") << NoProof << QStringLiteral("does not prove");
         QTest::newRow("the welcome of an earlier sign-on") << Replays << QStringLiteral("does not prove");

@@ -88,7 +88,7 @@ void ProgramsTest::clientTellsByItsExitCode_data()
     row("--demo 10 --colour", 2, "colour");
     row("--inventory nothing.json --run osd", 3, "nothing.json: cannot be read");
     row("--inventory . --run osd", 3, "cannot be read");
-    row("--inventory open.json --run osd", 3, "open.json: holds passwords and may be read by others");
+    row("--inventory open.json --run osd", 3, "open.json: holds passwords and may be read or changed");
     row("--demo 10 --faults inventory.json --run osd", 3, "inventory.json: field \"faults\": must be a list");
     row("--inventory empty.json --run osd", 4, "Please select the devices to be configured");
     row("--demo 10 --run osd --devices dev-0001 --faults away.json", 1, "failure:1");
@@ -99,9 +99,10 @@ void ProgramsTest::clientTellsByItsExitCode()
     QFETCH(QString, arguments);
     QFETCH(int, exitCode);
     QFETCH(QString, said);
-    write("faults.json", R"({"faults": [{"devices": ["dev-0002"], "fault": "error-code", "errorcode": 9}]})");
+    write("faults.json", R"({"faults": [{"devices": ["dev-0002"], "fault": "error-code", "errorcode": 9}, {"devices":
+        ["\u001b[31m"], "fault": "garbage", "\u001b": 0}], "\u001b[32m": 0})");
     write("away.json", R"({"faults": [{"fault": "garbage"}]})");
-    write("empty.json", R"({"devices": []})");
+    write("empty.json", R"({"devices": [], "\u001b[31m": 0})");
     write("inventory.json", R"({"devices": [{"id": "a", "ip": "127.0.0.1", "port": 1}]})");
     write("open.json", R"({"devices": [{"id": "a", "ip": "127.0.0.1", "port": 1, "password": "secret"}]})");
     QVERIFY(QFile::setPermissions(path("open.json"), QFile::ReadOwner | QFile::ReadOther));
@@ -114,6 +115,7 @@ void ProgramsTest::clientTellsByItsExitCode()
     const QString output = QString::fromUtf8(client.readAll());
     QVERIFY2(output.contains(said), qPrintable(output));
     QVERIFY(!output.contains(QLatin1String("secret")));
+    QVERIFY2(!output.contains(QLatin1Char('\x1b')), qPrintable(output)); // a terminal would obey it
     QCOMPARE(client.exitCode(), exitCode);
 }
 

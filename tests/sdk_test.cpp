@@ -5,6 +5,7 @@
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/ClientSignals.h>
 #include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/Requests.h>
 #include <vms_client_sdk/SignOn.h>
@@ -235,6 +236,13 @@ private slots:
         row("short IPv4", "'ip': '10.7', 'port': 80", "'ip'.*IPv4");
         row("line break in the name", address + ", 'name': 'a\\nb'", "'name'.*line breaks");
         row("tab in the serial number", address + ", 'serialNumber': 'a\\tb'", "'serialNumber'");
+        row("override in the id", address + ", 'id': 'cam\\u202e1'", "'id'.*cannot be seen");
+        row("blank of no width in the serial number", address + ", 'serialNumber': 'S\\u200b'", "'serialNumber'.*seen");
+        row("half a surrogate pair in the serial number", address + ", 'serialNumber': 'S\\ud800'", "'serialNumber'");
+        row("mark in the path", address + ", 'path': '/\\u061c'", "'path'.*cannot be seen");
+        row("mark in the url", "'url': 'ws://relay.example/\\ufeff'", "'url'.*cannot be seen");
+        row("line break in the name after half a pair", address + ", 'name': 'a\\ud800\\n'", "'name'.*line breaks");
+        row("mark in the name", address + ", 'name': 'a\\u202eb'", "");
         row("empty id", address + ", 'id': ''", "'id'.*empty");
         row("id used twice", address + ", 'id': 'first'", "devices.1. .*'id'.*same as in devices.0. .id 'first'");
         row("serial number used twice", address + ", 'serialNumber': 'S'", "'serialNumber'.*same as in devices.0.");
@@ -261,6 +269,33 @@ private slots:
         QCOMPARE(inventory.error.isEmpty(), error.isEmpty());
         const QRegularExpression expected(error.replace(QLatin1Char('\''), QLatin1Char('"')));
         QVERIFY2(expected.match(inventory.error).hasMatch(), qPrintable(inventory.error));
+        QVERIFY(!holdsInvisible(inventory.error)); // it is quoted on terminals
+    }
+
+    void whatCannotBeSeenIsShownForWhatItIs_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("log"); // empty: the same
+        const auto row = [](const char *name, const QString &text, const char *log) {
+            QTest::newRow(name) << text << QString::fromLatin1(log);
+        };
+        row("ordinary letters", QString::fromUtf8("T\u00fcr <b>\\ \u4e2d\u6587 \u05d0\u05d1 \U0001F600"), "");
+        for (const uint mark : {0x1bU, 0x85U, 0x2028U, 0x61cU, 0x200bU, 0x200fU, 0x202aU, 0x202eU, 0x2060U, 0x2065U,
+                                0x2069U, 0xfeffU, 0xd800U, 0xdfffU}) {
+            const QByteArray number = QByteArray::number(mark, 16).rightJustified(4, '0');
+            row(number.constData(), QStringLiteral("a%1b").arg(QChar(ushort(mark))), "a\\u" + number + 'b');
+        }
+        row("tag", QString::fromUtf8("a\U000E0041b"), "a\\U000e0041b");
+    }
+
+    void whatCannotBeSeenIsShownForWhatItIs()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, log);
+        QCOMPARE(holdsInvisible(text), !log.isEmpty());
+        QCOMPARE(escaped(text), log.isEmpty() ? text : log);
+        QCOMPARE(displayText(text), log.isEmpty() ? text : QString(QStringLiteral("a%1b")).arg(QChar(0xfffd)));
+        QCOMPARE(escaped(text + QLatin1Char('\n'), QStringLiteral("\n")), escaped(text) + QLatin1Char('\n'));
     }
 
     void inventoryFilesSurviveARoundTripAndStayPrivate()
@@ -278,8 +313,11 @@ private slots:
         const QString path = m_dir.filePath(QStringLiteral("written.json"));
         QCOMPARE(writeInventory(path, {camera, recorder}), QString());
         QCOMPARE(readInventory(path).devices, QList<DevInfo>({camera, recorder}));
-        QFile(path).setPermissions(QFile::ReadOwner | QFile::ReadGroup);
-        QVERIFY(readInventory(path).error.contains(QLatin1String("0600")));
+        for (const QFile::Permission others :
+             {QFile::ReadGroup, QFile::ReadOther, QFile::WriteGroup, QFile::WriteOther}) {
+            QFile(path).setPermissions(QFile::ReadOwner | QFile::WriteOwner | others);
+            QVERIFY(readInventory(path).error.contains(QLatin1String("0600")));
+        }
         QVERIFY(!writeInventory(m_dir.filePath(QStringLiteral("none/x.json")), {camera}).isEmpty());
 
         QList<DevInfo> many;
@@ -291,8 +329,8 @@ private slots:
         QCOMPARE(readInventory(path).devices.size(), many.size());
 
         const Inventory typo =
-            readInventory(fileWith("{'devices': [{'id': 'a', 'ip': '10.0.0.1', 'port': 1, 'pasword': ''}]}"));
-        QVERIFY(typo.devices.size() == 1 && typo.warnings.value(0).contains(QLatin1String("\"pasword\"")));
+            readInventory(fileWith("{'devices': [{'id': 'a', 'ip': '10.0.0.1', 'port': 1, 'pass\\u001bword': ''}]}"));
+        QVERIFY(typo.devices.size() == 1 && typo.warnings.value(0).contains(QLatin1String("\"pass\\u001bword\"")));
     }
 
     void theStoreFollowsTheSdkAndKeepsTheOrder()

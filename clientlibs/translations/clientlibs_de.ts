@@ -79,10 +79,6 @@
         <translation>ist kein JSON: %1 bei Byte %2</translation>
     </message>
     <message>
-        <source>holds passwords and may be read by others; set its mode to 0600 (chmod 600)</source>
-        <translation>enthält Kennwörter und ist für andere lesbar; bitte den Modus auf 0600 setzen (chmod 600)</translation>
-    </message>
-    <message>
         <source>must be an object with a list &quot;devices&quot;</source>
         <translation>muss ein Objekt mit einer Liste „devices“ sein</translation>
     </message>
@@ -103,12 +99,20 @@
         <translation>%1: muss ein Objekt sein</translation>
     </message>
     <message>
-        <source>%1: %2: unknown key &quot;%3&quot; is not used</source>
-        <translation>%1: %2: unbekannter Schlüssel „%3“ wird nicht verwendet</translation>
-    </message>
-    <message>
         <source>%1: cannot be written: %2</source>
         <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>must not hold line breaks, tabs, control characters or characters that cannot be seen</source>
+        <translation>darf keine Zeilenumbrüche, Tabulatoren, Steuerzeichen oder unsichtbaren Zeichen enthalten</translation>
+    </message>
+    <message>
+        <source>holds passwords and may be read or changed by others; set its mode to 0600 (chmod 600)</source>
+        <translation>enthält Kennwörter und ist für andere lesbar oder veränderbar; bitte den Modus auf 0600 setzen (chmod 600)</translation>
+    </message>
+    <message>
+        <source>unknown key &quot;%1&quot; is not used</source>
+        <translation>unbekannter Schlüssel „%1“ wird nicht verwendet</translation>
     </message>
 </context>
 <context>

@@ -79,10 +79,6 @@
         <translation>不是 JSON：第 %2 字节处 %1</translation>
     </message>
     <message>
-        <source>holds passwords and may be read by others; set its mode to 0600 (chmod 600)</source>
-        <translation>包含密码且其他用户可读；请将其权限设为 0600（chmod 600）</translation>
-    </message>
-    <message>
         <source>must be an object with a list &quot;devices&quot;</source>
         <translation>必须是包含“devices”列表的对象</translation>
     </message>
@@ -103,12 +99,20 @@
         <translation>%1：必须是对象</translation>
     </message>
     <message>
-        <source>%1: %2: unknown key &quot;%3&quot; is not used</source>
-        <translation>%1：%2：未知键“%3”未被使用</translation>
-    </message>
-    <message>
         <source>%1: cannot be written: %2</source>
         <translation>%1：无法写入：%2</translation>
+    </message>
+    <message>
+        <source>must not hold line breaks, tabs, control characters or characters that cannot be seen</source>
+        <translation>不得包含换行符、制表符、控制字符或不可见字符</translation>
+    </message>
+    <message>
+        <source>holds passwords and may be read or changed by others; set its mode to 0600 (chmod 600)</source>
+        <translation>包含密码且其他用户可读取或修改；请将其权限设为 0600（chmod 600）</translation>
+    </message>
+    <message>
+        <source>unknown key &quot;%1&quot; is not used</source>
+        <translation>未知键“%1”未被使用</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "Inventory.h"
 
 #include "DeviceProtocol.h"
+#include "ForeignText.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -8,7 +9,6 @@
 #include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSet>
 #include <cmath>
@@ -35,6 +35,7 @@ public:
 private:
     QString text(const QString &key, const QString &absent = {});
     QString printableText(const QString &key);
+    QString visibleText(const QString &key, const QString &absent = {});
     int number(const QString &key, int min, int max, int absent);
     bool flag(const QString &key);
     QString ipText();
@@ -74,10 +75,18 @@ QString EntryReader::text(const QString &key, const QString &absent)
 /// For what goes into lists and record files, a line or a cell each.
 QString EntryReader::printableText(const QString &key)
 {
-    static const QRegularExpression unprintable(QStringLiteral("[\\p{Cc}\\p{Zl}\\p{Zp}]"));
     QString value = text(key);
-    if (value.contains(unprintable))
+    if (holdsControls(value))
         fail(key, tr("must not hold line breaks, tabs or control characters"));
+    return value;
+}
+
+/// For what tells devices apart: two that look the same are the same.
+QString EntryReader::visibleText(const QString &key, const QString &absent)
+{
+    QString value = text(key, absent);
+    if (holdsInvisible(value))
+        fail(key, tr("must not hold line breaks, tabs, control characters or characters that cannot be seen"));
     return value;
 }
 
@@ -105,7 +114,7 @@ bool EntryReader::flag(const QString &key)
 QString EntryReader::ipText()
 {
     const QString key = QStringLiteral("ip");
-    QString ip = printableText(key);
+    QString ip = visibleText(key);
     // Back to text and compared: "10.1" and "010.0.0.1" are addresses too, but not the ones that people take them for.
     if (!ip.isEmpty()
         && (QHostAddress(ip).protocol() != QAbstractSocket::IPv4Protocol || QHostAddress(ip).toString() != ip))
@@ -126,17 +135,17 @@ QString EntryReader::fingerprint()
 DevInfo EntryReader::read()
 {
     DevInfo device;
-    device.id = printableText(QStringLiteral("id"));
+    device.id = visibleText(QStringLiteral("id"));
     if (device.id.isEmpty())
         fail(QStringLiteral("id"), tr("must be there and not be empty"));
     device.name = printableText(QStringLiteral("name"));
-    device.serialNumber = printableText(QStringLiteral("serialNumber"));
+    device.serialNumber = visibleText(QStringLiteral("serialNumber"));
     device.ip = ipText();
     device.ipNumber = QHostAddress(device.ip).toIPv4Address();
     device.port = quint16(number(QStringLiteral("port"), 1, 65535, 0));
-    device.path = text(QStringLiteral("path"), device.path);
+    device.path = visibleText(QStringLiteral("path"), device.path);
     device.tls = flag(QStringLiteral("tls"));
-    device.url = text(QStringLiteral("url"));
+    device.url = visibleText(QStringLiteral("url"));
     device.fingerprint = fingerprint();
     device.userName = text(QStringLiteral("userName"));
     device.password = text(QStringLiteral("password"));
@@ -196,6 +205,7 @@ private:
     bool readEntry(int index, const QJsonValue &value);
     bool isFirst(const QString &field, const QString &value, const QString &where);
     bool fail(const QString &what);
+    void warn(const QString &what);
 
     QString m_path;
     Inventory m_inventory;
@@ -204,8 +214,13 @@ private:
 
 bool InventoryReader::fail(const QString &what)
 {
-    m_inventory = {{}, {}, tr("%1: %2").arg(m_path, what)};
+    m_inventory = {{}, {}, escaped(tr("%1: %2").arg(m_path, what))};
     return false;
+}
+
+void InventoryReader::warn(const QString &what)
+{
+    m_inventory.warnings.append(escaped(tr("%1: %2").arg(m_path, what)));
 }
 
 Inventory InventoryReader::read()
@@ -226,8 +241,10 @@ Inventory InventoryReader::read()
 
     const auto holdsPassword = [](const DevInfo &device) { return !device.password.isEmpty(); };
     const bool secret = std::any_of(m_inventory.devices.cbegin(), m_inventory.devices.cend(), holdsPassword);
-    if (secret && (file.permissions() & (QFile::ReadGroup | QFile::ReadOther)))
-        fail(tr("holds passwords and may be read by others; set its mode to 0600 (chmod 600)"));
+    const QFile::Permissions ofOthers = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup
+                                      | QFile::WriteOther; // who may write names other devices
+    if (secret && (file.permissions() & ofOthers))
+        fail(tr("holds passwords and may be read or changed by others; set its mode to 0600 (chmod 600)"));
     return m_inventory;
 }
 
@@ -239,7 +256,7 @@ bool InventoryReader::readEntries(const QJsonObject &root)
     const QStringList keys = root.keys();
     for (const QString &key : keys)
         if (key != listKey)
-            m_inventory.warnings.append(tr("%1: unknown key \"%2\" is not used").arg(m_path, key));
+            warn(tr("unknown key \"%1\" is not used").arg(key));
     const QJsonArray entries = root.value(listKey).toArray();
     for (int i = 0; i < entries.size(); ++i)
         if (!readEntry(i, entries.at(i)))
@@ -273,7 +290,7 @@ bool InventoryReader::readEntry(int index, const QJsonValue &value)
 
     const QStringList unknownKeys = entry.unknownKeys();
     for (const QString &key : unknownKeys)
-        m_inventory.warnings.append(tr("%1: %2: unknown key \"%3\" is not used").arg(m_path, where, key));
+        warn(tr("%1: unknown key \"%2\" is not used").arg(where, key));
     m_inventory.devices.append(device);
     return true;
 }

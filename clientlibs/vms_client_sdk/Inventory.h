@@ -11,12 +11,13 @@ namespace vms_sdk {
 struct Inventory
 {
     QList<DevInfo> devices;
-    QStringList warnings; ///< what was read over, for the operator: unknown keys
-    QString error; ///< for the operator: file, entry, field and what would be right; empty on success
+    QStringList warnings; ///< what was read over, for the operator, a printable line each: unknown keys
+    QString error; ///< for the operator: a printable line with file, entry, field and what
+                   ///< would be right; empty on success
 };
 
 /// Reads an inventory file (docs/device-protocol.md, "The inventory file"). All or nothing: the first wrong entry
-/// refuses the file. Refused as well when it holds passwords and others than its owner may read it.
+/// refuses the file. Refused as well when it holds passwords and others than its owner may read or change it.
 Inventory readInventory(const QString &path);
 
 /// The content of an inventory file that readInventory() reads back to the same records.

@@ -1,9 +1,9 @@
 #include "ClientSignOn.h"
 
+#include "../ForeignText.h"
 #include "../SignOn.h"
 #include "AnswerCheck.h"
 
-#include <QDebug>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -11,12 +11,11 @@ namespace vms_sdk {
 
 namespace {
 
-/// What a stranger says goes into the log with its control characters escaped, and not at any length.
+/// What a stranger says does not go into the log at any length.
 QString quoted(const QString &text)
 {
-    QString result;
-    QDebug(&result).nospace() << text.left(64);
-    return result;
+    constexpr int longest = 64;
+    return QLatin1Char('"') + escaped(text.left(longest)) + QLatin1Char('"');
 }
 
 } // namespace
