@@ -18,6 +18,9 @@ namespace {
 
 constexpr qint64 sliceMs = 8; // as the inbox's
 
+// So long a time-out waits for answers that came before it: devices that answer without end must not keep a run alive.
+constexpr qint64 maxTimeoutDelayMs = 5'000;
+
 } // namespace
 
 ClientSdk &ClientSdk::instance()
@@ -125,6 +128,7 @@ void ClientSdk::raise(Raise signal)
 void ClientSdk::passOnAnswer(const QString &requestId, const QString &text)
 {
     qCDebug(sdkLog) << requestId << "answered:" << text.size() << "characters";
+    m_transport->passedOn(requestId, text);
     raise([&](ClientSignals &sdk) { emit sdk.signalCommonRes(requestId, text); });
 }
 
@@ -132,9 +136,11 @@ void ClientSdk::checkTimeouts()
 {
     // An answer that came in time, to a thread that was busy, goes before the time-out.
     if (m_inbox && m_timedOut.isEmpty()) {
-        if (m_answersFirst == 0)
+        if (m_answersFirst == 0) {
             m_answersFirst = m_inbox->putCount();
-        if (m_inbox->passedOnCount() < m_answersFirst) {
+            m_answersFirstSince = m_clock.elapsed();
+        }
+        if (m_inbox->passedOnCount() < m_answersFirst && m_clock.elapsed() - m_answersFirstSince < maxTimeoutDelayMs) {
             m_timer.start(1);
             return;
         }

@@ -49,7 +49,8 @@ private:
     std::unique_ptr<Inbox> m_inbox; ///< of this transport: what it raised and was not passed on goes with it
     PendingRequests m_pending;
     QStringList m_timedOut; ///< taken out of m_pending, time-out not raised yet
-    quint64 m_answersFirst = 0; ///< so many are to be passed on by the inbox before time-outs are looked for
+    quint64 m_answersFirst = 0; ///< number of answers that arrived before the deadline and must be passed on first
+    qint64 m_answersFirstSince = 0; ///< of m_clock: when they began to hold up the time-outs
     QElapsedTimer m_clock;
     /// A signal is being raised, and no event loop has turned since the clock was read: a listener may wait in one of
     /// its own, for as long as it likes.

@@ -15,6 +15,10 @@ inline constexpr char deviceSubProtocol[] = "vms-device.v1";
 /// Close code of a sign-on that was refused, by either side. From the range that WebSocket leaves to applications.
 inline constexpr int signOnRefusedCode = 4401;
 
+/// Close codes of RFC 6455: a connection that is ended on purpose, and one that its side gives up.
+inline constexpr int normalCloseCode = 1000;
+inline constexpr int goingAwayCloseCode = 1001;
+
 /// Largest message in bytes, either way; a larger one ends the connection.
 inline constexpr qint64 maxFrameBytes = 1'048'576;
 

@@ -9,4 +9,6 @@ DeviceTransport::DeviceTransport(QObject *parent)
 
 DeviceTransport::~DeviceTransport() = default;
 
+void DeviceTransport::passedOn(const QString &, const QString &) { }
+
 } // namespace vms_sdk

@@ -18,6 +18,9 @@ public:
     /// Called on the GUI thread. Must not block. A text that cannot be delivered is dropped: the request then ends by
     /// its time-out.
     virtual void send(const QString &requestId, const QString &devId, const QString &text) = 0;
+    /// Called on the GUI thread when an answer that this transport raised is about to reach the listeners: it no longer
+    /// waits for them. A transport that bounds what waits counts by this; the default does nothing.
+    virtual void passedOn(const QString &requestId, const QString &text);
 
 signals:
     // May be raised on any thread, from inside send() too: the SDK always queues them.

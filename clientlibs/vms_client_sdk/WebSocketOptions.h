@@ -4,17 +4,20 @@
 
 namespace vms_sdk {
 
-/// The waiting times of WebSocketTransport. The defaults are what docs/device-protocol.md promises.
+/// The limits of WebSocketTransport. The defaults are what docs/device-protocol.md promises.
 struct WebSocketOptions
 {
-    std::chrono::milliseconds setUpLimit{10'000}; ///< for connecting and signing on together
+    std::chrono::milliseconds connectLimit{5'000}; ///< for TCP and, where the device has it, TLS
+    std::chrono::milliseconds setUpLimit{10'000}; ///< for the handshake and the sign-on after that
+    std::chrono::milliseconds placeLimit{1'000}; ///< a device that is silent so long lets others be dialled meanwhile
     std::chrono::milliseconds firstBackOff{500}; ///< the shortest pause before a lost connection is dialled again
     std::chrono::milliseconds lastBackOff{30'000}; ///< the longest
     std::chrono::milliseconds pingInterval{10'000}; ///< two pings without an answer: the connection is lost
     std::chrono::milliseconds closeLimit{2'000}; ///< what a connection may take to close before it is cut
-    int maxMessagesPerSecond = 1'000; ///< from one device; a device answers a run with about ten
-    int maxBytesPerSecond = 16 << 20; ///< from one device, in characters: what waits for the user interface stays small
     int maxSettingUp = 32; ///< more at once make devices and switches drop handshakes
+    int maxWaiting = 512; ///< connections that are up and wait for the device; each is an open file
+    int maxFramesPerSecond = 1'000; ///< from one device, of every kind; a device answers a run with about ten
+    int maxBytesPerSecond = 16 << 20; ///< from one device
 };
 
 } // namespace vms_sdk

@@ -36,6 +36,12 @@ void WebSocketTransport::send(const QString &requestId, const QString &devId, co
         m_worker->send(requestId, devId, text);
 }
 
+void WebSocketTransport::passedOn(const QString &requestId, const QString &text)
+{
+    if (m_worker)
+        m_worker->passedOn(requestId, text.size());
+}
+
 void WebSocketTransport::setDevices(const QList<DevInfo> &devices)
 {
     if (m_worker)

@@ -23,6 +23,7 @@ public:
     /// A request to a device that is not online is dropped, never sent later.
     void send(const QString &requestId, const QString &devId, const QString &text) override;
 
+    void passedOn(const QString &requestId, const QString &text) override;
     /// The devices to keep connections to, all of them, whatever their access and kind codes. Unchanged records keep
     /// their connection, changed ones connect anew, missing ones are dropped and reported off line.
     void setDevices(const QList<DevInfo> &devices);

@@ -2,7 +2,10 @@
 #include <vms_client_sdk/SignOn.h>
 #include <vms_client_sdk/websocket/AnswerCheck.h>
 #include <vms_client_sdk/websocket/ClientSignOn.h>
+#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/websocket/WebSocketFrames.h>
 
+#include <QBuffer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -38,6 +41,24 @@ void checkFrame(const QString &text)
         qFatal("a text changes on its way");
 }
 
+/// The bytes as a peer's HTTP head, and what follows as its frames.
+void checkBytes(const QByteArray &input)
+{
+    QByteArray bytes = input;
+    QBuffer device(&bytes);
+    device.open(QIODevice::ReadOnly);
+    if (HttpHead().read(device) == HttpHead::State::TooLarge && bytes.size() < HttpHead::maxLineBytes)
+        qFatal("a short head is too large");
+    WebSocketFrames frames(device, true);
+    WebSocketFrames::Chunk chunk;
+    qint64 total = 0;
+    while (frames.next(&chunk) == WebSocketFrames::Result::Arrived) {
+        total += chunk.data.size();
+        if (total > bytes.size() || (chunk.opcode >= WebSocketFrames::Close && chunk.frameBytes > 125))
+            qFatal("a frame that cannot be");
+    }
+}
+
 /// What passes the check can be taken apart and is no larger than the check says, a level deeper.
 void checkLimits(const QByteArray &text)
 {
@@ -57,6 +78,7 @@ void checkLimits(const QByteArray &text)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
     const QByteArray input = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
+    checkBytes(input);
     DevInfo device;
     device.serialNumber = QStringLiteral("SN-1");
     device.userName = QStringLiteral("admin");

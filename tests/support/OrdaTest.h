@@ -14,6 +14,8 @@ class OrdaTest : public QObject
 public:
     /// Announces a warning for the running test function; one that does not come fails the function too.
     static void expectWarning(const QString &pattern);
+    /// Allows a warning for the running test function, any number of times, none included.
+    static void allowWarnings(const QString &pattern);
 
 protected slots:
     void init();

@@ -139,7 +139,8 @@ AnswerCheck checkAnswer(const QByteArray &utf8)
         rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag;
     const bool isJson = !rapidjson::Reader().Parse<flags>(stream, limits).IsError() && stream.Tell() == size;
     const char *otherFault = isJson ? nullptr : notJson;
-    return {limits.fault() ? limits.fault() : otherFault, limits.writtenBytes()};
+    const char *fault = limits.fault() ? limits.fault() : otherFault;
+    return {fault, fault != notJson, limits.writtenBytes()};
 }
 
 } // namespace vms_sdk

@@ -25,6 +25,7 @@ struct AnswerCheck
 {
     /// For the log; the same text for the same kind of fault. Null: the text is within all limits.
     const char *fault = nullptr;
+    bool isJson = true; ///< an object or an array, as far as it was read
     /// At least what the text takes as a part of a write request: as QJsonDocument::toJson() writes it, a level deeper.
     /// Only as far as the text was read when there is a fault.
     qint64 writtenBytes = 0;

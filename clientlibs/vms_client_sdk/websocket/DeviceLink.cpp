@@ -2,32 +2,28 @@
 
 #include "../DeviceProtocol.h"
 #include "../Logging.h"
+#include "AnswerCheck.h"
 #include "LinkHost.h"
+#include "WebSocketConnection.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QNetworkRequest>
 #include <QRandomGenerator>
 #include <QSslConfiguration>
 #include <QSslSocket>
-#include <QWebSocket>
+
+#include <algorithm>
 
 namespace vms_sdk {
 
 namespace {
 
-/// The TLS layer under a wss:// connection, null under ws://. QWebSocket shows neither its certificate nor what it has
-/// not sent.
-QSslSocket *tlsSocket(const QWebSocket *socket)
-{
-    return socket->findChild<QSslSocket *>();
-}
+// A device answers under the id that it was asked under. A run asks it under one id, so that this covers the answers
+// that come late, over many runs.
+constexpr std::size_t maxRequestIds = 64;
 
-qint64 unsentBytes(const QWebSocket *socket)
-{
-    const QSslSocket *tls = tlsSocket(socket);
-    return socket->bytesToWrite() + (tls ? tls->encryptedBytesToWrite() : 0);
-}
+// A device that was cut because it sent too much comes back in good time only when it has behaved for so long.
+constexpr std::chrono::minutes goodBehaviour{1};
 
 /// Grows with the losses, with all of the range below it as jitter: devices that were lost together do not return
 /// together.
@@ -51,7 +47,7 @@ DeviceLink::DeviceLink(const DevInfo &device, LinkHost &host)
 
 DeviceLink::~DeviceLink()
 {
-    rest(m_status, QWebSocketProtocol::CloseCodeGoingAway);
+    rest(m_status, goingAwayCloseCode);
 }
 
 void DeviceLink::start()
@@ -64,7 +60,7 @@ void DeviceLink::start()
 
 void DeviceLink::end()
 {
-    rest(DevOffline, QWebSocketProtocol::CloseCodeNormal);
+    rest(DevOffline, normalCloseCode);
 }
 
 void DeviceLink::connectAgain()
@@ -75,99 +71,94 @@ void DeviceLink::connectAgain()
 
 void DeviceLink::queue()
 {
-    m_phase = Phase::SettingUp;
-    m_host.queueForDialling(this);
+    m_phase = Phase::Connecting;
+    const bool hasFailed = m_losses + m_cuts > 0;
+    m_host.queueForDialling(this, m_wasOnline ? LinkHost::Turn::WasOnline
+                                  : hasFailed ? LinkHost::Turn::HasFailed
+                                              : LinkHost::Turn::New);
 }
 
 void DeviceLink::dial()
 {
     setStatus(DevConnecting);
-    m_host.setDeadline(this, m_host.options().setUpLimit);
+    m_wasOnline = false;
+    m_hasPlace = true;
+    m_host.setDeadline(this, m_host.options().connectLimit);
     m_signOn.emplace(m_device);
-    m_socket = makeSocket();
-    QNetworkRequest request(m_url);
-    request.setRawHeader("Sec-WebSocket-Protocol", deviceSubProtocol);
-    m_socket->open(request); // last: it can fail at once
-}
-
-QWebSocket *DeviceLink::makeSocket()
-{
-    auto *socket = new QWebSocket(QString(), QWebSocketProtocol::VersionLatest, this);
-    socket->setMaxAllowedIncomingFrameSize(maxFrameBytes);
-    socket->setMaxAllowedIncomingMessageSize(maxFrameBytes);
+    m_connection = makeConnection();
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setProtocol(QSsl::TlsV1_2OrLater);
-    socket->setSslConfiguration(tls);
+    m_connection->open(m_url, tls); // last: it can fail at once
+}
 
-    connect(socket, &QWebSocket::connected, this, &DeviceLink::onConnected);
-    connect(socket, &QWebSocket::disconnected, this, &DeviceLink::onDisconnected);
-    connect(socket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error), this, &DeviceLink::onError);
-    connect(socket, &QWebSocket::sslErrors, this, &DeviceLink::onSslErrors);
-    connect(socket, &QWebSocket::textMessageReceived, this, &DeviceLink::onTextMessage);
-    connect(socket, &QWebSocket::binaryMessageReceived, this,
+WebSocketConnection *DeviceLink::makeConnection()
+{
+    const PeerLimits limits{m_host.options().maxFramesPerSecond, m_host.options().maxBytesPerSecond, maxFrameBytes};
+    auto *connection = new WebSocketConnection(limits, this);
+    connection->setReading(!m_host.isReadingHeld());
+    connect(connection, &WebSocketConnection::lineUp, this, &DeviceLink::onLineUp);
+    connect(connection, &WebSocketConnection::sslErrors, this, &DeviceLink::onSslErrors);
+    connect(connection, &WebSocketConnection::textReceived, this, &DeviceLink::onText);
+    connect(connection, &WebSocketConnection::binaryReceived, this,
             [this] { warn(QStringLiteral("sends binary messages; they are dropped")); });
-    connect(socket, &QWebSocket::pong, this, &DeviceLink::sawTraffic);
-    return socket;
+    connect(connection, &WebSocketConnection::pongReceived, this, &DeviceLink::sawTraffic);
+    connect(connection, &WebSocketConnection::unfinishedChanged, this,
+            [this](int bytes) { m_host.setUnfinished(this, bytes); });
+    connect(connection, &WebSocketConnection::ended, this, &DeviceLink::onEnded);
+    return connection;
 }
 
 void DeviceLink::onSslErrors(const QList<QSslError> &errors)
 {
-    const QList<QSslError> tolerated = m_pin.tolerated(errors, tlsSocket(m_socket)->peerCertificate());
+    const QList<QSslError> tolerated = m_pin.tolerated(errors, m_connection->tlsSocket()->peerCertificate());
     QStringList faults;
     for (const QSslError &error : errors)
         if (!tolerated.contains(error))
             faults.append(error.errorString());
     if (!faults.isEmpty())
         warn(QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; "))));
-    m_socket->ignoreSslErrors(tolerated); // the handshake goes on only if that is all of them
+    m_connection->tlsSocket()->ignoreSslErrors(tolerated); // the handshake goes on only if that is all of them
 }
 
-void DeviceLink::onConnected()
+void DeviceLink::onLineUp()
 {
     // A certificate without faults raises no sslErrors, and still need not be the pinned one.
-    const QSslSocket *tls = tlsSocket(m_socket);
+    const QSslSocket *tls = m_connection->tlsSocket();
     if (m_pin.isSet() && !(tls && m_pin.matches(tls->peerCertificate()))) {
         warn(QStringLiteral("does not show the certificate of the inventory"));
         lost(QStringLiteral("wrong certificate"));
+        return;
     }
+    m_phase = Phase::SigningOn;
+    m_host.setDeadline(this, m_host.options().placeLimit);
 }
 
-void DeviceLink::onError(QAbstractSocket::SocketError error)
+void DeviceLink::onEnded(int code, const QString &why, bool isOffence)
 {
-    // An end by the device is told by disconnected(), with the close code.
-    if (error != QAbstractSocket::RemoteHostClosedError)
-        lost(m_socket->errorString());
-}
-
-void DeviceLink::onDisconnected()
-{
-    if (int(m_socket->closeCode()) == signOnRefusedCode)
+    if (isOffence)
+        cut(why);
+    else if (code == signOnRefusedCode)
         refused(QStringLiteral("it does not accept the user name or the password"));
     else
-        lost(QStringLiteral("connection closed"));
+        lost(why);
 }
 
-void DeviceLink::onTextMessage(const QString &message)
+void DeviceLink::onText(const QByteArray &message)
 {
     if (m_phase == Phase::Online) {
         sawTraffic();
-        if (isFlood(message.size())) {
-            warn(QStringLiteral("sends messages faster than anybody could read them"));
-            lost(QStringLiteral("flood"));
-        } else {
-            onFrame(message);
-        }
+        onFrame(message);
     } else {
         onSignOnMessage(message);
     }
 }
 
-void DeviceLink::onSignOnMessage(const QString &message)
+void DeviceLink::onSignOnMessage(const QByteArray &message)
 {
-    const ClientSignOn::Outcome outcome = m_signOn->take(message);
+    const ClientSignOn::Outcome outcome = m_signOn->take(QString::fromUtf8(message));
     switch (outcome.step) {
     case ClientSignOn::Step::Answer:
-        m_socket->sendTextMessage(outcome.text);
+        m_connection->sendText(outcome.text.toUtf8());
         break;
     case ClientSignOn::Step::Refused:
         refused(outcome.text);
@@ -177,54 +168,87 @@ void DeviceLink::onSignOnMessage(const QString &message)
         lost(QStringLiteral("broken sign-on"));
         break;
     case ClientSignOn::Step::Welcome:
-        m_phase = Phase::Online;
-        m_host.setDeadline(this, m_host.options().pingInterval);
-        m_warned.clear();
-        m_unansweredPings = 0;
-        if (!m_signOn->state())
-            warn(QStringLiteral("reports an unknown state; it counts as online"));
-        setStatus(m_signOn->state().value_or(DevOnline));
-        m_host.leave(this); // last: another one is dialled
+        signedOn();
         break;
     }
 }
 
-bool DeviceLink::isFlood(int size)
+void DeviceLink::signedOn()
 {
-    if (!m_second.isValid() || m_second.elapsed() >= 1000) {
-        m_second.start();
-        m_messagesInSecond = m_bytesInSecond = 0;
-    }
-    m_bytesInSecond += size;
-    return ++m_messagesInSecond > m_host.options().maxMessagesPerSecond
-        || m_bytesInSecond > m_host.options().maxBytesPerSecond;
+    m_phase = Phase::Online;
+    m_wasOnline = true;
+    m_hasPlace = false;
+    m_host.setDeadline(this, m_host.options().pingInterval);
+    m_onlineFor.start();
+    m_warned.clear();
+    m_unansweredPings = 0;
+    if (!m_signOn->state())
+        warn(QStringLiteral("reports an unknown state; it counts as online"));
+    setStatus(m_signOn->state().value_or(DevOnline));
+    m_host.leave(this); // last: another one is dialled
 }
 
-void DeviceLink::onFrame(const QString &frameText)
+void DeviceLink::onFrame(const QByteArray &message)
 {
-    const auto frame = parseFrame(frameText);
-    if (!frame)
+    const int end = message.indexOf('\n');
+    const QByteArray text = message.mid(end + 1);
+    if (end < 0)
         warn(QStringLiteral("sends messages without an id line; they are dropped"));
-    else if (frame->requestId.isEmpty())
-        onNotice(frame->text);
+    else if (end == 0)
+        onNotice(text);
     else
-        emit answered(frame->requestId, frame->text);
+        onAnswer(QString::fromUtf8(message.constData(), end), text);
 }
 
-void DeviceLink::onNotice(const QString &text)
+void DeviceLink::onNotice(const QByteArray &text)
 {
-    const QJsonObject notice = QJsonDocument::fromJson(text.toUtf8()).object();
+    const bool isReadable = !checkAnswer(text).fault;
+    const QJsonObject notice = isReadable ? QJsonDocument::fromJson(text).object() : QJsonObject();
     if (const auto state = onlineStateFrom(notice.value(QLatin1String("state"))))
         setStatus(*state);
     else
         warn(QStringLiteral("sends notices without a known state; they are ignored"));
 }
 
+void DeviceLink::onAnswer(const QString &requestId, const QByteArray &text)
+{
+    if (std::find(m_requestIds.begin(), m_requestIds.end(), requestId) == m_requestIds.end()) {
+        qCDebug(sdkLog) << "device" << m_device.id << "answers what it was not asked:" << requestId.left(64)
+                        << "dropped";
+        return;
+    }
+    const AnswerCheck check = checkAnswer(text);
+    if (check.fault && check.isJson)
+        warn(QStringLiteral("gives an answer that %1; it counts as unreadable").arg(QLatin1String(check.fault)));
+    const QString answer = check.fault ? QString() : QString::fromUtf8(text);
+    if (!m_host.backlog().add(m_device.id, requestId, answer.size())) {
+        cut(QStringLiteral("answers more than the window can read"));
+        return;
+    }
+    if (m_host.backlog().isFull())
+        m_host.holdReading();
+    emit answered(requestId, answer);
+}
+
+void DeviceLink::setReading(bool isReading)
+{
+    if (m_connection)
+        m_connection->setReading(isReading);
+}
+
+void DeviceLink::unfinishedForTooLong()
+{
+    cut(QStringLiteral("does not finish its message"));
+}
+
 void DeviceLink::sawTraffic()
 {
     m_unansweredPings = 0;
-    if (m_phase == Phase::Online)
-        m_losses = 0;
+    if (m_phase != Phase::Online)
+        return;
+    m_losses = 0;
+    if (m_cuts > 0 && m_onlineFor.hasExpired(std::chrono::milliseconds(goodBehaviour).count()))
+        m_cuts = 0;
 }
 
 void DeviceLink::send(const QString &requestId, const QString &text)
@@ -233,39 +257,65 @@ void DeviceLink::send(const QString &requestId, const QString &text)
         qCDebug(sdkLog) << "request" << requestId << "dropped:" << m_device.id << "is not online";
         return;
     }
-    const QString frame = toFrameText({requestId, text});
-    const qint64 room = maxFrameBytes - unsentBytes(m_socket);
-    constexpr qint64 maxUtf8Bytes = 3; // of one UTF-16 unit: most frames need no counting
-    if (frame.size() * maxUtf8Bytes > room && frame.toUtf8().size() > room)
+    const QByteArray frame = toFrameText({requestId, text}).toUtf8();
+    if (frame.size() > maxFrameBytes - m_connection->unsentBytes()) {
         warn(QStringLiteral("does not take its requests fast enough, or they are too large; some are dropped"));
-    else
-        m_socket->sendTextMessage(frame);
+        return;
+    }
+    if (m_requestIds.empty() || m_requestIds.front() != requestId) {
+        m_requestIds.push_front(requestId);
+        if (m_requestIds.size() > maxRequestIds)
+            m_requestIds.pop_back();
+    }
+    m_connection->sendText(frame);
 }
 
 void DeviceLink::deadlineReached()
 {
-    if (m_phase == Phase::Resting)
+    const WebSocketOptions &options = m_host.options();
+    if (m_phase == Phase::Resting) {
         queue();
-    else if (m_phase == Phase::SettingUp)
-        lost(QStringLiteral("no sign-on in time"));
-    else if (m_unansweredPings == 2)
+    } else if (m_phase == Phase::Connecting) {
+        lost(QStringLiteral("no connection in time"));
+    } else if (m_host.isReadingHeld()) {
+        m_host.setDeadline(this, options.pingInterval); // what the device has sent in time may lie unread
+    } else if (m_phase == Phase::SigningOn) {
+        if (!m_hasPlace)
+            return lost(QStringLiteral("no sign-on in time"));
+        m_hasPlace = false;
+        m_host.setDeadline(this, options.setUpLimit - options.placeLimit);
+        if (!m_host.makeRoom(this)) // last: another one is dialled
+            qCDebug(sdkLog) << "device" << m_device.id << "keeps its place: too many others wait, too";
+    } else if (m_unansweredPings == 2) {
         lost(QStringLiteral("pings without an answer"));
-    else
+    } else if (m_connection->unfinishedFor() > options.pingInterval.count()) {
+        unfinishedForTooLong();
+    } else {
         ping();
+    }
 }
 
 void DeviceLink::ping()
 {
     ++m_unansweredPings;
     m_host.setDeadline(this, m_host.options().pingInterval);
-    m_socket->ping();
+    m_connection->ping();
 }
 
 void DeviceLink::lost(const QString &why)
 {
     qCInfo(sdkLog) << "device" << m_device.id << "lost:" << why;
-    rest(DevOffline, QWebSocketProtocol::CloseCodeGoingAway);
-    m_host.setDeadline(this, backOff(m_host.options(), ++m_losses));
+    ++m_losses;
+    rest(DevOffline, goingAwayCloseCode);
+    m_host.setDeadline(this, backOff(m_host.options(), m_losses + m_cuts));
+}
+
+void DeviceLink::cut(const QString &why)
+{
+    warn(why);
+    ++m_cuts;
+    m_wasOnline = false; // others go first
+    lost(why);
 }
 
 void DeviceLink::refused(const QString &why)
@@ -277,10 +327,12 @@ void DeviceLink::refused(const QString &why)
 void DeviceLink::rest(DevStatus status, int closeCode)
 {
     m_phase = Phase::Resting;
+    m_hasPlace = false;
     m_host.clearDeadline(this);
-    if (QWebSocket *socket = std::exchange(m_socket, nullptr)) {
-        socket->disconnect(this);
-        m_host.closeSocket(socket, closeCode);
+    m_host.setUnfinished(this, 0);
+    if (WebSocketConnection *connection = std::exchange(m_connection, nullptr)) {
+        connection->disconnect(this);
+        m_host.closeConnection(connection, closeCode);
     }
     setStatus(status);
     m_host.leave(this); // last: another one is dialled

@@ -4,18 +4,22 @@
 #include "ClientSignOn.h"
 #include "PinnedCertificate.h"
 
-#include <QAbstractSocket>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QSet>
 #include <QUrl>
+
+#include <deque>
 #include <optional>
 
-class QWebSocket;
+QT_BEGIN_NAMESPACE
+class QSslError;
+QT_END_NAMESPACE
 
 namespace vms_sdk {
 
 class LinkHost;
+class WebSocketConnection;
 
 /// The connection to one device: dials, signs on, keeps it alive, dials again after a loss. Lives in the network
 /// thread.
@@ -36,6 +40,8 @@ public:
 
     void dial(); ///< by the host, once per queueForDialling()
     void deadlineReached(); ///< by the host
+    void setReading(bool isReading); ///< by the host
+    void unfinishedForTooLong(); ///< by the host
 
 signals:
     void answered(const QString &requestId, const QString &text);
@@ -45,25 +51,26 @@ private:
     enum class Phase
     {
         Resting,
-        SettingUp,
+        Connecting, ///< in the queue, then TCP and TLS
+        SigningOn, ///< the line is up: handshake and sign-on
         Online
     };
 
-    QWebSocket *makeSocket();
-    void onConnected();
-    void onDisconnected();
-    void onError(QAbstractSocket::SocketError error);
+    WebSocketConnection *makeConnection();
+    void onLineUp();
+    void onEnded(int code, const QString &why, bool isOffence);
     void onSslErrors(const QList<QSslError> &errors);
-    void onTextMessage(const QString &message);
-    void onSignOnMessage(const QString &message);
-    bool isFlood(int size);
-    void onFrame(const QString &frameText);
-    void onNotice(const QString &text);
+    void onText(const QByteArray &message);
+    void onSignOnMessage(const QByteArray &message);
+    void signedOn();
+    void onFrame(const QByteArray &message);
+    void onNotice(const QByteArray &text);
+    void onAnswer(const QString &requestId, const QByteArray &text);
     void sawTraffic();
     void ping();
-
     void queue();
     void lost(const QString &why);
+    void cut(const QString &why);
     void refused(const QString &why);
     void rest(DevStatus status, int closeCode);
     void setStatus(DevStatus status);
@@ -75,13 +82,15 @@ private:
     LinkHost &m_host;
     Phase m_phase = Phase::Resting;
     DevStatus m_status = DevOffline;
-    QWebSocket *m_socket = nullptr; ///< a fresh one per attempt; owned until the host closes it
+    WebSocketConnection *m_connection = nullptr; ///< a fresh one per attempt; owned until the host closes it
     std::optional<ClientSignOn> m_signOn;
+    bool m_hasPlace = false; ///< of the few that are dialled at once
+    bool m_wasOnline = false; ///< when it was lost
     int m_losses = 0; ///< in a row, without traffic in between
+    int m_cuts = 0; ///< in a row, because the device sent more than it may
+    QElapsedTimer m_onlineFor;
     int m_unansweredPings = 0;
-    QElapsedTimer m_second; ///< in which are counted:
-    int m_messagesInSecond = 0;
-    int m_bytesInSecond = 0;
+    std::deque<QString> m_requestIds; ///< sent to this device, the latest first
     QSet<QString> m_warned; ///< since the last welcome
 };
 

@@ -1,15 +1,25 @@
 #include "LinkHost.h"
 
 #include "DeviceLink.h"
+#include "WebSocketConnection.h"
 
-#include <QWebSocket>
+#include <algorithm>
 
 namespace vms_sdk {
+
+namespace {
+
+// Of all devices together. An answer mostly arrives in one piece; a thousand devices that each hold back the end of the
+// largest one would take a gigabyte.
+constexpr qint64 maxUnfinishedBytes = 64 << 20;
+
+} // namespace
 
 LinkHost::LinkHost(const WebSocketOptions &options, QObject *parent)
     : QObject(parent)
     , m_options(options)
     , m_timer(this)
+    , m_backlog([this] { QMetaObject::invokeMethod(this, &LinkHost::goOnReading, Qt::QueuedConnection); })
 {
     m_clock.start();
     m_timer.setSingleShot(true);
@@ -52,18 +62,30 @@ void LinkHost::startTimer()
         m_timer.start(int(qMax<qint64>(0, m_deadlines.begin()->first - m_clock.elapsed())));
 }
 
-void LinkHost::queueForDialling(DeviceLink *link)
+void LinkHost::queueForDialling(DeviceLink *link, Turn turn)
 {
-    m_queue.enqueue(link);
+    m_queues.at(std::size_t(turn)).enqueue(link);
     fillPlaces();
+}
+
+bool LinkHost::makeRoom(DeviceLink *link)
+{
+    if (m_waiting.size() >= m_options.maxWaiting)
+        return false;
+    m_settingUp.remove(link);
+    m_waiting.insert(link);
+    fillPlaces();
+    return true;
 }
 
 void LinkHost::leave(DeviceLink *link)
 {
-    if (m_settingUp.remove(link))
+    if (m_settingUp.remove(link) || m_waiting.remove(link)) {
         fillPlaces();
-    else
-        m_queue.removeOne(link);
+        return;
+    }
+    for (QQueue<DeviceLink *> &queue : m_queues)
+        queue.removeOne(link);
 }
 
 void LinkHost::holdDialling()
@@ -83,28 +105,62 @@ void LinkHost::fillPlaces()
     // Not posted: with thousands of sockets each further turn of the event loop costs as much as a connection.
     if (std::exchange(m_isFilling, true))
         return;
-    while (m_settingUp.size() < m_options.maxSettingUp && !m_queue.isEmpty()) {
-        DeviceLink *link = m_queue.dequeue();
+    const auto next = [this] {
+        return std::find_if(m_queues.begin(), m_queues.end(), [](const auto &queue) { return !queue.isEmpty(); });
+    };
+    while (m_settingUp.size() < m_options.maxSettingUp) {
+        const auto queue = next();
+        if (queue == m_queues.end())
+            break;
+        DeviceLink *link = queue->dequeue();
         m_settingUp.insert(link);
         link->dial();
     }
     m_isFilling = false;
 }
 
-void LinkHost::closeSocket(QWebSocket *socket, int closeCode)
+void LinkHost::holdReading()
 {
-    socket->setParent(this); // what is still closing when the thread ends goes with it
-    if (socket->state() != QAbstractSocket::ConnectedState) {
-        socket->abort();
-        socket->deleteLater();
-        return;
+    if (!std::exchange(m_isReadingHeld, true))
+        emit readingHeld(true);
+}
+
+void LinkHost::goOnReading()
+{
+    if (!m_backlog.isFull() && std::exchange(m_isReadingHeld, false))
+        emit readingHeld(false);
+}
+
+void LinkHost::setUnfinished(DeviceLink *link, int bytes)
+{
+    const auto known = m_unfinished.find(link);
+    if (known != m_unfinished.end()) {
+        m_unfinishedBytes += bytes - known->bytes;
+        known->bytes = bytes;
+        if (bytes == 0)
+            m_unfinished.erase(known);
+    } else if (bytes > 0) {
+        m_unfinishedBytes += bytes;
+        m_unfinished.insert(link, {bytes, m_clock.elapsed()});
     }
-    connect(socket, &QWebSocket::disconnected, socket, &QObject::deleteLater);
-    QTimer::singleShot(m_options.closeLimit, socket, [socket] {
-        socket->abort(); // close() drains what is unsent, without a limit of its own
-        socket->deleteLater();
+    while (m_unfinishedBytes > maxUnfinishedBytes) {
+        const auto oldest = std::min_element(m_unfinished.begin(), m_unfinished.end(),
+                                             [](const auto &a, const auto &b) { return a.since < b.since; });
+        oldest.key()->unfinishedForTooLong();
+    }
+}
+
+void LinkHost::closeConnection(WebSocketConnection *connection, int closeCode)
+{
+    connection->setParent(this); // what is still closing when the thread ends goes with it
+    connect(connection, &WebSocketConnection::finished, connection, &QObject::deleteLater);
+    QTimer::singleShot(m_options.closeLimit, connection, [connection] {
+        connection->abort(); // a close drains what is unsent, without a limit of its own
+        connection->deleteLater();
     });
-    socket->close(QWebSocketProtocol::CloseCode(closeCode));
+    connection->close(closeCode);
+    if (connection->isFinished())
+        connection->deleteLater();
 }
 
 } // namespace vms_sdk

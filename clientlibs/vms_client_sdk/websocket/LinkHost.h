@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../WebSocketOptions.h"
+#include "Backlog.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -8,16 +9,17 @@
 #include <QQueue>
 #include <QSet>
 #include <QTimer>
-#include <set>
 
-class QWebSocket;
+#include <array>
+#include <set>
 
 namespace vms_sdk {
 
 class DeviceLink;
+class WebSocketConnection;
 
 /// What the links of the network thread share: one timer for all their deadlines, the places for connections that are
-/// being set up, and the end of sockets that are let go.
+/// being set up, the memory for what has arrived, and the end of connections that are let go.
 class LinkHost : public QObject
 {
     Q_OBJECT
@@ -31,33 +33,67 @@ public:
     void setDeadline(DeviceLink *link, std::chrono::milliseconds fromNow);
     void clearDeadline(DeviceLink *link);
 
+    /// Who is dialled first when there are more links than places.
+    enum class Turn
+    {
+        WasOnline, ///< a device that worked until just now
+        New,
+        HasFailed ///< the last attempts led to nothing
+    };
     /// DeviceLink::dial() is called as soon as one of the places is free, maybe from inside this call; the link keeps
-    /// it until leave().
-    void queueForDialling(DeviceLink *link);
+    /// it until leave() or makeRoom().
+    void queueForDialling(DeviceLink *link, Turn turn);
+    /// The link's line is up, and it only waits for the device: somebody else may be dialled meanwhile.
+    /// @return false when too many wait already: the link keeps its place
+    bool makeRoom(DeviceLink *link);
     /// Gives up the place, or the place in the queue.
     void leave(DeviceLink *link);
-
     /// Nobody is dialled before goOnDialling(): for whoever ends many links, which would leave their places to each
     /// other.
     void holdDialling();
     void goOnDialling();
 
-    /// Takes over a socket that nobody listens to any more: closes it, cuts it off if that takes too long, deletes it.
-    void closeSocket(QWebSocket *socket, int closeCode);
+    Backlog &backlog() { return m_backlog; }
+    /// While the GUI thread is behind, no link reads.
+    bool isReadingHeld() const { return m_isReadingHeld; }
+    void holdReading();
+
+    /// What a link keeps of a message that is not finished; 0: nothing. Cuts the link with the oldest of them when all
+    /// links together keep too much.
+    void setUnfinished(DeviceLink *link, int bytes);
+
+    /// Takes over a connection that nobody listens to any more: closes it, cuts it off if that takes too long, deletes
+    /// it.
+    void closeConnection(WebSocketConnection *connection, int closeCode);
+
+signals:
+    void readingHeld(bool isHeld);
 
 private:
+    struct Unfinished
+    {
+        int bytes;
+        qint64 since;
+    };
+
     void checkDeadlines();
     void startTimer();
     void fillPlaces();
+    void goOnReading();
 
     WebSocketOptions m_options;
     QElapsedTimer m_clock;
     QTimer m_timer;
     std::set<std::pair<qint64, DeviceLink *>> m_deadlines;
     QHash<DeviceLink *, qint64> m_deadlineOf;
-    QQueue<DeviceLink *> m_queue;
+    std::array<QQueue<DeviceLink *>, 3> m_queues; ///< by Turn
     QSet<DeviceLink *> m_settingUp;
+    QSet<DeviceLink *> m_waiting; ///< for a device's handshake and sign-on, having made room
     bool m_isFilling = false;
+    Backlog m_backlog;
+    bool m_isReadingHeld = false;
+    QHash<DeviceLink *, Unfinished> m_unfinished;
+    qint64 m_unfinishedBytes = 0;
 };
 
 } // namespace vms_sdk

@@ -8,9 +8,22 @@
 
 namespace vms_sdk {
 
+namespace {
+
+// How exactly the second ends after which merged changes pass.
+constexpr std::chrono::milliseconds mergedStatusInterval{100};
+
+} // namespace
+
 NetworkWorker::NetworkWorker(const WebSocketOptions &options)
-    : m_host(new LinkHost(options, this))
+    : m_statusTimer(this)
+    , m_host(new LinkHost(options, this))
 {
+    m_clock.start();
+    m_statusTimer.setInterval(mergedStatusInterval);
+    connect(&m_statusTimer, &QTimer::timeout, this,
+            [this] { passOnChanges(m_statusChanges.takeDue(m_clock.elapsed())); });
+    connect(m_host, &LinkHost::readingHeld, this, [this](bool isHeld) { setReading(!isHeld); });
 }
 
 NetworkWorker::~NetworkWorker()
@@ -44,8 +57,34 @@ std::unique_ptr<DeviceLink> NetworkWorker::makeLink(const DevInfo &device)
 {
     auto link = std::make_unique<DeviceLink>(device, *m_host);
     connect(link.get(), &DeviceLink::answered, this, &NetworkWorker::answered);
-    connect(link.get(), &DeviceLink::statusChanged, this, &NetworkWorker::devStatusChanged);
+    connect(link.get(), &DeviceLink::statusChanged, this, &NetworkWorker::onStatusChanged);
     return link;
+}
+
+void NetworkWorker::onStatusChanged(const QString &devId, DevStatus status)
+{
+    passOnChanges(m_statusChanges.add(devId, status, m_clock.elapsed()));
+}
+
+void NetworkWorker::passOnChanges(const QVector<StatusChanges::Change> &changes)
+{
+    for (const auto &[devId, status] : changes)
+        emit devStatusChanged(devId, status);
+    if (!m_statusChanges.isHolding())
+        m_statusTimer.stop();
+    else if (!m_statusTimer.isActive())
+        m_statusTimer.start();
+}
+
+void NetworkWorker::setReading(bool isReading)
+{
+    for (const auto &[id, link] : m_links)
+        link->setReading(isReading);
+}
+
+void NetworkWorker::passedOn(const QString &requestId, int characters)
+{
+    m_host->backlog().passedOn(requestId, characters);
 }
 
 void NetworkWorker::connectAgain()

@@ -2,9 +2,12 @@
 
 #include "../DevInfo.h"
 #include "../WebSocketOptions.h"
+#include "StatusChanges.h"
 
+#include <QElapsedTimer>
 #include <QMutex>
 #include <QObject>
+#include <QTimer>
 #include <QVector>
 #include <memory>
 #include <unordered_map>
@@ -26,6 +29,7 @@ public:
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
     void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
+    void passedOn(const QString &requestId, int characters); ///< from any thread
 
 signals:
     void answered(const QString &requestId, const QString &text);
@@ -41,9 +45,15 @@ private:
 
     std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
     void sendRequests();
+    void onStatusChanged(const QString &devId, DevStatus status);
+    void passOnChanges(const QVector<StatusChanges::Change> &changes);
+    void setReading(bool isReading);
 
     QMutex m_mutex;
     QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
+    QElapsedTimer m_clock;
+    StatusChanges m_statusChanges;
+    QTimer m_statusTimer;
     LinkHost *m_host;
     Links m_links; ///< by device id; go before the host
 };

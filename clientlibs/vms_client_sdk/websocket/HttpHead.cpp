@@ -1,0 +1,47 @@
+#include "HttpHead.h"
+
+#include <QIODevice>
+#include <QList>
+
+#include <algorithm>
+
+namespace vms_sdk {
+
+HttpHead::State HttpHead::read(QIODevice &device)
+{
+    while (device.canReadLine()) {
+        const QByteArray line = device.readLine(maxLineBytes);
+        m_bytes += line.size();
+        if (!line.endsWith('\n') || m_bytes > maxBytes)
+            return State::TooLarge;
+        const QByteArray text = line.trimmed();
+        if (text.isEmpty() && !m_startLine.isEmpty())
+            return State::Complete;
+        takeLine(text);
+    }
+    return device.bytesAvailable() >= maxLineBytes ? State::TooLarge : State::Incomplete;
+}
+
+void HttpHead::takeLine(const QByteArray &line)
+{
+    if (m_startLine.isEmpty()) {
+        m_startLine = line;
+        return;
+    }
+    const int colon = line.indexOf(':');
+    if (colon <= 0)
+        return;
+    QByteArray &value = m_fields[line.left(colon).toLower()];
+    if (!value.isEmpty())
+        value += ',';
+    value += line.mid(colon + 1).trimmed();
+}
+
+bool HttpHead::hasWord(const QByteArray &lowerCaseName, const QByteArray &lowerCaseWord) const
+{
+    const QList<QByteArray> words = field(lowerCaseName).toLower().split(',');
+    return std::any_of(words.begin(), words.end(),
+                       [&](const QByteArray &word) { return word.trimmed() == lowerCaseWord; });
+}
+
+} // namespace vms_sdk
