@@ -3,10 +3,11 @@
 #include "Logging.h"
 
 #include <vms_client_sdk/SignOn.h>
+#include <vms_client_sdk/websocket/AnswerCheck.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QWebSocket>
 
 #include <chrono>
 
@@ -15,22 +16,27 @@ namespace device_fleet {
 namespace {
 
 constexpr std::chrono::seconds signOnLimit{10}; // as long as a client waits
+constexpr std::chrono::seconds closeLimit{2}; // what a client may take to close before it is cut
+// A client that asks and does not read: room for a few of the largest answers, faults that are too large included.
+constexpr qint64 maxUnsentBytes = 16 << 20;
 
 } // namespace
 
-DeviceConnection::DeviceConnection(QWebSocket *socket, const vms_sdk::DevInfo &device, vms_sdk::DevStatus state,
-                                   QObject *parent)
+DeviceConnection::DeviceConnection(vms_sdk::WebSocketConnection *connection, const vms_sdk::DevInfo &device,
+                                   vms_sdk::DevStatus state, QObject *parent)
     : QObject(parent)
-    , m_socket(socket)
+    , m_connection(connection)
     , m_device(device)
     , m_state(state)
     , m_nonce(vms_sdk::makeNonce())
 {
-    m_socket->setParent(this);
-    m_socket->setMaxAllowedIncomingFrameSize(vms_sdk::maxFrameBytes);
-    m_socket->setMaxAllowedIncomingMessageSize(vms_sdk::maxFrameBytes);
-    connect(m_socket, &QWebSocket::textMessageReceived, this, &DeviceConnection::handleText);
-    connect(m_socket, &QWebSocket::disconnected, this, &DeviceConnection::closed);
+    m_connection->setParent(this);
+    connect(m_connection, &vms_sdk::WebSocketConnection::textReceived, this, &DeviceConnection::handleText);
+    connect(m_connection, &vms_sdk::WebSocketConnection::ended, this, [this](int, const QString &why, bool isOffence) {
+        if (isOffence)
+            qCWarning(fleetLog) << m_device.id << "cut a client that" << why;
+    });
+    connect(m_connection, &vms_sdk::WebSocketConnection::finished, this, &DeviceConnection::closed);
     connect(&m_signOnTimer, &QTimer::timeout, this, &DeviceConnection::cut);
     m_signOnTimer.start(signOnLimit);
     sendJson(QStringLiteral("hello"), {{QStringLiteral("serial"), m_device.serialNumber},
@@ -39,22 +45,30 @@ DeviceConnection::DeviceConnection(QWebSocket *socket, const vms_sdk::DevInfo &d
 
 void DeviceConnection::send(const vms_sdk::DeviceFrame &frame)
 {
-    m_socket->sendTextMessage(vms_sdk::toFrameText(frame));
+    if (m_connection->unsentBytes() > maxUnsentBytes) {
+        qCWarning(fleetLog) << m_device.id << "cut a client that does not read its answers";
+        cut();
+        return;
+    }
+    m_connection->sendText(vms_sdk::toFrameText(frame).toUtf8());
 }
 
 void DeviceConnection::cut()
 {
-    m_socket->abort();
+    m_connection->abort();
 }
 
-void DeviceConnection::handleText(const QString &text)
+void DeviceConnection::handleText(const QByteArray &utf8)
 {
-    if (!m_isSignedOn)
-        signOn(QJsonDocument::fromJson(text.toUtf8()).object().value(QLatin1String("auth")).toObject());
-    else if (const auto frame = vms_sdk::parseFrame(text))
+    if (!m_isSignedOn) {
+        const bool isReadable = !vms_sdk::checkAnswer(utf8).fault;
+        const QJsonObject message = isReadable ? QJsonDocument::fromJson(utf8).object() : QJsonObject();
+        signOn(message.value(QLatin1String("auth")).toObject());
+    } else if (const auto frame = vms_sdk::parseFrame(QString::fromUtf8(utf8))) {
         emit requestReceived(*frame);
-    else
+    } else {
         qCWarning(fleetLog) << m_device.id << "got a frame without an id line";
+    }
 }
 
 void DeviceConnection::signOn(const QJsonObject &auth)
@@ -81,13 +95,14 @@ void DeviceConnection::signOn(const QJsonObject &auth)
 void DeviceConnection::refuse(const QString &why)
 {
     qCDebug(fleetLog) << m_device.id << "refused a sign-on:" << why;
-    m_socket->close(QWebSocketProtocol::CloseCode(vms_sdk::signOnRefusedCode), why);
+    m_signOnTimer.start(closeLimit); // then it is cut
+    m_connection->close(vms_sdk::signOnRefusedCode, why);
 }
 
 void DeviceConnection::sendJson(const QString &key, const QJsonObject &value)
 {
     const QJsonObject message{{key, value}};
-    m_socket->sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
+    m_connection->sendText(QJsonDocument(message).toJson(QJsonDocument::Compact));
 }
 
 } // namespace device_fleet

@@ -8,9 +8,9 @@
 
 #include <memory>
 
-QT_BEGIN_NAMESPACE
-class QWebSocket;
-QT_END_NAMESPACE
+namespace vms_sdk {
+class WebSocketConnection;
+}
 
 namespace device_fleet {
 
@@ -21,9 +21,10 @@ class DeviceConnection : public QObject
 
 public:
     /// Says hello at once.
-    /// @param socket connected; taken over
+    /// @param connection open; taken over
     /// @param state reported to the client in the welcome
-    DeviceConnection(QWebSocket *socket, const vms_sdk::DevInfo &device, vms_sdk::DevStatus state, QObject *parent);
+    DeviceConnection(vms_sdk::WebSocketConnection *connection, const vms_sdk::DevInfo &device, vms_sdk::DevStatus state,
+                     QObject *parent);
 
     void send(const vms_sdk::DeviceFrame &frame);
     void cut(); ///< at once, without a closing handshake; closed() follows
@@ -34,12 +35,12 @@ signals:
     void closed(); ///< the last signal
 
 private:
-    void handleText(const QString &text);
+    void handleText(const QByteArray &utf8);
     void signOn(const QJsonObject &auth);
     void refuse(const QString &why);
     void sendJson(const QString &key, const QJsonObject &value);
 
-    QWebSocket *m_socket; // a child
+    vms_sdk::WebSocketConnection *m_connection; // a child
     vms_sdk::DevInfo m_device;
     vms_sdk::DevStatus m_state;
     QByteArray m_nonce;

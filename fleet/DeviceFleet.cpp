@@ -8,11 +8,11 @@
 #include "Site.h"
 
 #include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QJsonDocument>
 #include <QPointer>
 #include <QTimer>
-#include <QWebSocket>
 
 #include <algorithm>
 
@@ -157,10 +157,10 @@ Admission DeviceFleet::admission(const QString &path) const
     return device->isOnline ? Admission::Welcome : Admission::OffLine;
 }
 
-void DeviceFleet::greet(QWebSocket *socket)
+void DeviceFleet::greet(const QString &path, vms_sdk::WebSocketConnection *webSocket)
 {
-    Device *device = find(socket->requestUrl().path().mid(1));
-    auto *connection = new DeviceConnection(socket, device->info, device->state, this);
+    Device *device = find(path.mid(1));
+    auto *connection = new DeviceConnection(webSocket, device->info, device->state, this);
     connect(connection, &DeviceConnection::closed, connection, &QObject::deleteLater);
     connect(connection, &DeviceConnection::signedOn, this,
             [this, connection, device] { takeOver(*device, connection); });

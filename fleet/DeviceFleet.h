@@ -13,9 +13,9 @@
 #include <memory>
 #include <vector>
 
-QT_BEGIN_NAMESPACE
-class QWebSocket;
-QT_END_NAMESPACE
+namespace vms_sdk {
+class WebSocketConnection;
+}
 
 namespace device_fleet {
 
@@ -59,7 +59,7 @@ private:
     struct Device;
 
     Admission admission(const QString &path) const;
-    void greet(QWebSocket *socket);
+    void greet(const QString &path, vms_sdk::WebSocketConnection *connection);
     void takeOver(Device &device, DeviceConnection *connection);
     void handleRequest(Device &device, const vms_sdk::DeviceFrame &request);
     Device *find(const QString &deviceId) const;

@@ -4,11 +4,13 @@
 #include "Logging.h"
 #include "TlsIdentity.h"
 
+#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
+
 #include <QSslCertificate>
 #include <QSslSocket>
 #include <QTimer>
 #include <QUrl>
-#include <QWebSocket>
 
 #include <chrono>
 #include <sys/socket.h>
@@ -19,13 +21,12 @@ namespace device_fleet {
 namespace {
 
 constexpr int backlog = 1024; // Qt's own 50 loses connections when thousands of clients come at once
-constexpr int maxHeadBytes = 16 * 1024;
 constexpr std::chrono::seconds handshakeLimit{10};
 
 /// "GET /dev-0001 HTTP/1.1" gives "/dev-0001".
-QString pathOf(const QByteArray &head)
+QString pathOf(const vms_sdk::HttpHead &head)
 {
-    const QList<QByteArray> requestLine = head.left(head.indexOf('\r')).split(' ');
+    const QList<QByteArray> requestLine = head.startLine().split(' ');
     return requestLine.size() == 3 ? QUrl::fromEncoded(requestLine.at(1)).path() : QString();
 }
 
@@ -48,9 +49,6 @@ QString DeviceListener::start(const FleetOptions &options)
         if (!error.isEmpty())
             return error;
     }
-    m_webSockets = new QWebSocketServer(
-        QStringLiteral("orda_fleet"), isSecure ? QWebSocketServer::SecureMode : QWebSocketServer::NonSecureMode, this);
-    connect(m_webSockets, &QWebSocketServer::newConnection, this, &DeviceListener::passOn);
 
     // A socket that answers on all of 127.0.0.0/8 is bound to every address; who comes from elsewhere is turned away.
     m_isLoopbackOnly = options.listenAddress.isNull();
@@ -84,26 +82,37 @@ void DeviceListener::incomingConnection(qintptr descriptor)
     QTcpSocket *socket = makeSocket(descriptor);
     if (!socket)
         return;
+    socket->setReadBufferSize(vms_sdk::HttpHead::maxBytes);
     auto *deadline = new QTimer(socket);
     connect(deadline, &QTimer::timeout, socket, &QObject::deleteLater);
     deadline->start(handshakeLimit);
     connect(socket, &QTcpSocket::disconnected, this, [socket] { socket->deleteLater(); });
-    connect(socket, &QTcpSocket::readyRead, this, [this, socket, deadline] { readHead(socket, deadline); });
+    connect(socket, &QTcpSocket::readyRead, this,
+            [this, socket, head = std::make_shared<vms_sdk::HttpHead>()] { readHead(socket, head.get()); });
     if (auto *secure = qobject_cast<QSslSocket *>(socket)) {
         secure->setSslConfiguration(m_tls);
         secure->startServerEncryption();
     }
 }
 
-void DeviceListener::readHead(QTcpSocket *socket, QTimer *deadline)
+void DeviceListener::readHead(QTcpSocket *socket, vms_sdk::HttpHead *head)
 {
-    const QByteArray head = socket->peek(maxHeadBytes);
-    if (!head.contains("\r\n\r\n")) {
-        if (head.size() == maxHeadBytes)
-            socket->abort();
-        return;
+    switch (head->read(*socket)) {
+    case vms_sdk::HttpHead::State::Incomplete:
+        break;
+    case vms_sdk::HttpHead::State::TooLarge:
+        socket->abort();
+        break;
+    case vms_sdk::HttpHead::State::Complete:
+        admit(socket, vms_sdk::HttpHead(*head)); // a copy: the connections that hold it end there
+        break;
     }
-    switch (m_gatekeeper(pathOf(head))) {
+}
+
+void DeviceListener::admit(QTcpSocket *socket, const vms_sdk::HttpHead &head)
+{
+    const QString path = pathOf(head);
+    switch (m_gatekeeper(path)) {
     case Admission::OffLine:
         socket->abort();
         break;
@@ -113,16 +122,13 @@ void DeviceListener::readHead(QTcpSocket *socket, QTimer *deadline)
         break;
     case Admission::Welcome:
         disconnect(socket, nullptr, this, nullptr);
-        delete deadline;
-        m_webSockets->handleConnection(socket);
+        delete socket->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly); // the handshake's deadline
+        auto *connection = new vms_sdk::WebSocketConnection({}, this);
+        connect(connection, &vms_sdk::WebSocketConnection::finished, connection, &QObject::deleteLater);
+        if (connection->accept(socket, head))
+            emit dialled(path, connection);
         break;
     }
-}
-
-void DeviceListener::passOn()
-{
-    while (QWebSocket *socket = m_webSockets->nextPendingConnection())
-        emit dialled(socket);
 }
 
 } // namespace device_fleet

@@ -1,15 +1,15 @@
 #pragma once
 
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
+
 #include <QSslConfiguration>
 #include <QTcpServer>
-#include <QWebSocketServer>
 
 #include <functional>
 #include <memory>
 
 QT_BEGIN_NAMESPACE
-class QTimer;
-class QWebSocket;
+class QTcpSocket;
 QT_END_NAMESPACE
 
 namespace device_fleet {
@@ -41,21 +41,20 @@ public:
     QString fingerprint() const;
 
 signals:
-    /// A client has dialled a device that may be dialled; the receiver owns the socket.
-    void dialled(QWebSocket *socket);
+    /// A client has dialled a device that may be dialled; the receiver owns the connection.
+    void dialled(const QString &path, vms_sdk::WebSocketConnection *connection);
 
 protected:
     void incomingConnection(qintptr descriptor) override;
 
 private:
     QTcpSocket *makeSocket(qintptr descriptor);
-    void readHead(QTcpSocket *socket, QTimer *deadline);
-    void passOn();
+    void readHead(QTcpSocket *socket, vms_sdk::HttpHead *head);
+    void admit(QTcpSocket *socket, const vms_sdk::HttpHead &head);
 
     Gatekeeper m_gatekeeper;
     bool m_isLoopbackOnly = true;
     QSslConfiguration m_tls; // null: none
-    QWebSocketServer *m_webSockets = nullptr; // only for its side of the handshake; a child
 };
 
 } // namespace device_fleet
