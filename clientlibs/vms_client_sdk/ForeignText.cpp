@@ -48,7 +48,7 @@ QString textOf(uint character)
 {
     if (QChar::requiresSurrogates(character))
         return QString(QChar(QChar::highSurrogate(character))) + QChar(QChar::lowSurrogate(character));
-    return QString(QChar(ushort(character)));
+    return {QChar(ushort(character))};
 }
 
 template <typename Replacement>
