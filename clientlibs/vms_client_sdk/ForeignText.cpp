@@ -1,9 +1,5 @@
 #include "ForeignText.h"
 
-#include <QVector>
-
-#include <algorithm>
-
 namespace vms_sdk {
 
 namespace {
@@ -28,27 +24,23 @@ bool isInvisible(uint character)
     return isMark || isReserved || isControl(character);
 }
 
-/// By hand, so that half a surrogate pair stays what it is; a regular expression matches nothing in a text with one.
-QVector<uint> charactersOf(const QString &text)
+/// The character at @p index, which moves past it. By hand, so that half a surrogate pair stays what it is; a regular
+/// expression matches nothing in a text with one.
+uint takeCharacter(const QString &text, int &index)
 {
-    QVector<uint> characters;
-    characters.reserve(text.size());
-    for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            characters.append(QChar::surrogateToUcs4(text.at(i), text.at(i + 1)));
-            ++i;
-        } else {
-            characters.append(text.at(i).unicode());
-        }
-    }
-    return characters;
+    const QChar unit = text.at(index++);
+    if (unit.isHighSurrogate() && index < text.size() && text.at(index).isLowSurrogate())
+        return QChar::surrogateToUcs4(unit, text.at(index++));
+    return unit.unicode();
 }
 
 template <typename Condition>
 bool holds(const QString &text, Condition condition)
 {
-    const QVector<uint> characters = charactersOf(text);
-    return std::any_of(characters.cbegin(), characters.cend(), condition);
+    for (int i = 0; i < text.size();)
+        if (condition(takeCharacter(text, i)))
+            return true;
+    return false;
 }
 
 /// QString::fromUcs4() leaves out a byte order mark.
@@ -56,7 +48,7 @@ QString textOf(uint character)
 {
     if (QChar::requiresSurrogates(character))
         return QString(QChar(QChar::highSurrogate(character))) + QChar(QChar::lowSurrogate(character));
-    return QString(QChar(ushort(character)));
+    return {QChar(ushort(character))};
 }
 
 template <typename Replacement>
@@ -65,8 +57,8 @@ QString replaced(const QString &text, const QString &kept, Replacement replaceme
     if (!holdsInvisible(text))
         return text;
     QString result;
-    const QVector<uint> characters = charactersOf(text);
-    for (const uint character : characters) {
+    for (int i = 0; i < text.size();) {
+        const uint character = takeCharacter(text, i);
         const QString same = textOf(character);
         result += isInvisible(character) && !kept.contains(same) ? replacement(character) : same;
     }
