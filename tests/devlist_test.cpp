@@ -4,7 +4,6 @@
 #include <orda_base/BaseTools.h>
 #include <orda_base/NavigationWidget.h>
 #include <orda_data/DevsMgrData.h>
-#include <orda_saas/SaasWorker.h>
 #include <shell/BatchCfgInit.h>
 
 #include <QApplication>
@@ -54,8 +53,6 @@ class DevlistTest : public OrdaTest
 
 private slots:
     void opensOnVideoAndFollowsTheNavigation();
-    void listsTheDevicesThatMayBeConfigured_data();
-    void listsTheDevicesThatMayBeConfigured();
     void showsNamesAsTheyStand_data();
     void showsNamesAsTheyStand();
     void contextMenuOpensTheDevice();
@@ -82,54 +79,6 @@ void DevlistTest::opensOnVideoAndFollowsTheNavigation()
         f.form->findChild<QAbstractButton *>(QLatin1String(key))->click();
         QVERIFY2(stack->currentIndex() == index, key);
     }
-}
-
-void DevlistTest::listsTheDevicesThatMayBeConfigured_data()
-{
-    QTest::addColumn<DevInfo>("dev");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<bool>("isListed");
-
-    DevInfo dev = FormFixture::device(0);
-    const auto row = [&dev](const char *name, int status, bool isListed, void (*change)(DevInfo &)) {
-        DevInfo changed = dev;
-        change(changed);
-        QTest::newRow(name) << changed << status << isListed;
-    };
-    row("camera", 1, true, [](DevInfo &) {});
-    row("recorder", 1, true, [](DevInfo &d) { d.kindCode = 6; });
-    row("other kind", 1, false, [](DevInfo &d) { d.kindCode = 2; });
-    row("not reached directly", 1, false, [](DevInfo &d) { d.accessCode = 2; });
-    row("off line", 0, false, [](DevInfo &) {});
-    row("connecting", 2, false, [](DevInfo &) {});
-    row("refused", 3, false, [](DevInfo &) {});
-    row("address, factory password", 5, true, [](DevInfo &) {});
-    row("address, locked", 6, true, [](DevInfo &) {});
-    dev.ip.clear();
-    row("cloud, no password", 1, false, [](DevInfo &) {});
-    row("cloud, weak password", 1, false, [](DevInfo &d) { d.password = QStringLiteral("12345678"); });
-    row("cloud, good password", 1, true, [](DevInfo &d) { d.password = QStringLiteral("Sommer-2031"); });
-    dev.password = QStringLiteral("Sommer-2031");
-    row("cloud, good password, factory state", 5, false, [](DevInfo &) {});
-    row("cloud, good password, locked", 6, false, [](DevInfo &) {});
-    row("cloud, freely operable, locked", 6, true, [](DevInfo &d) { d.serialNumber = QStringLiteral("FREE"); });
-    row("cloud, freely operable, off line", 0, false, [](DevInfo &d) { d.serialNumber = QStringLiteral("FREE"); });
-}
-
-void DevlistTest::listsTheDevicesThatMayBeConfigured()
-{
-    QFETCH(DevInfo, dev);
-    QFETCH(int, status);
-    QFETCH(bool, isListed);
-    const QStringList expected = isListed ? QStringList{dev.name} : QStringList();
-
-    const FormFixture live(0, silent);
-    orda_saas::SaasWorker::instance().setFreelyOperable({QStringLiteral("FREE")});
-    store().updateDevs({dev});
-    store().setDevStatus(dev.id, vms_sdk::DevStatus(status));
-    QCOMPARE(live.column(Name), expected);
-    const orda_batchCfg::BatchCfgForm later; // and the same when the form comes after the device
-    QCOMPARE(later.findChild<QTableWidget *>()->rowCount(), expected.size());
 }
 
 void DevlistTest::showsNamesAsTheyStand_data()
