@@ -2,7 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
-#include <QTextDocument>
 #include <QToolTip>
 
 #include <algorithm>
@@ -45,11 +44,13 @@ bool PlainTextDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, co
     if (event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     // QToolTip reads everything as HTML that looks like it, so it is given HTML that shows the text as it stands.
-    const QString tip = visible(index.data(Qt::ToolTipRole).toString());
-    QToolTip::showText(event->globalPos(), tip.isEmpty() ? QString() : Qt::convertFromPlainText(tip), view,
-                       view->visualRect(index));
-    event->setAccepted(!tip.isEmpty());
-    return event->isAccepted();
+    QString tip = visible(index.data(Qt::ToolTipRole).toString());
+    const bool hasTip = !tip.isEmpty();
+    if (hasTip)
+        tip = QLatin1String("<p style='white-space:pre'>") + tip.toHtmlEscaped() + QLatin1String("</p>");
+    QToolTip::showText(event->globalPos(), tip, view, view->visualRect(index));
+    event->setAccepted(hasTip);
+    return hasTip;
 }
 
 } // namespace orda_base
