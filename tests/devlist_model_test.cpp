@@ -104,7 +104,8 @@ struct ListModel
         if (column == 2)
             return {row.serial, 0};
         QString ip;
-        for (const QString &byte : row.ip.split(QLatin1Char('.')))
+        const QStringList bytes = row.ip.split(QLatin1Char('.'));
+        for (const QString &byte : bytes)
             ip += byte.rightJustified(3, QLatin1Char('0'));
         return {row.ip.isEmpty() ? QStringLiteral("none: last") : ip, 0};
     }
