@@ -11,21 +11,15 @@
 #include <orda_base/NavigationWidget.h>
 #include <orda_base/PortEditWt.h>
 #include <orda_base/SearchBox.h>
-#include <orda_base/TableOperWtStyle.h>
-#include <orda_base/TableWidget.h>
 #include <orda_base/Theme.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/SystemAssistant.h>
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QDialog>
-#include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QShortcut>
 #include <QSignalSpy>
 
@@ -35,19 +29,6 @@
 using orda_worker::AssistantSignals;
 
 namespace {
-
-std::unique_ptr<XCOMMON::XTableWidget> checkTable(int rows)
-{
-    auto table = std::make_unique<XCOMMON::XTableWidget>();
-    table->setColumnCount(2);
-    for (int row = 0; row < rows; ++row) {
-        table->insertRow(row);
-        auto *item = new QTableWidgetItem(QString::number(row + 1));
-        item->setCheckState(Qt::Unchecked);
-        table->setItem(row, 0, item);
-    }
-    return table;
-}
 
 QDialog *openDialog()
 {
@@ -70,14 +51,12 @@ class WidgetsTest : public OrdaTest
 private slots:
     void initTestCase() { orda_base::Theme::apply(*qApp); }
 
-    void allBoxSpeaksOfWhatCanBeSeen();
     void cellsSortAsPeopleRead_data();
     void cellsSortAsPeopleRead();
     void orderNumbersTouchOnlyWhatChanges();
     void overlayLetsNothingThrough();
     void overlayAnnouncesAtTheSpeedOfSpeech();
     void overlayDiesWithItsParent();
-    void tableHidesTheRowsThatAPlainOneHides();
     void dialogAnswersOnce_data();
     void dialogAnswersOnce();
     void navigationFoldsAndHighlights();
@@ -86,39 +65,6 @@ private slots:
     void passwordStrength_data();
     void passwordStrength();
 };
-
-void WidgetsTest::allBoxSpeaksOfWhatCanBeSeen()
-{
-    const auto table = checkTable(4);
-    QCheckBox all;
-    orda_base::TableOperWtStyle style(nullptr);
-    style.setWts(&all, table.get(), nullptr, {});
-    const auto checked = [&table] {
-        QString marks;
-        for (int row = 0; row < table->rowCount(); ++row)
-            marks += table->item(row, 0)->checkState() == Qt::Checked ? QLatin1Char('x') : QLatin1Char('.');
-        return marks;
-    };
-
-    table->item(1, 0)->setCheckState(Qt::Checked);
-    QCOMPARE(all.checkState(), Qt::PartiallyChecked);
-    all.click(); // from partly to all
-    QCOMPARE(all.checkState(), Qt::Checked);
-    QCOMPARE(checked(), QStringLiteral("xxxx"));
-    table->setRowHidden(0, true);
-    table->setRowHidden(2, true);
-    all.click();
-    QCOMPARE(checked(), QStringLiteral("x.x."));
-    QTRY_COMPARE(all.checkState(), Qt::Unchecked); // the two that are ticked cannot be seen
-    table->setRowHidden(0, false);
-    QTRY_COMPARE(all.checkState(), Qt::PartiallyChecked);
-    table->removeRow(1);
-    table->removeRow(2);
-    QTRY_COMPARE(all.checkState(), Qt::Checked);
-    table->setRowCount(0);
-    table->insertRow(0);
-    QTRY_COMPARE(all.checkState(), Qt::Unchecked);
-}
 
 void WidgetsTest::cellsSortAsPeopleRead_data()
 {
@@ -154,12 +100,14 @@ void WidgetsTest::cellsSortAsPeopleRead()
 
 void WidgetsTest::orderNumbersTouchOnlyWhatChanges()
 {
-    const auto table = checkTable(5);
-    table->setRowHidden(3, true);
-    QSignalSpy changes(table.get(), &QTableWidget::cellChanged);
-    orda_base::BaseTools::instance().updateTableOrderNum(table.get(), 1);
+    XCOMMON::XTableWidget table(5, 1);
+    for (int row = 0; row < 5; ++row)
+        table.setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
+    table.setRowHidden(3, true);
+    QSignalSpy changes(&table, &QTableWidget::cellChanged);
+    orda_base::BaseTools::instance().updateTableOrderNum(&table, 1);
     QCOMPARE(changes.count(), 1);
-    QCOMPARE(table->item(4, 0)->text(), QStringLiteral("4"));
+    QCOMPARE(table.item(4, 0)->text(), QStringLiteral("4"));
 }
 
 void WidgetsTest::overlayLetsNothingThrough()
@@ -362,60 +310,6 @@ void WidgetsTest::passwordStrength()
     QFETCH(QString, password);
     QFETCH(int, strength);
     QCOMPARE(int(XCOMMON::checkPwdStrength(password)), strength);
-}
-
-void WidgetsTest::tableHidesTheRowsThatAPlainOneHides()
-{
-    // At random, in bursts, with and without the event loop between: rows come, go, are hidden, shown and sorted.
-    QRandomGenerator random(3);
-    orda_base::TableWidget table;
-    QTableWidget plain;
-    for (QTableWidget *each : {static_cast<QTableWidget *>(&table), &plain}) {
-        each->setColumnCount(1);
-        each->verticalHeader()->setDefaultSectionSize(20);
-        each->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-        each->resize(300, 400);
-        each->show();
-    }
-    int number = 0;
-    for (int round = 0; round < 2000; ++round) {
-        const int action = random.bounded(6);
-        const int rows = plain.rowCount();
-        const int burst = 1 + random.bounded(5);
-        for (int i = 0; i < burst; ++i) {
-            const int row = plain.rowCount() == 0 ? 0 : random.bounded(plain.rowCount());
-            if (action == 0 || plain.rowCount() == 0) {
-                const int at = random.bounded(4) == 0 ? row : plain.rowCount();
-                const QString text = QString::number(++number * 7919 % 10007);
-                table.insertRow(at);
-                plain.insertRow(at);
-                table.setItem(at, 0, new QTableWidgetItem(text));
-                plain.setItem(at, 0, new QTableWidgetItem(text));
-            } else if (action == 1 || (action == 5 && rows > 60)) {
-                table.removeRow(row);
-                plain.removeRow(row);
-            } else if (action == 2 || action == 3) {
-                table.setRowHidden(row, action == 2);
-                plain.setRowHidden(row, action == 2);
-            }
-        }
-        if (action == 4 && random.bounded(10) == 0) {
-            table.sortItems(0);
-            plain.sortItems(0);
-        }
-        if (random.bounded(3) == 0)
-            QCoreApplication::processEvents();
-        if (random.bounded(3) == 0)
-            continue; // unseen
-        QCOMPARE(table.rowCount(), plain.rowCount());
-        for (int row = 0; row < plain.rowCount(); ++row) {
-            QCOMPARE(table.item(row, 0)->text(), plain.item(row, 0)->text());
-            QVERIFY2(table.isRowHidden(row) == plain.isRowHidden(row), qPrintable(QString::number(round)));
-            QCOMPARE(table.rowHeight(row), plain.rowHeight(row));
-            QCOMPARE(table.verticalHeader()->sectionPosition(row), plain.verticalHeader()->sectionPosition(row));
-        }
-        QCOMPARE(table.verticalHeader()->length(), plain.verticalHeader()->length());
-    }
 }
 
 ORDA_TEST_MAIN(WidgetsTest)

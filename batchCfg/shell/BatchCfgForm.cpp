@@ -22,9 +22,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QSet>
 #include <QShortcut>
-
-#include <algorithm>
 
 namespace orda_batchCfg {
 
@@ -268,6 +267,10 @@ void BatchCfgForm::fillRow(int row, const vms_sdk::DevInfo &dev)
 void BatchCfgForm::removeDevs(const QStringList &devIds)
 {
     auto *table = m_ui->devsTableWt;
+    // Where rows are hidden, QHeaderView looks at all of them for each row that goes: 2 s for 10,000 that go at once.
+    const QString keyword = devIds.size() > 1 ? m_ui->searchBox->text() : QString();
+    if (!keyword.isEmpty())
+        slotSearchDevsFromTable(QString());
     for (const QString &devId : devIds) {
         if (const QTableWidgetItem *item = m_devItemById.take(devId)) {
             const int row = item->row();
@@ -276,6 +279,8 @@ void BatchCfgForm::removeDevs(const QStringList &devIds)
             table->removeRow(row);
         }
     }
+    if (!keyword.isEmpty())
+        slotSearchDevsFromTable(keyword);
     orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
 }
 
@@ -343,6 +348,7 @@ void BatchCfgForm::updateDevStatus(const QString &devId)
 void BatchCfgForm::updateDevs(const QList<vms_sdk::DevInfo> &devs)
 {
     auto *table = m_ui->devsTableWt;
+    const QString keyword = m_ui->searchBox->text();
     for (const vms_sdk::DevInfo &dev : devs) {
         if (const QTableWidgetItem *item = m_devItemById.value(dev.id)) {
             const int row = item->row();
@@ -350,7 +356,8 @@ void BatchCfgForm::updateDevs(const QList<vms_sdk::DevInfo> &devs)
             table->item(row, Name)->setToolTip(dev.name);
             table->item(row, SerialNumber)->setText(dev.serialNumber);
             table->item(row, Ip)->setText(dev.ip);
-            searchRow(row, m_ui->searchBox->text());
+            if (!keyword.isEmpty())
+                searchRow(row, keyword);
         }
     }
     orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
@@ -367,20 +374,22 @@ void BatchCfgForm::removeIneligibleDevs()
 
 void BatchCfgForm::addEligibleDevs()
 {
-    QList<vms_sdk::DevInfo> devs = orda_data::DevsMgrData::instance().getAllDevs(false);
-    const auto isNotAdded = [this](const vms_sdk::DevInfo &dev) {
-        return m_devItemById.contains(dev.id) || !isDevEligible(dev);
-    };
-    devs.erase(std::remove_if(devs.begin(), devs.end(), isNotAdded), devs.end());
+    QList<vms_sdk::DevInfo> added;
+    QSet<QString> ids; // a store may have an id twice
+    const QList<vms_sdk::DevInfo> devs = orda_data::DevsMgrData::instance().getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : devs) {
+        if (!m_devItemById.contains(dev.id) && !ids.contains(dev.id) && isDevEligible(dev)) {
+            ids.insert(dev.id);
+            added.append(dev);
+        }
+    }
 
     auto *table = m_ui->devsTableWt;
     table->setUpdatesEnabled(false);
     int row = table->rowCount();
-    table->setRowCount(row + devs.size());
-    for (const vms_sdk::DevInfo &dev : qAsConst(devs))
-        if (!m_devItemById.contains(dev.id)) // a store may have an id twice
-            fillRow(row++, dev);
-    table->setRowCount(row);
+    table->setRowCount(row + added.size());
+    for (const vms_sdk::DevInfo &dev : qAsConst(added))
+        fillRow(row++, dev);
     table->setUpdatesEnabled(true);
     orda_base::BaseTools::instance().updateTableOrderNum(table, 1);
 }

@@ -3,6 +3,7 @@
 #include <XCOMMON/XTableWidget.h>
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLayout>
 
@@ -23,10 +24,7 @@ TableOperWtStyle::TableOperWtStyle(QObject *parent)
     : QObject(parent)
 {
     m_updateSoon.setSingleShot(true);
-    connect(&m_updateSoon, &QTimer::timeout, this, [this] {
-        updateAllBox();
-        m_sinceUpdate.start();
-    });
+    connect(&m_updateSoon, &QTimer::timeout, this, &TableOperWtStyle::updateAllBox);
 }
 
 void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLayout *header,
@@ -47,11 +45,15 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
                 if (topLeft.column() == checkColumn && roles.contains(Qt::CheckStateRole) && !m_isTickingAll)
                     updateAllBox();
             });
-    connect(table, &XCOMMON::XTableWidget::signalRowsChanged, this, [this] {
-        // At once, and then no more than 20 times a second: it looks at every row.
+    // Not within each of these signals: it looks at every row, and thousands may change at a time.
+    const auto updateSoon = [this] {
         if (!m_updateSoon.isActive())
-            m_updateSoon.start(m_sinceUpdate.isValid() && m_sinceUpdate.elapsed() < 50 ? 50 : 0);
-    });
+            m_updateSoon.start();
+    };
+    connect(table->model(), &QAbstractItemModel::rowsInserted, this, updateSoon);
+    connect(table->model(), &QAbstractItemModel::rowsRemoved, this, updateSoon);
+    // A row that is hidden or shown again gets another height.
+    connect(table->verticalHeader(), &QHeaderView::sectionResized, this, updateSoon);
     // A tri-state box would go to "partly" at every third click; a click on it means all or none.
     connect(all, &QCheckBox::clicked, this, [this](bool checked) {
         m_all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);

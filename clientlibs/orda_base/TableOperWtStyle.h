@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -47,8 +46,7 @@ private:
     QPointer<QCheckBox> m_all;
     QPointer<XCOMMON::XTableWidget> m_table;
     QPointer<QLayout> m_header;
-    QTimer m_updateSoon; // rows come and go by the thousand; the box is looked at once for many of them
-    QElapsedTimer m_sinceUpdate;
+    QTimer m_updateSoon; // brings the box up to date at the next turn of the event loop
     bool m_isTickingAll = false;
 };
 

@@ -1,9 +1,10 @@
 #include "orda_base/TableWidget.h"
 
-#include "orda_base/RowHeader.h"
+#include "orda_base/PlainTextDelegate.h"
 #include "orda_base/TableAccess.h"
 
 #include <QFocusEvent>
+#include <QHeaderView>
 
 namespace orda_base {
 
@@ -21,7 +22,7 @@ TableWidget::TableWidget(QWidget *parent)
     setVerticalScrollMode(ScrollPerPixel);
     setAlternatingRowColors(true);
     setWordWrap(false);
-    setVerticalHeader(new RowHeader(this));
+    setItemDelegate(new PlainTextDelegate(this));
     // Rows of one fixed height: measuring contents would look at every row.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(rowPixels);
