@@ -14,9 +14,6 @@ class PlainTextDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// @p text with a mark (U+FFFD) in place of each control and format character, line break and separator.
-    static QString visible(const QString &text);
-
     QString displayText(const QVariant &value, const QLocale &locale) const override;
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;

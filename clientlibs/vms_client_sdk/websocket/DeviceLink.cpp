@@ -1,6 +1,7 @@
 #include "DeviceLink.h"
 
 #include "../DeviceProtocol.h"
+#include "../ForeignText.h"
 #include "../Logging.h"
 #include "AnswerCheck.h"
 #include "LinkHost.h"
@@ -349,7 +350,7 @@ void DeviceLink::warn(const QString &what)
     if (m_warned.contains(what))
         return; // a device that does it again and again must not flood the log
     m_warned.insert(what);
-    qCWarning(sdkLog).noquote() << "device" << m_device.id << what;
+    qCWarning(sdkLog).noquote() << "device" << escaped(m_device.id) << escaped(what);
 }
 
 } // namespace vms_sdk
