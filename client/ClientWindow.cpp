@@ -2,7 +2,11 @@
 
 #include "ClientSession.h"
 #include "FailedDevices.h"
+#include "Families.h"
 #include "LastRunWindow.h"
+#include "PageRecord.h"
+#include "RecordFile.h"
+#include "RecordViewer.h"
 
 #include <orda_base/BaseForm.h>
 #include <orda_base/BaseTools.h>
@@ -13,6 +17,7 @@
 #include <shell/BatchCfgInit.h>
 
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -24,6 +29,7 @@
 #include <QTextDocument>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 
 #include <chrono>
 
@@ -63,6 +69,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     , m_onlineCount(new QLabel(this))
     , m_last(new QLabel(this))
     , m_showLastRun(new QAction(tr("&Last run"), this))
+    , m_viewer(new RecordViewer(this))
 {
     setWindowTitle(tr("Batch Configuration"));
     setCentralWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
@@ -80,7 +87,15 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
             [this](const orda_worker::EventConfirmInfo &info) {
                 showLast(info.text);
                 m_lastRunBt->show(); // what is asked is always a run's summary
+                // From the event loop: the module has not come back yet.
+                QTimer::singleShot(0ms, this, &ClientWindow::sayOfRecord);
             });
+    QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module gives bare paths
+    connect(m_viewer, &RecordViewer::signalNoViewer, this, [this](const QString &path) {
+        for (const Family &family : families())
+            if (path == RecordFile(family.recordFile).path())
+                showLastRunOf(family);
+    });
 }
 
 void ClientWindow::buildMenu()
@@ -172,6 +187,38 @@ void ClientWindow::showLast(const QString &text)
     const QString line = QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), text);
     m_last->setText(m_last->fontMetrics().elidedText(line, Qt::ElideRight, m_last->contentsRect().width()));
     m_last->setToolTip(Qt::convertFromPlainText(line, Qt::WhiteSpaceNormal));
+}
+
+void ClientWindow::sayOfRecord()
+{
+    const Family *family = shownFamily(centralWidget());
+    const QString complaint = family ? PageRecord::of(centralWidget(), *family).complaint() : QString();
+    if (!complaint.isEmpty())
+        orda_worker::SystemAssistant::instance().messageAlert(tr("Record"), complaint);
+}
+
+void ClientWindow::openRecord(const QUrl &url)
+{
+    for (const Family &family : families()) {
+        const RecordFile file(family.recordFile);
+        if (url != QUrl(file.path()))
+            continue;
+        const RecordFile::State state = file.look();
+        // A viewer would show what this run did not write, or what another user has put there.
+        const bool isOwn = PageRecord::of(centralWidget(), family).error.isEmpty();
+        if (isOwn && state.exists && state.refusal.isEmpty())
+            m_viewer->open(file.path());
+        else
+            showLastRunOf(family);
+        return;
+    }
+    QDesktopServices::openUrl(url); // of something else; it does not come here again
+}
+
+void ClientWindow::showLastRunOf(const Family &family)
+{
+    showLastRun();
+    m_lastRun->turnTo(&family);
 }
 
 void ClientWindow::showLastRun()

@@ -2,6 +2,7 @@
 
 #include "Families.h"
 #include "LastRunWindow.h"
+#include "PageRecord.h"
 #include "RecordFile.h"
 
 #include <orda_base/DisabledWaitingWt.h>
@@ -63,9 +64,11 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
     connect(&sdk, &vms_sdk::ClientSignals::signalRequestTimeout, this, heard);
     window->installEventFilter(this);
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
-            [](const QString &, const QString &text) {
+            [this](const QString &, const QString &text) {
+                if (m_hasSummary)
+                    return; // what is wrong with the record is printed with the record
                 printError(text);
-                end(ExitNoDevice);
+                end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? ExitNoDevice : ExitRecordInUse);
             });
 }
 
@@ -182,7 +185,8 @@ void RunDriver::configure()
         printRecord();
         answerSummary();
         pictureLastRun();
-        end(m_isAllDone ? ExitOk : ExitSomeFailed);
+        const bool hasRecord = PageRecord::of(m_window, *m_family).error.isEmpty();
+        end(!hasRecord ? ExitNoRecord : m_isAllDone ? ExitOk : ExitSomeFailed);
     }
 }
 
@@ -216,7 +220,8 @@ void RunDriver::answerSummary()
     for (QWidget *widget : windows) {
         if (auto *dialog = qobject_cast<QDialog *>(widget); dialog && dialog->isVisible()) {
             picture(m_window, QStringLiteral("page-after-run"));
-            picture(dialog, QStringLiteral("summary"));
+            if (dialog->objectName() == QLatin1String("eventConfirmDialog"))
+                picture(dialog, QStringLiteral("summary"));
             dialog->reject();
         }
     }
@@ -235,10 +240,15 @@ void RunDriver::pictureLastRun() const
 
 void RunDriver::printRecord() const
 {
+    const PageRecord page = PageRecord::of(m_window, *m_family);
+    if (!page.error.isEmpty())
+        printError(page.complaint());
+    if (page.isMissing())
+        return; // what the file holds is of another run
     const RecordFile file(m_family->recordFile);
     out() << "record: " << file.path() << Qt::endl;
     const RecordFile::Content content = file.read();
-    out() << content.text << Qt::flush;
+    out() << QString::fromLocal8Bit(content.bytes) << Qt::flush;
     if (!content.error.isEmpty())
         printError(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
 }
