@@ -82,13 +82,13 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
             &ClientWindow::showRemoteConfig);
     const auto &assistant = orda_worker::AssistantSignals::instance();
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
-            [this](const QString &, const QString &text) { showLast(text); });
+            [this](const QString &, const QString &text) { showLast(text.simplified()); });
     connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
             [this](const orda_worker::EventConfirmInfo &info) {
                 showLast(info.text);
                 m_lastRunBt->show(); // what is asked is always a run's summary
                 // From the event loop: the module has not come back yet.
-                QTimer::singleShot(0ms, this, &ClientWindow::sayOfRecord);
+                QTimer::singleShot(0ms, this, [this, info] { sayOfRecord(info.text); });
             });
     QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module gives bare paths
     connect(m_viewer, &RecordViewer::signalNoViewer, this, [this](const QString &path) {
@@ -189,12 +189,13 @@ void ClientWindow::showLast(const QString &text)
     m_last->setToolTip(Qt::convertFromPlainText(line, Qt::WhiteSpaceNormal));
 }
 
-void ClientWindow::sayOfRecord()
+void ClientWindow::sayOfRecord(const QString &summary)
 {
     const Family *family = shownFamily(centralWidget());
     const QString complaint = family ? PageRecord::of(centralWidget(), *family).complaint() : QString();
     if (!complaint.isEmpty())
-        orda_worker::SystemAssistant::instance().messageAlert(tr("Record"), complaint);
+        orda_worker::SystemAssistant::instance().messageAlert(tr("Record"), summary + QStringLiteral("\n\n")
+                                                                                + complaint); // it covers the summary
 }
 
 void ClientWindow::openRecord(const QUrl &url)

@@ -32,7 +32,7 @@ private:
     void openInventory();
     void updateStatusBar();
     void showLast(const QString &text);
-    void sayOfRecord();
+    void sayOfRecord(const QString &summary);
     void showLastRun();
     void showLastRunOf(const Family &family);
     void showRemoteConfig(const QString &devId);

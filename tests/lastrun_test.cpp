@@ -451,6 +451,7 @@ void LastRunTest::runThatLostItsRecordIsShownAsSuch()
     child<QDialog>(window, "eventConfirmDialog")->reject();
     QTRY_VERIFY(child<QDialog>(window, "messageAlertDialog"));
     auto *alert = child<QDialog>(window, "messageAlertDialog");
+    QVERIFY(alert->accessibleDescription().contains(QLatin1String("success:1, failure:1")));
     QVERIFY(alert->accessibleDescription().contains(QLatin1String("left no record")));
     alert->reject();
     report();
