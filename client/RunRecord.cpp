@@ -142,7 +142,7 @@ bool isCertain(const RunEntry &entry)
 
 RunEntry parseEntry(const QString &text)
 {
-    const RunEntry unreadable = unreadableEntry(text);
+    RunEntry unreadable = unreadableEntry(text);
     // A second time inside is another entry: the end of the first was never written.
     if (!isRealTimeAt(text, 0) || hasOtherTime(text))
         return unreadable;

@@ -164,7 +164,7 @@ void ProgramsTest::fullDiskIsCalledByItsName()
     const QByteArray error = client.readAllStandardError();
     QCOMPARE(client.exitCode(), 6);
     QVERIFY2(error.contains("No space left on device"), error);
-    QVERIFY(out.contains("success:80, failure:0"));
+    QVERIFY(out.contains(", failure:0"));
     const int kept = out.mid(out.indexOf("record: ")).count("\n\n");
     QVERIFY2(kept > 10 && error.contains("only " + QByteArray::number(kept) + " results"), error);
 }

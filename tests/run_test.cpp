@@ -469,8 +469,8 @@ void RunTest::lostRecordIsSaidByThePage_data()
     QTest::addColumn<QString>("said");
     QTest::newRow("link") << QByteArray() << "cannot open the record file .*: it is a symbolic link";
     QTest::newRow("no directory") << QByteArray("/no/such/directory")
-                                  << "cannot open .*\"/no/such/directory\" is missing";
-    QTest::newRow("relative directory") << QByteArray(".") << "cannot open .*\"\\.\" is not an absolute path";
+                                  << R"(cannot open .*"/no/such/directory" is missing)";
+    QTest::newRow("relative directory") << QByteArray(".") << R"(cannot open .*"\." is not an absolute path)";
     QTest::newRow("no room for the second entry") << QByteArray() << "cannot write the record file .*: File too large";
     QTest::newRow("removed in mid-run") << QByteArray() << "the record file .* was removed or replaced during the run";
 }
