@@ -13,9 +13,12 @@
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
+#include <orda_worker/EventConfirmInfo.h>
+#include <orda_worker/EventDialog.h>
 #include <orda_worker/SystemAssistant.h>
 #include <shell/BatchCfgInit.h>
 
+#include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDialog>
@@ -82,14 +85,8 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
             &ClientWindow::showRemoteConfig);
     const auto &assistant = orda_worker::AssistantSignals::instance();
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
-            [this](const QString &, const QString &text) { showLast(text.simplified()); });
-    connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
-            [this](const orda_worker::EventConfirmInfo &info) {
-                showLast(info.text);
-                m_lastRunBt->show(); // what is asked is always a run's summary
-                // From the event loop: the module has not come back yet.
-                QTimer::singleShot(0ms, this, [this, info] { sayOfRecord(info.text); });
-            });
+            [this](const QString &, const QString &text) { showLast(text); });
+    connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this, &ClientWindow::showSummary);
     QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module gives bare paths
     connect(m_viewer, &RecordViewer::signalNoViewer, this, [this](const QString &path) {
         for (const Family &family : families())
@@ -189,13 +186,20 @@ void ClientWindow::showLast(const QString &text)
     m_last->setToolTip(Qt::convertFromPlainText(line, Qt::WhiteSpaceNormal));
 }
 
-void ClientWindow::sayOfRecord(const QString &summary)
+void ClientWindow::showSummary(const orda_worker::EventConfirmInfo &info)
 {
     const Family *family = shownFamily(centralWidget());
     const QString complaint = family ? PageRecord::of(centralWidget(), *family).complaint() : QString();
-    if (!complaint.isEmpty())
-        orda_worker::SystemAssistant::instance().messageAlert(tr("Record"), summary + QStringLiteral("\n\n")
-                                                                                + complaint); // it covers the summary
+    showLast(complaint.isEmpty() ? info.text : info.text + QLatin1Char(' ') + complaint);
+    m_lastRunBt->show(); // what is asked is always a run's summary
+    if (complaint.isEmpty())
+        return;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *summary = qobject_cast<orda_worker::EventDialog *>(window);
+        if (summary && summary->accessibleDescription() == info.text)
+            summary->addText(complaint);
+    }
 }
 
 void ClientWindow::openRecord(const QUrl &url)

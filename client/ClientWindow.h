@@ -8,6 +8,9 @@ class QLabel;
 class QToolButton;
 QT_END_NAMESPACE
 
+namespace orda_worker {
+struct EventConfirmInfo;
+}
 class ClientSession;
 class LastRunWindow;
 class RecordViewer;
@@ -32,7 +35,7 @@ private:
     void openInventory();
     void updateStatusBar();
     void showLast(const QString &text);
-    void sayOfRecord(const QString &summary);
+    void showSummary(const orda_worker::EventConfirmInfo &info);
     void showLastRun();
     void showLastRunOf(const Family &family);
     void showRemoteConfig(const QString &devId);

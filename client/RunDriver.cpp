@@ -65,8 +65,6 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
     window->installEventFilter(this);
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) {
-                if (m_hasSummary)
-                    return; // what is wrong with the record is printed with the record
                 printError(text);
                 end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? ExitNoDevice : ExitRecordInUse);
             });
@@ -220,8 +218,7 @@ void RunDriver::answerSummary()
     for (QWidget *widget : windows) {
         if (auto *dialog = qobject_cast<QDialog *>(widget); dialog && dialog->isVisible()) {
             picture(m_window, QStringLiteral("page-after-run"));
-            if (dialog->objectName() == QLatin1String("eventConfirmDialog"))
-                picture(dialog, QStringLiteral("summary"));
+            picture(dialog, QStringLiteral("summary"));
             dialog->reject();
         }
     }
