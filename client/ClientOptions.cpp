@@ -42,7 +42,8 @@ ClientOptions parseOptions(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(ClientOptions::tr(
         "Configures many online cameras and recorders at once.\n\n"
-        "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device."));
+        "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device, "
+        "5 nothing configured because the record is in use, 6 the record of the run is missing or not whole."));
     const QCommandLineOption demo(QStringLiteral("demo"), ClientOptions::tr("Bring N simulated devices along."),
                                   QStringLiteral("N"));
     const QCommandLineOption inventory(QStringLiteral("inventory"),

@@ -11,7 +11,9 @@ enum ExitCode
     ExitSomeFailed = 1,
     ExitUsage = 2,
     ExitInput = 3,
-    ExitNoDevice = 4
+    ExitNoDevice = 4,
+    ExitRecordInUse = 5, ///< nothing was configured: another client's run has the record
+    ExitNoRecord = 6 ///< the run took place, but its record is missing or not whole
 };
 
 /// What the command line asks for.

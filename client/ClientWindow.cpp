@@ -2,18 +2,26 @@
 
 #include "ClientSession.h"
 #include "FailedDevices.h"
+#include "Families.h"
 #include "LastRunWindow.h"
+#include "PageRecord.h"
+#include "RecordFile.h"
+#include "RecordViewer.h"
 
 #include <orda_base/BaseForm.h>
 #include <orda_base/BaseTools.h>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
+#include <orda_worker/EventConfirmInfo.h>
+#include <orda_worker/EventDialog.h>
 #include <orda_worker/SystemAssistant.h>
 #include <shell/BatchCfgInit.h>
 #include <vms_client_sdk/ForeignText.h>
 
+#include <QApplication>
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -25,6 +33,7 @@
 #include <QTextDocument>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 
 #include <chrono>
 
@@ -64,6 +73,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     , m_onlineCount(new QLabel(this))
     , m_last(new QLabel(this))
     , m_showLastRun(new QAction(tr("&Last run"), this))
+    , m_viewer(new RecordViewer(this))
 {
     setWindowTitle(tr("Batch Configuration"));
     setCentralWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
@@ -77,11 +87,13 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     const auto &assistant = orda_worker::AssistantSignals::instance();
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) { showLast(text); });
-    connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
-            [this](const orda_worker::EventConfirmInfo &info) {
-                showLast(info.text);
-                m_lastRunBt->show(); // what is asked is always a run's summary
-            });
+    connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this, &ClientWindow::showSummary);
+    QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module gives bare paths
+    connect(m_viewer, &RecordViewer::signalNoViewer, this, [this](const QString &path) {
+        for (const Family &family : families())
+            if (path == RecordFile(family.recordFile).path())
+                showLastRunOf(family);
+    });
 }
 
 void ClientWindow::buildMenu()
@@ -173,6 +185,46 @@ void ClientWindow::showLast(const QString &text)
     const QString line = QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), text);
     m_last->setText(m_last->fontMetrics().elidedText(line, Qt::ElideRight, m_last->contentsRect().width()));
     m_last->setToolTip(Qt::convertFromPlainText(line, Qt::WhiteSpaceNormal));
+}
+
+void ClientWindow::showSummary(const orda_worker::EventConfirmInfo &info)
+{
+    const Family *family = shownFamily(centralWidget());
+    const QString complaint = family ? PageRecord::of(centralWidget(), *family).complaint() : QString();
+    showLast(complaint.isEmpty() ? info.text : info.text + QLatin1Char(' ') + complaint);
+    m_lastRunBt->show(); // what is asked is always a run's summary
+    if (complaint.isEmpty())
+        return;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *summary = qobject_cast<orda_worker::EventDialog *>(window);
+        if (summary && summary->accessibleDescription() == info.text)
+            summary->addText(complaint);
+    }
+}
+
+void ClientWindow::openRecord(const QUrl &url)
+{
+    for (const Family &family : families()) {
+        const RecordFile file(family.recordFile);
+        if (url != QUrl(file.path()))
+            continue;
+        const RecordFile::State state = file.look();
+        // A viewer would show what this run did not write, or what another user has put there.
+        const bool isOwn = PageRecord::of(centralWidget(), family).error.isEmpty();
+        if (isOwn && state.exists && state.refusal.isEmpty())
+            m_viewer->open(file.path());
+        else
+            showLastRunOf(family);
+        return;
+    }
+    QDesktopServices::openUrl(url); // of something else; it does not come here again
+}
+
+void ClientWindow::showLastRunOf(const Family &family)
+{
+    showLastRun();
+    m_lastRun->turnTo(&family);
 }
 
 void ClientWindow::showLastRun()

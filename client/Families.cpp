@@ -1,5 +1,7 @@
 #include "Families.h"
 
+#include <QStackedWidget>
+
 #include <algorithm>
 
 namespace {
@@ -40,4 +42,13 @@ QStringList familyNames()
     for (const Family &candidate : families())
         names.append(candidate.name);
     return names;
+}
+
+const Family *shownFamily(const QWidget *form)
+{
+    const QString page =
+        form->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"))->currentWidget()->objectName();
+    const auto found = std::find_if(families().begin(), families().end(),
+                                    [&page](const Family &candidate) { return candidate.pageName == page; });
+    return found == families().end() ? nullptr : &*found;
 }

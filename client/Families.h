@@ -3,6 +3,10 @@
 #include <QString>
 #include <QStringList>
 
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
 /// A parameter family as a program meets it from outside: where its page is, and where its record lies.
 struct Family
 {
@@ -17,3 +21,6 @@ const QList<Family> &families();
 /// Null when there is none of that name.
 const Family *findFamily(const QString &name);
 QStringList familyNames();
+/// The family whose page the form shows. A run covers the form, so in a run, and when its summary comes, it is the
+/// run's.
+const Family *shownFamily(const QWidget *form);

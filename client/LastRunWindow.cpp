@@ -94,7 +94,7 @@ LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
     m_lookAgain.setSingleShot(true);
     connect(&m_lookAgain, &QTimer::timeout, this, &LastRunWindow::lookAndFollow);
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
-            [this] { look(true); }); // a run has ended
+            [this] { turnTo(shownFamily(m_form)); }); // a run has ended
 }
 
 QWidget *LastRunWindow::buildTop()
@@ -104,6 +104,7 @@ QWidget *LastRunWindow::buildTop()
     m_families->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(m_families, QOverload<int>::of(&QComboBox::activated), this, &LastRunWindow::showFamily);
     m_summary = plainLabel("summary");
+    m_complaint = plainLabel("complaint");
 
     m_outcomes = new QComboBox;
     m_outcomes->setObjectName(QStringLiteral("outcomes"));
@@ -133,6 +134,7 @@ QWidget *LastRunWindow::buildTop()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(choices);
     layout->addWidget(m_summary);
+    layout->addWidget(m_complaint);
     return top;
 }
 
@@ -235,21 +237,22 @@ void LastRunWindow::lookAndFollow()
     m_lookAgain.start(std::max(lookInterval, restPerWork * std::chrono::milliseconds(work.elapsed())));
 }
 
+void LastRunWindow::turnTo(const Family *family)
+{
+    m_family = family;
+    m_report->hide();
+    look(false);
+}
+
 void LastRunWindow::look(bool turnToNewest)
 {
-    m_records.clear();
-    for (const Family &family : families()) {
-        const RecordFile::State state = RecordFile(family.recordFile).look();
-        if (state.exists || &family == m_family)
-            m_records.append({&family, state});
+    m_records = familyRecords(m_form, m_family);
+    if (!m_records.isEmpty() && (turnToNewest || !m_family)) {
+        // A run that left no record is not told by the files.
+        const Family *family = shownFamily(m_form);
+        const bool isShownLost = family && !PageRecord::of(m_form, *family).error.isEmpty();
+        m_family = isShownLost ? family : m_records.constFirst().family;
     }
-    std::stable_sort(m_records.begin(), m_records.end(), [](const Record &record, const Record &other) {
-        if (record.state.refusal.isEmpty() != other.state.refusal.isEmpty())
-            return record.state.refusal.isEmpty();
-        return record.state.changed > other.state.changed;
-    });
-    if (!m_records.isEmpty() && (turnToNewest || !m_family))
-        m_family = m_records.constFirst().family;
     if (turnToNewest)
         m_report->hide();
     listFamilies();
@@ -260,7 +263,7 @@ void LastRunWindow::listFamilies()
 {
     QStringList titles;
     int current = -1;
-    for (const Record &record : qAsConst(m_records)) {
+    for (const FamilyRecord &record : qAsConst(m_records)) {
         if (record.family == m_family)
             current = titles.size();
         titles.append(familyTitle(*record.family));
@@ -285,17 +288,13 @@ void LastRunWindow::showFamily(int index)
 
 void LastRunWindow::load()
 {
-    const Record *shown = nullptr;
-    for (const Record &record : qAsConst(m_records))
-        if (record.family == m_family)
-            shown = &record;
+    const auto found = std::find_if(m_records.cbegin(), m_records.cend(),
+                                    [this](const FamilyRecord &record) { return record.family == m_family; });
+    const auto shown = found == m_records.cend() ? std::nullopt : std::make_optional(*found);
     if (!shown || !m_loaded || *m_loaded != *shown) {
-        m_loaded = shown ? std::make_optional(*shown) : std::nullopt;
-        RecordFile::Content content;
-        if (shown && shown->state.exists)
-            content = RecordFile(m_family->recordFile).read();
-        m_error = content.error;
-        m_model->setEntries(parseRunRecord(content.text, successTexts()));
+        m_loaded = shown;
+        m_error.clear();
+        m_model->setEntries(shown ? shown->read(&m_error) : QVector<RunEntry>());
         m_groups->setEntries(m_model->entries());
     }
     updateView();
@@ -324,6 +323,8 @@ void LastRunWindow::updateView()
         texts.append(tr("The run is still going on."));
     m_summary->setText(texts.join(QStringLiteral("   ")));
     m_summary->setVisible(!entries.isEmpty());
+    m_complaint->setText(m_loaded ? m_loaded->page.complaint() : QString());
+    m_complaint->setVisible(!entries.isEmpty() && !m_complaint->text().isEmpty());
     m_empty->setText(emptyText());
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_export->setEnabled(m_filter->rowCount() > 0);
@@ -335,6 +336,8 @@ QString LastRunWindow::emptyText() const
     if (!m_loaded)
         return tr("No run yet. Tick devices and parameters in the form and press Configure; "
                   "the outcome of each device is then listed here.");
+    if (m_loaded->page.isMissing())
+        return m_loaded->page.complaint();
     const QString path = RecordFile(m_family->recordFile).path();
     if (!m_loaded->state.exists)
         return tr("The record %1 is gone. The next run writes it again.").arg(path);

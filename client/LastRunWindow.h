@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RecordFile.h"
+#include "PageRecord.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -35,20 +35,15 @@ public:
     /// @param form the batch-configuration form, or a window that has it; must outlive this window
     explicit LastRunWindow(QWidget *form, QWidget *parent = nullptr);
 
+    /// @param family null: that of the newest record
+    void turnTo(const Family *family);
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
-    struct Record
-    {
-        const Family *family;
-        RecordFile::State state;
-
-        bool operator!=(const Record &other) const { return family != other.family || !(state == other.state); }
-    };
-
     QWidget *buildTop();
     QWidget *buildGroups();
     QWidget *buildTable();
@@ -73,13 +68,14 @@ private:
     RunRecordModel *m_model;
     RunRecordFilter *m_filter;
     QTimer m_lookAgain;
-    QVector<Record> m_records; // those that may be read first, then the newest first
+    QVector<FamilyRecord> m_records;
     const Family *m_family = nullptr; // which is shown
-    std::optional<Record> m_loaded; // the record that the model has, or has not for an error
+    std::optional<FamilyRecord> m_loaded; // the record that the model has, or has not for an error
     QString m_error; // why the record is not there
 
     QComboBox *m_families;
     QLabel *m_summary;
+    QLabel *m_complaint; // about the record of a run of this process
     QComboBox *m_outcomes;
     orda_base::SearchBox *m_search;
     FailureGroupList *m_groups;

@@ -1,7 +1,9 @@
 #include "RecordFile.h"
 
-#include <QDir>
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -12,6 +14,18 @@ namespace {
 
 // A hundred times the record of ten thousand devices.
 constexpr qint64 maxSize = qint64(256) << 20U;
+
+QString temporaryDirectory()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::TempLocation);
+}
+
+// Qt makes the root directory of one that is missing, and the working directory's of a relative one.
+bool hasDirectory()
+{
+    const QByteArray given = qgetenv("TMPDIR");
+    return (given.isEmpty() || given.startsWith('/')) && QFileInfo(temporaryDirectory()).isDir();
+}
 
 QString refusalOf(const struct stat &info)
 {
@@ -30,6 +44,13 @@ QString refusalOf(const struct stat &info)
 
 } // namespace
 
+QString RecordFile::State::lastTime() const
+{
+    return QDateTime::fromMSecsSinceEpoch(changed / 1'000'000)
+        .addDays(1)
+        .toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+}
+
 bool RecordFile::State::operator==(const State &other) const
 {
     return exists == other.exists && refusal == other.refusal && changed == other.changed && size == other.size
@@ -37,7 +58,7 @@ bool RecordFile::State::operator==(const State &other) const
 }
 
 RecordFile::RecordFile(const QString &name)
-    : m_path(QDir::temp().filePath(name))
+    : m_path(temporaryDirectory() + QLatin1Char('/') + name)
 {
 }
 
@@ -45,7 +66,7 @@ RecordFile::State RecordFile::look() const
 {
     State state;
     struct stat info = {};
-    if (::lstat(QFile::encodeName(m_path).constData(), &info) == 0) {
+    if (hasDirectory() && ::lstat(QFile::encodeName(m_path).constData(), &info) == 0) {
         state.exists = true;
         state.refusal = refusalOf(info);
         state.changed = qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;
@@ -58,6 +79,8 @@ RecordFile::State RecordFile::look() const
 RecordFile::Content RecordFile::read() const
 {
     const auto fail = [](const QString &why) { return Content{{}, why}; };
+    if (!hasDirectory())
+        return fail(tr("there is no temporary directory"));
     // Not waiting: the name may be a pipe's.
     const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0)
@@ -72,5 +95,5 @@ RecordFile::Content RecordFile::read() const
     const QByteArray bytes = file.read(maxSize);
     if (file.error() != QFileDevice::NoError)
         return fail(file.errorString());
-    return {QString::fromLocal8Bit(bytes.constData(), bytes.size()), {}};
+    return {bytes, {}};
 }

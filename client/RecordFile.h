@@ -19,18 +19,22 @@ public:
         qint64 size = 0;
         quint64 inode = 0;
 
+        /// The local time that no entry is later than, with a day for a change of the time zone since.
+        QString lastTime() const;
+
         bool operator==(const State &other) const;
     };
 
     struct Content
     {
-        QString text;
-        QString error; ///< for the user, empty when the text is there
+        QByteArray bytes; ///< in the locale's encoding
+        QString error; ///< for the user, empty when the bytes are there
     };
 
     /// @param name without a directory
     explicit RecordFile(const QString &name);
 
+    /// As the module's pages have it.
     QString path() const { return m_path; }
     State look() const;
     Content read() const;

@@ -2,6 +2,7 @@
 
 #include "Families.h"
 #include "LastRunWindow.h"
+#include "PageRecord.h"
 #include "RecordFile.h"
 
 #include <orda_base/DisabledWaitingWt.h>
@@ -64,9 +65,9 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
     connect(&sdk, &vms_sdk::ClientSignals::signalRequestTimeout, this, heard);
     window->installEventFilter(this);
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
-            [](const QString &, const QString &text) {
+            [this](const QString &, const QString &text) {
                 printError(text);
-                end(ExitNoDevice);
+                end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? ExitNoDevice : ExitRecordInUse);
             });
 }
 
@@ -183,7 +184,8 @@ void RunDriver::configure()
         printRecord();
         answerSummary();
         pictureLastRun();
-        end(m_isAllDone ? ExitOk : ExitSomeFailed);
+        const bool hasRecord = PageRecord::of(m_window, *m_family).error.isEmpty();
+        end(!hasRecord ? ExitNoRecord : m_isAllDone ? ExitOk : ExitSomeFailed);
     }
 }
 
@@ -236,10 +238,15 @@ void RunDriver::pictureLastRun() const
 
 void RunDriver::printRecord() const
 {
+    const PageRecord page = PageRecord::of(m_window, *m_family);
+    if (!page.error.isEmpty())
+        printError(page.complaint());
+    if (page.isMissing())
+        return; // what the file holds is of another run
     const RecordFile file(m_family->recordFile);
     out() << "record: " << file.path() << Qt::endl;
     const RecordFile::Content content = file.read();
-    out() << vms_sdk::escaped(content.text, QStringLiteral("\n")) << Qt::flush;
+    out() << vms_sdk::escaped(QString::fromLocal8Bit(content.bytes), QStringLiteral("\n")) << Qt::flush;
     if (!content.error.isEmpty())
         printError(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
 }

@@ -94,6 +94,13 @@ bool isTimeAt(const QString &text, int place)
     return true;
 }
 
+// Whether an entry may begin at this place.
+bool isRealTimeAt(const QString &text, int place)
+{
+    return isTimeAt(text, place) && QDate::fromString(text.mid(place, 10), Qt::ISODate).isValid()
+        && QTime::fromString(text.mid(place + 11, 8)).isValid();
+}
+
 bool hasOtherTime(const QString &text)
 {
     const QString gap = blanks(gapWidth);
@@ -109,7 +116,7 @@ int endOfEntry(const QString &text, int from)
     const QLatin1String emptyLine("\n\n");
     for (int end = text.indexOf(emptyLine, from); end >= 0; end = text.indexOf(emptyLine, end + 1)) {
         const int next = end + emptyLine.size();
-        if (isTimeAt(text, next))
+        if (isRealTimeAt(text, next))
             return next;
     }
     // The last entry too ends with an empty line; what lies behind it was cut off.
@@ -117,21 +124,53 @@ int endOfEntry(const QString &text, int from)
     return last > from ? last + emptyLine.size() : text.size();
 }
 
-bool isRealTime(const QString &text)
+RunEntry unreadableEntry(const QString &text)
 {
-    return QDate::fromString(text.left(10), Qt::ISODate).isValid() && QTime::fromString(text.mid(11, 8)).isValid();
+    RunEntry unreadable;
+    unreadable.message = text;
+    return unreadable;
+}
+
+// Whether no other fields give the same text. Another device's failure could be read as this success only if its serial
+// number went on behind a gap, or if its real result and name stood in what is taken for the name.
+bool isCertain(const RunEntry &entry)
+{
+    const int gap = entry.serialNumber.indexOf(blanks(gapWidth));
+    const bool isNumberWhole = gap < 0 || endOfBlanks(entry.serialNumber, gap) == entry.serialNumber.size();
+    return isNumberWhole && !entry.name.startsWith(QLatin1Char(' ')) && !entry.name.contains(blanks(wideGapWidth));
 }
 
 RunEntry parseEntry(const QString &text)
 {
-    RunEntry unreadable;
-    unreadable.message = text;
+    RunEntry unreadable = unreadableEntry(text);
     // A second time inside is another entry: the end of the first was never written.
-    if (!isTimeAt(text, 0) || !isRealTime(text) || hasOtherTime(text))
+    if (!isRealTimeAt(text, 0) || hasOtherTime(text))
         return unreadable;
     // Addresses of other kinds, such as host names, are not told from serial numbers with gaps in them as safely.
     const std::optional<RunEntry> entry = parseAround(text, false);
     return entry ? *entry : parseAround(text, true).value_or(unreadable);
+}
+
+QString withoutEmptyLine(const QString &text)
+{
+    return text.endsWith(QLatin1String("\n\n")) ? text.chopped(2) : text;
+}
+
+RunEntry judgedEntry(const QString &text, const QStringList &successTexts)
+{
+    RunEntry entry = parseEntry(text);
+    if (entry.outcome == RunEntry::Unreadable || !successTexts.contains(entry.message))
+        return entry;
+    if (!isCertain(entry))
+        return unreadableEntry(text);
+    entry.outcome = RunEntry::Succeeded;
+    return entry;
+}
+
+void doubt(RunEntry *entry, const QString &text)
+{
+    if (entry->outcome == RunEntry::Succeeded)
+        *entry = unreadableEntry(text);
 }
 
 } // namespace
@@ -147,16 +186,40 @@ bool FailureGroup::has(const RunEntry &entry) const
     return entry.outcome == outcome && (outcome == RunEntry::Unreadable || entry.message == message);
 }
 
-QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &successTexts)
+QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &successTexts, const QString &lastTime)
 {
     QVector<RunEntry> entries;
+    QString before; // the text of the entry before this one
+    QString latest; // time
     for (int from = 0; from < text.size();) {
         const int end = endOfEntry(text, from);
-        const int chopped = text.midRef(from, end - from).endsWith(QLatin1String("\n\n")) ? 2 : 0;
-        RunEntry entry = parseEntry(text.mid(from, end - from - chopped));
-        if (entry.outcome != RunEntry::Unreadable && successTexts.contains(entry.message))
-            entry.outcome = RunEntry::Succeeded;
-        entries.append(entry);
+        const QString own = withoutEmptyLine(text.mid(from, end - from));
+        entries.append(judgedEntry(own, successTexts));
+        const QString time = isRealTimeAt(own, 0) ? own.left(timeWidth) : latest;
+        if (time < latest || (!lastTime.isEmpty() && time > lastTime)) {
+            // Results are written as they come: this time stands in a field, and no entry begins or ends here.
+            doubt(&entries.last(), own);
+            if (entries.size() > 1)
+                doubt(&entries[entries.size() - 2], before);
+        } else {
+            latest = time;
+        }
+        before = own;
+        from = end;
+    }
+    return entries;
+}
+
+QVector<RunEntry> parseRunRecord(const QByteArray &record, const QVector<int> &ends, const QStringList &successTexts,
+                                 const QString &lastTime)
+{
+    if (ends.isEmpty() || ends.constLast() != record.size())
+        return parseRunRecord(QString::fromLocal8Bit(record), successTexts, lastTime);
+    QVector<RunEntry> entries;
+    int from = 0;
+    for (const int end : ends) {
+        const QString text = QString::fromLocal8Bit(record.constData() + from, end - from);
+        entries.append(judgedEntry(withoutEmptyLine(text), successTexts));
         from = end;
     }
     return entries;

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTime>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -21,8 +22,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRandomGenerator>
 #include <QTableView>
 #include <QTableWidget>
+#include <QTemporaryDir>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -37,10 +40,16 @@ QString recordPath()
     return QDir::temp().filePath(findFamily(QStringLiteral("audio"))->recordFile);
 }
 
-QString entry(const char *serialNumber, const char *ip, const char *message, const char *name)
+QString now()
 {
-    return QStringLiteral("2026-03-04 05:06:07    %1    %2    %3                %4\n\n")
-        .arg(QString::fromUtf8(serialNumber), QString::fromUtf8(ip).leftJustified(16), QString::fromUtf8(message),
+    return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+}
+
+QString entry(const char *serialNumber, const char *ip, const char *message, const char *name,
+              const QString &time = QStringLiteral("2026-03-04 05:06:07"))
+{
+    return QStringLiteral("%1    %2    %3    %4                %5\n\n")
+        .arg(time, QString::fromUtf8(serialNumber), QString::fromUtf8(ip).leftJustified(16), QString::fromUtf8(message),
              QString::fromUtf8(name));
 }
 
@@ -102,11 +111,14 @@ private slots:
 
     void recordIsReadWhateverItsTextsHold_data();
     void recordIsReadWhateverItsTextsHold();
+    void fieldsDoNotTurnAFailureIntoASuccess_data();
+    void fieldsDoNotTurnAFailureIntoASuccess();
     void recordOfDoubtfulOriginIsNotRead_data();
     void recordOfDoubtfulOriginIsNotRead();
     void successIsKnownInEveryLanguage();
     void columnsSortAsPeopleReadThem();
     void failedDevicesAreConfiguredAtTheSecondTry();
+    void runThatLostItsRecordIsShownAsSuch();
 };
 
 void LastRunTest::recordIsReadWhateverItsTextsHold_data()
@@ -146,6 +158,8 @@ void LastRunTest::recordIsReadWhateverItsTextsHold_data()
     row("no such day", noSuchDay + next, {unreadable(noSuchDay), nextFields});
     row("cut off in the result", next + next.left(50), {nextFields, unreadable(next.left(50))});
     row("cut off in the time", next + next.left(5), {nextFields, unreadable(next.left(5))});
+    const QString old = QString(next).replace(QLatin1String("2026"), QLatin1String("2001"));
+    row("time goes back", next + old + next + next, {unreadable(next), unreadable(old), nextFields, nextFields});
     row("cut off, and another behind it", next.chopped(4) + next, {unreadable(next.chopped(4) + next)});
 }
 
@@ -160,6 +174,58 @@ void LastRunTest::recordIsReadWhateverItsTextsHold()
         read.append(QStringLiteral("%1|%2").arg(QString::number(entry.outcome), fields.join(QLatin1Char('|'))));
     }
     QCOMPARE(read, expected);
+}
+
+void LastRunTest::fieldsDoNotTurnAFailureIntoASuccess_data()
+{
+    QTest::addColumn<int>("seed");
+    for (int seed = 0; seed < 60; ++seed)
+        QTest::addRow("%d", seed) << seed;
+}
+
+void LastRunTest::fieldsDoNotTurnAFailureIntoASuccess()
+{
+    QFETCH(int, seed);
+    QRandomGenerator random(quint32(seed) + 1);
+    const QString gap = QStringLiteral("    ");
+    const QString success = QStringLiteral("10.0.0.1            success");
+    const QString whole = QStringLiteral("A    ") + success + QStringLiteral("                B");
+    const auto next = [](const char *time) { return QStringLiteral("\n\n%1    ").arg(QLatin1String(time)); };
+    const QStringList parts{QStringLiteral("A"),
+                            QStringLiteral("10.0.0.1"),
+                            QStringLiteral("gate"),
+                            QStringLiteral(" "),
+                            gap,
+                            gap + gap + gap,
+                            gap + gap + gap + gap,
+                            QStringLiteral("success"),
+                            success,
+                            whole,
+                            QStringLiteral("\n\n"),
+                            next("2001-02-03 04:05:06"),
+                            next("2001-13-44 04:05:06"),
+                            next("2099-02-03 04:05:06")};
+    const auto field = [&] {
+        QString text;
+        for (int count = random.bounded(6); count > 0; --count)
+            text += parts.at(random.bounded(parts.size()));
+        return text.toUtf8();
+    };
+    const QStringList successTexts{QStringLiteral("success")};
+    for (int i = 0; i < 300; ++i) {
+        QByteArray message = random.bounded(2) ? QByteArray("no") : field();
+        if (message.trimmed() == "success")
+            message = "no";
+        const QString own = entry(field(), field(), message, field());
+        const QString text = own + entry("B", "10.0.0.2", "success", "next");
+        const auto read = parseRunRecord(text.toUtf8(), {own.size(), text.size()}, successTexts);
+        QCOMPARE(read.size(), 2);
+        QVERIFY2(read.at(0).outcome != RunEntry::Succeeded && read.at(1).outcome == RunEntry::Succeeded,
+                 qPrintable(own));
+        const auto guessed = parseRunRecord(text, successTexts, QStringLiteral("2026-03-05 00:00:00"));
+        for (const RunEntry &entry : guessed)
+            QVERIFY2(entry.outcome != RunEntry::Succeeded || entry.serialNumber == QLatin1String("B"), qPrintable(own));
+    }
 }
 
 void LastRunTest::recordOfDoubtfulOriginIsNotRead_data()
@@ -285,10 +351,11 @@ void LastRunTest::failedDevicesAreConfiguredAtTheSecondTry()
                                  .toUtf8());
 
     // The record grows by what leaves a doubt, two devices in the list have one number, another goes off line.
-    append(entry("", "10.0.0.1", "no", "nameless"));
+    append(entry("", "10.0.0.1", "no", "nameless", now()));
     QTRY_VERIFY(again->isEnabled() && groups->rowCount() == 4);
-    append(entry("unknown", "10.0.0.1", "no", "stranger")
-           + entry(qPrintable(devices.at(2).serialNumber), "10.0.0.1", "success", "twin") + QStringLiteral("2026-"));
+    append(entry("unknown", "10.0.0.1", "no", "stranger", now())
+           + entry(qPrintable(devices.at(2).serialNumber), "10.0.0.1", "success", "twin", now())
+           + QStringLiteral("2026-"));
     QTRY_COMPARE(groups->rowCount(), 5);
     itemOf(0)->setText(devices.at(6).serialNumber);
     fleet.setOnline(devices.at(4).id, false);
@@ -326,6 +393,72 @@ void LastRunTest::failedDevicesAreConfiguredAtTheSecondTry()
     child<QComboBox>(window, "outcomes")->setCurrentIndex(0);
     QCOMPARE(column(shown, 5), QStringList({QStringLiteral("success"), QStringLiteral("success")}));
     QVERIFY(!again->isEnabled());
+}
+
+void LastRunTest::runThatLostItsRecordIsShownAsSuch()
+{
+    const QTemporaryDir programs; // an opener that finds no viewer
+    const QString seen = programs.filePath(QStringLiteral("seen"));
+    QFile opener(programs.filePath(QStringLiteral("xdg-open")));
+    QVERIFY(opener.open(QIODevice::WriteOnly));
+    opener.write("#!/bin/sh\necho \"$1\" >\"${0%/*}/seen\"\nexit 3\n");
+    opener.close();
+    opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(programs.path()));
+
+    device_fleet::FleetOptions options;
+    options.devices = 2;
+    EmbeddedFleet fleet(options);
+    QCOMPARE(fleet.start(), QString());
+    QList<vms_sdk::DevInfo> devices = fleet.inventory();
+    // Times as of this very run, so that nothing but the writer's word tells that these are no entries.
+    devices[0].name = QStringLiteral("X\n\n%1    SN    10.0.0.1            success                Y").arg(now());
+    fleet.setFault(devices.at(0).id, QStringLiteral("*"), {Fault::Garbage});
+    ClientSession session;
+    ClientWindow window(&session);
+    window.show();
+    orda_data::DevsMgrData::instance().updateDevs(devices);
+    auto *list = child<QTableWidget>(window, "devsTableWt");
+    QTRY_COMPARE(list->rowCount(), 2);
+    child<QAbstractButton>(window, "audio_param")->click();
+    child<QCheckBox>(window, "selAll")->click();
+    auto *page = child<QWidget>(window, "audioParametersPage");
+    const auto lastRun = [&window] { return window.findChild<LastRunWindow *>(); };
+    const auto report = [&] { child<QAbstractButton>(*page, "reportBt")->click(); };
+
+    child<QAbstractButton>(*page, "okBt")->click();
+    child<QDialog>(window, "eventConfirmDialog")->reject();
+    report();
+    QTRY_VERIFY(lastRun());
+    qputenv("PATH", path);
+    QFile file(seen);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QFile::encodeName(recordPath()) + '\n');
+    auto *record = child<QTableView>(*lastRun(), "record");
+    QStringList outcomes = column(record->model(), 0);
+    outcomes.sort();
+    QVERIFY2(outcomes.size() == 2 && outcomes.filter(QStringLiteral("Succeeded")).size() == 1,
+             qPrintable(outcomes.join(QLatin1Char(' '))));
+
+    // A run that cannot write: what another has put there is not shown, and Report opens the window.
+    QVERIFY(QFile::rename(recordPath(), recordPath() + QStringLiteral(".elsewhere"))
+            && QFile::link(recordPath() + QStringLiteral(".elsewhere"), recordPath()));
+    lastRun()->close();
+    QTRY_VERIFY(!lastRun());
+    expectWarning(QStringLiteral("it is a symbolic link"));
+    child<QAbstractButton>(*page, "okBt")->click();
+    auto *summary = child<QDialog>(window, "eventConfirmDialog");
+    QVERIFY(
+        summary->accessibleDescription().contains(QLatin1String("success:1, failure:1\nThe last run left no record")));
+    const auto labels = summary->findChildren<QLabel *>();
+    for (const QLabel *label : labels) // the dialog has grown
+        QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));
+    summary->reject();
+    report();
+    QVERIFY(lastRun());
+    QCOMPARE(child<QTableView>(*lastRun(), "record")->model()->rowCount(), 0);
+    QVERIFY(child<QLabel>(*lastRun(), "empty")->text().contains(QLatin1String("it is a symbolic link")));
 }
 
 ORDA_TEST_MAIN(LastRunTest)

@@ -52,7 +52,8 @@ private slots:
 
     void clientTellsByItsExitCode_data();
     void clientTellsByItsExitCode();
-    void killedClientLeavesARecordOfAllThatItReported();
+    void killedClientLeavesARecordThatNoOtherTouched();
+    void fullDiskIsCalledByItsName();
     void killedFleetIsUsedAgainWhenItIsBack();
     void passwordsAreInTheInventoryOnly();
 
@@ -119,18 +120,55 @@ void ProgramsTest::clientTellsByItsExitCode()
     QCOMPARE(client.exitCode(), exitCode);
 }
 
-void ProgramsTest::killedClientLeavesARecordOfAllThatItReported()
+void ProgramsTest::killedClientLeavesARecordThatNoOtherTouched()
 {
     write("silent.json", R"({"faults": [{"devices": ["dev-0002", "dev-0004"], "fault": "no-answer"}]})");
     QProcess client;
     client.start(program("orda_client"), {QStringLiteral("--demo"), QStringLiteral("8"), QStringLiteral("--run"),
                                           QStringLiteral("osd"), QStringLiteral("--faults"), path("silent.json")});
     QVERIFY(!lineWith(client, "Configuring(6/8)").isEmpty());
+    QByteArray said;
+    const auto another = [&said](const char *family) {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(program("orda_client"), {QStringLiteral("--demo"), QStringLiteral("3"), QStringLiteral("--run"),
+                                               QString::fromLatin1(family)});
+        process.waitForFinished();
+        said = process.readAll();
+        return process.exitCode();
+    };
+    QCOMPARE(another("osd"), 5);
+    QVERIFY2(said.contains("in use by process " + QByteArray::number(client.processId()) + " (orda_client)"), said);
+    QVERIFY2(!said.contains("Configuring(") && !said.contains("total of"), said);
+    QCOMPARE(another("network"), 0);
     ::kill(pid_t(client.processId()), SIGKILL);
     client.waitForFinished();
     const QMap<QString, QString> recorded = recordedMessages(familyRow(QStringLiteral("osd")));
     QCOMPARE(recorded.size(), 6);
     QCOMPARE(int(std::count(recorded.begin(), recorded.end(), QStringLiteral("success"))), 6);
+    QCOMPARE(another("osd"), 0); // the dead one's lock is gone
+}
+
+void ProgramsTest::fullDiskIsCalledByItsName()
+{
+    QProcess client; // over a disk of one page, in a world of its own
+    client.setWorkingDirectory(m_dir.path());
+    client.start(
+        QStringLiteral("unshare"),
+        {QStringLiteral("--map-root-user"), QStringLiteral("--mount"), QStringLiteral("sh"), QStringLiteral("-c"),
+         QStringLiteral("mkdir full && mount -t tmpfs -o size=4k tmpfs full && TMPDIR=$PWD/full exec %1 --demo 80 "
+                        "--run osd || exit 77")
+             .arg(program("orda_client"))});
+    QVERIFY(client.waitForFinished());
+    const QByteArray out = client.readAllStandardOutput();
+    if (client.exitStatus() != QProcess::NormalExit || !out.contains("window shown"))
+        QSKIP("no disk can be made here");
+    const QByteArray error = client.readAllStandardError();
+    QCOMPARE(client.exitCode(), 6);
+    QVERIFY2(error.contains("No space left on device"), error);
+    QVERIFY(out.contains(", failure:0"));
+    const int kept = out.mid(out.indexOf("record: ")).count("\n\n");
+    QVERIFY2(kept > 10 && error.contains("only " + QByteArray::number(kept) + " results"), error);
 }
 
 void ProgramsTest::killedFleetIsUsedAgainWhenItIsBack()

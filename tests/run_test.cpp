@@ -15,8 +15,12 @@
 #include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTimer>
 
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace std::chrono_literals;
@@ -89,7 +93,8 @@ private slots:
     void formMayGoAtAnyMomentOfARun();
     void quittingEndsARunQuietly();
     void resultsAreOnTheDiskAtOnce();
-    void recordIsNeverWrittenThroughALink();
+    void lostRecordIsSaidByThePage_data();
+    void lostRecordIsSaidByThePage();
     void deviceThatLeavesTheStoreIsStillReported();
 
     void slotUrlOpened(const QUrl &url) { m_openedUrls.append(url); }
@@ -245,6 +250,7 @@ void RunTest::detailOpensTheRecordOfTheLatestRunOnly()
     QDesktopServices::setUrlHandler(QString(), this, "slotUrlOpened");
     const FormFixture f(1, healthy);
     f.tickAll();
+    emit AssistantSignals::instance().signalEventConfirmOperBtClicked(QString(), 0); // a dialog of the client's own
     f.configureAudio();
     f.configureAudio();
     QCOMPARE(m_summaries->count(), 2);
@@ -433,38 +439,93 @@ void RunTest::resultsAreOnTheDiskAtOnce()
         600ms);
     f.tickAll();
     QStringList inRun;
+    struct flock lock = {};
     onceInRun(
         f.form, [&] { return !recordEntries().isEmpty(); },
         [&] {
             inRun = recordEntries();
             QCOMPARE(m_summaries->count(), 0);
+            // A client that knows of no locks; and reading the record in this process has not given the lock up.
+            QFile file(recordPath());
+            QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Append));
+            file.write("from elsewhere\n\n");
+            lock.l_type = F_WRLCK;
+            QCOMPARE(::fcntl(file.handle(), F_GETLK, &lock), 0);
         });
     f.configureAudio();
     QCOMPARE(inRun.size(), 1);
     QVERIFY(inRun.at(0).contains(QLatin1String("SN0")));
+    QVERIFY(lock.l_type != F_UNLCK);
+    QCOMPARE(recordEntries().size(), 3);
+    QCOMPARE(recordEntries().at(1), QStringLiteral("from elsewhere"));
     struct stat info = {};
     QCOMPARE(::stat(QFile::encodeName(recordPath()).constData(), &info), 0);
     QCOMPARE(int(info.st_mode & 0777), 0600);
 }
 
-void RunTest::recordIsNeverWrittenThroughALink()
+void RunTest::lostRecordIsSaidByThePage_data()
 {
+    QTest::addColumn<QByteArray>("tmpdir"); // empty: the usual one
+    QTest::addColumn<QString>("said");
+    QTest::newRow("link") << QByteArray() << "cannot open the record file .*: it is a symbolic link";
+    QTest::newRow("no directory") << QByteArray("/no/such/directory")
+                                  << R"(cannot open .*"/no/such/directory" is missing)";
+    QTest::newRow("relative directory") << QByteArray(".") << R"(cannot open .*"\." is not an absolute path)";
+    QTest::newRow("no room for the second entry") << QByteArray() << "cannot write the record file .*: File too large";
+    QTest::newRow("removed in mid-run") << QByteArray() << "the record file .* was removed or replaced during the run";
+}
+
+void RunTest::lostRecordIsSaidByThePage()
+{
+    QFETCH(QByteArray, tmpdir);
+    QFETCH(QString, said);
+    const QString what = QString::fromLatin1(QTest::currentDataTag());
+    const QByteArray usual = qgetenv("TMPDIR");
     const QString target = QDir::tempPath() + QStringLiteral("/precious.txt");
     QFile file(target);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("keep me");
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("keep me") > 0);
     file.close();
-    QVERIFY(QFile::link(target, recordPath()));
-    expectWarning(
-        QStringLiteral("cannot open the record file .*vms_audio_params_batch_cfg_record.txt: it is a symbolic link"));
+    if (what == QLatin1String("link"))
+        QVERIFY(QFile::link(target, recordPath()));
+    const QString name = QFileInfo(recordPath()).fileName();
+    const QTemporaryDir here;
+    QVERIFY(QDir::setCurrent(here.path()));
+    if (!tmpdir.isEmpty())
+        qputenv("TMPDIR", tmpdir);
+    expectWarning(said);
 
     const FormFixture f(2, healthy);
     f.tickAll();
+    struct rlimit limit = {};
+    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const struct rlimit oneEntry = {100, limit.rlim_max};
+    if (what.startsWith(QLatin1String("no room")))
+        ::setrlimit(RLIMIT_FSIZE, &oneEntry);
+    if (what.startsWith(QLatin1String("removed")))
+        onceInRun(
+            f.form, [] { return QFile::exists(recordPath()); }, [] { QFile::remove(recordPath()); });
     f.configureAudio();
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    qputenv("TMPDIR", usual);
+    QDir::setCurrent(QDir::tempPath());
+
     QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
+    const QWidget *page = f.page("audioParametersPage");
+    QVERIFY(page->property("recordError").toString().contains(QRegularExpression(said)));
+    const int kept = what.startsWith(QLatin1String("no room")) ? 1 : 0; // and no part of the second
+    QCOMPARE(page->property("recordEntryEnds").value<QVector<int>>().size(), kept);
+    if (what != QLatin1String("link"))
+        QCOMPARE(recordEntries().size(), kept);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("keep me"));
+    QVERIFY(!QFile::exists(QLatin1Char('/') + name) && !QFile::exists(here.filePath(name)));
     QFile::remove(recordPath());
+    if (tmpdir.isEmpty()) {
+        f.configureAudio(); // the next run has its record
+        QCOMPARE(page->property("recordError").toString(), QString());
+        QCOMPARE(recordEntries().size(), 2);
+    }
 }
 
 void RunTest::deviceThatLeavesTheStoreIsStillReported()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QVector>
 
 QT_BEGIN_NAMESPACE
 class QFile;
@@ -18,9 +19,14 @@ public:
     /// Touches no file. @param fileName without a directory
     explicit CfgResultsRecorder(const QString &fileName, QObject *parent = nullptr);
 
+    /// Takes the record for a run that is about to begin; what is in it stays until open(). Two clients of one user
+    /// have the same record, and only one of them may have it at a time, until close() or the end of its process.
+    /// @return who has it, in words for the user; empty when it was taken, and when it cannot be had for another
+    ///         reason, which open() then tells
+    QString reserve();
     /// Starts a new record, which empties that of the run before. The path is known to everybody on the machine, so it
     /// is never followed through a link and must be the user's own regular file.
-    /// @return false when the file cannot be had; the reason is logged, and record() then writes nothing
+    /// @return false when the file cannot be had; error() says why, and record() then writes nothing
     bool open();
     /// Writes one entry through to the file: a client that is killed loses nothing that was recorded. Serial number, IP
     /// address and name are the store's at this moment. Without an open record nothing happens.
@@ -28,15 +34,26 @@ public:
     void close();
 
     QString filePath() const { return m_filePath; }
+    /// Of the record that was opened last: why it is missing or not whole, in words for the user; empty when all is
+    /// well. Final after close().
+    QString error() const { return m_error; }
+    /// Where each entry of that record ends in the file, in bytes. Only this tells entries from texts that look like
+    /// entries.
+    QVector<int> entryEnds() const { return m_entryEnds; }
 
 private:
-    bool openSafely();
+    int openLocked(QString *why, QString *holder) const;
+    bool write(const QByteArray &entry);
+    bool isInPlace() const;
     QString timeText();
-    void reportOnce(const QString &what);
+    void fail(const QString &what);
 
     QString m_filePath;
     QFile *m_file = nullptr;
-    bool m_reported = false;
+    QString m_noDirectory; // why there is no directory for the file; empty when there is
+    bool m_isReserved = false;
+    QString m_error;
+    QVector<int> m_entryEnds;
     qint64 m_second = -1; // since the epoch, and its text: thousands of results come in one second
     QString m_timeText;
 };

@@ -93,6 +93,8 @@ ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QW
     installCheckBoxAccess();
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked,
             this, [this](const QString &uuid, int button) {
+                if (m_confirmUuid.isEmpty())
+                    return; // no run yet, and other dialogs of the client may have no identifier
                 if (uuid == m_confirmUuid && button == 0)
                     m_reportBt->click();
             });
@@ -274,6 +276,8 @@ void ParamsCfgPage::configure()
         alert(tr("Please select the devices to be configured"));
         return;
     }
+    if (!takeRecord())
+        return;
 
     qCDebug(logRun) << m_title << "begins:" << devIds.size() << "devices";
     const RunLock lock;
@@ -289,6 +293,20 @@ void ParamsCfgPage::configure()
     if (run->finished() < run->total)
         abandonRun(); // the application is quitting
     orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(run->overlayId);
+}
+
+bool ParamsCfgPage::takeRecord()
+{
+    const QString holder = m_recorder->reserve();
+    setProperty("recordInUse", holder);
+    if (!holder.isEmpty()) {
+        alert(tr("Nothing was configured: the record file %1 is in use by %2. Wait until its run has ended.")
+                  .arg(m_recorder->filePath(), holder));
+        return false;
+    }
+    setProperty("recordError", QString());
+    setProperty("recordEntryEnds", {});
+    return true;
 }
 
 void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringList &devIds)
@@ -330,6 +348,8 @@ void ParamsCfgPage::handleResult(Run &run, const QString &devId, const QString &
 void ParamsCfgPage::finishRun(const Run &run)
 {
     m_recorder->close();
+    setProperty("recordError", m_recorder->error());
+    setProperty("recordEntryEnds", QVariant::fromValue(m_recorder->entryEnds()));
     m_reportBt->show();
     m_confirmUuid = QUuid::createUuid().toString();
     const QString text = tr("A total of %1 devices have been configured, success:%2, failure:%3")

@@ -25,6 +25,9 @@ class ParamsCfgTask;
 /// counting, its record and its summary. A family's page states its widgets, its table of parameters and its task.
 ///
 /// The page's form has the check box "allParams" and the buttons "okBt" and "reportBt".
+///
+/// What the module itself does not show is in dynamic properties for clients that do: "recordInUse", "recordError" and
+/// "recordEntryEnds" (docs/integration.md).
 class ParamsCfgPage : public QWidget
 {
     Q_OBJECT
@@ -98,6 +101,7 @@ private:
     void updateFlags();
     bool isSelectionComplete(QString *alertText) const;
     void configure();
+    bool takeRecord();
     void startTasks(const std::shared_ptr<Run> &run, const QStringList &devIds);
     void handleResult(Run &run, const QString &devId, const QString &msg, int errorCode);
     void finishRun(const Run &run);

@@ -187,6 +187,61 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::CfgResultsRecorder</name>
+    <message>
+        <source>the temporary directory &quot;%1&quot; is not an absolute path</source>
+        <translation>das temporäre Verzeichnis „%1“ ist kein absoluter Pfad</translation>
+    </message>
+    <message>
+        <source>the temporary directory &quot;%1&quot; is missing</source>
+        <translation>das temporäre Verzeichnis „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>es gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>it has more than one name</source>
+        <translation>es hat mehr als einen Namen</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>einem anderen Prozess</translation>
+    </message>
+    <message>
+        <source>process %1</source>
+        <translation>Prozess %1</translation>
+    </message>
+    <message>
+        <source>process %1 (%2)</source>
+        <translation>Prozess %1 (%2)</translation>
+    </message>
+    <message>
+        <source>cannot open the record file %1: %2</source>
+        <translation>Protokolldatei %1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>es ist ein symbolischer Link</translation>
+    </message>
+    <message>
+        <source>it is in use by %1</source>
+        <translation>es wird von %1 benutzt</translation>
+    </message>
+    <message>
+        <source>cannot write the record file %1: %2</source>
+        <translation>Protokolldatei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>the record file %1 was removed or replaced during the run</source>
+        <translation>die Protokolldatei %1 wurde während des Laufs entfernt oder ersetzt</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::EmptyListHint</name>
     <message>
         <source>No device in the list matches the search.</source>
@@ -582,6 +637,10 @@
     <message>
         <source>Configure %1</source>
         <translation>%1 konfigurieren</translation>
+    </message>
+    <message>
+        <source>Nothing was configured: the record file %1 is in use by %2. Wait until its run has ended.</source>
+        <translation>Es wurde nichts konfiguriert: Die Protokolldatei %1 wird von %2 benutzt. Warten Sie, bis dessen Lauf beendet ist.</translation>
     </message>
 </context>
 <context>

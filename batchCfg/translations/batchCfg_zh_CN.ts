@@ -187,6 +187,61 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::CfgResultsRecorder</name>
+    <message>
+        <source>the temporary directory &quot;%1&quot; is not an absolute path</source>
+        <translation>临时目录“%1”不是绝对路径</translation>
+    </message>
+    <message>
+        <source>the temporary directory &quot;%1&quot; is missing</source>
+        <translation>临时目录“%1”不存在</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>它属于其他用户</translation>
+    </message>
+    <message>
+        <source>it has more than one name</source>
+        <translation>它有多个名称</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>另一个进程</translation>
+    </message>
+    <message>
+        <source>process %1</source>
+        <translation>进程 %1</translation>
+    </message>
+    <message>
+        <source>process %1 (%2)</source>
+        <translation>进程 %1（%2）</translation>
+    </message>
+    <message>
+        <source>cannot open the record file %1: %2</source>
+        <translation>无法打开记录文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>它是符号链接</translation>
+    </message>
+    <message>
+        <source>it is in use by %1</source>
+        <translation>它正由%1使用</translation>
+    </message>
+    <message>
+        <source>cannot write the record file %1: %2</source>
+        <translation>无法写入记录文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>the record file %1 was removed or replaced during the run</source>
+        <translation>记录文件 %1 在运行期间被删除或替换</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::EmptyListHint</name>
     <message>
         <source>No device in the list matches the search.</source>
@@ -582,6 +637,10 @@
     <message>
         <source>Configure %1</source>
         <translation>配置 %1</translation>
+    </message>
+    <message>
+        <source>Nothing was configured: the record file %1 is in use by %2. Wait until its run has ended.</source>
+        <translation>未进行任何配置：记录文件 %1 正由%2使用。请等待其运行结束。</translation>
     </message>
 </context>
 <context>

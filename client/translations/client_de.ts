@@ -4,14 +4,6 @@
 <context>
     <name>ClientOptions</name>
     <message>
-        <source>Configures many online cameras and recorders at once.
-
-Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device.</source>
-        <translation>Konfiguriert viele Kameras und Rekorder, die online sind, auf einmal.
-
-Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 3 eine Datei ist falsch, 4 kein Gerät.</translation>
-    </message>
-    <message>
         <source>Bring N simulated devices along.</source>
         <translation>N simulierte Geräte mitbringen.</translation>
     </message>
@@ -86,6 +78,14 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>--inventory takes a file</source>
         <translation>--inventory nimmt eine Datei</translation>
+    </message>
+    <message>
+        <source>Configures many online cameras and recorders at once.
+
+Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device, 5 nothing configured because the record is in use, 6 the record of the run is missing or not whole.</source>
+        <translation>Konfiguriert viele Kameras und Rekorder, die online sind, auf einmal.
+
+Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 3 eine Datei ist falsch, 4 kein Gerät, 5 nichts konfiguriert, weil das Protokoll benutzt wird, 6 das Protokoll des Laufs fehlt oder ist unvollständig.</translation>
     </message>
 </context>
 <context>
@@ -359,6 +359,20 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
+    <name>PageRecord</name>
+    <message>
+        <source>The last run left no record: %1.</source>
+        <translation>Der letzte Lauf hat kein Protokoll hinterlassen: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The record has only %n result(s) of the last run: %1.</source>
+        <translation>
+            <numerusform>Das Protokoll hat nur %n Ergebnis des letzten Laufs: %1.</numerusform>
+            <numerusform>Das Protokoll hat nur %n Ergebnisse des letzten Laufs: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RecordFile</name>
     <message>
         <source>it is a symbolic link</source>
@@ -379,6 +393,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>it is too large for a record</source>
         <translation>es ist zu groß für ein Protokoll</translation>
+    </message>
+    <message>
+        <source>there is no temporary directory</source>
+        <translation>es gibt kein temporäres Verzeichnis</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>PageRecord</name>
+    <message numerus="yes">
+        <source>The record has only %n result(s) of the last run: %1.</source>
+        <translation>
+            <numerusform>The record has only %n result of the last run: %1.</numerusform>
+            <numerusform>The record has only %n results of the last run: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RunDriver</name>
     <message numerus="yes">
         <source>%1 of %n device(s) on line</source>

@@ -4,14 +4,6 @@
 <context>
     <name>ClientOptions</name>
     <message>
-        <source>Configures many online cameras and recorders at once.
-
-Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device.</source>
-        <translation>一次配置许多在线摄像机和录像机。
-
-退出码：0 全部设备已配置，1 部分未配置，2 用法错误，3 文件有误，4 没有设备。</translation>
-    </message>
-    <message>
         <source>Bring N simulated devices along.</source>
         <translation>附带 N 台模拟设备。</translation>
     </message>
@@ -86,6 +78,14 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>--inventory takes a file</source>
         <translation>--inventory 需要一个文件</translation>
+    </message>
+    <message>
+        <source>Configures many online cameras and recorders at once.
+
+Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device, 5 nothing configured because the record is in use, 6 the record of the run is missing or not whole.</source>
+        <translation>一次配置许多在线摄像机和录像机。
+
+退出码：0 全部设备已配置，1 部分未配置，2 用法错误，3 文件有误，4 没有设备，5 因记录正在使用而未配置，6 本次运行的记录缺失或不完整。</translation>
     </message>
 </context>
 <context>
@@ -358,6 +358,19 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
+    <name>PageRecord</name>
+    <message>
+        <source>The last run left no record: %1.</source>
+        <translation>上次运行没有留下记录：%1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The record has only %n result(s) of the last run: %1.</source>
+        <translation>
+            <numerusform>记录中只有上次运行的 %n 个结果：%1。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RecordFile</name>
     <message>
         <source>it is a symbolic link</source>
@@ -378,6 +391,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>it is too large for a record</source>
         <translation>它过大，不像是记录</translation>
+    </message>
+    <message>
+        <source>there is no temporary directory</source>
+        <translation>没有临时目录</translation>
     </message>
 </context>
 <context>

@@ -18,21 +18,18 @@ constexpr int buttonWidth = 96;
 
 EventDialog::EventDialog(const QString &title, const QString &text, const QStringList &buttons, QWidget *parent)
     : QDialog(parent)
+    , m_texts(new QVBoxLayout)
     , m_answer(buttons.size() - 1)
 {
     setWindowTitle(title);
     setAccessibleName(title);
-    setAccessibleDescription(text); // read out when the dialog opens
     setAttribute(Qt::WA_DeleteOnClose);
     setMinimumWidth(minWidth);
 
     auto *caption = new QLabel(title, this);
     caption->setTextFormat(Qt::PlainText);
     caption->setProperty("dialog_caption", true);
-    auto *message = new QLabel(text, this);
-    message->setTextFormat(Qt::PlainText); // device names and file paths may look like mark-up
-    message->setWordWrap(true);
-    message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    addText(text);
 
     auto *row = new QHBoxLayout;
     row->addStretch();
@@ -55,13 +52,28 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(margin / 2);
     layout->addWidget(caption);
-    layout->addWidget(message);
+    layout->addLayout(m_texts);
     layout->addSpacing(margin / 2);
     layout->addLayout(row);
     connect(this, &QDialog::finished, this, [this] {
         if (!std::exchange(m_isAnswered, true)) // a button may be clicked again before the dialog is deleted
             emit signalAnswered(m_answer);
     });
+}
+
+void EventDialog::addText(const QString &text)
+{
+    auto *message = new QLabel(text, this);
+    message->setTextFormat(Qt::PlainText); // device names and file paths may look like mark-up
+    message->setWordWrap(true);
+    message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_texts->addWidget(message);
+    const QString before = accessibleDescription(); // read out when the dialog opens
+    setAccessibleDescription(before.isEmpty() ? text : before + QLatin1Char('\n') + text);
+    if (isVisible()) {
+        message->show();
+        adjustSize();
+    }
 }
 
 bool EventDialog::eventFilter(QObject *watched, QEvent *event)

@@ -2,6 +2,10 @@
 
 #include <QDialog>
 
+QT_BEGIN_NAMESPACE
+class QVBoxLayout;
+QT_END_NAMESPACE
+
 namespace orda_worker {
 
 /// A text with buttons. Deletes itself when it is closed.
@@ -12,6 +16,9 @@ class EventDialog : public QDialog
 public:
     EventDialog(const QString &title, const QString &text, const QStringList &buttons, QWidget *parent);
 
+    /// A further paragraph under the text.
+    void addText(const QString &text);
+
 signals:
     /// Once, for the button that was clicked; for the last one when the dialog was closed without.
     void signalAnswered(int button);
@@ -20,6 +27,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QVBoxLayout *m_texts;
     int m_answer;
     bool m_isAnswered = false;
 };

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "RecordFile.h"
+#include "RunRecord.h"
+
+#include <QCoreApplication>
+#include <QString>
+#include <QVector>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+struct Family;
+
+/// What a page of the form says of the record of its last run, in this process.
+struct PageRecord
+{
+    Q_DECLARE_TR_FUNCTIONS(PageRecord)
+
+public:
+    QString inUse; ///< who had the record when Configure was pressed last and so did nothing; else empty
+    QString error; ///< why the record is missing or not whole; empty when it is whole, and when there was no run
+    QVector<int> entryEnds; ///< where each entry ends in the file, in bytes; empty also while a run goes on
+
+    /// @param form the batch-configuration form, or a window that has it
+    static PageRecord of(const QWidget *form, const Family &family);
+
+    /// Nothing of what is in the file comes from the run.
+    bool isMissing() const { return !error.isEmpty() && entryEnds.isEmpty(); }
+    /// The error as a sentence for the user; empty without one.
+    QString complaint() const;
+
+    bool operator==(const PageRecord &other) const;
+};
+
+/// A family's record: what is on the disk, and what the page says of it.
+struct FamilyRecord
+{
+    const Family *family;
+    RecordFile::State state;
+    PageRecord page;
+
+    /// The results of the family's last run. @param error why there are none, for the user; else empty
+    QVector<RunEntry> read(QString *error) const;
+    bool operator!=(const FamilyRecord &other) const;
+};
+
+/// The records that are there or should be: those that may be read first, then the newest first.
+/// @param also a family that is in it in any case; may be null
+QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QObject>
+
+/// Opens files with the desktop's viewer, and tells when there is none.
+class RecordViewer : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Returns at once. The viewer stays when the program ends.
+    void open(const QString &path);
+
+signals:
+    void signalNoViewer(const QString &path);
+};
