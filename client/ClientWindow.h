@@ -1,17 +1,21 @@
 #pragma once
 
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QHash>
 #include <QMainWindow>
 #include <QPointer>
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QMessageBox;
 class QToolButton;
 QT_END_NAMESPACE
 
 class ClientSession;
 class LastRunWindow;
 
-/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are on line
+/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are online
 /// and what happened last. From there opens the window of the last run.
 class ClientWindow : public QMainWindow
 {
@@ -20,12 +24,21 @@ class ClientWindow : public QMainWindow
 public:
     explicit ClientWindow(ClientSession *session, QWidget *parent = nullptr);
 
+    /// Large enough to show the form without scroll bars.
+    QSize sizeHint() const override;
+
+protected:
+    /// In mid-run it asks first.
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     void buildMenu();
+    void leaveMenuBar(const QMenu *menu);
     void buildStatusBar();
     void openInventory();
     void updateStatusBar();
     void showLast(const QString &text);
+    void askBeforeClosing(QWidget *overlay);
     void showLastRun();
     void showRemoteConfig(const QString &devId);
 
@@ -36,4 +49,8 @@ private:
     QToolButton *m_lastRunBt = nullptr;
     QPointer<LastRunWindow> m_lastRun;
     QString m_lastChanged; // id of a device whose state has changed and is to be shown
+    QHash<QString, vms_sdk::DevStatus> m_known; // by device id, without the attempts to connect between two states
+    QPointer<QWidget> m_focusBeforeMenu;
+    QPointer<QMessageBox> m_closeQuestion;
+    bool m_closesInRun = false;
 };

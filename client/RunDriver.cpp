@@ -110,7 +110,7 @@ void RunDriver::whenSettled()
     if (std::exchange(m_started, true))
         return;
     const auto &store = orda_data::DevsMgrData::instance();
-    out() << tr("%1 of %n device(s) on line", nullptr, store.devCount(false)).arg(store.devCount(true)) << Qt::endl;
+    out() << tr("%1 of %n device(s) online", nullptr, store.devCount(false)).arg(store.devCount(true)) << Qt::endl;
     if (m_options.screenshotsDir.isEmpty())
         tickAndConfigure();
     else
@@ -137,7 +137,7 @@ void RunDriver::tickAndConfigure()
     out() << tr("%n device(s) ticked", nullptr, ticked) << Qt::endl;
     const int missing = m_options.deviceIds.size() - ticked;
     if (missing > 0)
-        printError(tr("%n of the given devices is off line or may not be configured", nullptr, missing));
+        printError(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
 }
 

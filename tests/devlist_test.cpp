@@ -47,7 +47,7 @@ void addOnline(const DevInfo &dev)
 
 } // namespace
 
-/// The form's navigation and its list of devices on line.
+/// The form's navigation and its list of devices online.
 class DevlistTest : public OrdaTest
 {
     Q_OBJECT
@@ -102,7 +102,7 @@ void DevlistTest::listsTheDevicesThatMayBeConfigured_data()
     row("recorder", 1, true, [](DevInfo &d) { d.kindCode = 6; });
     row("other kind", 1, false, [](DevInfo &d) { d.kindCode = 2; });
     row("not reached directly", 1, false, [](DevInfo &d) { d.accessCode = 2; });
-    row("off line", 0, false, [](DevInfo &) {});
+    row("offline", 0, false, [](DevInfo &) {});
     row("connecting", 2, false, [](DevInfo &) {});
     row("refused", 3, false, [](DevInfo &) {});
     row("address, factory password", 5, true, [](DevInfo &) {});
@@ -115,7 +115,7 @@ void DevlistTest::listsTheDevicesThatMayBeConfigured_data()
     row("cloud, good password, factory state", 5, false, [](DevInfo &) {});
     row("cloud, good password, locked", 6, false, [](DevInfo &) {});
     row("cloud, freely operable, locked", 6, true, [](DevInfo &d) { d.serialNumber = QStringLiteral("FREE"); });
-    row("cloud, freely operable, off line", 0, false, [](DevInfo &d) { d.serialNumber = QStringLiteral("FREE"); });
+    row("cloud, freely operable, offline", 0, false, [](DevInfo &d) { d.serialNumber = QStringLiteral("FREE"); });
 }
 
 void DevlistTest::listsTheDevicesThatMayBeConfigured()

@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>Platform 9100 Parameters</source>
-        <translation>Plattform 9100-Parameter</translation>
+        <translation>Plattform-9100-Parameter</translation>
     </message>
     <message>
         <source>Network Parameters</source>
@@ -197,11 +197,11 @@
         <translation>Es gibt noch keine Geräte.</translation>
     </message>
     <message>
-        <source>No device is on line. Devices appear here as soon as they are.</source>
+        <source>No device is online. Devices appear here as soon as they are.</source>
         <translation>Kein Gerät ist online. Sobald Geräte online sind, erscheinen sie hier.</translation>
     </message>
     <message>
-        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
+        <source>None of the devices online can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
         <translation>Keines der Geräte, die online sind, kann von hier aus konfiguriert werden: Es muss eine Kamera oder ein Rekorder sein, direkt erreichbar, mit einer IP-Adresse, einem nicht schwachen Passwort oder dem Recht daran beim Cloud-Dienst.</translation>
     </message>
 </context>
@@ -339,7 +339,7 @@
     </message>
     <message>
         <source>Lock IP</source>
-        <translation>IP sperren</translation>
+        <translation>IP-Adresse festschreiben</translation>
     </message>
     <message>
         <source>Smart Online</source>
@@ -583,6 +583,10 @@
         <source>Configure %1</source>
         <translation>%1 konfigurieren</translation>
     </message>
+    <message>
+        <source>A configuration is under way. Please wait until it has ended.</source>
+        <translation>Es läuft bereits eine Konfiguration. Bitte warten Sie, bis sie beendet ist.</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::ParamsCfgTask</name>
@@ -643,7 +647,7 @@
     </message>
     <message>
         <source>Platform 9100 Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Plattform 9100-Parameter</translation>
+        <translation>Ergebnis der Konfiguration: Plattform-9100-Parameter</translation>
     </message>
     <message>
         <source>Platform9100ParamsCfgPage</source>

@@ -1,11 +1,11 @@
 #include "orda_base/ComboBox.h"
 
 #include <QAbstractItemView>
+#include <QEvent>
 #include <QLoggingCategory>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
-#include <QWheelEvent>
 
 namespace orda_base {
 
@@ -47,14 +47,6 @@ void ComboBox::showPopup()
 {
     view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
     QComboBox::showPopup();
-}
-
-void ComboBox::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }
 
 } // namespace orda_base
