@@ -1,6 +1,7 @@
 #include "ClientWindow.h"
 
 #include "ClientSession.h"
+#include "CloseQuestion.h"
 #include "FailedDevices.h"
 #include "LastRunWindow.h"
 
@@ -21,8 +22,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -39,7 +38,6 @@ using namespace std::chrono_literals;
 constexpr QSize wantedSize(1500, 850);
 // What window managers put around a window, which is known only when it is on the screen already.
 constexpr QSize frameRoom(16, 48);
-constexpr auto questionInterval = 200ms;
 
 QString statusText(vms_sdk::DevStatus status)
 {
@@ -149,40 +147,19 @@ void ClientWindow::closeEvent(QCloseEvent *event)
         return;
     }
     event->ignore();
-    if (!m_closeQuestion)
-        askBeforeClosing(overlay);
+    askBeforeClosing(overlay);
 }
 
 void ClientWindow::askBeforeClosing(QWidget *overlay)
 {
-    m_closeQuestion = new QMessageBox(QMessageBox::Question, tr("A run is going on"), {}, QMessageBox::NoButton, this);
-    m_closeQuestion->setObjectName(QStringLiteral("closeQuestion"));
-    m_closeQuestion->setAttribute(Qt::WA_DeleteOnClose);
-    m_closeQuestion->setTextFormat(Qt::PlainText);
-    m_closeQuestion->setInformativeText(tr("Closing ends the run. Devices that have not answered may have been configured all the same."));
-    QPushButton *close = m_closeQuestion->addButton(tr("Close anyway"), QMessageBox::DestructiveRole);
-    QPushButton *wait = m_closeQuestion->addButton(tr("Keep waiting"), QMessageBox::RejectRole);
-    m_closeQuestion->setDefaultButton(wait);
-    m_closeQuestion->setEscapeButton(wait);
-    connect(close, &QPushButton::clicked, this, [this] {
+    if (m_closeQuestion)
+        return;
+    m_closeQuestion = new CloseQuestion(overlay, this);
+    connect(m_closeQuestion, &QDialog::accepted, this, [this] {
         m_closesInRun = true;
-        this->close();
+        close();
     });
-
-    const auto ask = [box = m_closeQuestion.data(), overlay = QPointer<QWidget>(overlay)] {
-        if (!overlay || overlay->isHidden()) {
-            box->close(); // the run has ended meanwhile: its summary says how
-            return;
-        }
-        const int total = overlay->property("total").toInt();
-        box->setText(tr("%1 of %n device(s) have not answered", nullptr, total)
-                         .arg(total - overlay->property("finished").toInt()));
-    };
-    auto *again = new QTimer(m_closeQuestion);
-    connect(again, &QTimer::timeout, m_closeQuestion, ask);
-    again->start(questionInterval);
-    ask();
-    m_closeQuestion->open();
+    m_closeQuestion->open(); // the run goes on under it
 }
 
 void ClientWindow::buildStatusBar()

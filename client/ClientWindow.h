@@ -8,11 +8,11 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
-class QMessageBox;
 class QToolButton;
 QT_END_NAMESPACE
 
 class ClientSession;
+class CloseQuestion;
 class LastRunWindow;
 
 /// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are online
@@ -51,6 +51,6 @@ private:
     QString m_lastChanged; // id of a device whose state has changed and is to be shown
     QHash<QString, vms_sdk::DevStatus> m_known; // by device id, without the attempts to connect between two states
     QPointer<QWidget> m_focusBeforeMenu;
-    QPointer<QMessageBox> m_closeQuestion;
+    QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
 };

@@ -193,6 +193,9 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>A run is going on over the devices of this inventory. Open another when it has ended.</source>
         <translation>Ein Lauf über die Geräte dieses Bestands ist im Gange. Öffnen Sie einen anderen, wenn er zu Ende ist.</translation>
     </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
     <message>
         <source>A run is going on</source>
         <translation>Ein Lauf ist im Gange</translation>

@@ -10,6 +10,9 @@
             <numerusform>%1 of %n devices online</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
     <message numerus="yes">
         <source>%1 of %n device(s) have not answered</source>
         <translation>

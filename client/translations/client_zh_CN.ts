@@ -192,6 +192,9 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>A run is going on over the devices of this inventory. Open another when it has ended.</source>
         <translation>正在对此清单中的设备运行配置。请在运行结束后再打开其他清单。</translation>
     </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
     <message>
         <source>A run is going on</source>
         <translation>运行正在进行</translation>
