@@ -95,6 +95,11 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
             });
 }
 
+ClientWindow::~ClientWindow()
+{
+    disconnect(qApp, nullptr, this, nullptr); // the focus changes once more when the window is half gone
+}
+
 QSize ClientWindow::sizeHint() const
 {
     return wantedSize;

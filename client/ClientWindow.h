@@ -23,6 +23,7 @@ class ClientWindow : public QMainWindow
 
 public:
     explicit ClientWindow(ClientSession *session, QWidget *parent = nullptr);
+    ~ClientWindow() override;
 
     /// Large enough to show the form without scroll bars.
     QSize sizeHint() const override;

@@ -348,6 +348,9 @@ void RunTest::secondPressDoesNothing()
         });
     f.configureAudio();
     QCOMPARE(m_summaries->count(), 1);
+    QCOMPARE(m_alerts->count(), 2); // the presses that the overlay cannot hold back
+    QCOMPARE(m_alerts->at(1).at(1).toString(),
+             QStringLiteral("A configuration is under way. Please wait until it has ended."));
     QCOMPARE(f.transport->requests.size(), 5 * 4);
     f.configureAudio(); // and the next run is free to start
     QCOMPARE(m_summaries->count(), 2);

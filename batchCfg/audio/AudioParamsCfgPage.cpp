@@ -4,6 +4,7 @@
 #include "ui_AudioParamsCfgPage.h"
 
 #include <QIntValidator>
+#include <QLocale>
 
 namespace orda_batchCfg {
 
@@ -58,7 +59,11 @@ AudioParamsCfgPage::~AudioParamsCfgPage() = default;
 
 void AudioParamsCfgPage::pairVolume(QSlider *slider, QLineEdit *edit)
 {
-    edit->setValidator(new QIntValidator(slider->minimum(), slider->maximum(), edit));
+    auto *validator = new QIntValidator(slider->minimum(), slider->maximum(), edit);
+    QLocale digitsOnly = QLocale::c(); // a comma between thousands would make a 0 of the number
+    digitsOnly.setNumberOptions(QLocale::RejectGroupSeparator);
+    validator->setLocale(digitsOnly);
+    edit->setValidator(validator);
     const auto showValue = [slider, edit] { edit->setText(QString::number(slider->value())); };
     showValue();
     connect(slider, &QSlider::valueChanged, edit, showValue);
