@@ -46,8 +46,8 @@ QString deviceText(const RunEntry &entry)
 QWidget *FailedDevices::runOverlay(const QWidget *form)
 {
     const auto overlays = form->findChildren<orda_base::DisabledWaitingWt *>();
-    const auto found = std::find_if(overlays.begin(), overlays.end(),
-                                    [](const QWidget *overlay) { return !overlay->isHidden(); });
+    const auto found =
+        std::find_if(overlays.begin(), overlays.end(), [](const QWidget *overlay) { return !overlay->isHidden(); });
     return found == overlays.end() ? nullptr : *found;
 }
 

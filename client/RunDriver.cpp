@@ -62,6 +62,8 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
     connect(&sdk, &vms_sdk::ClientSignals::signalCommonRes, this, heard);
     connect(&sdk, &vms_sdk::ClientSignals::signalRequestTimeout, this, heard);
     window->installEventFilter(this);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        window->resize(window->sizeHint()); // the screen in memory is small and bounds nothing
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [](const QString &, const QString &text) {
                 printError(text);

@@ -395,14 +395,15 @@ void PagesTest::videoQualityTakesTheNearestBound_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("sent");
-    for (const auto &[typed, sent] : std::initializer_list<std::pair<const char *, int>>{{"5", 10},
-                                                                                        {"0", 10},
-                                                                                        {"", 10},
-                                                                                        {"10240", 10240},
-                                                                                        {"10241", 10240},
-                                                                                        {"99999", 10240},
-                                                                                        {"99999999999999999999", 10240},
-                                                                                        {"2x0-48", 2048}})
+    for (const auto &[typed, sent] :
+         std::initializer_list<std::pair<const char *, int>>{{"5", 10},
+                                                             {"0", 10},
+                                                             {"", 10},
+                                                             {"10240", 10240},
+                                                             {"10241", 10240},
+                                                             {"99999", 10240},
+                                                             {"99999999999999999999", 10240},
+                                                             {"2x0-48", 2048}})
         QTest::addRow("\"%s\"", typed) << QString::fromLatin1(typed) << sent;
 }
 

@@ -84,7 +84,7 @@ private slots:
     void countsEveryDeviceOnceWhateverItSends();
     void deadDevicesEndTogether();
     void everyResultRenewsTheOthers();
-    void secondPressDoesNothing();
+    void secondPressStartsNothingAndSaysSo();
     void formMayGoAtAnyMomentOfARun_data();
     void formMayGoAtAnyMomentOfARun();
     void quittingEndsARunQuietly();
@@ -330,7 +330,7 @@ void RunTest::everyResultRenewsTheOthers()
     QCOMPARE(recordEntries().size(), 2);
 }
 
-void RunTest::secondPressDoesNothing()
+void RunTest::secondPressStartsNothingAndSaysSo()
 {
     const FormFixture f(5, healthy);
     f.tickAll();

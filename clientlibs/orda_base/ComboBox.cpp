@@ -13,11 +13,14 @@ namespace {
 
 Q_LOGGING_CATEGORY(logUi, "orda.ui", QtWarningMsg)
 
+constexpr int mostItems = 16; // beyond these a list has a scroll bar
+
 } // namespace
 
 ComboBox::ComboBox(QWidget *parent)
     : QComboBox(parent)
 {
+    setMaxVisibleItems(mostItems);
 }
 
 void ComboBox::setItemsData(const QList<QVariant> &values)

@@ -39,8 +39,7 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
 
     message->ensurePolished(); // with the font that it will have
     // A wrapped line may end between a colon and its number; a text that fits on one line stays on it.
-    message->setMinimumWidth(
-        std::min(message->fontMetrics().size(0, text).width() + 1, widestMessage));
+    message->setMinimumWidth(std::min(message->fontMetrics().size(0, text).width() + 1, widestMessage));
 
     auto *row = new QHBoxLayout;
     row->addStretch();
