@@ -4,6 +4,7 @@
 #include "CloseQuestion.h"
 #include "FailedDevices.h"
 #include "LastRunWindow.h"
+#include "OpeningSize.h"
 
 #include <orda_base/BaseForm.h>
 #include <orda_base/BaseTools.h>
@@ -22,7 +23,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTextDocument>
@@ -36,8 +36,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr QSize wantedSize(1500, 850);
-// What window managers put around a window, which is known only when it is on the screen already.
-constexpr QSize frameRoom(16, 48);
 
 QString statusText(vms_sdk::DevStatus status)
 {
@@ -80,7 +78,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     setCentralWidget(area);
     buildMenu();
     buildStatusBar();
-    resize(wantedSize.boundedTo(screen()->availableSize() - frameRoom));
+    resize(openingSize(this, wantedSize));
 
     connect(session, &ClientSession::signalWarning, this, &ClientWindow::showLast);
     connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
-#include <QVariant>
 #include <QVBoxLayout>
+#include <QVariant>
 
 #include <chrono>
 

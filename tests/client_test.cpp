@@ -79,7 +79,8 @@ void ClientTest::tellsChangesOnly()
     dev.ip = QStringLiteral("127.0.0.1");
     dev.port = 1; // nobody listens there
     store.updateDevs({dev});
-    emit orda_worker::AssistantSignals::instance().signalEventConfirmRaised({{}, {}, QStringLiteral("The summary"), {}});
+    emit orda_worker::AssistantSignals::instance().signalEventConfirmRaised(
+        {{}, {}, QStringLiteral("The summary"), {}});
     QTRY_VERIFY_WITH_TIMEOUT(attempts.count() >= 6, 20'000); // connecting, offline, three times
     QTest::qWait(150); // the bar is brought up to date every 100 ms
     QVERIFY2(said(window.statusBar()).contains(QStringLiteral("The summary")), qPrintable(said(window.statusBar())));

@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
+#include <QStyledItemDelegate>
 
 namespace orda_base {
 
@@ -21,6 +22,7 @@ ComboBox::ComboBox(QWidget *parent)
     : QComboBox(parent)
 {
     setMaxVisibleItems(mostItems);
+    setItemDelegate(new QStyledItemDelegate(this)); // the default one takes no heed of the theme's rows
 }
 
 void ComboBox::setItemsData(const QList<QVariant> &values)
