@@ -22,7 +22,7 @@ HERE = pathlib.Path(__file__).parent
 PARTS = ("run", "list", "site", "start")
 NETWORK_SIZES = {10000: (5000, 9000, 10000)}  # where the table of one size has several rows over the network
 MAX_PYTHON = 1000  # the script's figure is asked for here, and it is slow
-LISTED_SHARE = 0.8  # of a simulated site: some devices are off line, of another kind, or have weak passwords
+LISTED_SHARE = 0.8  # of a simulated site: some devices are offline, of another kind, or have weak passwords
 
 
 class Table:
@@ -102,8 +102,8 @@ def measure_list(options, env, table):
         for size in options.sizes:
             at = lambda counter: figures["listComesAndGoes/%s/%d/%s" % (name, size, counter)]
             is_goal = size == 10000
-            table.add("List: on line one by one" + what, size, at("comeMs"), "ms", None, "2000 ms" if is_goal else None)
-            table.add("List: off line one by one" + what, size, at("goMs"), "ms", None, "2000 ms" if is_goal else None)
+            table.add("List: online one by one" + what, size, at("comeMs"), "ms", None, "2000 ms" if is_goal else None)
+            table.add("List: offline one by one" + what, size, at("goMs"), "ms", None, "2000 ms" if is_goal else None)
             table.add("List: longest pause of these" + what, size, at("pauseMs"), "ms", None,
                       "100 ms" if is_goal else None)
 
@@ -151,7 +151,7 @@ class Client:
         process = subprocess.Popen([str(part) for part in command], env=env, stdout=subprocess.PIPE, text=True)
         self.record = []
         for line in process.stdout:
-            if "devices on line" in line:
+            if "devices online" in line:
                 self.connect_ms = (time.monotonic() - start) * 1000
                 self.memory = resident_kib(process.pid)
             elif line.startswith("run: "):

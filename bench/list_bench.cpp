@@ -51,7 +51,7 @@ QList<vms_sdk::DevInfo> shuffledDevices(int count)
     return devices;
 }
 
-/// The form with an empty list over a store whose devices are on line.
+/// The form with an empty list over a store whose devices are online.
 class EmptyList
 {
 public:
@@ -233,7 +233,7 @@ void wait(const QTableWidget *table, int rows)
     settle();
 }
 
-/// All devices come on line one by one, as fast as the SDK passes it on, then go off line in another order. The
+/// All devices come online one by one, as fast as the SDK passes it on, then go offline in another order. The
 /// counters: both ways' time on the user-interface thread, and the longest pause of the window.
 void listComesAndGoes(benchmark::State &state, const QString &keyword)
 {

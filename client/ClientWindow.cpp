@@ -1,9 +1,11 @@
 #include "ClientWindow.h"
 
 #include "ClientSession.h"
+#include "CloseQuestion.h"
 #include "FailedDevices.h"
 #include "Families.h"
 #include "LastRunWindow.h"
+#include "OpeningSize.h"
 #include "PageRecord.h"
 #include "RecordFile.h"
 #include "RecordViewer.h"
@@ -20,6 +22,7 @@
 #include <vms_client_sdk/ForeignText.h>
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDialog>
@@ -28,7 +31,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTextDocument>
 #include <QTimer>
@@ -41,21 +44,23 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr QSize wantedSize(1500, 850);
+
 QString statusText(vms_sdk::DevStatus status)
 {
     switch (status) {
     case vms_sdk::DevOffline:
-        return ClientWindow::tr("off line");
+        return ClientWindow::tr("offline");
     case vms_sdk::DevOnline:
-        return ClientWindow::tr("on line");
+        return ClientWindow::tr("online");
     case vms_sdk::DevConnecting:
         return ClientWindow::tr("connecting");
     case vms_sdk::DevRefused:
         return ClientWindow::tr("sign-on refused");
     case vms_sdk::DevDefaultPassword:
-        return ClientWindow::tr("on line with the factory password");
+        return ClientWindow::tr("online with the factory password");
     case vms_sdk::DevLocked:
-        return ClientWindow::tr("on line, locked");
+        return ClientWindow::tr("online, locked");
     }
     return {};
 }
@@ -76,10 +81,14 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     , m_viewer(new RecordViewer(this))
 {
     setWindowTitle(tr("Batch Configuration"));
-    setCentralWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
+    auto *area = new QScrollArea(this); // on a screen that is too small for the form
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
+    setCentralWidget(area);
     buildMenu();
     buildStatusBar();
-    resize(QSize(1500, 850).boundedTo(screen()->availableSize()));
+    resize(openingSize(this, wantedSize));
 
     connect(session, &ClientSession::signalWarning, this, &ClientWindow::showLast);
     connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,
@@ -96,8 +105,22 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     });
 }
 
+ClientWindow::~ClientWindow()
+{
+    disconnect(qApp, nullptr, this, nullptr); // the focus changes once more when the window is half gone
+}
+
+QSize ClientWindow::sizeHint() const
+{
+    return wantedSize;
+}
+
 void ClientWindow::buildMenu()
 {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *before, const QWidget *now) {
+        if (now == menuBar())
+            m_focusBeforeMenu = before;
+    });
     QMenu *devices = menuBar()->addMenu(tr("&Devices"));
     QAction *open = devices->addAction(tr("&Open inventory…"));
     open->setShortcut(QKeySequence::Open);
@@ -109,6 +132,7 @@ void ClientWindow::buildMenu()
     QAction *quit = devices->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
+    leaveMenuBar(devices);
 
     QMenu *run = menuBar()->addMenu(tr("&Run"));
     m_showLastRun->setObjectName(QStringLiteral("showLastRun"));
@@ -116,6 +140,41 @@ void ClientWindow::buildMenu()
     m_showLastRun->setStatusTip(tr("Lists the outcome of each device, and ticks the failed ones again"));
     connect(m_showLastRun, &QAction::triggered, this, &ClientWindow::showLastRun);
     run->addAction(m_showLastRun);
+    leaveMenuBar(run);
+}
+
+void ClientWindow::leaveMenuBar(const QMenu *menu)
+{
+    // A menu that is left by Esc leaves the focus in the menu bar, where the form's shortcuts are not heard.
+    connect(menu, &QMenu::aboutToHide, this, [this] {
+        QTimer::singleShot(0ms, this, [this] {
+            if (menuBar()->hasFocus() && !QApplication::activePopupWidget() && m_focusBeforeMenu)
+                m_focusBeforeMenu->setFocus();
+        });
+    });
+}
+
+void ClientWindow::closeEvent(QCloseEvent *event)
+{
+    QWidget *overlay = FailedDevices::runOverlay(centralWidget());
+    if (!overlay || m_closesInRun) {
+        QMainWindow::closeEvent(event);
+        return;
+    }
+    event->ignore();
+    askBeforeClosing(overlay);
+}
+
+void ClientWindow::askBeforeClosing(QWidget *overlay)
+{
+    if (m_closeQuestion)
+        return;
+    m_closeQuestion = new CloseQuestion(overlay, this);
+    connect(m_closeQuestion, &QDialog::accepted, this, [this] {
+        m_closesInRun = true;
+        close();
+    });
+    m_closeQuestion->open(); // the run goes on under it
 }
 
 void ClientWindow::buildStatusBar()
@@ -132,7 +191,7 @@ void ClientWindow::buildStatusBar()
     statusBar()->addPermanentWidget(m_lastRunBt);
     statusBar()->addPermanentWidget(m_onlineCount);
 
-    // Thousands of devices come on line in one go: the bar is brought up to date at most ten times a second.
+    // Thousands of devices come online in one go: the bar is brought up to date at most ten times a second.
     auto *countSoon = new QTimer(this);
     countSoon->setSingleShot(true);
     countSoon->setInterval(100ms);
@@ -147,10 +206,16 @@ void ClientWindow::buildStatusBar()
     connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, countSoon,
             [this, scheduleCount](const QString &devId, vms_sdk::DevStatus status) {
                 scheduleCount();
-                if (status != vms_sdk::DevConnecting) {
+                // A device that stays away is dialled again and again, which is no news.
+                if (status != vms_sdk::DevConnecting && m_known.value(devId, vms_sdk::DevOffline) != status) {
+                    m_known.insert(devId, status);
                     m_lastChanged = devId;
                 }
             });
+    connect(&changes, &orda_data::DataSignals::signalDeleteDevs, this, [this](const QStringList &devIds) {
+        for (const QString &devId : devIds)
+            m_known.remove(devId);
+    });
     updateStatusBar();
 }
 
@@ -177,7 +242,7 @@ void ClientWindow::updateStatusBar()
     const vms_sdk::DevInfo dev = store.getDevInfoById(devId);
     if (!dev.id.isEmpty()) // it may have been removed since
         showLast(QStringLiteral("%1: %2").arg(displayName(dev), statusText(store.getDevStatus(devId))));
-    m_onlineCount->setText(tr("%1 of %n device(s) on line", nullptr, store.devCount(false)).arg(store.devCount(true)));
+    m_onlineCount->setText(tr("%1 of %n device(s) online", nullptr, store.devCount(false)).arg(store.devCount(true)));
 }
 
 void ClientWindow::showLast(const QString &text)

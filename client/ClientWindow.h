@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QHash>
 #include <QMainWindow>
 #include <QPointer>
 
@@ -12,11 +15,12 @@ namespace orda_worker {
 struct EventConfirmInfo;
 }
 class ClientSession;
+class CloseQuestion;
 class LastRunWindow;
 class RecordViewer;
 struct Family;
 
-/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are on line
+/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are online
 /// and what happened last. From there opens the window of the last run.
 class ClientWindow : public QMainWindow
 {
@@ -24,6 +28,14 @@ class ClientWindow : public QMainWindow
 
 public:
     explicit ClientWindow(ClientSession *session, QWidget *parent = nullptr);
+    ~ClientWindow() override;
+
+    /// Large enough to show the form without scroll bars.
+    QSize sizeHint() const override;
+
+protected:
+    /// In mid-run it asks first.
+    void closeEvent(QCloseEvent *event) override;
 
 private slots:
     /// QDesktopServices hands the address over that Report and Detail open.
@@ -31,11 +43,13 @@ private slots:
 
 private:
     void buildMenu();
+    void leaveMenuBar(const QMenu *menu);
     void buildStatusBar();
     void openInventory();
     void updateStatusBar();
     void showLast(const QString &text);
     void showSummary(const orda_worker::EventConfirmInfo &info);
+    void askBeforeClosing(QWidget *overlay);
     void showLastRun();
     void showLastRunOf(const Family &family);
     void showRemoteConfig(const QString &devId);
@@ -48,4 +62,8 @@ private:
     QPointer<LastRunWindow> m_lastRun;
     RecordViewer *m_viewer;
     QString m_lastChanged; // id of a device whose state has changed and is to be shown
+    QHash<QString, vms_sdk::DevStatus> m_known; // by device id, without the attempts to connect between two states
+    QPointer<QWidget> m_focusBeforeMenu;
+    QPointer<CloseQuestion> m_closeQuestion;
+    bool m_closesInRun = false;
 };

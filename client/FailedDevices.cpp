@@ -43,10 +43,12 @@ QString deviceText(const RunEntry &entry)
 
 } // namespace
 
-bool FailedDevices::isRunUnderWay(const QWidget *form)
+QWidget *FailedDevices::runOverlay(const QWidget *form)
 {
     const auto overlays = form->findChildren<orda_base::DisabledWaitingWt *>();
-    return std::any_of(overlays.begin(), overlays.end(), [](const QWidget *overlay) { return !overlay->isHidden(); });
+    const auto found =
+        std::find_if(overlays.begin(), overlays.end(), [](const QWidget *overlay) { return !overlay->isHidden(); });
+    return found == overlays.end() ? nullptr : *found;
 }
 
 FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunEntry> &entries)
@@ -63,7 +65,7 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
             return tr("several devices of the run have its serial number");
         const int inList = rows.value(entry.serialNumber).size();
         if (inList == 0)
-            return tr("it is not in the list now: off line, or not to be configured");
+            return tr("it is not in the list now: offline, or not to be configured");
         return inList > 1 ? tr("several devices in the list have its serial number") : QString();
     };
 

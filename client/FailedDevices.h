@@ -22,8 +22,9 @@ public:
     };
 
     /// @param form the batch-configuration form, or a window that has it
-    /// @return whether a run covers it, in which nothing must be changed
-    static bool isRunUnderWay(const QWidget *form);
+    /// @return what covers it during a run, in which nothing must be changed; null without a run
+    static QWidget *runOverlay(const QWidget *form);
+    static bool isRunUnderWay(const QWidget *form) { return runOverlay(form); }
 
     /// Ticks the failed devices in the form's list and no others. The record knows a device by its serial number only;
     /// one that leaves a doubt is not ticked. The list's search is cleared when it hides a ticked row: a run leaves

@@ -4,6 +4,7 @@
 #include "FailedDevices.h"
 #include "FailureGroupList.h"
 #include "Families.h"
+#include "OpeningSize.h"
 #include "RunRecordFilter.h"
 #include "RunRecordModel.h"
 #include "RunRecordView.h"
@@ -24,7 +25,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -89,7 +89,7 @@ LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
     layout->addWidget(buildButtons());
     setCentralWidget(central);
     setKeys();
-    resize(windowSize.boundedTo(screen()->availableSize()));
+    resize(openingSize(this, windowSize));
 
     m_lookAgain.setSingleShot(true);
     connect(&m_lookAgain, &QTimer::timeout, this, &LastRunWindow::lookAndFollow);

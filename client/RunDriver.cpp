@@ -64,6 +64,8 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
     connect(&sdk, &vms_sdk::ClientSignals::signalCommonRes, this, heard);
     connect(&sdk, &vms_sdk::ClientSignals::signalRequestTimeout, this, heard);
     window->installEventFilter(this);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        window->resize(window->sizeHint()); // the screen in memory is small and bounds nothing
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) {
                 printError(text);
@@ -112,7 +114,7 @@ void RunDriver::whenSettled()
     if (std::exchange(m_started, true))
         return;
     const auto &store = orda_data::DevsMgrData::instance();
-    out() << tr("%1 of %n device(s) on line", nullptr, store.devCount(false)).arg(store.devCount(true)) << Qt::endl;
+    out() << tr("%1 of %n device(s) online", nullptr, store.devCount(false)).arg(store.devCount(true)) << Qt::endl;
     if (m_options.screenshotsDir.isEmpty())
         tickAndConfigure();
     else
@@ -139,7 +141,7 @@ void RunDriver::tickAndConfigure()
     out() << tr("%n device(s) ticked", nullptr, ticked) << Qt::endl;
     const int missing = m_options.deviceIds.size() - ticked;
     if (missing > 0)
-        printError(tr("%n of the given devices is off line or may not be configured", nullptr, missing));
+        printError(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
 }
 

@@ -18,7 +18,7 @@ struct EventConfirmInfo;
 }
 struct Family;
 
-/// Drives the form as an operator would, without one: waits until the devices have come on line, opens the family's
+/// Drives the form as an operator would, without one: waits until the devices have come online, opens the family's
 /// page, ticks devices, presses Configure, prints progress, summary, duration, the window's longest pause and the
 /// record, answers the summary and ends the application.
 class RunDriver : public QObject

@@ -48,7 +48,7 @@ public:
     void setFault(const QString &deviceId, const QString &method, const FaultRule &fault);
     void clearFaults();
 
-    /// Off line: the connection is cut and no new one comes about. An unknown id does nothing.
+    /// Offline: the connection is cut and no new one comes about. An unknown id does nothing.
     void setOnline(const QString &deviceId, bool online);
 
 signals:

@@ -21,7 +21,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt5svg5, fonts-dejavu-core, hicolor
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n, xdg-utils")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "qtwayland5")
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "configure many online cameras and recorders at once
-An operator ticks cameras and recorders that are on line, ticks the parameters
+An operator ticks cameras and recorders that are online, ticks the parameters
 to change, and presses Configure: each device's parameters are read, changed
 only where they were ticked, and written back, with one result a device, a
 summary, and a record file.

@@ -46,7 +46,7 @@ void addOnline(const DevInfo &dev)
 
 } // namespace
 
-/// The form's navigation and its list of devices on line.
+/// The form's navigation and its list of devices online.
 class DevlistTest : public OrdaTest
 {
     Q_OBJECT

@@ -123,7 +123,7 @@ private slots:
         some("recorder", [](Device d) { return d.info.kindCode == 6; });
         some("other kind", [](Device d) { return d.info.kindCode != 1 && d.info.kindCode != 6; });
         some("not reached directly", [](Device d) { return d.info.accessCode != 1; });
-        some("off line", [](Device d) { return !d.online; });
+        some("offline", [](Device d) { return !d.online; });
         some("factory password", [](Device d) { return d.state == vms_sdk::DevDefaultPassword; });
         some("locked", [](Device d) { return d.state == vms_sdk::DevLocked; });
         some("cloud device", [](Device d) { return d.info.ip.isEmpty(); });

@@ -93,14 +93,24 @@ class LanguageTest : public OrdaTest
 
 private slots:
     void initTestCase() { orda_base::Theme::apply(*qApp); }
+    void cleanup()
+    {
+        m_translators.clear();
+        OrdaTest::cleanup();
+    }
     void wireIsTheSameInEveryLanguage_data();
     void wireIsTheSameInEveryLanguage();
     void initialTextsAreTranslated();
+    void fitsAFieldLaptop_data();
+    void fitsAFieldLaptop();
     void longerTextsAreNotCutOff_data() { addFamilies({}); }
     void longerTextsAreNotCutOff();
 
 private:
     static void addFamilies(const QStringList &languages);
+    void install(const QString &language);
+
+    std::vector<std::unique_ptr<QTranslator>> m_translators; // of the running test function
 };
 
 void LanguageTest::addFamilies(const QStringList &languages)
@@ -117,6 +127,15 @@ void LanguageTest::addFamilies(const QStringList &languages)
     }
 }
 
+void LanguageTest::install(const QString &language)
+{
+    for (const char *part : {"batchCfg", "clientlibs"}) {
+        m_translators.push_back(std::make_unique<QTranslator>());
+        QVERIFY(m_translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(QLatin1String(part), language)));
+        QCoreApplication::installTranslator(m_translators.back().get());
+    }
+}
+
 void LanguageTest::wireIsTheSameInEveryLanguage_data()
 {
     addFamilies({QStringLiteral("de"), QStringLiteral("zh_CN")});
@@ -130,12 +149,7 @@ void LanguageTest::wireIsTheSameInEveryLanguage()
     const QStringList inEnglish = sentBy(family);
     QVERIFY(inEnglish.size() >= 2);
 
-    std::vector<std::unique_ptr<QTranslator>> translators;
-    for (const char *part : {"batchCfg", "clientlibs"}) {
-        translators.push_back(std::make_unique<QTranslator>());
-        QVERIFY(translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(QLatin1String(part), language)));
-        QCoreApplication::installTranslator(translators.back().get());
-    }
+    install(language);
     QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != QLatin1String("success"));
     QCOMPARE(sentBy(family), inEnglish);
 }
@@ -153,6 +167,25 @@ void LanguageTest::initialTextsAreTranslated()
         {"bussinessPort", "8081 n"}};
     for (const auto &[name, text] : expected)
         QCOMPARE(f.form->findChild<QLineEdit *>(QLatin1String(name))->text(), QLatin1String(text));
+}
+
+void LanguageTest::fitsAFieldLaptop_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"en", "de", "zh_CN"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+/// 1280 x 720, less a window's frame, menu and status bar.
+void LanguageTest::fitsAFieldLaptop()
+{
+    QFETCH(QString, language);
+    if (language != QLatin1String("en"))
+        install(language);
+    const FormFixture f(3, knowsAll);
+    const QSize needed = f.form->minimumSizeHint();
+    QVERIFY2(needed.width() <= 1264 && needed.height() <= 600,
+             qPrintable(QStringLiteral("%1 x %2").arg(needed.width()).arg(needed.height())));
 }
 
 void LanguageTest::longerTextsAreNotCutOff()

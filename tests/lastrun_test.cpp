@@ -350,7 +350,7 @@ void LastRunTest::failedDevicesAreConfiguredAtTheSecondTry()
                                  .arg(devices.at(1).serialNumber, devices.at(1).ip, row)
                                  .toUtf8());
 
-    // The record grows by what leaves a doubt, two devices in the list have one number, another goes off line.
+    // The record grows by what leaves a doubt, two devices in the list have one number, another goes offline.
     append(entry("", "10.0.0.1", "no", "nameless", now()));
     QTRY_VERIFY(again->isEnabled() && groups->rowCount() == 4);
     append(entry("unknown", "10.0.0.1", "no", "stranger", now())

@@ -88,7 +88,7 @@ private slots:
     void countsEveryDeviceOnceWhateverItSends();
     void deadDevicesEndTogether();
     void everyResultRenewsTheOthers();
-    void secondPressDoesNothing();
+    void secondPressStartsNothingAndSaysSo();
     void formMayGoAtAnyMomentOfARun_data();
     void formMayGoAtAnyMomentOfARun();
     void quittingEndsARunQuietly();
@@ -336,7 +336,7 @@ void RunTest::everyResultRenewsTheOthers()
     QCOMPARE(recordEntries().size(), 2);
 }
 
-void RunTest::secondPressDoesNothing()
+void RunTest::secondPressStartsNothingAndSaysSo()
 {
     const FormFixture f(5, healthy);
     f.tickAll();
@@ -354,6 +354,9 @@ void RunTest::secondPressDoesNothing()
         });
     f.configureAudio();
     QCOMPARE(m_summaries->count(), 1);
+    QCOMPARE(m_alerts->count(), 2); // the presses that the overlay cannot hold back
+    QCOMPARE(m_alerts->at(1).at(1).toString(),
+             QStringLiteral("A configuration is under way. Please wait until it has ended."));
     QCOMPARE(f.transport->requests.size(), 5 * 4);
     f.configureAudio(); // and the next run is free to start
     QCOMPARE(m_summaries->count(), 2);

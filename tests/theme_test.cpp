@@ -5,6 +5,7 @@
 #include <orda_base/NavigationButton.h>
 #include <orda_base/Theme.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QHash>
@@ -95,6 +96,7 @@ class ThemeTest : public OrdaTest
 
 private slots:
     void followsThePalette();
+    void dropDownsOpenWhole();
     void textsCanBeRead_data();
     void textsCanBeRead();
 };
@@ -108,6 +110,32 @@ void ThemeTest::followsThePalette()
     QApplication::setPalette(QPalette(Qt::lightGray));
     Theme::apply(*qApp);
     QVERIFY(!isDark());
+}
+
+void ThemeTest::dropDownsOpenWhole()
+{
+    Theme::apply(*qApp, Theme::Light);
+    const FormFixture f(0, [](const ScriptedTransport::Request &) { return QStringList(); });
+    f.form->move(0, 0);
+    const auto combos = f.form->findChildren<QComboBox *>();
+    int looked = 0;
+    for (QComboBox *combo : combos) {
+        if (!combo->isVisible())
+            continue;
+        ++looked;
+        combo->showPopup();
+        QApplication::processEvents();
+        const auto *view = combo->view();
+        const QModelIndex first = view->model()->index(0, 0);
+        const QModelIndex last = view->model()->index(combo->count() - 1, 0);
+        QVERIFY2(view->viewport()->rect().contains(view->visualRect(first) | view->visualRect(last)),
+                 qPrintable(combo->objectName()));
+        const auto around = view->parentWidget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget *widget : around) // a scroll arrow covers a row
+            QVERIFY2(widget == view || !widget->isVisible(), qPrintable(combo->objectName()));
+        combo->hidePopup();
+    }
+    QVERIFY(looked > 5);
 }
 
 void ThemeTest::textsCanBeRead_data()

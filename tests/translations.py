@@ -15,6 +15,8 @@ import xml.etree.ElementTree as xml
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LANGUAGES = ("de", "zh_CN")
+# A Chinese character beside a Latin letter, a digit or a place to fill in: a space belongs between them.
+CROWDED = re.compile(r"[\u4e00-\u9fff][A-Za-z0-9%]|(?:[A-Za-z0-9]|%L?[\dn])[\u4e00-\u9fff]")
 # Values that devices read as they are shown, and titles of forms that nobody sees: the same in every language.
 SAME = re.compile(r"[\d*]+(bit)?|[YMD/-]+|[GH]\d+\w?| kbps|https://\S+|\w+(Page|Form)")
 
@@ -50,6 +52,8 @@ def faults(file):
                 yield f"{where} does not fill in the same: {forms}"
             elif SAME.fullmatch(source) and forms != [source]:
                 yield f"{where} must stay as it is: {forms}"
+            elif any(CROWDED.search(form) for form in forms):
+                yield f"{where} needs a space: {forms}"
             elif "&" in source.replace("&&", "") and not all("&" in form for form in forms):
                 yield f"{where} loses its mnemonic: {forms}"
 

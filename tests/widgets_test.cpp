@@ -59,6 +59,7 @@ private slots:
     void overlayDiesWithItsParent();
     void dialogAnswersOnce_data();
     void dialogAnswersOnce();
+    void summaryStaysOnOneLine();
     void navigationFoldsAndHighlights();
     void searchBoxSearchesWhileTyping();
     void editorsTakeWhatTheyShould();
@@ -235,6 +236,20 @@ void WidgetsTest::dialogAnswersOnce()
     }
     QCOMPARE(indexes, answers);
     delete guard;
+}
+
+/// A wrapped line would end between "failure:" and its number.
+void WidgetsTest::summaryStaysOnOneLine()
+{
+    QWidget window;
+    window.show();
+    const QString text = QStringLiteral("A total of 10000 devices have been configured, success:10000, failure:10000");
+    orda_worker::SystemAssistant::instance().messageAlert(QStringLiteral("Title"), text);
+    auto *dialog = window.findChild<QDialog *>(QStringLiteral("messageAlertDialog"));
+    const auto labels = dialog->findChildren<QLabel *>();
+    for (const QLabel *label : labels)
+        QVERIFY2(label->height() < 2 * label->fontMetrics().height(), qPrintable(label->text()));
+    dialog->reject();
 }
 
 void WidgetsTest::navigationFoldsAndHighlights()

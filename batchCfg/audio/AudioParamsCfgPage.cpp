@@ -4,6 +4,7 @@
 #include "ui_AudioParamsCfgPage.h"
 
 #include <QIntValidator>
+#include <QLocale>
 
 namespace orda_batchCfg {
 
@@ -29,7 +30,6 @@ AudioParamsCfgPage::AudioParamsCfgPage(QWidget *parent)
     m_ui->encodingFormatParam->setItemsData({QStringLiteral("g711u"), QStringLiteral("g711a")});
     m_ui->samplingRateParam->setItemsData({8000});
     m_ui->BitWideParam->setItemsData({16});
-    m_ui->audioInVolumeParam->setValidator(new QIntValidator(0, 100, m_ui->audioInVolumeParam));
     pairVolume(m_ui->audioInVolumeSlider, m_ui->audioInVolumeParam);
     pairVolume(m_ui->alarmOutVolumeSlider, m_ui->alarmOutVolumeParam);
 
@@ -59,9 +59,18 @@ AudioParamsCfgPage::~AudioParamsCfgPage() = default;
 
 void AudioParamsCfgPage::pairVolume(QSlider *slider, QLineEdit *edit)
 {
-    edit->setText(QString::number(slider->value()));
-    connect(edit, &QLineEdit::textChanged, slider, [slider](const QString &text) { slider->setValue(text.toInt()); });
-    connect(slider, &QSlider::valueChanged, edit, [edit](int value) { edit->setText(QString::number(value)); });
+    auto *validator = new QIntValidator(slider->minimum(), slider->maximum(), edit);
+    QLocale digitsOnly = QLocale::c(); // a comma between thousands would make a 0 of the number
+    digitsOnly.setNumberOptions(QLocale::RejectGroupSeparator);
+    validator->setLocale(digitsOnly);
+    edit->setValidator(validator);
+    const auto showValue = [slider, edit] { edit->setText(QString::number(slider->value())); };
+    showValue();
+    connect(slider, &QSlider::valueChanged, edit, showValue);
+    connect(edit, &QLineEdit::textChanged, slider, [slider, showValue](const QString &text) {
+        slider->setValue(text.toInt());
+        showValue(); // an empty line, "007" and "150" become the number that is sent
+    });
 }
 
 ParamsCfgTask *AudioParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)

@@ -21,6 +21,7 @@ PlatformParamsCfgPage::PlatformParamsCfgPage(QWidget *parent)
     , m_ui(std::make_unique<Ui::PlatformParamsCfgPage>())
 {
     m_ui->setupUi(this);
+    m_ui->serviceAddressParam->setCursorPosition(0); // where the line is too short, its beginning is seen
     m_ui->serviceType->setItemsData({QStringLiteral("public"), QStringLiteral("private")});
     setParams({
         {ServiceEnable,

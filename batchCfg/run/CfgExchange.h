@@ -31,7 +31,7 @@ struct CfgExchange
     int flag = 0;
     /// The member of "result" that holds the parameters; empty: "result" itself.
     QString resultKey = {};
-    /// A device that comes back on line after the write was sent is read again, and what it holds then decides the
+    /// A device that comes back online after the write was sent is read again, and what it holds then decides the
     /// result: some settings make a device drop its connection before it can answer.
     bool checkWhenBack = false;
     /// Counted from the first time that it is read again: then the result is that of a time-out. Nothing prolongs it,

@@ -5,6 +5,7 @@
 #include "run/CheckBoxAccess.h"
 #include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
+#include "run/WheelGuard.h"
 
 #include <XCOMMON/XLabel.h>
 #include <orda_base/DisabledWaitingWt.h>
@@ -130,6 +131,7 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
     const auto buttons = findChildren<QPushButton *>();
     for (QPushButton *button : buttons)
         button->setAutoDefault(false);
+    new WheelGuard(this);
     connect(m_okBt, &QPushButton::clicked, this, &ParamsCfgPage::configure);
     connect(m_reportBt, &QPushButton::clicked, this, &ParamsCfgPage::openReport);
 }
@@ -264,8 +266,10 @@ QJsonObject ParamsCfgPage::values() const
 
 void ParamsCfgPage::configure()
 {
-    if (RunLock::isHeld())
+    if (RunLock::isHeld()) {
+        alert(tr("A configuration is under way. Please wait until it has ended."));
         return;
+    }
     QString missing;
     if (!isSelectionComplete(&missing)) {
         alert(missing);
@@ -314,6 +318,7 @@ void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringLis
     const QJsonObject runValues = values();
     run->overlay = new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));
     run->overlayId = run->overlay->getUuid();
+    tellProgress(*run);
     run->overlay->show();
     m_recorder->open();
 
@@ -341,8 +346,17 @@ void ParamsCfgPage::handleResult(Run &run, const QString &devId, const QString &
         run.loop.quit();
         finishRun(run);
     }
-    if (run.overlay)
+    if (run.overlay) {
         run.overlay->updateDescription(tr("Configuring(%1/%2)...").arg(run.finished()).arg(run.total));
+        tellProgress(run);
+    }
+}
+
+void ParamsCfgPage::tellProgress(const Run &run)
+{
+    // For the client, in numbers: the description is in the operator's language.
+    run.overlay->setProperty("finished", run.finished());
+    run.overlay->setProperty("total", run.total);
 }
 
 void ParamsCfgPage::finishRun(const Run &run)

@@ -104,6 +104,7 @@ private:
     bool takeRecord();
     void startTasks(const std::shared_ptr<Run> &run, const QStringList &devIds);
     void handleResult(Run &run, const QString &devId, const QString &msg, int errorCode);
+    static void tellProgress(const Run &run);
     void finishRun(const Run &run);
     void abandonRun();
     void openReport();

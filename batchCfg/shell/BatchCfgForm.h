@@ -27,7 +27,7 @@ namespace Ui {
 class BatchCfgForm;
 }
 
-/// The module's one screen: navigation, parameter pages, and the list of the devices on line that may be configured.
+/// The module's one screen: navigation, parameter pages, and the list of the devices online that may be configured.
 /// The list follows the device store. User-interface thread only.
 class BatchCfgForm : public orda_base::BaseForm
 {

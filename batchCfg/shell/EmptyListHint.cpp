@@ -85,9 +85,9 @@ QString EmptyListHint::reason() const
     if (store.getAllDevs(false).isEmpty())
         return tr("There are no devices yet.");
     if (store.getAllDevs(true).isEmpty())
-        return tr("No device is on line. Devices appear here as soon as they are.");
+        return tr("No device is online. Devices appear here as soon as they are.");
     return tr(
-        "None of the devices on line can be configured from here: it takes a camera or a recorder that is "
+        "None of the devices online can be configured from here: it takes a camera or a recorder that is "
         "reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.");
 }
 

@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>Platform 9100 Parameters</source>
-        <translation>Plattform 9100-Parameter</translation>
+        <translation>Plattform-9100-Parameter</translation>
     </message>
     <message>
         <source>Network Parameters</source>
@@ -252,11 +252,11 @@
         <translation>Es gibt noch keine Geräte.</translation>
     </message>
     <message>
-        <source>No device is on line. Devices appear here as soon as they are.</source>
+        <source>No device is online. Devices appear here as soon as they are.</source>
         <translation>Kein Gerät ist online. Sobald Geräte online sind, erscheinen sie hier.</translation>
     </message>
     <message>
-        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
+        <source>None of the devices online can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
         <translation>Keines der Geräte, die online sind, kann von hier aus konfiguriert werden: Es muss eine Kamera oder ein Rekorder sein, direkt erreichbar, mit einer IP-Adresse, einem nicht schwachen Passwort oder dem Recht daran beim Cloud-Dienst.</translation>
     </message>
 </context>
@@ -394,7 +394,7 @@
     </message>
     <message>
         <source>Lock IP</source>
-        <translation>IP sperren</translation>
+        <translation>IP-Adresse festschreiben</translation>
     </message>
     <message>
         <source>Smart Online</source>
@@ -642,6 +642,10 @@
         <source>Nothing was configured: the record file %1 is in use by %2. Wait until its run has ended.</source>
         <translation>Es wurde nichts konfiguriert: Die Protokolldatei %1 wird von %2 benutzt. Warten Sie, bis dessen Lauf beendet ist.</translation>
     </message>
+    <message>
+        <source>A configuration is under way. Please wait until it has ended.</source>
+        <translation>Es läuft bereits eine Konfiguration. Bitte warten Sie, bis sie beendet ist.</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::ParamsCfgTask</name>
@@ -702,7 +706,7 @@
     </message>
     <message>
         <source>Platform 9100 Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Plattform 9100-Parameter</translation>
+        <translation>Ergebnis der Konfiguration: Plattform-9100-Parameter</translation>
     </message>
     <message>
         <source>Platform9100ParamsCfgPage</source>

@@ -88,19 +88,19 @@
     <name>orda_batchCfg::AudioParamsCfgTask</name>
     <message>
         <source>Failed to get audio in parameters(%1)</source>
-        <translation>获取音频输入参数失败(%1)</translation>
+        <translation>获取音频输入参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set audio in parameters(%1)</source>
-        <translation>设置音频输入参数失败(%1)</translation>
+        <translation>设置音频输入参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to get audio out parameters(%1)</source>
-        <translation>获取音频输出参数失败(%1)</translation>
+        <translation>获取音频输出参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set audio out parameters(%1)</source>
-        <translation>设置音频输出参数失败(%1)</translation>
+        <translation>设置音频输出参数失败（%1）</translation>
     </message>
     <message>
         <source>set audio parameters time out</source>
@@ -252,11 +252,11 @@
         <translation>还没有设备。</translation>
     </message>
     <message>
-        <source>No device is on line. Devices appear here as soon as they are.</source>
+        <source>No device is online. Devices appear here as soon as they are.</source>
         <translation>没有设备在线。设备上线后会立即显示在此处。</translation>
     </message>
     <message>
-        <source>None of the devices on line can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
+        <source>None of the devices online can be configured from here: it takes a camera or a recorder that is reached directly, with an IP address, a password that is not weak, or the right to it at the cloud service.</source>
         <translation>在线设备均无法在此配置：需要可直接访问的摄像机或录像机，并具有 IP 地址、非弱密码或云服务上的操作权限。</translation>
     </message>
 </context>
@@ -351,27 +351,27 @@
     <name>orda_batchCfg::ImageParamsCfgTask</name>
     <message>
         <source>Failed to get image adjust parameters(%1)</source>
-        <translation>获取图像调节参数失败(%1)</translation>
+        <translation>获取图像调节参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set image adjust parameters(%1)</source>
-        <translation>设置图像调节参数失败(%1)</translation>
+        <translation>设置图像调节参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to get image day-night parameters(%1)</source>
-        <translation>获取图像日夜转换参数失败(%1)</translation>
+        <translation>获取图像日夜转换参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set image day-night parameters(%1)</source>
-        <translation>设置图像日夜转换参数失败(%1)</translation>
+        <translation>设置图像日夜转换参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to get image expert parameters(%1)</source>
-        <translation>获取图像专家模式参数失败(%1)</translation>
+        <translation>获取图像专家模式参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set image expert parameters(%1)</source>
-        <translation>设置图像专家模式参数失败(%1)</translation>
+        <translation>设置图像专家模式参数失败（%1）</translation>
     </message>
     <message>
         <source>set image parameters time out</source>
@@ -425,19 +425,19 @@
     <name>orda_batchCfg::NetworkParamsCfgTask</name>
     <message>
         <source>Failed to get onvif discovery parameters(%1)</source>
-        <translation>获取ONVIF 发现参数失败(%1)</translation>
+        <translation>获取 ONVIF 发现参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set onvif discovery parameters(%1)</source>
-        <translation>设置ONVIF 发现参数失败(%1)</translation>
+        <translation>设置 ONVIF 发现参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to get ip parameters(%1)</source>
-        <translation>获取IP 参数失败(%1)</translation>
+        <translation>获取 IP 参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set ip parameters(%1)</source>
-        <translation>设置IP 参数失败(%1)</translation>
+        <translation>设置 IP 参数失败（%1）</translation>
     </message>
     <message>
         <source>set network parameters time out</source>
@@ -539,11 +539,11 @@
     <name>orda_batchCfg::OSDParamsCfgTask</name>
     <message>
         <source>Failed to get osd parameters(%1)</source>
-        <translation>获取 OSD 参数失败(%1)</translation>
+        <translation>获取 OSD 参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set osd parameters(%1)</source>
-        <translation>设置 OSD 参数失败(%1)</translation>
+        <translation>设置 OSD 参数失败（%1）</translation>
     </message>
     <message>
         <source>set osd parameters time out</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>Onvif Parameters Configuration Result</source>
-        <translation>Onvif参数配置结果</translation>
+        <translation>Onvif 参数配置结果</translation>
     </message>
     <message>
         <source>OnvifParamsCfgPage</source>
@@ -589,15 +589,15 @@
     <name>orda_batchCfg::OnvifParamsCfgTask</name>
     <message>
         <source>Failed to get onvif discovery parameters(%1)</source>
-        <translation>获取ONVIF 发现参数失败(%1)</translation>
+        <translation>获取 ONVIF 发现参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set onvif discovery parameters(%1)</source>
-        <translation>设置ONVIF 发现参数失败(%1)</translation>
+        <translation>设置 ONVIF 发现参数失败（%1）</translation>
     </message>
     <message>
         <source>set onvif discovery parameters time out</source>
-        <translation>设置ONVIF 发现参数超时</translation>
+        <translation>设置 ONVIF 发现参数超时</translation>
     </message>
 </context>
 <context>
@@ -612,11 +612,11 @@
     </message>
     <message>
         <source>Configuring...</source>
-        <translation>正在配置...</translation>
+        <translation>正在配置……</translation>
     </message>
     <message>
         <source>Configuring(%1/%2)...</source>
-        <translation>正在配置(%1/%2)...</translation>
+        <translation>正在配置（%1/%2）……</translation>
     </message>
     <message>
         <source>A total of %1 devices have been configured, success:%2, failure:%3</source>
@@ -641,6 +641,10 @@
     <message>
         <source>Nothing was configured: the record file %1 is in use by %2. Wait until its run has ended.</source>
         <translation>未进行任何配置：记录文件 %1 正由%2使用。请等待其运行结束。</translation>
+    </message>
+    <message>
+        <source>A configuration is under way. Please wait until it has ended.</source>
+        <translation>正在进行配置。请等待其结束。</translation>
     </message>
 </context>
 <context>
@@ -721,15 +725,15 @@
     <name>orda_batchCfg::Platform9100ParamsCfgTask</name>
     <message>
         <source>Failed to get platform 9100 parameters(%1)</source>
-        <translation>获取9100 平台参数失败(%1)</translation>
+        <translation>获取 9100 平台参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set platform 9100 parameters(%1)</source>
-        <translation>设置9100 平台参数失败(%1)</translation>
+        <translation>设置 9100 平台参数失败（%1）</translation>
     </message>
     <message>
         <source>set platform 9100 parameters time out</source>
-        <translation>设置9100 平台参数超时</translation>
+        <translation>设置 9100 平台参数超时</translation>
     </message>
 </context>
 <context>
@@ -791,11 +795,11 @@
     <name>orda_batchCfg::PlatformParamsCfgTask</name>
     <message>
         <source>Failed to get platform parameters(%1)</source>
-        <translation>获取平台参数失败(%1)</translation>
+        <translation>获取平台参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set platform parameters(%1)</source>
-        <translation>设置平台参数失败(%1)</translation>
+        <translation>设置平台参数失败（%1）</translation>
     </message>
     <message>
         <source>set platform parameters time out</source>
@@ -885,11 +889,11 @@
     <name>orda_batchCfg::VideoParamsCfgTask</name>
     <message>
         <source>Failed to get stream parameters(%1)</source>
-        <translation>获取码流参数失败(%1)</translation>
+        <translation>获取码流参数失败（%1）</translation>
     </message>
     <message>
         <source>Failed to set stream parameters(%1)</source>
-        <translation>设置码流参数失败(%1)</translation>
+        <translation>设置码流参数失败（%1）</translation>
     </message>
     <message>
         <source>set stream parameters time out</source>

@@ -86,6 +86,7 @@ QJsonObject VideoParamsPanel::getParams() const
     if ((m_paramsMask & BitRate) != 0) {
         params.insert(QStringLiteral("rcMode"), m_ui->bitRateMode->currentData().toString());
         params.insert(QStringLiteral("quality"), m_ui->bitRateStrategy->currentData().toInt());
+        m_ui->videoQuality->interpretText(); // what is being typed counts, and is shown as it is sent
         params.insert(QStringLiteral("bitRate"), m_ui->videoQuality->value());
     }
     return params;

@@ -91,11 +91,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
 <context>
     <name>ClientWindow</name>
     <message>
-        <source>off line</source>
+        <source>offline</source>
         <translation>offline</translation>
     </message>
     <message>
-        <source>on line</source>
+        <source>online</source>
         <translation>online</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Anmeldung abgelehnt</translation>
     </message>
     <message>
-        <source>on line with the factory password</source>
+        <source>online with the factory password</source>
         <translation>online mit Werkskennwort</translation>
     </message>
     <message>
-        <source>on line, locked</source>
+        <source>online, locked</source>
         <translation>online, gesperrt</translation>
     </message>
     <message>
@@ -183,7 +183,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Letzter Lauf</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n device(s) on line</source>
+        <source>%1 of %n device(s) online</source>
         <translation>
             <numerusform>%1 von %n Gerät online</numerusform>
             <numerusform>%1 von %n Geräten online</numerusform>
@@ -192,6 +192,32 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>A run is going on over the devices of this inventory. Open another when it has ended.</source>
         <translation>Ein Lauf über die Geräte dieses Bestands ist im Gange. Öffnen Sie einen anderen, wenn er zu Ende ist.</translation>
+    </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
+    <message>
+        <source>A run is going on</source>
+        <translation>Ein Lauf ist im Gange</translation>
+    </message>
+    <message>
+        <source>Closing ends the run. Devices that have not answered may have been configured all the same.</source>
+        <translation>Das Schließen bricht den Lauf ab. Geräte, die noch nicht geantwortet haben, können trotzdem schon konfiguriert sein.</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Trotzdem schließen</translation>
+    </message>
+    <message>
+        <source>Keep waiting</source>
+        <translation>Weiter warten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n device(s) have not answered</source>
+        <translation>
+            <numerusform>%1 von %n Gerät hat nicht geantwortet</numerusform>
+            <numerusform>%1 von %n Geräten haben nicht geantwortet</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -216,7 +242,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>mehrere Geräte des Laufs haben seine Seriennummer</translation>
     </message>
     <message>
-        <source>it is not in the list now: off line, or not to be configured</source>
+        <source>it is not in the list now: offline, or not to be configured</source>
         <translation>es steht jetzt nicht in der Liste: offline oder nicht konfigurierbar</translation>
     </message>
     <message>
@@ -418,7 +444,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Bild %1 kann nicht geschrieben werden</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n device(s) on line</source>
+        <source>%1 of %n device(s) online</source>
         <translation>
             <numerusform>%1 von %n Gerät online</numerusform>
             <numerusform>%1 von %n Geräten online</numerusform>
@@ -432,7 +458,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is off line or may not be configured</source>
+        <source>%n of the given devices is offline or may not be configured</source>
         <translation>
             <numerusform>%n der angegebenen Geräte ist offline oder darf nicht konfiguriert werden</numerusform>
             <numerusform>%n der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</numerusform>

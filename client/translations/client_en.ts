@@ -4,10 +4,20 @@
 <context>
     <name>ClientWindow</name>
     <message numerus="yes">
-        <source>%1 of %n device(s) on line</source>
+        <source>%1 of %n device(s) online</source>
         <translation>
-            <numerusform>%1 of %n device on line</numerusform>
-            <numerusform>%1 of %n devices on line</numerusform>
+            <numerusform>%1 of %n device online</numerusform>
+            <numerusform>%1 of %n devices online</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
+    <message numerus="yes">
+        <source>%1 of %n device(s) have not answered</source>
+        <translation>
+            <numerusform>%1 of %n device has not answered</numerusform>
+            <numerusform>%1 of %n devices have not answered</numerusform>
         </translation>
     </message>
 </context>
@@ -24,10 +34,10 @@
 <context>
     <name>RunDriver</name>
     <message numerus="yes">
-        <source>%1 of %n device(s) on line</source>
+        <source>%1 of %n device(s) online</source>
         <translation>
-            <numerusform>%1 of %n device on line</numerusform>
-            <numerusform>%1 of %n devices on line</numerusform>
+            <numerusform>%1 of %n device online</numerusform>
+            <numerusform>%1 of %n devices online</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -38,10 +48,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is off line or may not be configured</source>
+        <source>%n of the given devices is offline or may not be configured</source>
         <translation>
-            <numerusform>%n of the given devices is off line or may not be configured</numerusform>
-            <numerusform>%n of the given devices are off line or may not be configured</numerusform>
+            <numerusform>%n of the given devices is offline or may not be configured</numerusform>
+            <numerusform>%n of the given devices are offline or may not be configured</numerusform>
         </translation>
     </message>
 </context>

@@ -91,11 +91,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
 <context>
     <name>ClientWindow</name>
     <message>
-        <source>off line</source>
+        <source>offline</source>
         <translation>离线</translation>
     </message>
     <message>
-        <source>on line</source>
+        <source>online</source>
         <translation>在线</translation>
     </message>
     <message>
@@ -107,11 +107,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>登录被拒绝</translation>
     </message>
     <message>
-        <source>on line with the factory password</source>
+        <source>online with the factory password</source>
         <translation>在线（使用出厂密码）</translation>
     </message>
     <message>
-        <source>on line, locked</source>
+        <source>online, locked</source>
         <translation>在线，已锁定</translation>
     </message>
     <message>
@@ -183,7 +183,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>上次运行</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n device(s) on line</source>
+        <source>%1 of %n device(s) online</source>
         <translation>
             <numerusform>%n 台设备中 %1 台在线</numerusform>
         </translation>
@@ -191,6 +191,31 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>A run is going on over the devices of this inventory. Open another when it has ended.</source>
         <translation>正在对此清单中的设备运行配置。请在运行结束后再打开其他清单。</translation>
+    </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
+    <message>
+        <source>A run is going on</source>
+        <translation>运行正在进行</translation>
+    </message>
+    <message>
+        <source>Closing ends the run. Devices that have not answered may have been configured all the same.</source>
+        <translation>关闭将中止运行。尚未应答的设备可能已被配置。</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>仍然关闭</translation>
+    </message>
+    <message>
+        <source>Keep waiting</source>
+        <translation>继续等待</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n device(s) have not answered</source>
+        <translation>
+            <numerusform>%n 台设备中有 %1 台尚未应答</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -215,7 +240,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>本次运行中有多台设备使用其序列号</translation>
     </message>
     <message>
-        <source>it is not in the list now: off line, or not to be configured</source>
+        <source>it is not in the list now: offline, or not to be configured</source>
         <translation>它现在不在列表中：离线或不可配置</translation>
     </message>
     <message>
@@ -416,7 +441,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>无法写入图片 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n device(s) on line</source>
+        <source>%1 of %n device(s) online</source>
         <translation>
             <numerusform>%n 台设备中 %1 台在线</numerusform>
         </translation>
@@ -428,7 +453,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is off line or may not be configured</source>
+        <source>%n of the given devices is offline or may not be configured</source>
         <translation>
             <numerusform>指定的设备中有 %n 台离线或不允许配置</numerusform>
         </translation>

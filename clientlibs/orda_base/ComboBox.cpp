@@ -1,11 +1,12 @@
 #include "orda_base/ComboBox.h"
 
 #include <QAbstractItemView>
+#include <QEvent>
 #include <QLoggingCategory>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
-#include <QWheelEvent>
+#include <QStyledItemDelegate>
 
 namespace orda_base {
 
@@ -13,11 +14,15 @@ namespace {
 
 Q_LOGGING_CATEGORY(logUi, "orda.ui", QtWarningMsg)
 
+constexpr int mostItems = 16; // beyond these a list has a scroll bar
+
 } // namespace
 
 ComboBox::ComboBox(QWidget *parent)
     : QComboBox(parent)
 {
+    setMaxVisibleItems(mostItems);
+    setItemDelegate(new QStyledItemDelegate(this)); // the default one takes no heed of the theme's rows
 }
 
 void ComboBox::setItemsData(const QList<QVariant> &values)
@@ -47,14 +52,6 @@ void ComboBox::showPopup()
 {
     view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
     QComboBox::showPopup();
-}
-
-void ComboBox::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }
 
 } // namespace orda_base

@@ -24,8 +24,6 @@ public:
 protected:
     /// A text that has no room stands as a whole in the tool tip.
     bool event(QEvent *event) override;
-    /// Scrolling over a page must not change a value by the way.
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
     bool isTextWhole() const;

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -112,7 +113,7 @@ void DisabledWaitingWt::announce()
 
 bool DisabledWaitingWt::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride || isInput(event->type())) {
+    if (isInput(event->type())) {
         event->accept();
         return true;
     }
@@ -124,6 +125,8 @@ bool DisabledWaitingWt::eventFilter(QObject *watched, QEvent *event)
     if (watched == parentWidget()) {
         if (event->type() == QEvent::Resize)
             setGeometry(parentWidget()->rect());
+    } else if (event->type() == QEvent::Shortcut && coversShortcut(qobject_cast<QShortcut *>(watched))) {
+        return true;
     } else if (covers(qobject_cast<QWidget *>(watched))) {
         // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic, a focus set by a
         // program.
@@ -141,6 +144,12 @@ bool DisabledWaitingWt::eventFilter(QObject *watched, QEvent *event)
 bool DisabledWaitingWt::covers(const QWidget *widget) const
 {
     return widget && parentWidget() && parentWidget()->isAncestorOf(widget) && widget != this && !isAncestorOf(widget);
+}
+
+bool DisabledWaitingWt::coversShortcut(const QShortcut *shortcut) const
+{
+    const QWidget *owner = shortcut ? shortcut->parentWidget() : nullptr;
+    return owner && (owner == parentWidget() || covers(owner));
 }
 
 bool DisabledWaitingWt::focusNextPrevChild(bool)

@@ -7,12 +7,14 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QShortcut;
 QT_END_NAMESPACE
 
 namespace orda_base {
 
 /// Covers a widget while something goes on: shows that it does, tells assistive technology how far it has got, and lets
-/// no mouse, key or shortcut through. Destroyed through DisabledWaitingWtManager, or with its parent. GUI thread only.
+/// no mouse, key or shortcut through to it; the window around it keeps its menus and their shortcuts. Destroyed through
+/// DisabledWaitingWtManager, or with its parent. GUI thread only.
 class DisabledWaitingWt : public QWidget
 {
     Q_OBJECT
@@ -41,6 +43,7 @@ protected:
 
 private:
     bool covers(const QWidget *widget) const;
+    bool coversShortcut(const QShortcut *shortcut) const;
     void announce();
 
     QUuid m_uuid;

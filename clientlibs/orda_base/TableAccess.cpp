@@ -190,7 +190,7 @@ void TableAccess::modelChange(QAccessibleTableModelChangeEvent *event)
     using Event = QAccessibleTableModelChangeEvent;
     const bool isLess = event->modelChangeType() == Event::RowsRemoved || event->modelChangeType() == Event::ModelReset;
     if (isLess && !m_forgetSoon.isActive())
-        m_forgetSoon.start(); // once for the thousands of rows that a site has when it goes off line
+        m_forgetSoon.start(); // once for the thousands of rows that a site has when it goes offline
 }
 
 void TableAccess::forgetWhatIsGone()

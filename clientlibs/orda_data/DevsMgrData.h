@@ -30,7 +30,7 @@ public:
     /// DevOffline when @p devId is unknown.
     vms_sdk::DevStatus getDevStatus(const QString &devId) const;
 
-    /// Adds new records, off line, and replaces known ones, which keep their place and state. Raises
+    /// Adds new records, offline, and replaces known ones, which keep their place and state. Raises
     /// signalUpdateDevs(devs, true, true). Records go in here before they go to the transport: the state of an unknown
     /// device is not kept.
     void updateDevs(const QList<DevInfo> &devs);

@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace orda_worker {
 
 namespace {
@@ -13,6 +15,7 @@ namespace {
 constexpr int minWidth = 480;
 constexpr int margin = 24;
 constexpr int buttonWidth = 96;
+constexpr int widestMessage = 720;
 
 } // namespace
 
@@ -30,6 +33,10 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
     caption->setTextFormat(Qt::PlainText);
     caption->setProperty("dialog_caption", true);
     addText(text);
+
+    message->ensurePolished(); // with the font that it will have
+    // A wrapped line may end between a colon and its number; a text that fits on one line stays on it.
+    message->setMinimumWidth(std::min(message->fontMetrics().size(0, text).width() + 1, widestMessage));
 
     auto *row = new QHBoxLayout;
     row->addStretch();

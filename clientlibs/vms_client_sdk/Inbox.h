@@ -13,7 +13,7 @@ namespace vms_sdk {
 
 /// What a transport raises, on its way to the GUI thread, in its order. Thousands of answers that come at once are
 /// passed on in slices of a few milliseconds: between them the event loop serves timers, input and painting. Status
-/// changes wait for company: nobody notices 10 ms, and a site that comes on line does not wake the GUI thread for each
+/// changes wait for company: nobody notices 10 ms, and a site that comes online does not wake the GUI thread for each
 /// device.
 class Inbox : public QObject
 {

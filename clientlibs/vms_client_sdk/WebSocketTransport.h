@@ -25,7 +25,7 @@ public:
 
     void passedOn(const QString &requestId, const QString &text) override;
     /// The devices to keep connections to, all of them, whatever their access and kind codes. Unchanged records keep
-    /// their connection, changed ones connect anew, missing ones are dropped and reported off line.
+    /// their connection, changed ones connect anew, missing ones are dropped and reported offline.
     void setDevices(const QList<DevInfo> &devices);
 
     /// Devices that refused the sign-on are tried once more.

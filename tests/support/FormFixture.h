@@ -13,7 +13,7 @@
 #include <chrono>
 #include <memory>
 
-/// The form in a shown window over a store of its own and a scripted transport. Devices are "dev0", "dev1", …, on line,
+/// The form in a shown window over a store of its own and a scripted transport. Devices are "dev0", "dev1", …, online,
 /// with the addresses 10.0.0.1 on, serial numbers "SN0" on and names "Cam 0" on.
 class FormFixture
 {

@@ -34,7 +34,7 @@ public:
     const DevInfo &device() const { return m_device; }
 
     void start();
-    void end(); ///< closes the connection and reports the device off line; nothing comes after it
+    void end(); ///< closes the connection and reports the device offline; nothing comes after it
     void connectAgain(); ///< only after a refusal
     void send(const QString &requestId, const QString &text);
 

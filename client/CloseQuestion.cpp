@@ -1,0 +1,70 @@
+#include "CloseQuestion.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QVariant>
+
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int margin = 24;
+constexpr auto followInterval = 200ms;
+
+} // namespace
+
+CloseQuestion::CloseQuestion(QWidget *overlay, QWidget *parent)
+    : QDialog(parent)
+    , m_overlay(overlay)
+    , m_count(new QLabel(this))
+{
+    setObjectName(QStringLiteral("closeQuestion"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("A run is going on"));
+    m_count->setProperty("dialog_caption", true);
+    auto *consequence = new QLabel(
+        tr("Closing ends the run. Devices that have not answered may have been configured all the same."), this);
+    auto *close = new QPushButton(tr("Close anyway"), this);
+    close->setProperty("common_bt_style2", true);
+    close->setAutoDefault(false);
+    auto *wait = new QPushButton(tr("Keep waiting"), this);
+    wait->setProperty("common_bt_style1", true);
+    wait->setDefault(true); // a key that was pressed by accident ends no run
+    wait->setFocus();
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    connect(wait, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(close);
+    row->addWidget(wait);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin / 2);
+    layout->addWidget(m_count);
+    layout->addWidget(consequence);
+    layout->addSpacing(margin / 2);
+    layout->addLayout(row);
+
+    auto *again = new QTimer(this);
+    connect(again, &QTimer::timeout, this, &CloseQuestion::follow);
+    again->start(followInterval);
+    follow();
+}
+
+void CloseQuestion::follow()
+{
+    if (!m_overlay || m_overlay->isHidden()) {
+        reject(); // its summary says how the run has ended
+        return;
+    }
+    const int total = m_overlay->property("total").toInt();
+    const int missing = total - m_overlay->property("finished").toInt();
+    m_count->setText(tr("%1 of %n device(s) have not answered", nullptr, total).arg(missing));
+    setAccessibleDescription(m_count->text());
+}
