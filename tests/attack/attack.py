@@ -111,11 +111,15 @@ async def run(attack, bin_dir, seconds, healthy):
             entries = json.load(file)["devices"]
         good = [entry for entry in entries if entry["serialNumber"] in healthy] or entries
 
+        victims = []  # a fleet's device answers only the newest of its clients: hostile ones get devices of their own
+        if attack.on_fleet:
+            victims = [entry for entry in good if "ip" in entry][:2]
+            good = [entry for entry in good if entry not in victims]
         bad = []
         for number in range(attack.each):
             for behaviour in attack.hostile:
                 if attack.on_fleet:
-                    site.dial(behaviour, good[number % len(good)])
+                    site.dial(behaviour, victims[number % 2])
                 else:
                     (good if hasattr(behaviour, "healthy") else bad).append(await site.listen(behaviour))
         inventory = f"{home}/site.json"

@@ -1,6 +1,7 @@
 """What hostile devices and clients do, and the table of attacks. A behaviour is a coroutine over one connection."""
 
 import asyncio
+import random
 import socket
 import struct
 from dataclasses import dataclass, field
@@ -9,13 +10,6 @@ from wire import BINARY, CHUNK, CLOSE, CONTINUATION, PING, PONG, TEXT
 
 MEGABYTE = b"x" * (1 << 20)
 JUST_BELOW = 14  # messages of 1 MB a second: not yet a flood
-
-
-def behaviour(function, name, **traits):
-    function.__name__ = name
-    for trait, value in traits.items():
-        setattr(function, trait, value)
-    return function
 
 
 async def stand(link, signed_on):
@@ -48,10 +42,8 @@ def flood(name, signed_on=True):
         await stand(link, signed_on)
         if start:
             await link.send(start(link))
-        once = make(link)
-        poured = link.pour(once * (CHUNK // len(once)))
-        await (asyncio.gather(poured, link.discard()) if reads else poured)
-    return behaviour(attack, name)
+        await link.pour_chunks(make(link), reads=reads)
+    return attack
 
 
 BROKEN_FRAMES = {
@@ -73,16 +65,18 @@ def broken(name, signed_on=True):
         await stand(link, signed_on)
         await link.send(BROKEN_FRAMES[name](link))
         await link.discard()
-    return behaviour(attack, name)
+    return attack
 
 
-async def incomplete(link):
+def incomplete(signed_on=True):
     """All of a message of 1 MiB but the last byte."""
-    await link.sign_on()
-    for i in range(15):
-        await link.send(link.frame(CONTINUATION if i else TEXT, b"x" * CHUNK, fin=False))
-    await link.send(link.frame(CONTINUATION, b"x" * CHUNK)[:-1])
-    await link.discard()
+    async def attack(link):
+        await stand(link, signed_on)
+        for i in range(15):
+            await link.send(link.frame(CONTINUATION if i else TEXT, b"x" * CHUNK, fin=False))
+        await link.send(link.frame(CONTINUATION, b"x" * CHUNK)[:-1])
+        await link.discard()
+    return attack
 
 
 async def half_closed(link):
@@ -91,10 +85,31 @@ async def half_closed(link):
     await link.wait_for_end()
 
 
-async def deaf_after_welcome(link):
-    await link.sign_on()
+async def deaf(link):
     link.writer.transport.pause_reading()
     await link.wait_for_end()
+
+
+async def deaf_after_welcome(link):
+    await link.sign_on()
+    await deaf(link)
+
+
+async def deaf_to_writes(link):
+    """Answers with a setting of nearly 1 MiB, and does not read it when it is written back."""
+    await link.sign_on()
+    async for request_id, request in link.requests():
+        await asyncio.sleep(random.uniform(0, 10))  # so many unfinished messages at once would be cut
+        await link.answer(request_id, request["method"], f'{{"x": "{"x" * 900_000}"}}')
+        await deaf(link)
+
+
+async def deaf_to_pongs(link):
+    await link.sign_on()
+    pings = link.frame(PING, b"x" * 125) * 40
+    await asyncio.gather(deaf(link), link.pour(pings, 0.1, reads=False))
+
+deaf_to_writes.narrow = deaf_to_pongs.narrow = True
 
 
 def reconnects(signed_on):
@@ -104,7 +119,7 @@ def reconnects(signed_on):
             await link.send_text('\n{"state": 5}')  # traffic after the welcome: the back-off begins anew
         reset = struct.pack("ii", 1, 0)
         link.writer.get_extra_info("socket").setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, reset)
-    return behaviour(attack, "reconnects")
+    return attack
 
 
 # Before the handshake is over
@@ -125,11 +140,8 @@ def head(name):
     async def attack(link):
         await link.begin_handshake()
         await link.send(start)
-        while pause:
-            await link.send(again)
-            await asyncio.sleep(pause)
-        await asyncio.gather(link.pour(again * (CHUNK // len(again))), link.discard())
-    return behaviour(attack, name)
+        await (link.pour(again, pause) if pause else link.pour_chunks(again))
+    return attack
 
 
 async def silent(link):
@@ -173,15 +185,13 @@ def answers(value, family="audio"):
         await link.sign_on()
         async for request_id, request in link.requests():
             await link.answer(request_id, request["method"], result)
-    return behaviour(attack, "answers")
+    return attack
 
 
-async def paced(link, text, per_second):
-    data = link.frame(TEXT, text.encode())
-    batch = max(1, per_second // 20)
-    while True:
-        await link.send(data * batch)
-        await asyncio.sleep(batch / per_second)
+async def pour_texts(link, texts, per_second):
+    """The same texts again and again, at most so many a second."""
+    frames = b"".join(link.frame(TEXT, text.encode()) for text in texts)
+    await link.pour(frames, len(texts) / per_second)
 
 
 def foreign(result):
@@ -189,16 +199,15 @@ def foreign(result):
     async def attack(link):
         await link.sign_on()
         async for request_id, _ in link.requests():
-            text = f'{request_id}\n{{"method": "none", "result": {result()}}}'
-            await asyncio.gather(paced(link, text, JUST_BELOW), link.discard())
-    return behaviour(attack, "foreign")
+            await pour_texts(link, [f'{request_id}\n{{"method": "none", "result": {result()}}}'], JUST_BELOW)
+    return attack
 
 
-def notices(text, per_second):
+def texts(make, per_second):
     async def attack(link):
         await link.sign_on()
-        await asyncio.gather(paced(link, text(), per_second), link.discard())
-    return behaviour(attack, "notices")
+        await pour_texts(link, make(), per_second)
+    return attack
 
 
 async def repeated_hello(link):
@@ -215,22 +224,7 @@ async def unasked(link):
             await link.answer(request_id, method, "{}")
 
 
-async def flapping(link):
-    await link.sign_on()
-    states = b"".join(link.frame(TEXT, b'\n{"state": %d}' % state) for state in (5, 1))
-    await asyncio.gather(link.pour(states * 100), link.discard())
-
-
-async def flap_slowly(link):
-    while True:
-        for state in (5, 1):
-            await link.send_text(f'\n{{"state": {state}}}')
-            await asyncio.sleep(0.0012)
-
-
-async def flapping_slowly(link):
-    await link.sign_on()
-    await asyncio.gather(flap_slowly(link), link.discard())
+CHANGES = ['\n{"state": 5}', '\n{"state": 1}']
 
 
 async def flapping_cloud(link):
@@ -238,7 +232,7 @@ async def flapping_cloud(link):
     await link.sign_on()
     async for request_id, request in link.requests():
         if "_set_" in request["method"]:
-            await asyncio.gather(flap_slowly(link), link.discard())
+            await pour_texts(link, CHANGES, 800)
         await link.answer(request_id, request["method"], '{"qbcloud_en": false}')
 
 
@@ -312,21 +306,25 @@ def rows():
     yield Attack("repeated-answers", "an object key 90,000 times, in answers", "over 2 GB in 11 s, client died",
                  [foreign(lambda: f"{{{repeated_keys(1_000_000)}}}")], 5, short=0, long=20, margin=20, ticked="all")
     yield Attack("repeated-notices", "the same in notices, hello and welcome", "3.0 GB in 20 s",
-                 [notices(lambda: f"\n{{{repeated_keys(1_000_000)}}}", JUST_BELOW), repeated_hello], 5, short=3, long=20)
+                 [texts(lambda: [f"\n{{{repeated_keys(1_000_000)}}}"], JUST_BELOW), repeated_hello], 5, short=3, long=20)
     yield Attack("foreign-method", "1 MB of a foreign method under one's own id, again and again", "9.1 GB, no end",
                  [foreign(lambda: nested(1, 1_000_000))], 20, long=40, margin=20, ticked="all")
-    yield Attack("incomplete", "messages of 1 MiB without their last byte", "776 MB", [incomplete], 300, short=4, long=20)
+    yield Attack("incomplete", "messages of 1 MiB without their last byte", "776 MB", [incomplete()], 300, short=4, long=20)
     yield Attack("impostor", "answers for others, whose ids it knows", "14 of 17", [impostor, honest], 3, short=0, long=0)
     yield Attack("unasked", "answers to nothing, too early, twice", "14 of 14", [unasked], 10, short=0, long=0, ticked="all")
     yield Attack("broken-frames", "lengths of 2^62, masks, reserved bits, bad UTF-8; half-closed; deaf", "14 of 14",
                  [*all_broken, half_closed, deaf_after_welcome], 2, short=2, long=20)
-    yield Attack("reconnects", "reset as soon as the line stands", "14 of 14", [reconnects(True), reconnects(False)], 50,
+    yield Attack("reconnects", "reset as soon as the line stands", "14 of 14", [reconnects(True), reconnects(False)], 150,
                  short=2, long=20)
-    yield Attack("flapping", "changes of state, without pause or 800 a second", "14 of 14", [flapping, flapping_slowly], 5,
-                 short=3, long=20)
+    yield Attack("flapping", "changes of state, without pause or 800 a second", "14 of 14",
+                 [texts(lambda: CHANGES, 800), texts(lambda: CHANGES * 100, 100_000)], 5, short=3, long=20)
     yield Attack("flapping-cloud", "the same instead of the answer to a cloud write", "28,071 requests in 60 s, no end",
                  [flapping_cloud], 3, long=0, margin=75, ticked="all", family="platform")
-    yield Attack("crowd", "900 useless answers a second from each of 60", "—", [notices(lambda: "none\n{}", 900)], 60, long=20)
+    yield Attack("deaf-writes", "a setting of 1 MB in each of 300, and nobody reads it when it is written back", "—",
+                 [deaf_to_writes], 300, long=0, margin=40, ticked="all")
+    yield Attack("deaf-pongs", "400 pings a second from each of 400, which read nothing", "—", [deaf_to_pongs], 400, long=28)
+    yield Attack("flapping-crowd", "30 changes of state a second from each of 300", "—", [texts(lambda: CHANGES, 30)], 300, long=20)
+    yield Attack("crowd", "900 useless answers a second from each of 60", "—", [texts(lambda: ["none\n{}"] * 45, 900)], 60, long=20)
     yield Attack("heads", "status lines, headers without end; drips; no HTTP", "1.3 GB in 9 s", [*heads.values()], 2, short=3,
                  long=20)
     for name, earlier in (("status-line", "1.1 GB in 14 s"), ("headers", "1.4 GB in 14 s"), ("header-line", "over 2 GB in 9 s"),
@@ -341,6 +339,8 @@ def rows():
     yield Attack("fleet-unsigned", "the same before sign-on; endless heads; unread answers", "2.9 GB in 10 s, 0 of 14",
                  [*unsigned.values(), *heads.values(), broken("giant-claim", False), flood("unread-answers"), silent], 2,
                  short=3, long=20, on_fleet=True)
+    yield Attack("fleet-incomplete", "400 clients, each with a message of 1 MiB without its last byte", "—",
+                 [incomplete(signed_on=False)], 400, long=14, on_fleet=True)
 
 
 ATTACKS = {attack.name: attack for attack in rows()}

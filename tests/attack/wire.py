@@ -52,7 +52,6 @@ class Link:
     async def send(self, data):
         self.writer.write(data)
         await self.writer.drain()
-        await asyncio.sleep(0)  # the others' turn: drain() comes back at once while the peer keeps up
 
     async def send_text(self, text):
         await self.send(self.frame(TEXT, text.encode()))
@@ -91,10 +90,16 @@ class Link:
         while await self.reader.read(CHUNK):
             pass
 
-    async def pour(self, data):
-        """The same bytes without end."""
-        while True:
-            await self.send(data)
+    async def pour(self, data, pause=0, reads=True):
+        """The same bytes without end; what comes back is read, or left to fill the line."""
+        async def write():
+            while True:
+                await self.send(data)
+                await asyncio.sleep(pause)  # 0: the others' turn, for drain() comes back at once while the peer keeps up
+        await asyncio.gather(write(), *([self.discard()] if reads else []))
+
+    async def pour_chunks(self, data, **more):
+        await self.pour(data * (CHUNK // len(data)), **more)
 
     async def wait_for_end(self):
         await asyncio.Event().wait()
@@ -158,7 +163,7 @@ class HostileSite:
 
     async def listen(self, behaviour):
         number = len(self.entries)
-        entry = {"id": f"hostile-{number}", "name": f"{behaviour.__name__} {number}", "serialNumber": f"XX{number:06}",
+        entry = {"id": f"hostile-{number}", "name": f"Hostile {number}", "serialNumber": f"XX{number:06}",
                  "ip": f"127.20.{number // 250}.{number % 250 + 1}", "path": "/", "userName": "admin",
                  "password": "pA5#" + os.urandom(8).hex(), "tls": getattr(behaviour, "tls", False)}
 
@@ -166,6 +171,9 @@ class HostileSite:
             self.tasks.append(asyncio.create_task(self.run(behaviour, DeviceLink(entry, reader, writer))))
 
         listener = socket.create_server((entry["ip"], 0), backlog=0 if getattr(behaviour, "deaf", False) else 100)
+        if hasattr(behaviour, "narrow"):  # what is not read stays with its sender and not in the kernel
+            listener.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 4096)
+            listener.setsockopt(socket.IPPROTO_TCP, socket.TCP_MAXSEG, 536)
         entry["port"] = listener.getsockname()[1]
         self.entries.append(entry)
         if getattr(behaviour, "deaf", False):
