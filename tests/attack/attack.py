@@ -18,6 +18,7 @@ import signal
 import sys
 import tempfile
 import time
+from dataclasses import dataclass
 
 from hostile import ATTACKS
 from wire import HostileSite
@@ -96,8 +97,18 @@ def configured(home):
     return serials
 
 
+@dataclass
+class Outcome:
+    client_mb: int
+    fleet_mb: int
+    seconds: float
+    exit_code: int   # None: it had to be ended
+    configured: set  # serial numbers
+    healthy: set
+    attack_faults: set
+
+
 async def run(attack, bin_dir, seconds, healthy):
-    """Peaks of client and fleet, duration, exit code, and which serial numbers of which are configured."""
     site = HostileSite()
     async with contextlib.AsyncExitStack() as stack:
         home = stack.enter_context(tempfile.TemporaryDirectory(prefix="orda_attack."))
@@ -106,7 +117,7 @@ async def run(attack, bin_dir, seconds, healthy):
         fleet = await stack.enter_async_context(Program(
             f"{bin_dir}/orda_fleet", "--devices", str(FLEET_DEVICES), "--seed", str(FLEET_SEED), "--latency",
             str(int(latency * 1000)), "--inventory", f"{home}/fleet.json", home=home))
-        await fleet.process.stdout.readline()
+        await asyncio.wait_for(fleet.process.stdout.readline(), 10)
         with open(f"{home}/fleet.json", encoding="utf-8") as file:
             entries = json.load(file)["devices"]
         good = [entry for entry in entries if entry["serialNumber"] in healthy] or entries
@@ -133,37 +144,40 @@ async def run(attack, bin_dir, seconds, healthy):
         code = await client.wait(seconds + attack.margin)
         duration = time.monotonic() - began
         fleet.look()
-        return client.peak, fleet.peak, duration, code, configured(home), {entry["serialNumber"] for entry in good}
+        if attack.hostile and not site.connections:
+            site.faults.add("nobody was attacked")
+        return Outcome(client.peak, fleet.peak, duration, code, configured(home), {entry["serialNumber"] for entry in good},
+                       site.faults)
 
 
-def verdict(attack, client_mb, fleet_mb, duration, code, succeeded, total):
-    faults = []
-    if max(client_mb, fleet_mb) > MEMORY_LIMIT:
+def verdict(attack, outcome):
+    faults, code = sorted(outcome.attack_faults), outcome.exit_code
+    if max(outcome.client_mb, outcome.fleet_mb) > MEMORY_LIMIT:
         faults.append(f"over {MEMORY_LIMIT} MB")
     if code is None:
-        faults.append(f"did not end within {duration:.0f} s")
+        faults.append(f"did not end within {outcome.seconds:.0f} s")
     elif code < 0:
-        faults.append(f"client died of signal {-code}" + (" (ours)" if client_mb > DEADLY else ""))
+        faults.append(f"client died of signal {-code}" + (" (ours)" if outcome.client_mb > DEADLY else ""))
     elif code > (1 if attack.ticked == "all" else 0):
         faults.append(f"exit code {code}")
-    if succeeded < total:
+    if not outcome.healthy <= outcome.configured:
         faults.append("healthy devices failed")
     return "; ".join(faults)
 
 
 async def attack_all(attacks, bin_dir):
     """How many attacks did harm. What succeeds where nothing happens is healthy."""
-    *_, healthy, _ = await run(ATTACKS["nothing"], bin_dir, 0, set())
+    healthy = (await run(ATTACKS["nothing"], bin_dir, 0, set())).configured
     if len(healthy) < HEALTHY_AT_LEAST:
         print(f"only {len(healthy)} devices are configured without any attack")
         return 1
     print("| Attack | Earlier | Client, MB | Fleet, MB | Seconds | Healthy | Now |\n|---|---|---|---|---|---|---|")
     harmful = 0
     for attack, seconds in attacks:
-        client_mb, fleet_mb, duration, code, succeeded, good = await run(attack, bin_dir, seconds, healthy)
-        faults = verdict(attack, client_mb, fleet_mb, duration, code, len(succeeded & good), len(good))
-        print(f"| `{attack.name}`: {attack.what} | {attack.earlier} | {client_mb} | {fleet_mb} | {duration:.1f} | "
-              f"{len(succeeded & good)} of {len(good)} | {faults or 'held'} |", flush=True)
+        now = await run(attack, bin_dir, seconds, healthy)
+        faults = verdict(attack, now)
+        print(f"| `{attack.name}`: {attack.what} | {attack.earlier} | {now.client_mb} | {now.fleet_mb} | {now.seconds:.1f} | "
+              f"{len(now.healthy & now.configured)} of {len(now.healthy)} | {faults or 'held'} |", flush=True)
         harmful += bool(faults)
     return harmful
 

@@ -162,7 +162,7 @@ silent_under_tls.tls = True
 async def never_accepts(_):
     raise AssertionError("it listens, and that is all")
 
-never_accepts.deaf = True
+never_accepts.accepts = False
 
 
 # Answers and notices
@@ -309,7 +309,7 @@ def rows():
                  [texts(lambda: [f"\n{{{repeated_keys(1_000_000)}}}"], JUST_BELOW), repeated_hello], 5, short=3, long=20)
     yield Attack("foreign-method", "1 MB of a foreign method under one's own id, again and again", "9.1 GB, no end",
                  [foreign(lambda: nested(1, 1_000_000))], 20, long=40, margin=20, ticked="all")
-    yield Attack("incomplete", "messages of 1 MiB without their last byte", "776 MB", [incomplete()], 300, short=4, long=20)
+    yield Attack("incomplete", "messages of 1 MiB without their last byte", "776 MB", [incomplete()], 300, short=3, long=20)
     yield Attack("impostor", "answers for others, whose ids it knows", "14 of 17", [impostor, honest], 3, short=0, long=0)
     yield Attack("unasked", "answers to nothing, too early, twice", "14 of 14", [unasked], 10, short=0, long=0, ticked="all")
     yield Attack("broken-frames", "lengths of 2^62, masks, reserved bits, bad UTF-8; half-closed; deaf", "14 of 14",
@@ -317,7 +317,7 @@ def rows():
     yield Attack("reconnects", "reset as soon as the line stands", "14 of 14", [reconnects(True), reconnects(False)], 150,
                  short=2, long=20)
     yield Attack("flapping", "changes of state, without pause or 800 a second", "14 of 14",
-                 [texts(lambda: CHANGES, 800), texts(lambda: CHANGES * 100, 100_000)], 5, short=3, long=20)
+                 [texts(lambda: CHANGES, 800), texts(lambda: CHANGES * 100, 100_000)], 5, short=2, long=20)
     yield Attack("flapping-cloud", "the same instead of the answer to a cloud write", "28,071 requests in 60 s, no end",
                  [flapping_cloud], 3, long=0, margin=75, ticked="all", family="platform")
     yield Attack("deaf-writes", "a setting of 1 MB in each of 300, and nobody reads it when it is written back", "—",
@@ -325,7 +325,7 @@ def rows():
     yield Attack("deaf-pongs", "400 pings a second from each of 400, which read nothing", "—", [deaf_to_pongs], 400, long=28)
     yield Attack("flapping-crowd", "30 changes of state a second from each of 300", "—", [texts(lambda: CHANGES, 30)], 300, long=20)
     yield Attack("crowd", "900 useless answers a second from each of 60", "—", [texts(lambda: ["none\n{}"] * 45, 900)], 60, long=20)
-    yield Attack("heads", "status lines, headers without end; drips; no HTTP", "1.3 GB in 9 s", [*heads.values()], 2, short=3,
+    yield Attack("heads", "status lines, headers without end; drips; no HTTP", "1.3 GB in 9 s", [*heads.values()], 2, short=2,
                  long=20)
     for name, earlier in (("status-line", "1.1 GB in 14 s"), ("headers", "1.4 GB in 14 s"), ("header-line", "over 2 GB in 9 s"),
                           ("not-http", "over 2 GB in 6 s")):
@@ -334,11 +334,11 @@ def rows():
     yield Attack("silent-320", "accept and say nothing, first in the list", "0 of 10 after 60 s", [silent], 320, long=0, margin=20)
     yield Attack("silent-kinds", "silent before and after the handshake, under TLS, never accepting", "—",
                  [silent, silent_after_handshake, silent_under_tls, never_accepts], 16, long=0, margin=20)
-    yield Attack("fleet-frames", "clients with floods of small frames", "0 of 14", [*signed_on.values()], 2, short=3, long=20,
+    yield Attack("fleet-frames", "clients with floods of small frames", "0 of 14", [*signed_on.values()], 2, short=2, long=20,
                  on_fleet=True)
     yield Attack("fleet-unsigned", "the same before sign-on; endless heads; unread answers", "2.9 GB in 10 s, 0 of 14",
                  [*unsigned.values(), *heads.values(), broken("giant-claim", False), flood("unread-answers"), silent], 2,
-                 short=3, long=20, on_fleet=True)
+                 short=2, long=20, on_fleet=True)
     yield Attack("fleet-incomplete", "400 clients, each with a message of 1 MiB without its last byte", "—",
                  [incomplete(signed_on=False)], 400, long=14, on_fleet=True)
 

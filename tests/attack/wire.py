@@ -156,10 +156,9 @@ class ClientLink(Link):
 class HostileSite:
     """Hostile devices, each on an address of its own in 127.20.0.0/16, or hostile clients of a fleet's devices."""
 
-    BROKEN_LINK = (ConnectionError, asyncio.IncompleteReadError, asyncio.LimitOverrunError, OSError, KeyError, ValueError)
-
     def __init__(self):
         self.entries, self.tasks, self.sockets, self.servers = [], [], [], []
+        self.connections, self.faults = 0, set()  # faults: of the attacks themselves, which would otherwise seem to be held
 
     async def listen(self, behaviour):
         number = len(self.entries)
@@ -170,21 +169,21 @@ class HostileSite:
         def serve(reader, writer):
             self.tasks.append(asyncio.create_task(self.run(behaviour, DeviceLink(entry, reader, writer))))
 
-        listener = socket.create_server((entry["ip"], 0), backlog=0 if getattr(behaviour, "deaf", False) else 100)
+        accepts = getattr(behaviour, "accepts", True)
+        listener = socket.create_server((entry["ip"], 0), backlog=100 if accepts else 0)
         if hasattr(behaviour, "narrow"):  # what is not read stays with its sender and not in the kernel
             listener.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 4096)
             listener.setsockopt(socket.IPPROTO_TCP, socket.TCP_MAXSEG, 536)
         entry["port"] = listener.getsockname()[1]
         self.entries.append(entry)
-        if getattr(behaviour, "deaf", False):
-            self.sockets.append(listener)  # never accepts; filled up, so that whoever dials waits for his first packet's answer
-            for _ in range(2):
-                filler = socket.socket()
-                filler.setblocking(False)
-                filler.connect_ex((entry["ip"], entry["port"]))
-                self.sockets.append(filler)
-        else:
+        if accepts:
             self.servers.append(await asyncio.start_server(serve, sock=listener))
+        else:  # filled up, so that whoever dials waits for the answer to the first packet
+            fillers = [socket.socket() for _ in range(2)]
+            for filler in fillers:
+                filler.setblocking(False)
+                filler.connect_ex(listener.getsockname())
+            self.sockets += [listener, *fillers]
         return entry
 
     def dial(self, behaviour, device):
@@ -200,10 +199,13 @@ class HostileSite:
         self.tasks.append(asyncio.create_task(again_and_again()))
 
     async def run(self, behaviour, link):
+        self.connections += 1
         try:
             await behaviour(link)
-        except self.BROKEN_LINK:
+        except (OSError, asyncio.IncompleteReadError):
             pass  # cut by the other side, as it should be
+        except Exception as error:  # pylint: disable=broad-except
+            self.faults.add(repr(error))
         finally:
             link.writer.transport.abort()
 
