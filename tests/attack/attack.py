@@ -167,6 +167,8 @@ def verdict(attack, outcome):
 
 async def attack_all(attacks, bin_dir):
     """How many attacks did harm. What succeeds where nothing happens is healthy."""
+    for ending in (signal.SIGTERM, signal.SIGINT):  # what is open is closed then too
+        asyncio.get_running_loop().add_signal_handler(ending, asyncio.current_task().cancel)
     healthy = (await run(ATTACKS["nothing"], bin_dir, 0, set())).configured
     if len(healthy) < HEALTHY_AT_LEAST:
         print(f"only {len(healthy)} devices are configured without any attack")
@@ -203,13 +205,11 @@ def main():
     chosen = [attack for attack in ATTACKS.values()
               if (attack.name in names if names else (attack.long if options.long else attack.short) is not None)]
     resource.setrlimit(resource.RLIMIT_NOFILE, (resource.getrlimit(resource.RLIMIT_NOFILE)[1],) * 2)
-    # ctest ends a test by SIGTERM at first: what is open is closed then too.
-    signal.signal(signal.SIGTERM, lambda *_: signal.raise_signal(signal.SIGINT))
     return 1 if asyncio.run(attack_all([(attack, length(attack) or 0) for attack in chosen], bin_dir)) else 0
 
 
 if __name__ == "__main__":
     try:
         sys.exit(main())
-    except KeyboardInterrupt:
+    except asyncio.CancelledError:
         sys.exit(130)

@@ -290,7 +290,7 @@ def rows():
                           ("texts", "14 of 14"), ("closes", "14 of 14")):
         yield Attack(f"{name}-flood", "as fast as the line takes them", earlier, [signed_on[name]], 10, long=45, margin=20,
                      ticked="all")
-    for name, earlier in (("pings", "2.7 GB in 45 s"), ("pongs", "14 of 14"), ("continuations", "14 of 14"),
+    for name, earlier in (("pings", "2.7 GB"), ("pongs", "14 of 14"), ("continuations", "14 of 14"),
                           ("fragments", "14 of 14"), ("binaries", "0 of 14"), ("unread-pongs", "over 2 GB in 11 s"),
                           ("texts", "14 of 14"), ("closes", "14 of 14")):
         yield Attack(f"{name}-unsigned", "the same before sign-on", earlier, [unsigned[name]], 10, long=20, margin=20)
@@ -303,7 +303,7 @@ def rows():
     yield Attack("swelling", "81 KB in 28 arrays, numbers, escapes: too large to be written back", "time-out of 15 s",
                  [answers(lambda: nested(28, 81_000)), answers(lambda: nested(1, 400_000, "1e18")),
                   answers(lambda: '"' + "\x01" * 400_000 + '"')], 2, short=0, long=0, ticked="all")
-    yield Attack("repeated-answers", "an object key 90,000 times, in answers", "over 2 GB in 11 s, client died",
+    yield Attack("repeated-answers", "an object key 90,000 times, in answers", "over 2 GB in 11 s",
                  [foreign(lambda: f"{{{repeated_keys(1_000_000)}}}")], 5, short=0, long=20, margin=20, ticked="all")
     yield Attack("repeated-notices", "the same in notices, hello and welcome", "3.0 GB in 20 s",
                  [texts(lambda: [f"\n{{{repeated_keys(1_000_000)}}}"], JUST_BELOW), repeated_hello], 5, short=3, long=20)
@@ -320,26 +320,30 @@ def rows():
                  [texts(lambda: CHANGES, 800), texts(lambda: CHANGES * 100, 100_000)], 5, short=2, long=20)
     yield Attack("flapping-cloud", "the same instead of the answer to a cloud write", "28,071 requests in 60 s, no end",
                  [flapping_cloud], 3, long=0, margin=75, ticked="all", family="platform")
-    yield Attack("deaf-writes", "a setting of 1 MB in each of 300, and nobody reads it when it is written back", "—",
+    yield Attack("deaf-writes", "a setting of 1 MB in each of 300, and nobody reads it when it is written back", "330 MB",
                  [deaf_to_writes], 300, long=0, margin=40, ticked="all")
-    yield Attack("deaf-pongs", "400 pings a second from each of 400, which read nothing", "—", [deaf_to_pongs], 400, long=28)
-    yield Attack("flapping-crowd", "30 changes of state a second from each of 300", "—", [texts(lambda: CHANGES, 30)], 300, long=20)
-    yield Attack("crowd", "900 useless answers a second from each of 60", "—", [texts(lambda: ["none\n{}"] * 45, 900)], 60, long=20)
+    yield Attack("deaf-pongs", "400 pings a second from each of 400, which read nothing", "568 MB", [deaf_to_pongs], 400,
+                 long=28)
+    yield Attack("flapping-crowd", "30 changes of state a second from each of 300", "14 of 14",
+                 [texts(lambda: CHANGES, 30)], 300, long=20)
+    yield Attack("crowd", "900 useless answers a second from each of 60", "14 of 14",
+                 [texts(lambda: ["none\n{}"] * 45, 900)], 60, long=20)
     yield Attack("heads", "status lines, headers without end; drips; no HTTP", "1.3 GB in 9 s", [*heads.values()], 2, short=2,
                  long=20)
-    for name, earlier in (("status-line", "1.1 GB in 14 s"), ("headers", "1.4 GB in 14 s"), ("header-line", "over 2 GB in 9 s"),
-                          ("not-http", "over 2 GB in 6 s")):
+    for name, earlier in (("status-line", "1.1 GB in 14 s"), ("headers", "1.4 GB in 14 s"),
+                          ("header-line", "over 2 GB in 9 s"), ("not-http", "over 2 GB in 6 s")):
         yield Attack(f"endless-{name}", "without end", earlier, [heads[name]], 10, long=14)
     yield Attack("silent-96", "accept and say nothing, first in the list", "0 of 14", [silent], 96, short=0, margin=12)
-    yield Attack("silent-320", "accept and say nothing, first in the list", "0 of 10 after 60 s", [silent], 320, long=0, margin=20)
-    yield Attack("silent-kinds", "silent before and after the handshake, under TLS, never accepting", "—",
+    yield Attack("silent-320", "accept and say nothing, first in the list", "0 of 10 after 60 s", [silent], 320, long=0,
+                 margin=20)
+    yield Attack("silent-kinds", "silent before and after the handshake, under TLS, never accepting", "0 of 14",
                  [silent, silent_after_handshake, silent_under_tls, never_accepts], 16, long=0, margin=20)
-    yield Attack("fleet-frames", "clients with floods of small frames", "0 of 14", [*signed_on.values()], 2, short=2, long=20,
-                 on_fleet=True)
-    yield Attack("fleet-unsigned", "the same before sign-on; endless heads; unread answers", "2.9 GB in 10 s, 0 of 14",
+    yield Attack("fleet-frames", "clients with floods of small frames", "557 MB, 0 of 12",
+                 [*signed_on.values()], 2, short=2, long=20, on_fleet=True)
+    yield Attack("fleet-unsigned", "the same before sign-on; endless heads; unread answers", "2.9 GB in 10 s, 0 of 12",
                  [*unsigned.values(), *heads.values(), broken("giant-claim", False), flood("unread-answers"), silent], 2,
                  short=2, long=20, on_fleet=True)
-    yield Attack("fleet-incomplete", "400 clients, each with a message of 1 MiB without its last byte", "—",
+    yield Attack("fleet-incomplete", "400 clients, each with a message of 1 MiB without its last byte", "1.1 GB",
                  [incomplete(signed_on=False)], 400, long=14, on_fleet=True)
 
 
