@@ -34,10 +34,6 @@ EventDialog::EventDialog(const QString &title, const QString &text, const QStrin
     caption->setProperty("dialog_caption", true);
     addText(text);
 
-    message->ensurePolished(); // with the font that it will have
-    // A wrapped line may end between a colon and its number; a text that fits on one line stays on it.
-    message->setMinimumWidth(std::min(message->fontMetrics().size(0, text).width() + 1, widestMessage));
-
     auto *row = new QHBoxLayout;
     row->addStretch();
     for (int i = 0; i < buttons.size(); ++i) {
@@ -74,6 +70,9 @@ void EventDialog::addText(const QString &text)
     message->setTextFormat(Qt::PlainText); // device names and file paths may look like mark-up
     message->setWordWrap(true);
     message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    message->ensurePolished(); // with the font that it will have
+    // A wrapped line may end between a colon and its number; a text that fits on one line stays on it.
+    message->setMinimumWidth(std::min(message->fontMetrics().size(0, text).width() + 1, widestMessage));
     m_texts->addWidget(message);
     const QString before = accessibleDescription(); // read out when the dialog opens
     setAccessibleDescription(before.isEmpty() ? text : before + QLatin1Char('\n') + text);

@@ -25,7 +25,7 @@ from wire import HostileSite
 
 MEMORY_LIMIT, DEADLY = 300, 2000  # MB
 FLEET_DEVICES, FLEET_SEED = 14, 1
-HEALTHY_AT_LEAST = 10             # of the fleet's devices; the others are off line or not to be configured
+HEALTHY_AT_LEAST = 10             # of the fleet's devices; the others are offline or not to be configured
 MAX_LATENCY = 11                  # seconds; the client waits 15 for an answer
 REQUESTS = {"audio": 4, "image": 6}  # of a run, one after the other; 2 for the other families
 PR_SET_PDEATHSIG = 1
