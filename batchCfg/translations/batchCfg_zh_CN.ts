@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>it is in use by %1</source>
-        <translation>它正由%1使用</translation>
+        <translation>它正由 %1 使用</translation>
     </message>
     <message>
         <source>cannot write the record file %1: %2</source>
@@ -640,7 +640,7 @@
     </message>
     <message>
         <source>Nothing was configured: the record file %1 is in use by %2. Wait until its run has ended.</source>
-        <translation>未进行任何配置：记录文件 %1 正由%2使用。请等待其运行结束。</translation>
+        <translation>未进行任何配置：记录文件 %1 正由 %2 使用。请等待其运行结束。</translation>
     </message>
     <message>
         <source>A configuration is under way. Please wait until it has ended.</source>
