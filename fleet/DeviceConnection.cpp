@@ -31,6 +31,7 @@ DeviceConnection::DeviceConnection(vms_sdk::WebSocketConnection *connection, con
     , m_nonce(vms_sdk::makeNonce())
 {
     m_connection->setParent(this);
+    m_connection->setMaxMessageBytes(vms_sdk::maxSignOnBytes);
     connect(m_connection, &vms_sdk::WebSocketConnection::textReceived, this, &DeviceConnection::handleText);
     connect(m_connection, &vms_sdk::WebSocketConnection::ended, this, [this](int, const QString &why, bool isOffence) {
         if (isOffence)
@@ -85,6 +86,7 @@ void DeviceConnection::signOn(const QJsonObject &auth)
         return refuse(QStringLiteral("wrong user or password"));
 
     m_isSignedOn = true;
+    m_connection->setMaxMessageBytes(vms_sdk::maxFrameBytes);
     m_signOnTimer.stop(); // and not left to run out: Qt looks through all timers for each one that is stopped
     sendJson(QStringLiteral("welcome"),
              {{QStringLiteral("state"), int(m_state)},

@@ -20,6 +20,8 @@ namespace device_fleet {
 
 namespace {
 
+constexpr int maxWaitingAnswers = 256; // of one connection; a task has one request under way
+
 bool hasOwnAddresses(const FleetOptions &options)
 {
     return options.listenAddress.isNull() || options.listenAddress == QHostAddress(QHostAddress::AnyIPv4);
@@ -202,10 +204,25 @@ void DeviceFleet::handleRequest(Device &device, const vms_sdk::DeviceFrame &requ
             connection->send(frame);
     };
     const auto delay = m_options.latency + reaction.delay;
-    if (delay.count() == 0)
+    if (delay.count() == 0) {
         answer();
-    else
-        QTimer::singleShot(delay, device.connection, answer); // a connection that is gone takes its answers along
+        return;
+    }
+    if (device.connection->findChildren<QTimer *>(QStringLiteral("answer"), Qt::FindDirectChildrenOnly).size()
+        >= maxWaitingAnswers) {
+        qCWarning(fleetLog) << device.info.id << "cut a client that asks faster than it is answered";
+        device.connection->cut();
+        return;
+    }
+    // A child, so that a connection that is gone takes its answers along; QTimer::singleShot() would leave them behind.
+    auto *timer = new QTimer(device.connection);
+    timer->setObjectName(QStringLiteral("answer"));
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, timer, [timer, answer] {
+        answer();
+        timer->deleteLater();
+    });
+    timer->start(delay);
 }
 
 } // namespace device_fleet

@@ -245,7 +245,7 @@ private slots:
         common_req(QStringLiteral("small"), m_id, QString());
         QTRY_COMPARE(device.received, QStringList(QStringLiteral("small\n")));
 
-        expectWarning(QStringLiteral("message over 1 MiB"));
+        expectWarning(QStringLiteral("message over 1024 KiB"));
         device.client->sendTextMessage(QStringLiteral("id\n") + QString(maxFrameBytes, QLatin1Char('x')));
         QTRY_COMPARE(m_states[m_id].mid(2), States({DevOffline, DevConnecting, DevDefaultPassword}));
         QCOMPARE(m_answers, QStringList());

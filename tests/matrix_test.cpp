@@ -90,7 +90,7 @@ void MatrixTest::everyFaultAtEveryRequest_data()
 
 void MatrixTest::everyFaultAtEveryRequest()
 {
-    allowWarnings(QStringLiteral("message over 1 MiB")); // the fault of the huge answer
+    allowWarnings(QStringLiteral("message over 1024 KiB")); // the fault of the huge answer
     QFETCH(FamilyRow, family);
     FleetOptions options;
     options.devices = 120;

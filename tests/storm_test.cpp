@@ -69,7 +69,7 @@ void StormTest::everyDeviceIsReportedOnce_data()
 
 void StormTest::everyDeviceIsReportedOnce()
 {
-    allowWarnings(QStringLiteral("message over 1 MiB")); // the fault of the huge answer
+    allowWarnings(QStringLiteral("message over 1024 KiB")); // the fault of the huge answer
     QFETCH(FamilyRow, family);
     QFETCH(int, seed);
     QRandomGenerator random{quint32(seed)};

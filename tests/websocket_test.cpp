@@ -118,9 +118,9 @@ private slots:
         row("the end of a message without its beginning", ok, frame(0x80, "x"), "wrong order");
         row("a message within a message", ok, frame(0x01, "x") + text("y"), "wrong order");
         row("not UTF-8", ok, text("\xC3("), "not UTF-8");
-        row("over 1 MiB", ok, frame(0x81, "x", quint64(maxFrameBytes + 1)), "over 1 MiB");
-        row("over 1 MiB in parts", ok, frame(0x01, "x") + frame(0x80, "y", quint64(maxFrameBytes)), "over 1 MiB");
-        row("a claim of 2^62 bytes", ok, frame(0x82, "x", 1ULL << 62), "over 1 MiB");
+        row("over 1 MiB", ok, frame(0x81, "x", quint64(maxFrameBytes + 1)), "over 1024 KiB");
+        row("over 1 MiB in parts", ok, frame(0x01, "x") + frame(0x80, "y", quint64(maxFrameBytes)), "over 1024 KiB");
+        row("a claim of 2^62 bytes", ok, frame(0x82, "x", 1ULL << 62), "over 1024 KiB");
         row("pings", ok, frame(0x89, {}).repeated(1'001), "faster than");
         row("pongs", ok, frame(0x8A, {}).repeated(1'001), "faster than");
         row("empty continuations", ok, frame(0x01, {}) + frame(0x00, {}).repeated(1'001), "faster than");

@@ -22,6 +22,9 @@ inline constexpr int goingAwayCloseCode = 1001;
 /// Largest message in bytes, either way; a larger one ends the connection.
 inline constexpr qint64 maxFrameBytes = 1'048'576;
 
+/// Largest message of the sign-on: whoever has not signed on yet is a stranger, and needs less than a hundredth of it.
+inline constexpr int maxSignOnBytes = 16'384;
+
 /// A message after the sign-on: `<request id>\n<text>`. An empty request id marks a notice of the device.
 struct DeviceFrame
 {

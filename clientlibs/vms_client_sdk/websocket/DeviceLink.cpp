@@ -97,6 +97,7 @@ WebSocketConnection *DeviceLink::makeConnection()
     const PeerLimits limits{m_host.options().maxFramesPerSecond, m_host.options().maxBytesPerSecond, maxFrameBytes};
     auto *connection = new WebSocketConnection(limits, this);
     connection->setReading(!m_host.isReadingHeld());
+    connection->setMaxMessageBytes(maxSignOnBytes);
     connect(connection, &WebSocketConnection::lineUp, this, &DeviceLink::onLineUp);
     connect(connection, &WebSocketConnection::sslErrors, this, &DeviceLink::onSslErrors);
     connect(connection, &WebSocketConnection::textReceived, this, &DeviceLink::onText);
@@ -105,6 +106,8 @@ WebSocketConnection *DeviceLink::makeConnection()
     connect(connection, &WebSocketConnection::pongReceived, this, &DeviceLink::sawTraffic);
     connect(connection, &WebSocketConnection::unfinishedChanged, this,
             [this](int bytes) { m_host.setUnfinished(this, bytes); });
+    connect(connection, &WebSocketConnection::unsentBytesLeft, this,
+            [this](qint64 bytes) { m_host.setUnsent(this, bytes); });
     connect(connection, &WebSocketConnection::ended, this, &DeviceLink::onEnded);
     return connection;
 }
@@ -177,6 +180,7 @@ void DeviceLink::onSignOnMessage(const QByteArray &message)
 void DeviceLink::signedOn()
 {
     m_phase = Phase::Online;
+    m_connection->setMaxMessageBytes(maxFrameBytes);
     m_wasOnline = true;
     m_hasPlace = false;
     m_host.setDeadline(this, m_host.options().pingInterval);
@@ -237,9 +241,14 @@ void DeviceLink::setReading(bool isReading)
         m_connection->setReading(isReading);
 }
 
-void DeviceLink::unfinishedForTooLong()
+void DeviceLink::keptTooMuch(const QString &why)
 {
-    cut(QStringLiteral("does not finish its message"));
+    cut(why);
+}
+
+qint64 DeviceLink::unsentBytes() const
+{
+    return m_connection ? m_connection->unsentBytes() : 0;
 }
 
 void DeviceLink::sawTraffic()
@@ -290,7 +299,7 @@ void DeviceLink::deadlineReached()
     } else if (m_unansweredPings == 2) {
         lost(QStringLiteral("pings without an answer"));
     } else if (m_connection->unfinishedFor() > options.pingInterval.count()) {
-        unfinishedForTooLong();
+        cut(QStringLiteral("does not finish its message"));
     } else {
         ping();
     }
@@ -331,6 +340,7 @@ void DeviceLink::rest(DevStatus status, int closeCode)
     m_hasPlace = false;
     m_host.clearDeadline(this);
     m_host.setUnfinished(this, 0);
+    m_host.setUnsent(this, 0);
     if (WebSocketConnection *connection = std::exchange(m_connection, nullptr)) {
         connection->disconnect(this);
         m_host.closeConnection(connection, closeCode);

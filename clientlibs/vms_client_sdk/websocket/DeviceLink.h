@@ -41,7 +41,8 @@ public:
     void dial(); ///< by the host, once per queueForDialling()
     void deadlineReached(); ///< by the host
     void setReading(bool isReading); ///< by the host
-    void unfinishedForTooLong(); ///< by the host
+    void keptTooMuch(const QString &why); ///< by the host; the reason is for the log
+    qint64 unsentBytes() const; ///< 0 without a connection
 
 signals:
     void answered(const QString &requestId, const QString &text);

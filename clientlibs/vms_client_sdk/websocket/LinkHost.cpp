@@ -9,9 +9,9 @@ namespace vms_sdk {
 
 namespace {
 
-// Of all devices together. An answer mostly arrives in one piece; a thousand devices that each hold back the end of the
-// largest one would take a gigabyte.
-constexpr qint64 maxUnfinishedBytes = 64 << 20;
+// Of all devices together. Messages mostly come and go in one piece; a thousand devices that each hold back the end of
+// the largest one, or do not read it, would take a gigabyte.
+constexpr qint64 maxKeptBytes = 64 << 20;
 
 } // namespace
 
@@ -131,23 +131,47 @@ void LinkHost::goOnReading()
         emit readingHeld(false);
 }
 
-void LinkHost::setUnfinished(DeviceLink *link, int bytes)
+void LinkHost::setUnfinished(DeviceLink *link, qint64 bytes)
 {
-    const auto known = m_unfinished.find(link);
-    if (known != m_unfinished.end()) {
-        m_unfinishedBytes += bytes - known->bytes;
+    m_unfinished.set(link, bytes);
+    while (m_unfinished.isTooMuch())
+        m_unfinished.oldest()->keptTooMuch(QStringLiteral("does not finish its message"));
+}
+
+void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
+{
+    m_unsent.set(link, bytes);
+    if (!m_unsent.isTooMuch())
+        return;
+    const QList<DeviceLink *> links = m_unsent.links();
+    for (DeviceLink *known : links) // most have taken theirs meanwhile
+        m_unsent.set(known, known->unsentBytes());
+    while (m_unsent.isTooMuch())
+        m_unsent.oldest()->keptTooMuch(QStringLiteral("does not take what is sent to it"));
+}
+
+void LinkHost::Kept::set(DeviceLink *link, qint64 bytes)
+{
+    const auto known = m_parts.find(link);
+    if (known == m_parts.end() && bytes > 0)
+        m_parts.insert(link, {bytes, m_count++});
+    m_bytes += bytes - (known == m_parts.end() ? 0 : known->bytes);
+    if (known != m_parts.end() && bytes > 0)
         known->bytes = bytes;
-        if (bytes == 0)
-            m_unfinished.erase(known);
-    } else if (bytes > 0) {
-        m_unfinishedBytes += bytes;
-        m_unfinished.insert(link, {bytes, m_clock.elapsed()});
-    }
-    while (m_unfinishedBytes > maxUnfinishedBytes) {
-        const auto oldest = std::min_element(m_unfinished.begin(), m_unfinished.end(),
-                                             [](const auto &a, const auto &b) { return a.since < b.since; });
-        oldest.key()->unfinishedForTooLong();
-    }
+    else if (known != m_parts.end())
+        m_parts.erase(known);
+}
+
+bool LinkHost::Kept::isTooMuch() const
+{
+    return m_bytes > maxKeptBytes;
+}
+
+DeviceLink *LinkHost::Kept::oldest() const
+{
+    return std::min_element(m_parts.begin(), m_parts.end(),
+                            [](const Part &a, const Part &b) { return a.number < b.number; })
+        .key();
 }
 
 void LinkHost::closeConnection(WebSocketConnection *connection, int closeCode)

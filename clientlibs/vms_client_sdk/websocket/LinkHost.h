@@ -58,9 +58,10 @@ public:
     bool isReadingHeld() const { return m_isReadingHeld; }
     void holdReading();
 
-    /// What a link keeps of a message that is not finished; 0: nothing. Cuts the link with the oldest of them when all
-    /// links together keep too much.
-    void setUnfinished(DeviceLink *link, int bytes);
+    /// What a link keeps of a message that is not finished, or what its device has not taken yet; 0: nothing. Cuts the
+    /// link that began first when all links together keep too much.
+    void setUnfinished(DeviceLink *link, qint64 bytes);
+    void setUnsent(DeviceLink *link, qint64 bytes);
 
     /// Takes over a connection that nobody listens to any more: closes it, cuts it off if that takes too long, deletes
     /// it.
@@ -70,10 +71,24 @@ signals:
     void readingHeld(bool isHeld);
 
 private:
-    struct Unfinished
+    /// Memory that links keep for their devices.
+    class Kept
     {
-        int bytes;
-        qint64 since;
+    public:
+        void set(DeviceLink *link, qint64 bytes);
+        bool isTooMuch() const;
+        DeviceLink *oldest() const;
+        QList<DeviceLink *> links() const { return m_parts.keys(); }
+
+    private:
+        struct Part
+        {
+            qint64 bytes;
+            quint64 number;
+        };
+        QHash<DeviceLink *, Part> m_parts;
+        qint64 m_bytes = 0;
+        quint64 m_count = 0;
     };
 
     void checkDeadlines();
@@ -92,8 +107,8 @@ private:
     bool m_isFilling = false;
     Backlog m_backlog;
     bool m_isReadingHeld = false;
-    QHash<DeviceLink *, Unfinished> m_unfinished;
-    qint64 m_unfinishedBytes = 0;
+    Kept m_unfinished;
+    Kept m_unsent;
 };
 
 } // namespace vms_sdk

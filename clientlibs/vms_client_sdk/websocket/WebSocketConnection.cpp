@@ -45,6 +45,7 @@ QByteArray closePayload(int code, const QString &reason = {})
 WebSocketConnection::WebSocketConnection(const PeerLimits &limits, QObject *parent)
     : QObject(parent)
     , m_limits(limits)
+    , m_maxMessageBytes(maxFrameBytes)
 {
 }
 
@@ -258,8 +259,8 @@ void WebSocketConnection::takeChunk(const WebSocketFrames::Chunk &chunk)
         m_messageAge.start();
     }
     // What a frame claims to hold is compared, and never reserved.
-    if (chunk.isFirst && quint64(m_message.size()) + chunk.frameBytes > quint64(maxFrameBytes))
-        return fail(1009, QStringLiteral("sends a message over 1 MiB"));
+    if (chunk.isFirst && quint64(m_message.size()) + chunk.frameBytes > quint64(m_maxMessageBytes))
+        return fail(1009, QStringLiteral("sends a message over %1 KiB").arg(m_maxMessageBytes / 1024));
     m_message.append(chunk.data);
     if (chunk.isLast && chunk.isFinalFrame)
         takeMessage();
@@ -313,6 +314,8 @@ void WebSocketConnection::send(WebSocketFrames::Opcode opcode, const QByteArray 
         return;
     m_socket->write(m_frames->encode(opcode, payload));
     m_socket->flush(); // now: the event loop would come back to it only after all other sockets
+    if (const qint64 left = unsentBytes(); left > 0)
+        emit unsentBytesLeft(left);
 }
 
 void WebSocketConnection::close(int code, const QString &reason)

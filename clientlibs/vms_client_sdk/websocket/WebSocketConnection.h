@@ -53,6 +53,8 @@ public:
     void ping() { send(WebSocketFrames::Ping, {}); }
     /// Bytes that the peer has not taken yet.
     qint64 unsentBytes() const;
+    /// A larger message ends the connection; maxFrameBytes unless set.
+    void setMaxMessageBytes(int bytes) { m_maxMessageBytes = bytes; }
     /// Off: what the peer sends stays in the system's buffers, so that it is slowed down and not cut.
     void setReading(bool isReading);
     /// Milliseconds since the first frame of a message whose last frame has not come; 0 without one.
@@ -70,6 +72,8 @@ signals:
     void textReceived(const QByteArray &utf8); ///< valid UTF-8
     void binaryReceived(); ///< it is dropped
     void pongReceived();
+    /// The peer has not taken all that was sent to it at once.
+    void unsentBytesLeft(qint64 bytes);
     /// What is kept of a message whose end has not come; 0: there is none.
     void unfinishedChanged(int bytes);
     /// The connection is of no more use: no signal but finished() follows. Raised once, not after close() or abort().
@@ -109,6 +113,7 @@ private:
     QTcpSocket *m_socket = nullptr; // a child
     Phase m_phase = Phase::Connecting;
     bool m_isClient = true;
+    int m_maxMessageBytes;
     bool m_isReading = true;
     bool m_hasEnded = false; // ended() is not raised any more
     int m_closeCode = 1006; // the peer's; RFC 6455: this one where it gave none
