@@ -22,15 +22,22 @@ Inbox::Inbox(std::function<void(const Item &)> consumer)
 
 void Inbox::put(Item item)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     const bool isUrgent = std::holds_alternative<Answer>(item);
     m_arrived.push_back(std::move(item));
     ++m_put;
     if (m_arrived.size() > 1 && (m_isUrgent || !isUrgent))
         return; // the GUI thread knows
     m_isUrgent = isUrgent;
-    QMetaObject::invokeMethod(
-        this, [this, isUrgent] { wakeUp(isUrgent); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &Inbox::noticeArrived, Qt::QueuedConnection);
+}
+
+void Inbox::noticeArrived()
+{
+    std::unique_lock lock(m_mutex);
+    const bool isUrgent = m_isUrgent;
+    lock.unlock();
+    wakeUp(isUrgent);
 }
 
 void Inbox::wakeUp(bool isUrgent)
@@ -41,13 +48,13 @@ void Inbox::wakeUp(bool isUrgent)
 
 quint64 Inbox::putCount()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_put;
 }
 
 bool Inbox::takeArrived()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_items.swap(m_arrived);
     m_isUrgent = false;
     return !m_items.empty();

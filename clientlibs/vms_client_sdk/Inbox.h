@@ -2,11 +2,11 @@
 
 #include <vms_client_sdk/DevInfo.h>
 
-#include <QMutex>
 #include <QObject>
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <mutex>
 #include <variant>
 
 namespace vms_sdk {
@@ -41,12 +41,13 @@ public:
     quint64 passedOnCount() const { return m_passedOn; }
 
 private:
+    void noticeArrived();
     void wakeUp(bool isUrgent);
     void passOn();
     bool takeArrived();
 
     std::function<void(const Item &)> m_consumer;
-    QMutex m_mutex;
+    std::mutex m_mutex;
     std::deque<Item> m_arrived; ///< under the mutex
     quint64 m_put = 0; ///< under the mutex
     bool m_isUrgent = false; ///< under the mutex: there is an answer among them

@@ -21,7 +21,7 @@ Backlog::Backlog(std::function<void()> roomAgain)
 bool Backlog::add(const QString &devId, const QString &requestId, int characters)
 {
     const qint64 bytes = bytesOf(characters);
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     qint64 &ofDevice = m_byDevice[devId];
     if (ofDevice + bytes > maxBytesOfDevice)
         return false;
@@ -37,7 +37,7 @@ bool Backlog::add(const QString &devId, const QString &requestId, int characters
 void Backlog::passedOn(const QString &requestId, int characters)
 {
     const qint64 bytes = bytesOf(characters);
-    QMutexLocker lock(&m_mutex);
+    std::unique_lock lock(m_mutex);
     const auto answers = m_byRequest.find(requestId);
     if (answers == m_byRequest.end())
         return;
@@ -59,7 +59,7 @@ void Backlog::passedOn(const QString &requestId, int characters)
 
 bool Backlog::isFull()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_wasFull;
 }
 

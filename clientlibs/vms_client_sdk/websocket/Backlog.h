@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QHash>
-#include <QMutex>
 #include <QString>
 
 #include <functional>
+#include <mutex>
 
 namespace vms_sdk {
 
@@ -35,7 +35,7 @@ private:
     };
 
     std::function<void()> m_roomAgain;
-    QMutex m_mutex; ///< for all that follows
+    std::mutex m_mutex; ///< for all that follows
     QHash<QString, Answers> m_byRequest;
     QHash<QString, qint64> m_byDevice; ///< bytes
     qint64 m_bytes = 0;

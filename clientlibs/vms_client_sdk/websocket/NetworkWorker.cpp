@@ -95,7 +95,7 @@ void NetworkWorker::connectAgain()
 
 void NetworkWorker::send(const QString &requestId, const QString &devId, const QString &text)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_requests.append({requestId, devId, text});
     if (m_requests.size() == 1)
         QMetaObject::invokeMethod(this, &NetworkWorker::sendRequests, Qt::QueuedConnection);
@@ -103,7 +103,7 @@ void NetworkWorker::send(const QString &requestId, const QString &devId, const Q
 
 void NetworkWorker::sendRequests()
 {
-    QMutexLocker lock(&m_mutex);
+    std::unique_lock lock(m_mutex);
     const QVector<Request> requests = std::exchange(m_requests, {});
     lock.unlock();
     for (const Request &request : requests) {

@@ -5,11 +5,11 @@
 #include "StatusChanges.h"
 
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QObject>
 #include <QTimer>
 #include <QVector>
 #include <memory>
+#include <mutex>
 #include <unordered_map>
 
 namespace vms_sdk {
@@ -49,7 +49,7 @@ private:
     void passOnChanges(const QVector<StatusChanges::Change> &changes);
     void setReading(bool isReading);
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
     QElapsedTimer m_clock;
     StatusChanges m_statusChanges;
