@@ -297,6 +297,55 @@ private slots:
         QCOMPARE(m_states[m_id].size(), 2);
     }
 
+    void aDeviceThatWasOnlineIsDialledBeforeThoseThatFailed()
+    {
+        WebSocketOptions options;
+        options.setUpLimit = 100ms;
+        options.placeLimit = 20ms;
+        options.firstBackOff = 1ms;
+        options.lastBackOff = 2ms;
+        options.maxSettingUp = 1;
+        options.maxWaiting = 0;
+        auto transport = std::make_unique<WebSocketTransport>(nullptr, options);
+        m_transport = transport.get();
+        ClientSdk::instance().setTransport(std::move(transport));
+        QTcpServer silent;
+        QVERIFY(silent.listen(QHostAddress::LocalHost));
+        TestDevice healthy(m_id);
+        QList<DevInfo> devices{healthy.info};
+        for (int i = 0; i < 20; ++i) {
+            devices.append(TestDevice(QString::number(i)).info);
+            devices.last().port = silent.serverPort();
+        }
+        m_transport->setDevices(devices);
+        const auto othersDialled = [this] {
+            int count = 0;
+            for (auto it = m_states.cbegin(); it != m_states.cend(); ++it)
+                count += it.key() == m_id ? 0 : it->count(DevConnecting);
+            return count;
+        };
+        QTRY_VERIFY(othersDialled() > 20); // all have failed once
+        const int before = othersDialled();
+        healthy.client->close();
+        QTRY_COMPARE(m_states[m_id].mid(2), States({DevOffline, DevConnecting, DevDefaultPassword}));
+        QVERIFY2(othersDialled() - before <= 3, qPrintable(QString::number(othersDialled() - before)));
+    }
+
+    void largeAnswersComeOverTls()
+    {
+        const QSslConfiguration tls = tlsWith(QStringLiteral("valid.pem"));
+        TestDevice device(m_id, &tls);
+        device.info.fingerprint =
+            QString::fromLatin1(tls.localCertificate().digest(QCryptographicHash::Sha256).toHex());
+        m_transport->setDevices({device.info});
+        QTRY_VERIFY(m_states[m_id].endsWith(DevDefaultPassword));
+        common_req(QStringLiteral("id"), m_id, QString(500'000, QLatin1Char('q')));
+        QTRY_COMPARE(device.received.size(), 1);
+        const QString answer = QStringLiteral("[\"%1\"]").arg(QString(800'000, QLatin1Char('x')));
+        device.client->sendTextMessage(QStringLiteral("id\n") + answer);
+        QTRY_COMPARE(m_answers, QStringList(QStringLiteral("id|") + answer));
+    }
+
     void devicesThatAreTakenAwayAreNotDialledInTheGoing()
     {
         QTcpServer silent;

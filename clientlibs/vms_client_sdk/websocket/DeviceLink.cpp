@@ -82,7 +82,6 @@ void DeviceLink::queue()
 void DeviceLink::dial()
 {
     setStatus(DevConnecting);
-    m_wasOnline = false;
     m_hasPlace = true;
     m_host.setDeadline(this, m_host.options().connectLimit);
     m_signOn.emplace(m_device);

@@ -86,7 +86,7 @@ private:
     WebSocketConnection *m_connection = nullptr; ///< a fresh one per attempt; owned until the host closes it
     std::optional<ClientSignOn> m_signOn;
     bool m_hasPlace = false; ///< of the few that are dialled at once
-    bool m_wasOnline = false; ///< when it was lost
+    bool m_wasOnline = false; ///< since it was cut last
     int m_losses = 0; ///< in a row, without traffic in between
     int m_cuts = 0; ///< in a row, because the device sent more than it may
     QElapsedTimer m_onlineFor;

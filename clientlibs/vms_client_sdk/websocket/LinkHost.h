@@ -36,9 +36,9 @@ public:
     /// Who is dialled first when there are more links than places.
     enum class Turn
     {
-        WasOnline, ///< a device that worked until just now
         New,
-        HasFailed ///< the last attempts led to nothing
+        WasOnline, ///< lost, but it has worked before
+        HasFailed ///< it never worked, or did what it may not
     };
     /// DeviceLink::dial() is called as soon as one of the places is free, maybe from inside this call; the link keeps
     /// it until leave() or makeRoom().
