@@ -174,6 +174,11 @@ void ClientWindow::askBeforeClosing(QWidget *overlay)
         m_closesInRun = true;
         close();
     });
+    // The run's summary may have come meanwhile: it gets the keys, not the window below it.
+    connect(m_closeQuestion, &QObject::destroyed, this, [] {
+        if (QWidget *dialog = QApplication::activeModalWidget())
+            dialog->activateWindow();
+    });
     m_closeQuestion->open(); // the run goes on under it
 }
 
@@ -256,7 +261,7 @@ void ClientWindow::showSummary(const orda_worker::EventConfirmInfo &info)
 {
     const Family *family = shownFamily(centralWidget());
     const QString complaint = family ? PageRecord::of(centralWidget(), *family).complaint() : QString();
-    showLast(complaint.isEmpty() ? info.text : info.text + QLatin1Char(' ') + complaint);
+    showLast(complaint.isEmpty() ? info.text : info.text + QStringLiteral(" – ") + complaint);
     m_lastRunBt->show(); // what is asked is always a run's summary
     if (complaint.isEmpty())
         return;

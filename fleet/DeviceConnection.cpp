@@ -17,8 +17,8 @@ namespace {
 
 constexpr std::chrono::seconds signOnLimit{10}; // as long as a client waits
 constexpr std::chrono::seconds closeLimit{2}; // what a client may take to close before it is cut
-// A client that asks and does not read: room for a few of the largest answers, faults that are too large included.
-constexpr qint64 maxUnsentBytes = 16 << 20;
+// A client that asks and does not read: room for one answer, which may be the fault of a huge one.
+constexpr qint64 maxUnsentBytes = 2 << 20;
 
 } // namespace
 

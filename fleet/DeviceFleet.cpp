@@ -20,6 +20,8 @@ namespace device_fleet {
 
 namespace {
 
+// Windows and scripts that use a site at once. A client that dials again has lost the connection before.
+constexpr int maxClients = 4;
 constexpr int maxWaitingAnswers = 256; // of one connection; a task has one request under way
 
 bool hasOwnAddresses(const FleetOptions &options)
@@ -43,7 +45,7 @@ struct DeviceFleet::Device
     vms_sdk::DevStatus state;
     bool isOnline;
     SimulatedDevice simulated;
-    QPointer<DeviceConnection> connection; // signed on
+    QList<DeviceConnection *> connections; // signed on, the oldest first
 };
 
 DeviceFleet::DeviceFleet(const FleetOptions &options, const FaultPlan &faults, QObject *parent)
@@ -122,8 +124,8 @@ QJsonObject DeviceFleet::dump() const
 
 int DeviceFleet::connectedDevices() const
 {
-    return int(
-        std::count_if(m_devices.begin(), m_devices.end(), [](const auto &device) { return device->connection; }));
+    return int(std::count_if(m_devices.begin(), m_devices.end(),
+                             [](const auto &device) { return !device->connections.isEmpty(); }));
 }
 
 void DeviceFleet::setFault(const QString &deviceId, const QString &method, const FaultRule &fault)
@@ -142,8 +144,11 @@ void DeviceFleet::setOnline(const QString &deviceId, bool online)
     if (!device)
         return;
     device->isOnline = online;
-    if (!online && device->connection)
-        device->connection->cut();
+    if (online)
+        return;
+    const QList<DeviceConnection *> connections = device->connections; // each leaves the list as it is cut
+    for (DeviceConnection *connection : connections)
+        connection->cut();
 }
 
 DeviceFleet::Device *DeviceFleet::find(const QString &deviceId) const
@@ -163,28 +168,29 @@ void DeviceFleet::greet(const QString &path, vms_sdk::WebSocketConnection *webSo
 {
     Device *device = find(path.mid(1));
     auto *connection = new DeviceConnection(webSocket, device->info, device->state, this);
-    connect(connection, &DeviceConnection::closed, connection, &QObject::deleteLater);
+    connect(connection, &DeviceConnection::closed, connection, [connection, device] {
+        device->connections.removeOne(connection);
+        connection->deleteLater();
+    });
     connect(connection, &DeviceConnection::signedOn, this,
             [this, connection, device] { takeOver(*device, connection); });
     connect(connection, &DeviceConnection::requestReceived, this,
             [this, connection, device](const vms_sdk::DeviceFrame &request) {
-                if (connection == device->connection) // not one that a newer connection has replaced
-                    handleRequest(*device, request);
+                if (device->connections.contains(connection)) // not one that has been cut
+                    handleRequest(*device, *connection, request);
             });
 }
 
-/// The newest connection is the device's: a client that dials again has lost the one before, whether that is closed or
-/// not.
 void DeviceFleet::takeOver(Device &device, DeviceConnection *connection)
 {
-    if (device.connection)
-        device.connection->cut();
-    device.connection = connection;
+    device.connections.append(connection);
+    if (device.connections.size() > maxClients)
+        device.connections.constFirst()->cut();
     if (!device.isOnline) // since the handshake
         connection->cut();
 }
 
-void DeviceFleet::handleRequest(Device &device, const vms_sdk::DeviceFrame &request)
+void DeviceFleet::handleRequest(Device &device, DeviceConnection &connection, const vms_sdk::DeviceFrame &request)
 {
     const QJsonObject json = QJsonDocument::fromJson(request.text.toUtf8()).object();
     const QString method = json.value(QLatin1String("method")).toString();
@@ -192,14 +198,14 @@ void DeviceFleet::handleRequest(Device &device, const vms_sdk::DeviceFrame &requ
 
     const Reaction reaction = reactTo(request.requestId, json, device.simulated, m_faults.find(device.info.id, method));
     if (reaction.isCut) {
-        device.connection->cut();
+        connection.cut();
         if (reaction.offLineFor.count() > 0) {
             setOnline(device.info.id, false);
             QTimer::singleShot(reaction.offLineFor, this, [this, id = device.info.id] { setOnline(id, true); });
         }
         return;
     }
-    const auto answer = [connection = device.connection, frames = reaction.frames] {
+    const auto answer = [connection = &connection, frames = reaction.frames] {
         for (const vms_sdk::DeviceFrame &frame : frames)
             connection->send(frame);
     };
@@ -208,14 +214,14 @@ void DeviceFleet::handleRequest(Device &device, const vms_sdk::DeviceFrame &requ
         answer();
         return;
     }
-    if (device.connection->findChildren<QTimer *>(QStringLiteral("answer"), Qt::FindDirectChildrenOnly).size()
+    if (connection.findChildren<QTimer *>(QStringLiteral("answer"), Qt::FindDirectChildrenOnly).size()
         >= maxWaitingAnswers) {
         qCWarning(fleetLog) << device.info.id << "cut a client that asks faster than it is answered";
-        device.connection->cut();
+        connection.cut();
         return;
     }
     // A child, so that a connection that is gone takes its answers along; QTimer::singleShot() would leave them behind.
-    auto *timer = new QTimer(device.connection);
+    auto *timer = new QTimer(&connection);
     timer->setObjectName(QStringLiteral("answer"));
     timer->setSingleShot(true);
     connect(timer, &QTimer::timeout, timer, [timer, answer] {

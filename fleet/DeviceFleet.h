@@ -61,7 +61,7 @@ private:
     Admission admission(const QString &path) const;
     void greet(const QString &path, vms_sdk::WebSocketConnection *connection);
     void takeOver(Device &device, DeviceConnection *connection);
-    void handleRequest(Device &device, const vms_sdk::DeviceFrame &request);
+    void handleRequest(Device &device, DeviceConnection &connection, const vms_sdk::DeviceFrame &request);
     Device *find(const QString &deviceId) const;
     vms_sdk::DevInfo inventoryRecord(const Device &device) const;
 

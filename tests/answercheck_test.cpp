@@ -56,7 +56,7 @@ private:
         QByteArray text = '"' + start;
         for (int i = m_random.bounded(8); i > 0; --i)
             text += pick({"a", "/", "\\/", "\\\"", "\\\\", "\\n", "\\u0000", "\\u001f", "\\u00e9", "\\ud83d\\ude00",
-                          "\xc3\xa9", "\xe4\xb8\xad", "\xf0\x9f\x98\x80", "\x7f", "\\uffff", "\\ufeff"});
+                          "\xc3\xa9", "\xe4\xb8\xad", "\xf0\x9f\x98\x80", "\x7f", "\\uffff", "\\ufeff", "\t", "\x01"});
         return text + '"';
     }
 

@@ -35,7 +35,7 @@ struct CfgExchange
     /// result: some settings make a device drop its connection before it can answer.
     bool checkWhenBack = false;
     /// Counted from the first time that it is read again: then the result is that of a time-out. Nothing prolongs it,
-    /// for a device that comes and goes without end would keep the whole run waiting.
+    /// for a device that comes and goes without end would keep the whole run waiting. 0: no limit.
     std::chrono::milliseconds checkLimit{0};
 };
 

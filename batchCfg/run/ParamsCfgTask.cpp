@@ -179,7 +179,8 @@ void ParamsCfgTask::handleDevStatus(vms_sdk::DevStatus status)
 
 void ParamsCfgTask::readAgain()
 {
-    if (!std::exchange(m_readAgain, true))
+    const bool isLimited = m_exchanges.at(m_written).checkLimit.count() > 0;
+    if (!std::exchange(m_readAgain, true) && isLimited)
         QTimer::singleShot(m_exchanges.at(m_written).checkLimit, this, &ParamsCfgTask::handleTimeout);
     sendRead(m_written);
 }

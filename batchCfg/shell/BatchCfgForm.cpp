@@ -18,6 +18,7 @@
 #include <orda_saas/LoginSignals.h>
 #include <orda_saas/SaasWorker.h>
 
+#include <QApplication>
 #include <QCursor>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -165,6 +166,9 @@ void BatchCfgForm::initShortcuts()
         edit->selectAll();
     });
     const auto configure = [this] {
+        // Some window managers leave the keys to the window below: nobody means it while a summary asks something.
+        if (QApplication::activeModalWidget())
+            return;
         m_ui->stackedWidget->currentWidget()->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
     };
     add(Qt::CTRL + Qt::Key_Return, configure);

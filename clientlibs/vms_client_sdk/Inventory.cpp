@@ -81,7 +81,7 @@ QString EntryReader::printableText(const QString &key)
     return value;
 }
 
-/// For what tells devices apart: two that look the same are the same.
+/// For what tells devices apart: a character that nobody sees must not make two of one.
 QString EntryReader::visibleText(const QString &key, const QString &absent)
 {
     QString value = text(key, absent);

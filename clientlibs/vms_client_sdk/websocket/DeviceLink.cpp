@@ -10,7 +10,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
+#include <QSslCipher>
 #include <QSslConfiguration>
+#include <QSslEllipticCurve>
 #include <QSslSocket>
 
 #include <algorithm>
@@ -34,6 +36,25 @@ std::chrono::milliseconds backOff(const WebSocketOptions &options, int losses)
     const qint64 longest = qMin<qint64>(options.lastBackOff.count(), first << qMin(losses, 20));
     return std::chrono::milliseconds(first
                                      + qint64(double(longest - first) * QRandomGenerator::global()->generateDouble()));
+}
+
+/// TLS 1.2 or newer, with keys exchanged over elliptic curves: for plain Diffie-Hellman the device chooses the numbers,
+/// before anything tells who it is, and large ones take a second of the thread that all devices share.
+QSslConfiguration deviceTls()
+{
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setProtocol(QSsl::TlsV1_2OrLater);
+    QList<QSslCipher> ciphers;
+    const QList<QSslCipher> supported = QSslConfiguration::supportedCiphers();
+    for (const QSslCipher &cipher : supported)
+        if (!cipher.keyExchangeMethod().startsWith(QLatin1String("DH")))
+            ciphers.append(cipher);
+    tls.setCiphers(ciphers);
+    // Named, the curves take the place of all groups of TLS 1.3, which has such numbers among them, too.
+    tls.setEllipticCurves({QSslEllipticCurve::fromShortName(QStringLiteral("prime256v1")),
+                           QSslEllipticCurve::fromShortName(QStringLiteral("secp384r1")),
+                           QSslEllipticCurve::fromShortName(QStringLiteral("secp521r1"))});
+    return tls;
 }
 
 } // namespace
@@ -86,9 +107,7 @@ void DeviceLink::dial()
     m_host.setDeadline(this, m_host.options().connectLimit);
     m_signOn.emplace(m_device);
     m_connection = makeConnection();
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    tls.setProtocol(QSsl::TlsV1_2OrLater);
-    m_connection->open(m_url, tls); // last: it can fail at once
+    m_connection->open(m_url, deviceTls()); // last: it can fail at once
 }
 
 WebSocketConnection *DeviceLink::makeConnection()

@@ -4,8 +4,22 @@
 #include <QList>
 
 #include <algorithm>
+#include <array>
 
 namespace vms_sdk {
+
+namespace {
+
+// Any other field is forgotten at once: thousands of short ones would take many times the memory of their text.
+constexpr std::array handshakeFields{"connection",
+                                     "sec-websocket-accept",
+                                     "sec-websocket-extensions",
+                                     "sec-websocket-key",
+                                     "sec-websocket-protocol",
+                                     "sec-websocket-version",
+                                     "upgrade"};
+
+} // namespace
 
 HttpHead::State HttpHead::read(QIODevice &device)
 {
@@ -31,7 +45,10 @@ void HttpHead::takeLine(const QByteArray &line)
     const int colon = line.indexOf(':');
     if (colon <= 0)
         return;
-    QByteArray &value = m_fields[line.left(colon).toLower()];
+    const QByteArray name = line.left(colon).toLower();
+    if (std::none_of(handshakeFields.begin(), handshakeFields.end(), [&](const char *field) { return name == field; }))
+        return;
+    QByteArray &value = m_fields[name];
     if (!value.isEmpty())
         value += ',';
     value += line.mid(colon + 1).trimmed();

@@ -9,8 +9,8 @@ QT_END_NAMESPACE
 
 namespace vms_sdk {
 
-/// The first line and the header fields of an HTTP message, read as they come and never kept beyond the limits: a peer
-/// may send header lines without end, and has not signed on yet.
+/// The first line of an HTTP message and those of its header fields that a WebSocket handshake has, read as they come
+/// and never kept beyond the limits: a peer may send header lines without end, and has not signed on yet.
 class HttpHead
 {
 public:
@@ -28,8 +28,8 @@ public:
     State read(QIODevice &device);
     /// For example "GET /dev-0001 HTTP/1.1"; without the line's end.
     QByteArray startLine() const { return m_startLine; }
-    /// The value of a field, without blanks around it; empty where there is none. Values of a repeated field are joined
-    /// by commas, as HTTP has it.
+    /// The value of a field of the handshake, without blanks around it; empty where there is none. Values of a repeated
+    /// field are joined by commas, as HTTP has it.
     QByteArray field(const QByteArray &lowerCaseName) const { return m_fields.value(lowerCaseName); }
     /// True when the field is a list that has this word, whatever its case.
     bool hasWord(const QByteArray &lowerCaseName, const QByteArray &lowerCaseWord) const;

@@ -105,18 +105,27 @@ void LinkHost::fillPlaces()
     // Not posted: with thousands of sockets each further turn of the event loop costs as much as a connection.
     if (std::exchange(m_isFilling, true))
         return;
-    const auto next = [this] {
-        return std::find_if(m_queues.begin(), m_queues.end(), [](const auto &queue) { return !queue.isEmpty(); });
-    };
     while (m_settingUp.size() < m_options.maxSettingUp) {
-        const auto queue = next();
-        if (queue == m_queues.end())
+        QQueue<DeviceLink *> *queue = nextQueue();
+        if (!queue)
             break;
         DeviceLink *link = queue->dequeue();
         m_settingUp.insert(link);
         link->dial();
     }
     m_isFilling = false;
+}
+
+QQueue<DeviceLink *> *LinkHost::nextQueue()
+{
+    const auto hasLinks = [](const QQueue<DeviceLink *> &queue) { return !queue.isEmpty(); };
+    constexpr quint64 lastComesFirst = 4; // every fourth time: those who wait longest must get their turn, too
+    if (++m_dialCount % lastComesFirst == 0) {
+        const auto last = std::find_if(m_queues.rbegin(), m_queues.rend(), hasLinks);
+        return last == m_queues.rend() ? nullptr : &*last;
+    }
+    const auto first = std::find_if(m_queues.begin(), m_queues.end(), hasLinks);
+    return first == m_queues.end() ? nullptr : &*first;
 }
 
 void LinkHost::holdReading()
@@ -135,7 +144,7 @@ void LinkHost::setUnfinished(DeviceLink *link, qint64 bytes)
 {
     m_unfinished.set(link, bytes);
     while (m_unfinished.isTooMuch())
-        m_unfinished.oldest()->keptTooMuch(QStringLiteral("does not finish its message"));
+        m_unfinished.largest()->keptTooMuch(QStringLiteral("does not finish its message"));
 }
 
 void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
@@ -147,19 +156,16 @@ void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
     for (DeviceLink *known : links) // most have taken theirs meanwhile
         m_unsent.set(known, known->unsentBytes());
     while (m_unsent.isTooMuch())
-        m_unsent.oldest()->keptTooMuch(QStringLiteral("does not take what is sent to it"));
+        m_unsent.largest()->keptTooMuch(QStringLiteral("does not take what is sent to it"));
 }
 
 void LinkHost::Kept::set(DeviceLink *link, qint64 bytes)
 {
-    const auto known = m_parts.find(link);
-    if (known == m_parts.end() && bytes > 0)
-        m_parts.insert(link, {bytes, m_count++});
-    m_bytes += bytes - (known == m_parts.end() ? 0 : known->bytes);
-    if (known != m_parts.end() && bytes > 0)
-        known->bytes = bytes;
-    else if (known != m_parts.end())
-        m_parts.erase(known);
+    m_bytes += bytes - m_parts.value(link);
+    if (bytes > 0)
+        m_parts.insert(link, bytes);
+    else
+        m_parts.remove(link);
 }
 
 bool LinkHost::Kept::isTooMuch() const
@@ -167,11 +173,9 @@ bool LinkHost::Kept::isTooMuch() const
     return m_bytes > maxKeptBytes;
 }
 
-DeviceLink *LinkHost::Kept::oldest() const
+DeviceLink *LinkHost::Kept::largest() const
 {
-    return std::min_element(m_parts.begin(), m_parts.end(),
-                            [](const Part &a, const Part &b) { return a.number < b.number; })
-        .key();
+    return std::max_element(m_parts.begin(), m_parts.end()).key();
 }
 
 void LinkHost::closeConnection(WebSocketConnection *connection, int closeCode)

@@ -59,7 +59,7 @@ public:
     void holdReading();
 
     /// What a link keeps of a message that is not finished, or what its device has not taken yet; 0: nothing. Cuts the
-    /// link that began first when all links together keep too much.
+    /// links with the most when all links together keep too much.
     void setUnfinished(DeviceLink *link, qint64 bytes);
     void setUnsent(DeviceLink *link, qint64 bytes);
 
@@ -77,23 +77,18 @@ private:
     public:
         void set(DeviceLink *link, qint64 bytes);
         bool isTooMuch() const;
-        DeviceLink *oldest() const;
+        DeviceLink *largest() const; ///< only while there is one
         QList<DeviceLink *> links() const { return m_parts.keys(); }
 
     private:
-        struct Part
-        {
-            qint64 bytes;
-            quint64 number;
-        };
-        QHash<DeviceLink *, Part> m_parts;
+        QHash<DeviceLink *, qint64> m_parts;
         qint64 m_bytes = 0;
-        quint64 m_count = 0;
     };
 
     void checkDeadlines();
     void startTimer();
     void fillPlaces();
+    QQueue<DeviceLink *> *nextQueue(); ///< null: all are empty
     void goOnReading();
 
     WebSocketOptions m_options;
@@ -105,6 +100,7 @@ private:
     QSet<DeviceLink *> m_settingUp;
     QSet<DeviceLink *> m_waiting; ///< for a device's handshake and sign-on, having made room
     bool m_isFilling = false;
+    quint64 m_dialCount = 0;
     Backlog m_backlog;
     bool m_isReadingHeld = false;
     Kept m_unfinished;

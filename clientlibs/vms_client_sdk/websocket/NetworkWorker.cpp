@@ -78,8 +78,9 @@ void NetworkWorker::passOnChanges(const QVector<StatusChanges::Change> &changes)
 
 void NetworkWorker::setReading(bool isReading)
 {
+    // Reading can hold the reading of all links again, from inside this loop.
     for (const auto &[id, link] : m_links)
-        link->setReading(isReading);
+        link->setReading(isReading && !m_host->isReadingHeld());
 }
 
 void NetworkWorker::passedOn(const QString &requestId, int characters)

@@ -126,6 +126,7 @@ void WebSocketConnection::readHandshake()
     if (state == HttpHead::State::TooLarge)
         return end(QStringLiteral("its handshake is longer than anybody needs"), true);
     const QString fault = handshakeFault();
+    m_head = {};
     if (!fault.isEmpty())
         return end(fault);
     m_phase = Phase::Open;
@@ -189,8 +190,12 @@ void WebSocketConnection::onReadyRead()
 
 void WebSocketConnection::setReading(bool isReading)
 {
-    if (std::exchange(m_isReading, isReading) != isReading && isReading && m_phase == Phase::Open)
-        readFrames();
+    if (std::exchange(m_isReading, isReading) == isReading || !isReading || m_phase != Phase::Open)
+        return;
+    // What has piled up meanwhile is not held against the peer.
+    m_second.invalidate();
+    m_messageAge.start();
+    readFrames();
 }
 
 void WebSocketConnection::readFrames()
