@@ -3,6 +3,7 @@
 #include "support/OrdaTest.h"
 
 #include <onvif/OnvifParamsCfgPage.h>
+#include <orda_base/SearchBox.h>
 #include <orda_base/Theme.h>
 #include <orda_worker/AssistantSignals.h>
 
@@ -167,6 +168,10 @@ private slots:
         f.table()->setCurrentCell(5, 2);
         press(Qt::CTRL + Qt::Key_F);
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("cam 1"));
+        const QSignalSpy searches(f.form->findChild<orda_base::SearchBox *>(),
+                                  &orda_base::SearchBox::signalSearchByKeyword);
+        press(Qt::Key_Return);
+        QCOMPARE(searches.count(), 1);
         f.table()->setFocus(); // on the first row that is left
         press(Qt::Key_Space);
         QCOMPARE(f.form->checkedDevIds(), QStringList{QStringLiteral("dev1")});

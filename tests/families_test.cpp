@@ -137,7 +137,7 @@ private slots:
         row("output only", "audio", "alarmOutVolume",
             {latin1(R"(ao_get_param {"channelid": 0})"),
              latin1(R"(ao_set_param {"channelid": 0, "audioAttr": {"aoGain": 50}})")});
-        row("what the device lacks", "audio", "encodingFormat samplingRate",
+        row("what the device lacks", "audio", "samplingRate",
             {aiGet, latin1(R"(ai_set_param {"channelid": 0, "audioAttr": {"bEnable": true, "aiGain": 9, "mic": 1}})")});
 
         const QString streams = latin1(R"(stream_get_params {"channelid": -1})");
