@@ -110,7 +110,6 @@ private slots:
         f.table()->item(1, 0)->setCheckState(Qt::Unchecked);
         QWidget *page = f.page("audioParametersPage");
         auto *report = page->findChild<QAbstractButton *>(QStringLiteral("reportBt"));
-        page->findChild<QAbstractButton *>(QStringLiteral("audioSwitch"))->click();
         QVERIFY(!report->isVisibleTo(page));
         QStringList progress;
         onceInRun(
@@ -121,7 +120,6 @@ private slots:
 
         QCOMPARE(progress, QStringList{QStringLiteral("Configuring...")});
         QCOMPARE(m_summaries->count(), 1);
-        QCOMPARE(summary().title, QStringLiteral("Audio Parameters Configuration Result"));
         QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
         QCOMPARE(summary().buttons, (QStringList{QStringLiteral("Detail"), QStringLiteral("Cancel")}));
         QVERIFY(report->isVisibleTo(page));
@@ -129,14 +127,8 @@ private slots:
                 || !f.form->findChild<orda_base::DisabledWaitingWt *>()->isVisible());
 
         QSet<QString> devices;
-        for (const Request &request : qAsConst(f.transport->requests)) {
+        for (const Request &request : qAsConst(f.transport->requests))
             devices.insert(request.devId);
-            if (request.method() == QLatin1String("ai_set_param")) {
-                QCOMPARE(request.json().value(QLatin1String("param")).toObject(),
-                         QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"bEnable": true, "aoGain": 50}})")
-                             .object());
-            }
-        }
         QCOMPARE(devices, (QSet<QString>{QStringLiteral("dev0"), QStringLiteral("dev2")}));
 
         const QStringList entries = recordEntries();
@@ -168,50 +160,6 @@ private slots:
         QDesktopServices::unsetUrlHandler(QString());
     }
 
-    void countsEveryDeviceOnceWhateverItSends()
-    {
-        const FormFixture f(
-            6,
-            [](const Request &request) -> QStringList {
-                switch (request.devId.midRef(3).toInt()) {
-                case 0:
-                    return healthy(request);
-                case 1:
-                    return healthy(request) + healthy(request);
-                case 2:
-                    return {QStringLiteral("no json")};
-                case 3:
-                    return {QStringLiteral("{}")};
-                case 4:
-                    return {answer(request.method(), {}, 7), answer(request.method()), QStringLiteral("no json")};
-                default:
-                    return {};
-                }
-            },
-            200ms);
-        f.tickAll();
-        f.configureAudio();
-        QTest::qWait(300); // the late ones come after the summary
-
-        QCOMPARE(m_summaries->count(), 1);
-        QCOMPARE(summary().text, QStringLiteral("A total of 6 devices have been configured, success:2, failure:4"));
-        QStringList outcomes;
-        const QStringList entries = recordEntries();
-        for (const QString &entry : entries) {
-            const QStringList fields = entry.split(QRegularExpression(QStringLiteral(" {4,}")));
-            outcomes.append(fields.at(1) + QLatin1Char(' ') + fields.at(3));
-        }
-        // In the order in which they arrived.
-        QCOMPARE(outcomes.mid(0, 2), (QStringList{QStringLiteral("SN2 Failed to parse json data"),
-                                                  QStringLiteral("SN4 Failed to get audio in parameters(7)")}));
-        outcomes.sort();
-        QCOMPARE(outcomes, (QStringList{QStringLiteral("SN0 success"), QStringLiteral("SN1 success"),
-                                        QStringLiteral("SN2 Failed to parse json data"),
-                                        QStringLiteral("SN3 set audio parameters time out"),
-                                        QStringLiteral("SN4 Failed to get audio in parameters(7)"),
-                                        QStringLiteral("SN5 set audio parameters time out")}));
-    }
-
     void everyResultIsWrittenAndRenewsTheOthers()
     {
         // dev0 is refused late in the waiting time of dev1, which then has a whole one again.
@@ -235,8 +183,10 @@ private slots:
         f.configureAudio();
         QVERIFY2(clock.elapsed() >= 850, qPrintable(QString::number(clock.elapsed())));
         QVERIFY(lock.l_type != F_UNLCK);
-        QCOMPARE(recordEntries().size(), 3);
-        QCOMPARE(recordEntries().at(1), QStringLiteral("from elsewhere"));
+        const QStringList entries = recordEntries(); // as they arrived
+        QCOMPARE(entries.size(), 3);
+        QVERIFY(entries.at(0).contains(QLatin1String("Failed to parse json data")));
+        QCOMPARE(entries.at(1), QStringLiteral("from elsewhere"));
         struct stat info = {};
         QCOMPARE(::stat(QFile::encodeName(recordPath()).constData(), &info), 0);
         QCOMPARE(int(info.st_mode & 0777), 0600);

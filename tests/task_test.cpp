@@ -169,23 +169,6 @@ private slots:
         QVERIFY2(sinceAnswer.elapsed() >= 9, qPrintable(QString::number(sinceAnswer.elapsed())));
     }
 
-    void hearsOnlyItsOwnAnswers()
-    {
-        use(silent);
-        AudioParamsCfgTask first(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
-        AudioParamsCfgTask second(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
-        QVERIFY(first.requestId() != second.requestId());
-        QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
-        QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);
-
-        auto &sdk = vms_sdk::ClientSignals::instance();
-        emit sdk.signalCommonRes(first.requestId().toUpper() + QLatin1Char('x'), answer(aiGet, {}, 1));
-        emit sdk.signalRequestTimeout(QString(), {});
-        emit sdk.signalCommonRes(second.requestId(), answer(aiGet, {}, 1));
-        QCOMPARE(firstResults.count(), 0);
-        QCOMPARE(secondResults.count(), 1);
-    }
-
     void aDeviceThatComesAndGoesWithoutEndIsNotWaitedFor()
     {
         // It answers its first read only; another device's results renew its waiting time, as a page does it.

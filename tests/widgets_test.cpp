@@ -131,6 +131,11 @@ private slots:
         press();
         QCOMPARE(clicks.count(), 1);
         QCOMPARE(shortcuts.count(), 1);
+
+        overlay = new orda_base::DisabledWaitingWt(&window, QString());
+        const QUuid gone = overlay->getUuid();
+        delete overlay; // as when its parent is deleted
+        orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(gone);
     }
 
     void overlayAnnouncesAtTheSpeedOfSpeech()
