@@ -189,9 +189,12 @@ private slots:
                                        : selection == everything ? Qt::Checked
                                                                  : Qt::PartiallyChecked;
             bool isRight = all->checkState() == state && okBt->isEnabled() == (selection != 0);
-            for (int i = 0; i < expected.boxes.size(); ++i)
+            for (int i = 0; i < expected.boxes.size(); ++i) {
+                const bool isSelected = (selection & (1 << i)) != 0;
+                isRight = isRight && box(i)->isChecked() == isSelected;
                 for (const char *panel : expected.boxes.at(i).panels)
-                    isRight = isRight && isShown(panel) == ((selection & (1 << i)) != 0);
+                    isRight = isRight && isShown(panel) == isSelected;
+            }
             for (const char *panel : expected.followers)
                 isRight = isRight && isShown(panel) == (selection != 0);
             return isRight;
