@@ -169,6 +169,23 @@ private slots:
         QVERIFY2(sinceAnswer.elapsed() >= 9, qPrintable(QString::number(sinceAnswer.elapsed())));
     }
 
+    void hearsOnlyItsOwnAnswersAndTimeOuts()
+    {
+        use(silent);
+        AudioParamsCfgTask first(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask second(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+        QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
+        QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);
+
+        auto &sdk = vms_sdk::ClientSignals::instance();
+        emit sdk.signalCommonRes(first.requestId().toUpper() + QLatin1Char('x'), answer(aiGet, {}, 1));
+        emit sdk.signalRequestTimeout(QStringLiteral("of a foreign request"), {});
+        QCOMPARE(firstResults.count() + secondResults.count(), 0);
+        emit sdk.signalRequestTimeout(second.requestId(), {});
+        QCOMPARE(firstResults.count(), 0);
+        QCOMPARE(secondResults.count(), 1);
+    }
+
     void aDeviceThatComesAndGoesWithoutEndIsNotWaitedFor()
     {
         // It answers its first read only; another device's results renew its waiting time, as a page does it.
