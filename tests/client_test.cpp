@@ -44,85 +44,81 @@ class ClientTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
-    void opensOnASmallScreen();
-    void tellsChangesOnly();
-    void asksBeforeItClosesInMidRun();
+    /// The screen of these tests has 800 x 800 pixels, which is less than the form needs.
+    void opensOnASmallScreen()
+    {
+        ClientSession session;
+        ClientWindow window(&session);
+        window.show();
+        const QSize screen = window.screen()->availableSize();
+        QVERIFY2(window.width() < screen.width() && window.height() < screen.height(), "there is no room for a frame");
+        const auto *area = qobject_cast<QScrollArea *>(window.centralWidget());
+        const QWidget *form = area->widget();
+        QTRY_VERIFY(area->horizontalScrollBar()->maximum() > 0);
+        QVERIFY(form->width() >= form->minimumSizeHint().width());
+        QCOMPARE(area->horizontalScrollBar()->maximum() + area->viewport()->width(), form->width());
+    }
+
+    /// A device that stays away is dialled again and again; the summary of a run outlives that.
+    void tellsChangesOnly()
+    {
+        ClientSession session;
+        ClientWindow window(&session);
+        window.show();
+        auto &store = orda_data::DevsMgrData::instance();
+        QSignalSpy attempts(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged);
+        vms_sdk::DevInfo dev;
+        dev.id = QStringLiteral("dev0");
+        dev.name = QStringLiteral("Cam 0");
+        dev.ip = QStringLiteral("127.0.0.1");
+        dev.port = 1; // nobody listens there
+        store.updateDevs({dev});
+        emit orda_worker::AssistantSignals::instance().signalEventConfirmRaised(
+            {{}, {}, QStringLiteral("The summary"), {}});
+        QTRY_VERIFY_WITH_TIMEOUT(attempts.count() >= 6, 20'000); // connecting, offline, three times
+        QTest::qWait(150); // the bar is brought up to date every 100 ms
+        QVERIFY2(said(window.statusBar()).contains(QStringLiteral("The summary")),
+                 qPrintable(said(window.statusBar())));
+
+        store.setDevStatus(dev.id, vms_sdk::DevOnline);
+        QTRY_VERIFY(said(window.statusBar()).contains(QStringLiteral("Cam 0: online")));
+        store.deleteDevs({dev.id});
+    }
+
+    void asksBeforeItClosesInMidRun()
+    {
+        QTemporaryFile faults;
+        QVERIFY(faults.open());
+        faults.write(R"({"faults": [{"devices": ["dev-0002"], "methods": ["ai_get_param"], "fault": "no-answer"}]})");
+        faults.close();
+        ClientSession session;
+        vms_sdk::ClientSdk::instance().setRequestTimeout(2s);
+        ClientWindow window(&session);
+        window.show();
+        QCOMPARE(session.startDemo(2, faults.fileName()), QString());
+        const auto *table = window.findChild<QTableWidget *>(QStringLiteral("devsTableWt"));
+        QTRY_COMPARE(table->rowCount(), 2);
+        window.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
+        window.findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
+
+        QString question;
+        QTimer::singleShot(500ms, &window, [&] { // when the one device has answered
+            window.close();
+            if (const auto *dialog = window.findChild<QDialog *>(QStringLiteral("closeQuestion")))
+                question = said(dialog);
+        });
+        const QWidget *page = window.findChild<QWidget *>(QStringLiteral("audioParametersPage"));
+        page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
+        QVERIFY2(question.contains(QStringLiteral("1 of 2 device(s) have not answered")), qPrintable(question));
+        QVERIFY(window.isVisible());
+        // The run has ended meanwhile: nothing is left to ask, and the summary stands there.
+        QTRY_VERIFY(!window.findChild<QDialog *>(QStringLiteral("closeQuestion")));
+        auto *summary = window.findChild<QDialog *>(QStringLiteral("eventConfirmDialog"));
+        QVERIFY(summary && said(summary).contains(QStringLiteral("success:1, failure:1")));
+        summary->reject();
+        QVERIFY(window.close());
+    }
 };
-
-/// The screen of these tests has 800 x 800 pixels, which is less than the form needs.
-void ClientTest::opensOnASmallScreen()
-{
-    ClientSession session;
-    ClientWindow window(&session);
-    window.show();
-    const QSize screen = window.screen()->availableSize();
-    QVERIFY2(window.width() < screen.width() && window.height() < screen.height(), "there is no room for a frame");
-    const auto *area = qobject_cast<QScrollArea *>(window.centralWidget());
-    const QWidget *form = area->widget();
-    QTRY_VERIFY(area->horizontalScrollBar()->maximum() > 0);
-    QVERIFY(form->width() >= form->minimumSizeHint().width());
-    QCOMPARE(area->horizontalScrollBar()->maximum() + area->viewport()->width(), form->width());
-}
-
-/// A device that stays away is dialled again and again; the summary of a run outlives that.
-void ClientTest::tellsChangesOnly()
-{
-    ClientSession session;
-    ClientWindow window(&session);
-    window.show();
-    auto &store = orda_data::DevsMgrData::instance();
-    QSignalSpy attempts(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged);
-    vms_sdk::DevInfo dev;
-    dev.id = QStringLiteral("dev0");
-    dev.name = QStringLiteral("Cam 0");
-    dev.ip = QStringLiteral("127.0.0.1");
-    dev.port = 1; // nobody listens there
-    store.updateDevs({dev});
-    emit orda_worker::AssistantSignals::instance().signalEventConfirmRaised(
-        {{}, {}, QStringLiteral("The summary"), {}});
-    QTRY_VERIFY_WITH_TIMEOUT(attempts.count() >= 6, 20'000); // connecting, offline, three times
-    QTest::qWait(150); // the bar is brought up to date every 100 ms
-    QVERIFY2(said(window.statusBar()).contains(QStringLiteral("The summary")), qPrintable(said(window.statusBar())));
-
-    store.setDevStatus(dev.id, vms_sdk::DevOnline);
-    QTRY_VERIFY(said(window.statusBar()).contains(QStringLiteral("Cam 0: online")));
-    store.deleteDevs({dev.id});
-}
-
-void ClientTest::asksBeforeItClosesInMidRun()
-{
-    QTemporaryFile faults;
-    QVERIFY(faults.open());
-    faults.write(R"({"faults": [{"devices": ["dev-0002"], "methods": ["ai_get_param"], "fault": "no-answer"}]})");
-    faults.close();
-    ClientSession session;
-    vms_sdk::ClientSdk::instance().setRequestTimeout(2s);
-    ClientWindow window(&session);
-    window.show();
-    QCOMPARE(session.startDemo(2, faults.fileName()), QString());
-    const auto *table = window.findChild<QTableWidget *>(QStringLiteral("devsTableWt"));
-    QTRY_COMPARE(table->rowCount(), 2);
-    window.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
-    window.findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
-
-    QString question;
-    QTimer::singleShot(500ms, &window, [&] { // when the one device has answered
-        window.close();
-        if (const auto *dialog = window.findChild<QDialog *>(QStringLiteral("closeQuestion")))
-            question = said(dialog);
-    });
-    const QWidget *page = window.findChild<QWidget *>(QStringLiteral("audioParametersPage"));
-    page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
-    QVERIFY2(question.contains(QStringLiteral("1 of 2 device(s) have not answered")), qPrintable(question));
-    QVERIFY(window.isVisible());
-    // The run has ended meanwhile: nothing is left to ask, and the summary stands there.
-    QTRY_VERIFY(!window.findChild<QDialog *>(QStringLiteral("closeQuestion")));
-    auto *summary = window.findChild<QDialog *>(QStringLiteral("eventConfirmDialog"));
-    QVERIFY(summary && said(summary).contains(QStringLiteral("success:1, failure:1")));
-    summary->reject();
-    QVERIFY(window.close());
-}
 
 ORDA_TEST_MAIN(ClientTest)
 

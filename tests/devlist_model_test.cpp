@@ -148,7 +148,7 @@ class Twins
 {
 public:
     Twins(int devices, quint32 seed)
-        : f(devices, [](const ScriptedTransport::Request &) { return QStringList(); })
+        : f(devices, silent)
         , random(seed)
         , table(f.table())
     {
@@ -382,53 +382,33 @@ class DevlistModelTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void showsAFilledStore_data();
-    void showsAFilledStore();
-    void followsWhateverHappens_data();
-    void followsWhateverHappens();
-};
-
-void DevlistModelTest::showsAFilledStore_data()
-{
-    QTest::addColumn<int>("devices");
-    for (const int devices : {0, 1, 2, 10, 30, 300})
-        QTest::addRow("%d devices", devices) << devices;
-}
-
-void DevlistModelTest::showsAFilledStore()
-{
-    QFETCH(int, devices);
-    const Twins twins(devices, 0);
-    QCOMPARE(twins.difference(false), QString());
-    settle();
-    QCOMPARE(twins.difference(true), QString());
-}
-
-void DevlistModelTest::followsWhateverHappens_data()
-{
-    QTest::addColumn<int>("seed");
-    for (int seed = 1; seed <= qMax(40, qEnvironmentVariableIntValue("ORDA_LIST_SEEDS")); ++seed)
-        QTest::addRow("seed %d", seed) << seed;
-}
-
-void DevlistModelTest::followsWhateverHappens()
-{
-    QFETCH(int, seed);
-    Twins twins(seed % maxDevices, quint32(seed));
-    QStringList history;
-    for (int step = 0; step < 150; ++step) {
-        for (int burst = twins.below(4); burst >= 0; --burst)
-            history.append(QLatin1String(twins.act()));
-        const bool isSettled = twins.below(2) == 0;
-        if (isSettled)
-            settle();
-        const QString difference = twins.difference(isSettled);
-        const QString last = QStringList(history.mid(history.size() - 8)).join(QLatin1String(", "));
-        QVERIFY2(
-            difference.isEmpty(),
-            qPrintable(QStringLiteral("seed %1, step %2: %3; last: %4").arg(seed).arg(step).arg(difference, last)));
+    void followsWhateverHappens_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= qMax(40, qEnvironmentVariableIntValue("ORDA_LIST_SEEDS")); ++seed)
+            QTest::addRow("seed %d", seed) << seed;
     }
-}
+
+    void followsWhateverHappens()
+    {
+        QFETCH(int, seed);
+        Twins twins(seed % maxDevices, quint32(seed));
+        QCOMPARE(twins.difference(false), QString());
+        QStringList history;
+        for (int step = 0; step < 150; ++step) {
+            for (int burst = twins.below(4); burst >= 0; --burst)
+                history.append(QLatin1String(twins.act()));
+            const bool isSettled = twins.below(2) == 0;
+            if (isSettled)
+                settle();
+            const QString difference = twins.difference(isSettled);
+            const QString last = QStringList(history.mid(history.size() - 8)).join(QLatin1String(", "));
+            QVERIFY2(
+                difference.isEmpty(),
+                qPrintable(QStringLiteral("seed %1, step %2: %3; last: %4").arg(seed).arg(step).arg(difference, last)));
+        }
+    }
+};
 
 ORDA_TEST_MAIN(DevlistModelTest)
 #include "devlist_model_test.moc"

@@ -28,11 +28,6 @@ enum Column
     Ip = 3
 };
 
-QStringList silent(const ScriptedTransport::Request &)
-{
-    return {};
-}
-
 DevsMgrData &store()
 {
     return DevsMgrData::instance();
@@ -52,164 +47,155 @@ class DevlistTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void opensOnVideoAndFollowsTheNavigation();
-    void showsNamesAsTheyStand_data();
-    void showsNamesAsTheyStand();
-    void contextMenuOpensTheDevice();
-    void contextMenuSurvivesItsRowAndItsForm();
-    void saysWhyItIsEmpty();
-    void saysWhyItIsEmptyWhereItIsSeen();
-    void everyCallMakesAForm();
-};
+    void opensOnVideoAndFollowsTheNavigation()
+    {
+        const FormFixture f(0, silent);
+        const auto *stack = f.form->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+        const auto *navigation = f.form->findChild<orda_base::NavigationWidget *>();
+        QCOMPARE(stack->currentIndex(), 1);
+        QCOMPARE(navigation->currentKey(), QStringLiteral("video_param"));
+        QCOMPARE(f.form->formType(), 8);
 
-void DevlistTest::opensOnVideoAndFollowsTheNavigation()
-{
-    const FormFixture f(0, silent);
-    const auto *stack = f.form->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
-    const auto *navigation = f.form->findChild<orda_base::NavigationWidget *>();
-    QCOMPARE(stack->currentIndex(), 1);
-    QCOMPARE(navigation->currentKey(), QStringLiteral("video_param"));
-    QCOMPARE(f.form->formType(), 8);
-
-    const QList<std::pair<const char *, int>> expected{
-        {"audio_param", 0},    {"audio_video_param", 0},   {"image_param", 2},
-        {"platform_param", 2}, {"cloud_service_param", 3}, {"9100_param", 4},
-        {"network_param", 5},  {"osd_param", 6},           {"video_param", 1}};
-    for (const auto &[key, index] : expected) {
-        f.form->findChild<QAbstractButton *>(QLatin1String(key))->click();
-        QVERIFY2(stack->currentIndex() == index, key);
+        const QList<std::pair<const char *, int>> expected{
+            {"audio_param", 0},    {"audio_video_param", 0},   {"image_param", 2},
+            {"platform_param", 2}, {"cloud_service_param", 3}, {"9100_param", 4},
+            {"network_param", 5},  {"osd_param", 6},           {"video_param", 1}};
+        for (const auto &[key, index] : expected) {
+            f.form->findChild<QAbstractButton *>(QLatin1String(key))->click();
+            QVERIFY2(stack->currentIndex() == index, key);
+        }
     }
-}
 
-void DevlistTest::showsNamesAsTheyStand_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("shown"); // characters that cannot be seen as '?'
-    const auto row = [](const char *what, const char *name, const char *shown) {
-        QTest::newRow(what) << QString::fromUtf8(name)
-                            << QString::fromUtf8(shown).replace(QLatin1Char('?'), QChar(QChar::ReplacementCharacter));
-    };
-    row("plain", "Zufahrt  3 & 4", "Zufahrt  3 & 4");
-    row("mark-up", "<b>x</b> &lt;", "<b>x</b> &lt;");
-    row("an image", "<img src=\"/etc/hostname\">", "<img src=\"/etc/hostname\">");
-    row("right to left", "Tor \u202e21 maC\u202c", "Tor ?21 maC?");
-    row("isolated", "a\u2067b\u2069", "a?b?");
-    row("without a width", "Cam\u200b 1\ufeff\u00ad", "Cam? 1??");
-    row("beyond 16 bits", "Cam\U000e0041 1 \U0001f4f7", "Cam? 1 \U0001f4f7");
-    row("line breaks", "a\nb\u2028c\x1b[1m", "a?b?c?[1m");
-    row("right-to-left letters", "שער 2", "שער 2");
-}
+    void showsNamesAsTheyStand_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("shown"); // characters that cannot be seen as '?'
+        const auto row = [](const char *what, const char *name, const char *shown) {
+            QTest::newRow(what) << QString::fromUtf8(
+                name) << QString::fromUtf8(shown).replace(QLatin1Char('?'), QChar(QChar::ReplacementCharacter));
+        };
+        row("plain", "Zufahrt  3 & 4", "Zufahrt  3 & 4");
+        row("mark-up", "<b>x</b> &lt;", "<b>x</b> &lt;");
+        row("an image", "<img src=\"/etc/hostname\">", "<img src=\"/etc/hostname\">");
+        row("right to left", "Tor \u202e21 maC\u202c", "Tor ?21 maC?");
+        row("isolated", "a\u2067b\u2069", "a?b?");
+        row("without a width", "Cam\u200b 1\ufeff\u00ad", "Cam? 1??");
+        row("beyond 16 bits", "Cam\U000e0041 1 \U0001f4f7", "Cam? 1 \U0001f4f7");
+        row("line breaks", "a\nb\u2028c\x1b[1m", "a?b?c?[1m");
+        row("right-to-left letters", "שער 2", "שער 2");
+    }
 
-void DevlistTest::showsNamesAsTheyStand()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, shown);
-    const FormFixture f(1, silent);
-    const auto cell = [&f] { return f.table()->item(0, Name); };
-    const auto drawn = [&](const QString &text) {
-        DevInfo dev = FormFixture::device(0);
-        dev.name = text;
+    void showsNamesAsTheyStand()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, shown);
+        const FormFixture f(1, silent);
+        const auto cell = [&f] { return f.table()->item(0, Name); };
+        const auto drawn = [&](const QString &text) {
+            DevInfo dev = FormFixture::device(0);
+            dev.name = text;
+            store().updateDevs({dev});
+            return f.table()->viewport()->grab(f.table()->visualItemRect(cell())).toImage();
+        };
+        const QImage expected = drawn(shown);
+        QCOMPARE(drawn(name), expected);
+        QCOMPARE(cell()->text(), name);
+        QCOMPARE(cell()->toolTip(), name);
+
+        const QPoint pos = f.table()->visualItemRect(cell()).center();
+        QHelpEvent help(QEvent::ToolTip, pos, f.table()->viewport()->mapToGlobal(pos));
+        QCoreApplication::sendEvent(f.table()->viewport(), &help);
+        QCOMPARE(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), shown);
+    }
+
+    void contextMenuOpensTheDevice()
+    {
+        const FormFixture f(2, silent);
+        QSignalSpy opened(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened);
+        auto *menu = f.table()->findChild<QMenu *>();
+        QCOMPARE(menu->actions().size(), 1);
+        QCOMPARE(menu->actions().constFirst()->text(), QStringLiteral("Remote Set"));
+
+        emit f.table()->customContextMenuRequested(QPoint(10, f.table()->height() - 2));
+        QVERIFY(!menu->isVisible());
+        QTimer::singleShot(0, menu, [menu] {
+            menu->actions().constFirst()->trigger();
+            menu->close();
+        });
+        emit f.table()->customContextMenuRequested(f.table()->visualItemRect(f.table()->item(1, Name)).center());
+        QCOMPARE(opened.count(), 1);
+        QCOMPARE(opened.at(0).at(0).toString(), QStringLiteral("dev1"));
+    }
+
+    void contextMenuSurvivesItsRowAndItsForm()
+    {
+        QSignalSpy opened(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened);
+        const FormFixture f(2, silent);
+        auto *menu = f.table()->findChild<QMenu *>();
+        const QPoint second = f.table()->visualItemRect(f.table()->item(1, Ip)).center();
+        QTimer::singleShot(0, menu, [menu] {
+            store().setDevStatus(QStringLiteral("dev1"), vms_sdk::DevOffline);
+            menu->actions().constFirst()->trigger();
+            menu->close();
+        });
+        emit f.table()->customContextMenuRequested(second);
+        QCOMPARE(opened.count(), 0);
+
+        QTimer::singleShot(0, menu, [&f] { delete f.form; });
+        emit f.table()->customContextMenuRequested(QPoint(10, 10));
+        QVERIFY(f.form.isNull());
+    }
+
+    void saysWhyItIsEmpty()
+    {
+        const FormFixture f(0, silent);
+        const auto *hint = f.form->findChild<QLabel *>(QStringLiteral("emptyListHint"));
+        const auto hintText = [hint] {
+            return hint->isVisible() ? hint->text().section(QLatin1Char(' '), 0, 2) : QString();
+        };
+        QTRY_COMPARE(hintText(), QStringLiteral("There are no"));
+
+        DevInfo dev = FormFixture::device(1);
+        dev.kindCode = 9;
         store().updateDevs({dev});
-        return f.table()->viewport()->grab(f.table()->visualItemRect(cell())).toImage();
-    };
-    const QImage expected = drawn(shown);
-    QCOMPARE(drawn(name), expected);
-    QCOMPARE(cell()->text(), name);
-    QCOMPARE(cell()->toolTip(), name);
+        QTRY_COMPARE(hintText(), QStringLiteral("No device is"));
+        store().setDevStatus(dev.id, vms_sdk::DevOnline);
+        QTRY_COMPARE(hintText(), QStringLiteral("None of the"));
+        addOnline(FormFixture::device(2));
+        QTRY_COMPARE(hintText(), QString());
+        f.searchEdit()->setText(QStringLiteral("nowhere"));
+        QTRY_COMPARE(hintText(), QStringLiteral("No device in"));
+        f.searchEdit()->clear();
+        QTRY_COMPARE(hintText(), QString());
+        store().setDevStatus(QStringLiteral("dev2"), vms_sdk::DevOffline);
+        QTRY_COMPARE(hintText(), QStringLiteral("None of the"));
+        QCOMPARE(f.table()->accessibleDescription(), hint->text());
+    }
 
-    const QPoint pos = f.table()->visualItemRect(cell()).center();
-    QHelpEvent help(QEvent::ToolTip, pos, f.table()->viewport()->mapToGlobal(pos));
-    QCoreApplication::sendEvent(f.table()->viewport(), &help);
-    QCOMPARE(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), shown);
-}
+    void saysWhyItIsEmptyWhereItIsSeen()
+    {
+        const FormFixture f(200, silent);
+        f.table()->scrollToBottom();
+        f.form->hide();
+        f.searchEdit()->setText(QStringLiteral("nowhere"));
+        f.form->show();
+        const auto *hint = f.form->findChild<QLabel *>(QStringLiteral("emptyListHint"));
+        QTRY_VERIFY(hint->isVisible());
+        QCOMPARE(hint->geometry(), f.table()->viewport()->rect());
+        f.searchEdit()->clear();
+        QTRY_VERIFY(!hint->isVisible() && f.table()->accessibleDescription() != hint->text());
+    }
 
-void DevlistTest::contextMenuOpensTheDevice()
-{
-    const FormFixture f(2, silent);
-    QSignalSpy opened(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened);
-    auto *menu = f.table()->findChild<QMenu *>();
-    QCOMPARE(menu->actions().size(), 1);
-    QCOMPARE(menu->actions().constFirst()->text(), QStringLiteral("Remote Set"));
-
-    emit f.table()->customContextMenuRequested(QPoint(10, f.table()->height() - 2));
-    QVERIFY(!menu->isVisible());
-    QTimer::singleShot(0, menu, [menu] {
-        menu->actions().constFirst()->trigger();
-        menu->close();
-    });
-    emit f.table()->customContextMenuRequested(f.table()->visualItemRect(f.table()->item(1, Name)).center());
-    QCOMPARE(opened.count(), 1);
-    QCOMPARE(opened.at(0).at(0).toString(), QStringLiteral("dev1"));
-}
-
-void DevlistTest::contextMenuSurvivesItsRowAndItsForm()
-{
-    QSignalSpy opened(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened);
-    const FormFixture f(2, silent);
-    auto *menu = f.table()->findChild<QMenu *>();
-    const QPoint second = f.table()->visualItemRect(f.table()->item(1, Ip)).center();
-    QTimer::singleShot(0, menu, [menu] {
-        store().setDevStatus(QStringLiteral("dev1"), vms_sdk::DevOffline);
-        menu->actions().constFirst()->trigger();
-        menu->close();
-    });
-    emit f.table()->customContextMenuRequested(second);
-    QCOMPARE(opened.count(), 0);
-
-    QTimer::singleShot(0, menu, [&f] { delete f.form; });
-    emit f.table()->customContextMenuRequested(QPoint(10, 10));
-    QVERIFY(f.form.isNull());
-}
-
-void DevlistTest::saysWhyItIsEmpty()
-{
-    const FormFixture f(0, silent);
-    const auto *hint = f.form->findChild<QLabel *>(QStringLiteral("emptyListHint"));
-    const auto hintText = [hint] {
-        return hint->isVisible() ? hint->text().section(QLatin1Char(' '), 0, 2) : QString();
-    };
-    QTRY_COMPARE(hintText(), QStringLiteral("There are no"));
-
-    DevInfo dev = FormFixture::device(1);
-    dev.kindCode = 9;
-    store().updateDevs({dev});
-    QTRY_COMPARE(hintText(), QStringLiteral("No device is"));
-    store().setDevStatus(dev.id, vms_sdk::DevOnline);
-    QTRY_COMPARE(hintText(), QStringLiteral("None of the"));
-    addOnline(FormFixture::device(2));
-    QTRY_COMPARE(hintText(), QString());
-    f.searchEdit()->setText(QStringLiteral("nowhere"));
-    QTRY_COMPARE(hintText(), QStringLiteral("No device in"));
-    f.searchEdit()->clear();
-    QTRY_COMPARE(hintText(), QString());
-    store().setDevStatus(QStringLiteral("dev2"), vms_sdk::DevOffline);
-    QTRY_COMPARE(hintText(), QStringLiteral("None of the"));
-    QCOMPARE(f.table()->accessibleDescription(), hint->text());
-}
-
-void DevlistTest::saysWhyItIsEmptyWhereItIsSeen()
-{
-    const FormFixture f(200, silent);
-    f.table()->scrollToBottom();
-    f.form->hide();
-    f.searchEdit()->setText(QStringLiteral("nowhere"));
-    f.form->show();
-    const auto *hint = f.form->findChild<QLabel *>(QStringLiteral("emptyListHint"));
-    QTRY_VERIFY(hint->isVisible());
-    QCOMPARE(hint->geometry(), f.table()->viewport()->rect());
-    f.searchEdit()->clear();
-    QTRY_VERIFY(!hint->isVisible() && f.table()->accessibleDescription() != hint->text());
-}
-
-void DevlistTest::everyCallMakesAForm()
-{
-    auto &entry = orda_batchCfg::BatchCfgInit::instance();
-    const std::unique_ptr<orda_base::BaseForm> first(entry.createBatchCfgForm());
-    const std::unique_ptr<orda_base::BaseForm> second(entry.createBatchCfgForm());
-    QVERIFY(first && second && first != second);
-    QVERIFY(!first->parent());
-    QCOMPARE(first->formType(), 8);
-}
+    void everyCallMakesAForm()
+    {
+        auto &entry = orda_batchCfg::BatchCfgInit::instance();
+        const std::unique_ptr<orda_base::BaseForm> first(entry.createBatchCfgForm());
+        const std::unique_ptr<orda_base::BaseForm> second(entry.createBatchCfgForm());
+        QVERIFY(first && second && first != second);
+        QVERIFY(!first->parent());
+        QCOMPARE(first->formType(), 8);
+    }
+};
 
 ORDA_TEST_MAIN(DevlistTest)
 #include "devlist_test.moc"

@@ -21,112 +21,106 @@ class EditorsTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void volumesShowWhatIsSent_data();
-    void volumesShowWhatIsSent();
-    void videoQualityTakesTheNearestBound_data();
-    void videoQualityTakesTheNearestBound();
-    void addressLinesFollowTheWindow();
+    void volumesShowWhatIsSent_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("typed"); // over "50"; < deletes
+        QTest::addColumn<int>("sent");
+        for (const char *name : {"audioInVolume", "alarmOutVolume"}) {
+            const auto row = [name](const char *typed, int sent) {
+                QTest::addRow("%s, %s", name, typed) << QString::fromLatin1(name) << QString::fromLatin1(typed) << sent;
+            };
+            row("<<", 0);
+            row("<<<7", 7);
+            row("<<8<", 0);
+            row("<<150", 100);
+            row("<<100<<<1000", 100);
+            row("<<007", 7);
+            row("<<-5", 5);
+            row("<<3x.,4", 34);
+        }
+    }
+
+    void volumesShowWhatIsSent()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, typed);
+        QFETCH(int, sent);
+        AudioParamsCfgPage page;
+        page.show();
+        auto *edit = page.findChild<QLineEdit *>(name + QStringLiteral("Param"));
+        auto *slider = page.findChild<QSlider *>(name + QStringLiteral("Slider"));
+        QCOMPARE(edit->text(), QStringLiteral("50"));
+        for (const QChar key : qAsConst(typed)) {
+            if (key == QLatin1Char('<'))
+                QTest::keyClick(edit, Qt::Key_Backspace);
+            else
+                QTest::keyClick(edit, key.toLatin1());
+            QCOMPARE(edit->text(), QString::number(slider->value())); // at every moment: Configure may come at any
+        }
+        QCOMPARE(slider->value(), sent);
+        slider->setValue(30);
+        QCOMPARE(edit->text(), QStringLiteral("30"));
+    }
+
+    void videoQualityTakesTheNearestBound_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("sent");
+        for (const auto &[typed, sent] :
+             std::initializer_list<std::pair<const char *, int>>{{"5", 10},
+                                                                 {"0", 10},
+                                                                 {"", 10},
+                                                                 {"10240", 10240},
+                                                                 {"10241", 10240},
+                                                                 {"99999", 10240},
+                                                                 {"99999999999999999999", 10240},
+                                                                 {"2x0-48", 2048}})
+            QTest::addRow("\"%s\"", typed) << QString::fromLatin1(typed) << sent;
+    }
+
+    void videoQualityTakesTheNearestBound()
+    {
+        QFETCH(QString, typed);
+        QFETCH(int, sent);
+        for (const bool isLeft : {true, false}) { // else Configure comes while the number is being typed
+            VideoParamsPanel panel(VideoParamsPanel::MainStream);
+            panel.show();
+            QApplication::setActiveWindow(&panel);
+            auto *spin = panel.findChild<QSpinBox *>(QStringLiteral("videoQuality"));
+            spin->setFocus();
+            spin->selectAll();
+            QTest::keyClick(spin, Qt::Key_Delete);
+            QTest::keyClicks(spin, typed);
+            if (isLeft) {
+                QTest::keyClick(spin, Qt::Key_Tab);
+                QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent));
+            }
+            QCOMPARE(panel.getParams().value(QStringLiteral("bitRate")).toInt(), sent);
+            QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
+        }
+    }
+
+    void addressLinesFollowTheWindow()
+    {
+        const std::unique_ptr<QWidget> pages[]{std::make_unique<PlatformParamsCfgPage>(),
+                                               std::make_unique<Platform9100ParamsCfgPage>()};
+        for (const auto &page : pages) {
+            page->show();
+            for (const char *name : {"serviceAddressParam", "onlineUrl", "bussinessUrl"}) {
+                const auto *line = page->findChild<QLineEdit *>(QLatin1String(name));
+                if (!line)
+                    continue;
+                page->resize(500, 600);
+                QCoreApplication::processEvents();
+                const int narrow = line->width();
+                page->resize(900, 600);
+                QCoreApplication::processEvents();
+                QCOMPARE(line->width(), narrow + 400);
+            }
+        }
+    }
 };
-
-void EditorsTest::volumesShowWhatIsSent_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("typed"); // over "50"; < deletes
-    QTest::addColumn<int>("sent");
-    for (const char *name : {"audioInVolume", "alarmOutVolume"}) {
-        const auto row = [name](const char *typed, int sent) {
-            QTest::addRow("%s, %s", name, typed) << QString::fromLatin1(name) << QString::fromLatin1(typed) << sent;
-        };
-        row("<<", 0);
-        row("<<<7", 7);
-        row("<<8<", 0);
-        row("<<150", 100);
-        row("<<100<<<1000", 100);
-        row("<<007", 7);
-        row("<<-5", 5);
-        row("<<3x.,4", 34);
-    }
-}
-
-void EditorsTest::volumesShowWhatIsSent()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, typed);
-    QFETCH(int, sent);
-    AudioParamsCfgPage page;
-    page.show();
-    auto *edit = page.findChild<QLineEdit *>(name + QStringLiteral("Param"));
-    auto *slider = page.findChild<QSlider *>(name + QStringLiteral("Slider"));
-    QCOMPARE(edit->text(), QStringLiteral("50"));
-    for (const QChar key : qAsConst(typed)) {
-        if (key == QLatin1Char('<'))
-            QTest::keyClick(edit, Qt::Key_Backspace);
-        else
-            QTest::keyClick(edit, key.toLatin1());
-        QCOMPARE(edit->text(), QString::number(slider->value())); // at every moment: Configure may come at any
-    }
-    QCOMPARE(slider->value(), sent);
-    slider->setValue(30);
-    QCOMPARE(edit->text(), QStringLiteral("30"));
-}
-
-void EditorsTest::videoQualityTakesTheNearestBound_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("sent");
-    for (const auto &[typed, sent] :
-         std::initializer_list<std::pair<const char *, int>>{{"5", 10},
-                                                             {"0", 10},
-                                                             {"", 10},
-                                                             {"10240", 10240},
-                                                             {"10241", 10240},
-                                                             {"99999", 10240},
-                                                             {"99999999999999999999", 10240},
-                                                             {"2x0-48", 2048}})
-        QTest::addRow("\"%s\"", typed) << QString::fromLatin1(typed) << sent;
-}
-
-void EditorsTest::videoQualityTakesTheNearestBound()
-{
-    QFETCH(QString, typed);
-    QFETCH(int, sent);
-    for (const bool isLeft : {true, false}) { // else Configure comes while the number is being typed
-        VideoParamsPanel panel(VideoParamsPanel::MainStream);
-        panel.show();
-        QApplication::setActiveWindow(&panel);
-        auto *spin = panel.findChild<QSpinBox *>(QStringLiteral("videoQuality"));
-        spin->setFocus();
-        spin->selectAll();
-        QTest::keyClick(spin, Qt::Key_Delete);
-        QTest::keyClicks(spin, typed);
-        if (isLeft) {
-            QTest::keyClick(spin, Qt::Key_Tab);
-            QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent));
-        }
-        QCOMPARE(panel.getParams().value(QStringLiteral("bitRate")).toInt(), sent);
-        QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
-    }
-}
-
-void EditorsTest::addressLinesFollowTheWindow()
-{
-    const std::unique_ptr<QWidget> pages[]{std::make_unique<PlatformParamsCfgPage>(),
-                                           std::make_unique<Platform9100ParamsCfgPage>()};
-    for (const auto &page : pages) {
-        page->show();
-        for (const char *name : {"serviceAddressParam", "onlineUrl", "bussinessUrl"}) {
-            const auto *line = page->findChild<QLineEdit *>(QLatin1String(name));
-            if (!line)
-                continue;
-            page->resize(500, 600);
-            QCoreApplication::processEvents();
-            const int narrow = line->width();
-            page->resize(900, 600);
-            QCoreApplication::processEvents();
-            QCOMPARE(line->width(), narrow + 400);
-        }
-    }
-}
 
 ORDA_TEST_MAIN(EditorsTest)
 

@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QHelpEvent>
 #include <QJsonArray>
 #include <QLabel>
@@ -36,14 +35,6 @@ QStringList knowsAll(const ScriptedTransport::Request &request)
                              "bLargeOSD": true}})")
                                            .object();
     return {answer(request.method(), results.value(request.method()).toObject())};
-}
-
-void dismissDialogs()
-{
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        if (auto *dialog = qobject_cast<QDialog *>(window))
-            dialog->reject();
 }
 
 /// What the page sends with everything ticked, once for each choice of its combos.
@@ -98,148 +89,123 @@ private slots:
         m_translators.clear();
         OrdaTest::cleanup();
     }
-    void wireIsTheSameInEveryLanguage_data();
-    void wireIsTheSameInEveryLanguage();
-    void initialTextsAreTranslated();
-    void fitsAFieldLaptop_data();
-    void fitsAFieldLaptop();
+
+    void wireIsTheSameInEveryLanguage_data() { addFamilies({QStringLiteral("de"), QStringLiteral("zh_CN")}); }
+
+    void wireIsTheSameInEveryLanguage()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, language);
+        const FamilyRow family = familyRow(name);
+        const QStringList inEnglish = sentBy(family);
+        QVERIFY(inEnglish.size() >= 2);
+
+        install(language);
+        QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != QLatin1String("success"));
+        QCOMPARE(sentBy(family), inEnglish);
+    }
+
+    void fitsAFieldLaptop_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"en", "de", "zh_CN"})
+            QTest::newRow(language) << QString::fromLatin1(language);
+    }
+
+    /// 1280 x 720, less a window's frame, menu and status bar.
+    void fitsAFieldLaptop()
+    {
+        QFETCH(QString, language);
+        if (language != QLatin1String("en"))
+            install(language);
+        const FormFixture f(3, knowsAll);
+        const QSize needed = f.form->minimumSizeHint();
+        QVERIFY2(needed.width() <= 1264 && needed.height() <= 600,
+                 qPrintable(QStringLiteral("%1 x %2").arg(needed.width()).arg(needed.height())));
+    }
+
     void longerTextsAreNotCutOff_data() { addFamilies({}); }
-    void longerTextsAreNotCutOff();
+
+    void longerTextsAreNotCutOff()
+    {
+        QFETCH(QString, name);
+        const FamilyRow family = familyRow(name);
+        Lengthened lengthened;
+        QCoreApplication::installTranslator(&lengthened);
+        const FormFixture f(3, knowsAll);
+        f.form->findChild<QAbstractButton *>(family.navigationKey)->click();
+        f.form->resize(f.form->minimumSizeHint());
+        QApplication::processEvents();
+
+        QVERIFY2(f.form->width() <= 1600, "the form does not fit on a screen");
+        const auto combos = f.form->findChildren<orda_base::ComboBox *>();
+        for (orda_base::ComboBox *combo : combos) {
+            for (int item = 0; item < combo->count() && combo->isVisible(); ++item) {
+                combo->setCurrentIndex(item);
+                QHelpEvent help(QEvent::ToolTip, {}, {});
+                QCoreApplication::sendEvent(combo, &help);
+                QStyleOptionComboBox option;
+                option.initFrom(combo);
+                const int room = combo->style()
+                                     ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
+                                     .width();
+                const int needed = combo->fontMetrics().horizontalAdvance(combo->currentText());
+                QVERIFY2(needed <= room || combo->toolTip() == combo->currentText(), qPrintable(combo->currentText()));
+            }
+        }
+        // A choice may have shown more editors; what the window has no room for is scrolled.
+        auto *area = f.form->findChild<QWidget *>(family.pageName)->findChild<QScrollArea *>();
+        QTRY_VERIFY(area->widget()->width() >= area->widget()->minimumSizeHint().width());
+
+        int looked = 0;
+        const auto widgets = f.form->findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            const auto *button = qobject_cast<const QAbstractButton *>(widget);
+            const QString text = label ? label->text() : button ? button->text() : QString();
+            if (text.isEmpty() || !widget->isVisible())
+                continue;
+            ++looked;
+            if (const auto *entry = qobject_cast<const orda_base::NavigationButton *>(widget)) {
+                QVERIFY2(entry->isTextWhole(), qPrintable(text));
+                continue;
+            }
+            QVERIFY2(widget->width() >= widget->sizeHint().width() && widget->height() >= widget->sizeHint().height(),
+                     qPrintable(QStringLiteral("%1 \"%2\"").arg(widget->objectName(), text)));
+            if (area->isAncestorOf(widget))
+                area->ensureWidgetVisible(widget, 0, 0);
+            QVERIFY2(widget->visibleRegion().boundingRect().width() >= widget->sizeHint().width(), qPrintable(text));
+        }
+        QVERIFY(looked > 10);
+    }
 
 private:
-    static void addFamilies(const QStringList &languages);
-    void install(const QString &language);
+    static void addFamilies(const QStringList &languages)
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("language");
+        for (const FamilyRow &family : familyTable()) {
+            if (family.navigationKey.isEmpty())
+                continue;
+            for (const QString &language : languages)
+                QTest::addRow("%s, %s", qPrintable(family.name), qPrintable(language)) << family.name << language;
+            if (languages.isEmpty())
+                QTest::addRow("%s", qPrintable(family.name)) << family.name << QString();
+        }
+    }
+
+    void install(const QString &language)
+    {
+        for (const char *part : {"batchCfg", "clientlibs"}) {
+            m_translators.push_back(std::make_unique<QTranslator>());
+            QVERIFY(
+                m_translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(QLatin1String(part), language)));
+            QCoreApplication::installTranslator(m_translators.back().get());
+        }
+    }
 
     std::vector<std::unique_ptr<QTranslator>> m_translators; // of the running test function
 };
-
-void LanguageTest::addFamilies(const QStringList &languages)
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("language");
-    for (const FamilyRow &family : familyTable()) {
-        if (family.navigationKey.isEmpty())
-            continue;
-        for (const QString &language : languages)
-            QTest::addRow("%s, %s", qPrintable(family.name), qPrintable(language)) << family.name << language;
-        if (languages.isEmpty())
-            QTest::addRow("%s", qPrintable(family.name)) << family.name << QString();
-    }
-}
-
-void LanguageTest::install(const QString &language)
-{
-    for (const char *part : {"batchCfg", "clientlibs"}) {
-        m_translators.push_back(std::make_unique<QTranslator>());
-        QVERIFY(m_translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(QLatin1String(part), language)));
-        QCoreApplication::installTranslator(m_translators.back().get());
-    }
-}
-
-void LanguageTest::wireIsTheSameInEveryLanguage_data()
-{
-    addFamilies({QStringLiteral("de"), QStringLiteral("zh_CN")});
-}
-
-void LanguageTest::wireIsTheSameInEveryLanguage()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, language);
-    const FamilyRow family = familyRow(name);
-    const QStringList inEnglish = sentBy(family);
-    QVERIFY(inEnglish.size() >= 2);
-
-    install(language);
-    QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != QLatin1String("success"));
-    QCOMPARE(sentBy(family), inEnglish);
-}
-
-/// A translation may bring a name, an address and ports of its own.
-void LanguageTest::initialTextsAreTranslated()
-{
-    Lengthened lengthened;
-    QCoreApplication::installTranslator(&lengthened);
-    const FormFixture f(0, knowsAll);
-    const QList<std::pair<const char *, const char *>> expected{
-        {"nameParam", "HD IPC nn"},
-        {"serviceAddressParam", "https://device.cloud.example.com:8443 nnnnnnnnnnnnnn"},
-        {"onlinePort", "15030 n"},
-        {"bussinessPort", "8081 n"}};
-    for (const auto &[name, text] : expected)
-        QCOMPARE(f.form->findChild<QLineEdit *>(QLatin1String(name))->text(), QLatin1String(text));
-}
-
-void LanguageTest::fitsAFieldLaptop_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const char *language : {"en", "de", "zh_CN"})
-        QTest::newRow(language) << QString::fromLatin1(language);
-}
-
-/// 1280 x 720, less a window's frame, menu and status bar.
-void LanguageTest::fitsAFieldLaptop()
-{
-    QFETCH(QString, language);
-    if (language != QLatin1String("en"))
-        install(language);
-    const FormFixture f(3, knowsAll);
-    const QSize needed = f.form->minimumSizeHint();
-    QVERIFY2(needed.width() <= 1264 && needed.height() <= 600,
-             qPrintable(QStringLiteral("%1 x %2").arg(needed.width()).arg(needed.height())));
-}
-
-void LanguageTest::longerTextsAreNotCutOff()
-{
-    QFETCH(QString, name);
-    const FamilyRow family = familyRow(name);
-    Lengthened lengthened;
-    QCoreApplication::installTranslator(&lengthened);
-    const FormFixture f(3, knowsAll);
-    f.form->findChild<QAbstractButton *>(family.navigationKey)->click();
-    f.form->resize(f.form->minimumSizeHint());
-    QApplication::processEvents();
-
-    QVERIFY2(f.form->width() <= 1600, "the form does not fit on a screen");
-    const auto combos = f.form->findChildren<orda_base::ComboBox *>();
-    for (orda_base::ComboBox *combo : combos) {
-        for (int item = 0; item < combo->count() && combo->isVisible(); ++item) {
-            combo->setCurrentIndex(item);
-            QHelpEvent help(QEvent::ToolTip, {}, {});
-            QCoreApplication::sendEvent(combo, &help);
-            QStyleOptionComboBox option;
-            option.initFrom(combo);
-            const int room = combo->style()
-                                 ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
-                                 .width();
-            const int needed = combo->fontMetrics().horizontalAdvance(combo->currentText());
-            QVERIFY2(needed <= room || combo->toolTip() == combo->currentText(), qPrintable(combo->currentText()));
-        }
-    }
-    // A choice may have shown more editors; what the window has no room for is scrolled.
-    auto *area = f.form->findChild<QWidget *>(family.pageName)->findChild<QScrollArea *>();
-    QTRY_VERIFY(area->widget()->width() >= area->widget()->minimumSizeHint().width());
-
-    int looked = 0;
-    const auto widgets = f.form->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const auto *label = qobject_cast<const QLabel *>(widget);
-        const auto *button = qobject_cast<const QAbstractButton *>(widget);
-        const QString text = label ? label->text() : button ? button->text() : QString();
-        if (text.isEmpty() || !widget->isVisible())
-            continue;
-        ++looked;
-        if (const auto *entry = qobject_cast<const orda_base::NavigationButton *>(widget)) {
-            QVERIFY2(entry->isTextWhole(), qPrintable(text));
-            continue;
-        }
-        QVERIFY2(widget->width() >= widget->sizeHint().width() && widget->height() >= widget->sizeHint().height(),
-                 qPrintable(QStringLiteral("%1 \"%2\"").arg(widget->objectName(), text)));
-        if (area->isAncestorOf(widget))
-            area->ensureWidgetVisible(widget, 0, 0);
-        QVERIFY2(widget->visibleRegion().boundingRect().width() >= widget->sizeHint().width(), qPrintable(text));
-    }
-    QVERIFY(looked > 10);
-}
 
 ORDA_TEST_MAIN(LanguageTest)
 

@@ -74,65 +74,60 @@ class MatrixTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
-
-    void everyFaultAtEveryRequest_data();
-    void everyFaultAtEveryRequest();
-};
-
-void MatrixTest::everyFaultAtEveryRequest_data()
-{
-    QTest::addColumn<FamilyRow>("family");
-    for (const FamilyRow &family : familyTable())
-        if (!family.navigationKey.isEmpty())
-            QTest::newRow(qPrintable(family.name)) << family;
-}
-
-void MatrixTest::everyFaultAtEveryRequest()
-{
-    allowWarnings(QStringLiteral("message over 1024 KiB")); // the fault of the huge answer
-    QFETCH(FamilyRow, family);
-    FleetOptions options;
-    options.devices = 120;
-    EmbeddedFleet fleet(options);
-    QCOMPARE(fleet.start(), QString());
-    const SiteClient client(fleet.inventory(), 3s);
-    const int cells = faults().size() * family.methods.size();
-    QTRY_VERIFY(client.table()->rowCount() >= cells);
-
-    struct Cell
+    void everyFaultAtEveryRequest_data()
     {
-        QString name, message;
-    };
-    QMap<QString, Cell> expected; // by serial number
-    const QList<NamedFault> all = faults();
-    for (const NamedFault &fault : all) {
-        for (int step = 0; step < family.methods.size(); ++step) {
-            const int row = expected.size();
-            client.table()->item(row, 0)->setCheckState(Qt::Checked);
-            fleet.setFault(client.idInRow(row), family.methods.at(step), fault.rule);
-            expected.insert(
-                client.table()->item(row, 2)->text(),
-                {fault.name + QStringLiteral(" at ") + family.methods.at(step), outcome(family, step, fault.rule)});
-        }
+        QTest::addColumn<FamilyRow>("family");
+        for (const FamilyRow &family : familyTable())
+            if (!family.navigationKey.isEmpty())
+                QTest::newRow(qPrintable(family.name)) << family;
     }
-    QCOMPARE(expected.size(), cells);
-    const QString summary = client.configure(family);
 
-    const QMap<QString, QString> recorded = recordedMessages(family);
-    int successes = 0;
-    for (auto it = expected.begin(); it != expected.end(); ++it) {
-        successes += it->message == QLatin1String("success") ? 1 : 0;
-        QVERIFY2(recorded.value(it.key()) == it->message,
-                 qPrintable(it->name + QStringLiteral(": \"") + recorded.value(it.key()) + QStringLiteral("\", not \"")
-                            + it->message));
+    void everyFaultAtEveryRequest()
+    {
+        allowWarnings(QStringLiteral("message over 1024 KiB")); // the fault of the huge answer
+        QFETCH(FamilyRow, family);
+        FleetOptions options;
+        options.devices = 120;
+        EmbeddedFleet fleet(options);
+        QCOMPARE(fleet.start(), QString());
+        const SiteClient client(fleet.inventory(), 3s);
+        const int cells = faults().size() * family.methods.size();
+        QTRY_VERIFY(client.table()->rowCount() >= cells);
+
+        struct Cell
+        {
+            QString name, message;
+        };
+        QMap<QString, Cell> expected; // by serial number
+        const QList<NamedFault> all = faults();
+        for (const NamedFault &fault : all) {
+            for (int step = 0; step < family.methods.size(); ++step) {
+                const int row = expected.size();
+                client.table()->item(row, 0)->setCheckState(Qt::Checked);
+                fleet.setFault(client.idInRow(row), family.methods.at(step), fault.rule);
+                expected.insert(
+                    client.table()->item(row, 2)->text(),
+                    {fault.name + QStringLiteral(" at ") + family.methods.at(step), outcome(family, step, fault.rule)});
+            }
+        }
+        QCOMPARE(expected.size(), cells);
+        const QString summary = client.configure(family);
+
+        const QMap<QString, QString> recorded = recordedMessages(family);
+        int successes = 0;
+        for (auto it = expected.begin(); it != expected.end(); ++it) {
+            successes += it->message == QLatin1String("success") ? 1 : 0;
+            QVERIFY2(recorded.value(it.key()) == it->message,
+                     qPrintable(it->name + QStringLiteral(": \"") + recorded.value(it.key())
+                                + QStringLiteral("\", not \"") + it->message));
+        }
+        QCOMPARE(recorded.size(), cells);
+        QCOMPARE(summary, QStringLiteral("A total of %1 devices have been configured, success:%2, failure:%3")
+                              .arg(cells)
+                              .arg(successes)
+                              .arg(cells - successes));
     }
-    QCOMPARE(recorded.size(), cells);
-    QCOMPARE(summary, QStringLiteral("A total of %1 devices have been configured, success:%2, failure:%3")
-                          .arg(cells)
-                          .arg(successes)
-                          .arg(cells - successes));
-}
+};
 
 ORDA_TEST_MAIN(MatrixTest)
 #include "matrix_test.moc"

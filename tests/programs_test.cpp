@@ -44,11 +44,7 @@ class ProgramsTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QApplication::setQuitOnLastWindowClosed(false);
-        QVERIFY(m_dir.isValid());
-    }
+    void initTestCase() { QVERIFY(m_dir.isValid()); }
 
     void clientTellsByItsExitCode_data();
     void clientTellsByItsExitCode();

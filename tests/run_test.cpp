@@ -34,11 +34,6 @@ QStringList healthy(const Request &request)
     return {answer(request.method(), {{QStringLiteral("bEnable"), true}, {QStringLiteral("aoGain"), 3}})};
 }
 
-QStringList silent(const Request &)
-{
-    return {};
-}
-
 QString recordPath()
 {
     return QDir::tempPath() + QStringLiteral("/vms_audio_params_batch_cfg_record.txt");
@@ -76,26 +71,310 @@ class RunTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void init()
+    {
+        OrdaTest::init();
+        QFile::remove(recordPath());
+        m_openedUrls.clear();
+        const auto *assistant = &AssistantSignals::instance();
+        m_summaries = std::make_unique<QSignalSpy>(assistant, &AssistantSignals::signalEventConfirmRaised);
+        m_alerts = std::make_unique<QSignalSpy>(assistant, &AssistantSignals::signalMessageAlerted);
+    }
 
-    void asksForParametersAndDevices();
-    void selectionDrivesPanelsAndRequests_data();
-    void selectionDrivesPanelsAndRequests();
-    void configuresTheTickedDevicesAndReports();
-    void detailOpensTheRecordOfTheLatestRunOnly();
-    void countsEveryDeviceOnceWhateverItSends();
-    void deadDevicesEndTogether();
-    void everyResultRenewsTheOthers();
-    void secondPressStartsNothingAndSaysSo();
-    void formMayGoAtAnyMomentOfARun_data();
-    void formMayGoAtAnyMomentOfARun();
-    void quittingEndsARunQuietly();
-    void resultsAreOnTheDiskAtOnce();
-    void lostRecordIsSaidByThePage_data();
-    void lostRecordIsSaidByThePage();
-    void deviceThatLeavesTheStoreIsStillReported();
+    void asksForParametersAndDevices()
+    {
+        const FormFixture f(1, healthy);
+        f.configureAudio();
+        QCOMPARE(m_alerts->count(), 1);
+        QCOMPARE(m_alerts->at(0).at(1).toString(), QStringLiteral("Please select the devices to be configured"));
+
+        f.tickAll();
+        QWidget *page = f.page("audioParametersPage");
+        page->findChild<QCheckBox *>(QStringLiteral("allParams"))->click();
+        auto *okBt = page->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+        QVERIFY(!okBt->isEnabled());
+        okBt->setEnabled(true); // a press that was under way when the last parameter went
+        f.configureAudio();
+        QCOMPARE(m_alerts->count(), 2);
+        QCOMPARE(m_alerts->at(1).at(1).toString(), QStringLiteral("Please select the parameters to be configured"));
+
+        QVERIFY(f.transport->requests.isEmpty());
+        QVERIFY(!QFile::exists(recordPath()));
+        QCOMPARE(m_summaries->count(), 0);
+    }
+
+    void configuresTheTickedDevicesAndReports()
+    {
+        const FormFixture f(3, healthy);
+        f.tickAll();
+        f.table()->item(1, 0)->setCheckState(Qt::Unchecked);
+        QWidget *page = f.page("audioParametersPage");
+        auto *report = page->findChild<QAbstractButton *>(QStringLiteral("reportBt"));
+        QVERIFY(!report->isVisibleTo(page));
+        QStringList progress;
+        onceInRun(
+            f.form, [&] { return f.form->findChild<orda_base::DisabledWaitingWt *>(); },
+            [&] { progress.append(f.form->findChild<orda_base::DisabledWaitingWt *>()->description()); });
+
+        f.configureAudio();
+
+        QCOMPARE(progress, QStringList{QStringLiteral("Configuring...")});
+        QCOMPARE(m_summaries->count(), 1);
+        QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
+        QCOMPARE(summary().buttons, (QStringList{QStringLiteral("Detail"), QStringLiteral("Cancel")}));
+        QVERIFY(report->isVisibleTo(page));
+        QVERIFY(f.form->findChild<orda_base::DisabledWaitingWt *>() == nullptr
+                || !f.form->findChild<orda_base::DisabledWaitingWt *>()->isVisible());
+
+        QSet<QString> devices;
+        for (const Request &request : qAsConst(f.transport->requests))
+            devices.insert(request.devId);
+        QCOMPARE(devices, (QSet<QString>{QStringLiteral("dev0"), QStringLiteral("dev2")}));
+
+        const QStringList entries = recordEntries();
+        QCOMPARE(entries.size(), 2);
+        const QRegularExpression format(QStringLiteral(
+            "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d {4}SN0 {4}10\\.0\\.0\\.1 {8} {4}success {16}Cam 0$"));
+        QVERIFY2(format.match(entries.at(0)).hasMatch(), qPrintable(entries.at(0)));
+    }
+
+    void detailOpensTheRecordOfTheLatestRunOnly()
+    {
+        QDesktopServices::setUrlHandler(QString(), this, "slotUrlOpened");
+        const FormFixture f(1, healthy);
+        f.tickAll();
+        emit AssistantSignals::instance().signalEventConfirmOperBtClicked(QString(), 0); // a dialog of the client's own
+        f.configureAudio();
+        f.configureAudio();
+        QCOMPARE(m_summaries->count(), 2);
+        const auto uuid = [this](int i) {
+            return m_summaries->at(i).at(0).value<orda_worker::EventConfirmInfo>().uuid;
+        };
+        auto &assistant = AssistantSignals::instance();
+        emit assistant.signalEventConfirmOperBtClicked(uuid(0), 0); // replaced by the second run
+        emit assistant.signalEventConfirmOperBtClicked(uuid(1), 1);
+        QVERIFY(m_openedUrls.isEmpty());
+        emit assistant.signalEventConfirmOperBtClicked(uuid(1), 0);
+        QCOMPARE(m_openedUrls, QList<QUrl>{QUrl(recordPath())});
+        QCOMPARE(recordEntries().size(), 1); // the last run's only
+        QDesktopServices::unsetUrlHandler(QString());
+    }
+
+    void everyResultIsWrittenAndRenewsTheOthers()
+    {
+        // dev0 is refused late in the waiting time of dev1, which then has a whole one again.
+        const FormFixture f(2, silent, 500ms);
+        f.tickAll();
+        QTimer::singleShot(400ms, f.form, [&f] {
+            emit f.transport->answered(f.transport->requests.at(0).requestId, QStringLiteral("no json"));
+        });
+        struct flock lock = {};
+        onceInRun(
+            f.form, [] { return !recordEntries().isEmpty(); },
+            [&lock] { // of a client without locks; reading the record in this process has not given ours up
+                QFile file(recordPath());
+                QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Append));
+                file.write("from elsewhere\n\n");
+                lock.l_type = F_WRLCK;
+                QCOMPARE(::fcntl(file.handle(), F_GETLK, &lock), 0);
+            });
+        QElapsedTimer clock;
+        clock.start();
+        f.configureAudio();
+        QVERIFY2(clock.elapsed() >= 850, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY(lock.l_type != F_UNLCK);
+        const QStringList entries = recordEntries(); // as they arrived
+        QCOMPARE(entries.size(), 3);
+        QVERIFY(entries.at(0).contains(QLatin1String("Failed to parse json data")));
+        QCOMPARE(entries.at(1), QStringLiteral("from elsewhere"));
+        struct stat info = {};
+        QCOMPARE(::stat(QFile::encodeName(recordPath()).constData(), &info), 0);
+        QCOMPARE(int(info.st_mode & 0777), 0600);
+    }
+
+    void secondPressStartsNothingAndSaysSo()
+    {
+        const FormFixture f(5, healthy);
+        f.tickAll();
+        auto *okBt = f.page("audioParametersPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+        auto *otherBt = f.page("osdParamsCfgPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
+        onceInRun(
+            f.form, [&] { return !f.transport->requests.isEmpty(); },
+            [okBt, otherBt] {
+                okBt->click();
+                QTest::mouseClick(okBt, Qt::LeftButton);
+                QTest::keyClick(okBt, Qt::Key_Space);
+                QAccessible::queryAccessibleInterface(okBt)->actionInterface()->doAction(
+                    QAccessibleActionInterface::pressAction());
+                otherBt->click(); // and of another page
+            });
+        f.configureAudio();
+        QCOMPARE(m_summaries->count(), 1);
+        QCOMPARE(m_alerts->count(), 2); // the presses that the overlay cannot hold back
+        QCOMPARE(m_alerts->at(1).at(1).toString(),
+                 QStringLiteral("A configuration is under way. Please wait until it has ended."));
+        QCOMPARE(f.transport->requests.size(), 5 * 4);
+        f.configureAudio(); // and the next run is free to start
+        QCOMPARE(m_summaries->count(), 2);
+    }
+
+    void formMayGoAtAnyMomentOfARun_data()
+    {
+        QTest::addColumn<QString>("what"); // class of the widget that is deleted; none: the form is closed
+        QTest::addColumn<int>("requests"); // that have been sent by then
+        for (const char *what :
+             {"orda_batchCfg::BatchCfgForm", "QStackedWidget", "orda_batchCfg::AudioParamsCfgPage", ""}) {
+            // All reads out, in the first and the last pause before a write, waiting for the last answer.
+            for (const int requests : {3, 4, 11, 12})
+                QTest::addRow("%s, %d", what, requests) << QString::fromLatin1(what) << requests;
+        }
+    }
+
+    void formMayGoAtAnyMomentOfARun()
+    {
+        QFETCH(QString, what);
+        QFETCH(int, requests);
+        const FormFixture f(3, healthy);
+        f.tickAll();
+        const bool isFormDeleted = what.endsWith(QLatin1String("Form"));
+        QWidget *page = f.page("audioParametersPage");
+        QObject context;
+        auto connection = std::make_shared<QMetaObject::Connection>();
+        // From the event loop, right after the request that was waited for.
+        *connection = connect(f.transport, &ScriptedTransport::sent, &context, [&, connection](int count) {
+            if (count != requests)
+                return;
+            QTimer::singleShot(0, &context, [&] {
+                for (QWidget *widget = page; widget; widget = widget->parentWidget())
+                    if (widget->inherits(what.toLatin1().constData())) {
+                        delete widget;
+                        return;
+                    }
+                f.form->close();
+            });
+        });
+        f.configureAudio();
+        QCOMPARE(m_summaries->count(), what.isEmpty() ? 1 : 0);
+        QCOMPARE(f.form.isNull(), isFormDeleted);
+        QCOMPARE(orda_batchCfg::BatchCfgContact::instance().form() == nullptr, isFormDeleted);
+        QCOMPARE(orda_batchCfg::BatchCfgContact::instance().checkedDevIds().isEmpty(), isFormDeleted);
+        if (!isFormDeleted)
+            QTRY_VERIFY(!f.form->findChild<orda_base::DisabledWaitingWt *>());
+        const int before = m_summaries->count();
+        const FormFixture next(1, healthy);
+        next.tickAll();
+        next.configureAudio();
+        QCOMPARE(m_summaries->count(), before + 1);
+    }
+
+    void quittingEndsARunQuietly()
+    {
+        const FormFixture f(4, [](const Request &request) {
+            return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request);
+        });
+        f.tickAll();
+        onceInRun(
+            f.form, [] { return recordEntries().size() == 1; }, [] { QCoreApplication::quit(); });
+        bool isBack = false;
+        QTimer::singleShot(0, f.form, [&] {
+            f.configureAudio();
+            isBack = true;
+        });
+        QApplication::exec();
+        QVERIFY(isBack);
+        QCOMPARE(m_summaries->count(), 0);
+        QVERIFY(f.page("audioParametersPage")->findChildren<orda_batchCfg::ParamsCfgTask *>().isEmpty());
+        QTRY_VERIFY(!f.form->findChild<orda_base::DisabledWaitingWt *>());
+        QCOMPARE(recordEntries().size(), 1);
+    }
+
+    void lostRecordIsSaidByThePage_data()
+    {
+        QTest::addColumn<QByteArray>("tmpdir"); // empty: the usual one
+        QTest::addColumn<QString>("said");
+        QTest::newRow("link") << QByteArray() << "cannot open the record file .*: it is a symbolic link";
+        QTest::newRow("no directory") << QByteArray("/no/such/directory")
+                                      << R"(cannot open .*"/no/such/directory" is missing)";
+        QTest::newRow("relative directory") << QByteArray(".") << R"(cannot open .*"\." is not an absolute path)";
+        QTest::newRow("no room for the second entry")
+            << QByteArray() << "cannot write the record file .*: File too large";
+        QTest::newRow("removed in mid-run")
+            << QByteArray() << "the record file .* was removed or replaced during the run";
+    }
+
+    void lostRecordIsSaidByThePage()
+    {
+        QFETCH(QByteArray, tmpdir);
+        QFETCH(QString, said);
+        const QString what = QString::fromLatin1(QTest::currentDataTag());
+        const QByteArray usual = qgetenv("TMPDIR");
+        const QString target = QDir::tempPath() + QStringLiteral("/precious.txt");
+        QFile file(target);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("keep me") > 0);
+        file.close();
+        if (what == QLatin1String("link"))
+            QVERIFY(QFile::link(target, recordPath()));
+        const QString name = QFileInfo(recordPath()).fileName();
+        const QTemporaryDir here;
+        QVERIFY(QDir::setCurrent(here.path()));
+        if (!tmpdir.isEmpty())
+            qputenv("TMPDIR", tmpdir);
+        expectWarning(said);
+
+        const FormFixture f(2, healthy);
+        f.tickAll();
+        struct rlimit limit = {};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const struct rlimit oneEntry = {100, limit.rlim_max};
+        if (what.startsWith(QLatin1String("no room")))
+            ::setrlimit(RLIMIT_FSIZE, &oneEntry);
+        if (what.startsWith(QLatin1String("removed")))
+            onceInRun(
+                f.form, [] { return QFile::exists(recordPath()); }, [] { QFile::remove(recordPath()); });
+        f.configureAudio();
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        qputenv("TMPDIR", usual);
+        QDir::setCurrent(QDir::tempPath());
+
+        QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
+        const QWidget *page = f.page("audioParametersPage");
+        QVERIFY(page->property("recordError").toString().contains(QRegularExpression(said)));
+        const int kept = what.startsWith(QLatin1String("no room")) ? 1 : 0; // and no part of the second
+        QCOMPARE(page->property("recordEntryEnds").value<QVector<int>>().size(), kept);
+        if (what != QLatin1String("link"))
+            QCOMPARE(recordEntries().size(), kept);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("keep me"));
+        QVERIFY(!QFile::exists(QLatin1Char('/') + name) && !QFile::exists(here.filePath(name)));
+        QFile::remove(recordPath());
+        if (tmpdir.isEmpty()) {
+            f.configureAudio(); // the next run has its record
+            QCOMPARE(page->property("recordError").toString(), QString());
+            QCOMPARE(recordEntries().size(), 2);
+        }
+    }
+
+    void deviceThatLeavesTheStoreIsStillReported()
+    {
+        const FormFixture f(2, silent, 200ms);
+        auto dev = FormFixture::device(0);
+        dev.name = QStringLiteral("%1 %5");
+        dev.ip = QStringLiteral("an address of more than 16 characters");
+        orda_data::DevsMgrData::instance().updateDevs({dev});
+        f.tickAll();
+        onceInRun(
+            f.form, [&] { return !f.transport->requests.isEmpty(); },
+            [] { orda_data::DevsMgrData::instance().deleteDevs({QStringLiteral("dev1")}); });
+        f.configureAudio();
+        QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:0, failure:2"));
+        const QStringList entries = recordEntries();
+        const QString timeout = QStringLiteral("    set audio parameters time out                ");
+        QVERIFY2(entries.at(0).endsWith(QStringLiteral("    SN0    ") + dev.ip + timeout + dev.name),
+                 qPrintable(entries.at(0)));
+        QVERIFY2(entries.at(1).endsWith(QStringLiteral("        ") + QString(16, QLatin1Char(' ')) + timeout),
+                 qPrintable(entries.at(1)));
+    }
 
     void slotUrlOpened(const QUrl &url) { m_openedUrls.append(url); }
 
@@ -108,449 +387,6 @@ private:
         return m_summaries->value(0).value(0).value<orda_worker::EventConfirmInfo>();
     }
 };
-
-void RunTest::initTestCase()
-{
-    QApplication::setQuitOnLastWindowClosed(false);
-}
-
-void RunTest::init()
-{
-    OrdaTest::init();
-    QFile::remove(recordPath());
-    m_openedUrls.clear();
-    const auto *assistant = &AssistantSignals::instance();
-    m_summaries = std::make_unique<QSignalSpy>(assistant, &AssistantSignals::signalEventConfirmRaised);
-    m_alerts = std::make_unique<QSignalSpy>(assistant, &AssistantSignals::signalMessageAlerted);
-}
-
-void RunTest::cleanup()
-{
-    OrdaTest::cleanup();
-}
-
-void RunTest::asksForParametersAndDevices()
-{
-    const FormFixture f(1, healthy);
-    f.configureAudio();
-    QCOMPARE(m_alerts->count(), 1);
-    QCOMPARE(m_alerts->at(0).at(1).toString(), QStringLiteral("Please select the devices to be configured"));
-
-    f.tickAll();
-    QWidget *page = f.page("audioParametersPage");
-    page->findChild<QCheckBox *>(QStringLiteral("allParams"))->click();
-    auto *okBt = page->findChild<QAbstractButton *>(QStringLiteral("okBt"));
-    QVERIFY(!okBt->isEnabled());
-    okBt->setEnabled(true); // a press that was under way when the last parameter went
-    f.configureAudio();
-    QCOMPARE(m_alerts->count(), 2);
-    QCOMPARE(m_alerts->at(1).at(1).toString(), QStringLiteral("Please select the parameters to be configured"));
-
-    QVERIFY(f.transport->requests.isEmpty());
-    QVERIFY(!QFile::exists(recordPath()));
-    QCOMPARE(m_summaries->count(), 0);
-}
-
-void RunTest::selectionDrivesPanelsAndRequests_data()
-{
-    QTest::addColumn<QStringList>("clicked"); // from the initial "all ticked"
-    QTest::addColumn<Qt::CheckState>("all");
-    QTest::addColumn<QStringList>("panels");
-    QTest::addColumn<QStringList>("methods");
-
-    const QString ai = QStringLiteral("ai_get_param,ai_set_param");
-    const QString ao = QStringLiteral("ao_get_param,ao_set_param");
-    const auto list = [](const QString &text) { return text.split(QLatin1Char(','), Qt::SkipEmptyParts); };
-    const auto row = [&](const char *name, const char *clicked, Qt::CheckState all, const char *panels,
-                         const QString &methods) {
-        QTest::newRow(name) << list(QString::fromLatin1(clicked)) << all << list(QString::fromLatin1(panels))
-                            << list(methods);
-    };
-    const char *everything =
-        "audioEnablePanel,encodingFormatPanel,audioInVolumePanel,alarmOutVolumePanel,samplingRatePanel,"
-        "bitWidePanel";
-    row("everything", "", Qt::Checked, everything, ai + QLatin1Char(',') + ao);
-    row("output only", "allParams,alarmOutVolume", Qt::PartiallyChecked, "alarmOutVolumePanel", ao);
-    row("input only", "alarmOutVolume", Qt::PartiallyChecked,
-        "audioEnablePanel,encodingFormatPanel,audioInVolumePanel,samplingRatePanel,bitWidePanel", ai);
-    row("sampling rate alone", "allParams,samplingRate", Qt::PartiallyChecked, "samplingRatePanel,bitWidePanel", ai);
-    row("partial goes to all", "alarmOutVolume,allParams", Qt::Checked, everything, ai + QLatin1Char(',') + ao);
-    row("last box back", "audioEnable,audioEnable", Qt::Checked, everything, ai + QLatin1Char(',') + ao);
-    row("nothing", "allParams", Qt::Unchecked, "", QString());
-}
-
-void RunTest::selectionDrivesPanelsAndRequests()
-{
-    QFETCH(QStringList, clicked);
-    QFETCH(Qt::CheckState, all);
-    QFETCH(QStringList, panels);
-    QFETCH(QStringList, methods);
-
-    const FormFixture f(1, healthy);
-    QWidget *page = f.page("audioParametersPage");
-    for (const QString &box : qAsConst(clicked))
-        page->findChild<QCheckBox *>(box)->click();
-    QCOMPARE(page->findChild<QCheckBox *>(QStringLiteral("allParams"))->checkState(), all);
-    QStringList shown;
-    const auto widgets = page->findChildren<QWidget *>(QRegularExpression(QStringLiteral("Panel$")));
-    for (const QWidget *widget : widgets)
-        if (widget->isVisibleTo(page))
-            shown.append(widget->objectName());
-    QCOMPARE(shown, panels);
-    f.tickAll();
-    f.configureAudio();
-    QCOMPARE(f.transport->methods(), methods);
-}
-
-void RunTest::configuresTheTickedDevicesAndReports()
-{
-    const FormFixture f(3, healthy);
-    f.tickAll();
-    f.table()->item(1, 0)->setCheckState(Qt::Unchecked);
-    QWidget *page = f.page("audioParametersPage");
-    auto *report = page->findChild<QAbstractButton *>(QStringLiteral("reportBt"));
-    page->findChild<QAbstractButton *>(QStringLiteral("audioSwitch"))->click();
-    QVERIFY(!report->isVisibleTo(page));
-    QStringList progress;
-    onceInRun(
-        f.form, [&] { return f.form->findChild<orda_base::DisabledWaitingWt *>(); },
-        [&] { progress.append(f.form->findChild<orda_base::DisabledWaitingWt *>()->description()); });
-
-    f.configureAudio();
-
-    QCOMPARE(progress, QStringList{QStringLiteral("Configuring...")});
-    QCOMPARE(m_summaries->count(), 1);
-    QCOMPARE(summary().title, QStringLiteral("Audio Parameters Configuration Result"));
-    QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
-    QCOMPARE(summary().buttons, (QStringList{QStringLiteral("Detail"), QStringLiteral("Cancel")}));
-    QVERIFY(report->isVisibleTo(page));
-    QVERIFY(f.form->findChild<orda_base::DisabledWaitingWt *>() == nullptr
-            || !f.form->findChild<orda_base::DisabledWaitingWt *>()->isVisible());
-
-    QSet<QString> devices;
-    for (const Request &request : qAsConst(f.transport->requests)) {
-        devices.insert(request.devId);
-        if (request.method() == QLatin1String("ai_set_param")) {
-            QCOMPARE(
-                request.json().value(QLatin1String("param")).toObject(),
-                QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"bEnable": true, "aoGain": 50}})").object());
-        }
-    }
-    QCOMPARE(devices, (QSet<QString>{QStringLiteral("dev0"), QStringLiteral("dev2")}));
-
-    const QStringList entries = recordEntries();
-    QCOMPARE(entries.size(), 2);
-    const QRegularExpression format(QStringLiteral(
-        "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d {4}SN0 {4}10\\.0\\.0\\.1 {8} {4}success {16}Cam 0$"));
-    QVERIFY2(format.match(entries.at(0)).hasMatch(), qPrintable(entries.at(0)));
-}
-
-void RunTest::detailOpensTheRecordOfTheLatestRunOnly()
-{
-    QDesktopServices::setUrlHandler(QString(), this, "slotUrlOpened");
-    const FormFixture f(1, healthy);
-    f.tickAll();
-    emit AssistantSignals::instance().signalEventConfirmOperBtClicked(QString(), 0); // a dialog of the client's own
-    f.configureAudio();
-    f.configureAudio();
-    QCOMPARE(m_summaries->count(), 2);
-    const auto uuid = [this](int i) { return m_summaries->at(i).at(0).value<orda_worker::EventConfirmInfo>().uuid; };
-    auto &assistant = AssistantSignals::instance();
-    emit assistant.signalEventConfirmOperBtClicked(uuid(0), 0); // replaced by the second run
-    emit assistant.signalEventConfirmOperBtClicked(uuid(1), 1);
-    QVERIFY(m_openedUrls.isEmpty());
-    emit assistant.signalEventConfirmOperBtClicked(uuid(1), 0);
-    QCOMPARE(m_openedUrls, QList<QUrl>{QUrl(recordPath())});
-    QCOMPARE(recordEntries().size(), 1); // the last run's only
-    QDesktopServices::unsetUrlHandler(QString());
-}
-
-void RunTest::countsEveryDeviceOnceWhateverItSends()
-{
-    const FormFixture f(
-        6,
-        [](const Request &request) -> QStringList {
-            switch (request.devId.midRef(3).toInt()) {
-            case 0:
-                return healthy(request);
-            case 1:
-                return healthy(request) + healthy(request);
-            case 2:
-                return {QStringLiteral("no json")};
-            case 3:
-                return {QStringLiteral("{}")};
-            case 4:
-                return {answer(request.method(), {}, 7), answer(request.method()), QStringLiteral("no json")};
-            default:
-                return {};
-            }
-        },
-        200ms);
-    f.tickAll();
-    f.configureAudio();
-    QTest::qWait(300); // the late ones come after the summary
-
-    QCOMPARE(m_summaries->count(), 1);
-    QCOMPARE(summary().text, QStringLiteral("A total of 6 devices have been configured, success:2, failure:4"));
-    QStringList outcomes;
-    const QStringList entries = recordEntries();
-    for (const QString &entry : entries) {
-        const QStringList fields = entry.split(QRegularExpression(QStringLiteral(" {4,}")));
-        outcomes.append(fields.at(1) + QLatin1Char(' ') + fields.at(3));
-    }
-    // In the order in which they arrived.
-    QCOMPARE(outcomes.mid(0, 2), (QStringList{QStringLiteral("SN2 Failed to parse json data"),
-                                              QStringLiteral("SN4 Failed to get audio in parameters(7)")}));
-    outcomes.sort();
-    QCOMPARE(outcomes, (QStringList{QStringLiteral("SN0 success"), QStringLiteral("SN1 success"),
-                                    QStringLiteral("SN2 Failed to parse json data"),
-                                    QStringLiteral("SN3 set audio parameters time out"),
-                                    QStringLiteral("SN4 Failed to get audio in parameters(7)"),
-                                    QStringLiteral("SN5 set audio parameters time out")}));
-}
-
-void RunTest::deadDevicesEndTogether()
-{
-    const FormFixture f(100, silent, 2s);
-    f.tickAll();
-    QElapsedTimer clock;
-    clock.start();
-    f.configureAudio();
-    QVERIFY2(clock.elapsed() < 4000, qPrintable(QString::number(clock.elapsed())));
-    QCOMPARE(summary().text, QStringLiteral("A total of 100 devices have been configured, success:0, failure:100"));
-    QCOMPARE(recordEntries().size(), 100);
-}
-
-void RunTest::everyResultRenewsTheOthers()
-{
-    // dev0 is refused late in the waiting time of dev1, which then has a whole one again.
-    const FormFixture f(2, silent, 500ms);
-    f.tickAll();
-    QTimer::singleShot(400ms, f.form, [&f] {
-        emit f.transport->answered(f.transport->requests.at(0).requestId, QStringLiteral("no json"));
-    });
-    QElapsedTimer clock;
-    clock.start();
-    f.configureAudio();
-    QVERIFY2(clock.elapsed() >= 850, qPrintable(QString::number(clock.elapsed())));
-    QCOMPARE(recordEntries().size(), 2);
-}
-
-void RunTest::secondPressStartsNothingAndSaysSo()
-{
-    const FormFixture f(5, healthy);
-    f.tickAll();
-    auto *okBt = f.page("audioParametersPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
-    auto *otherBt = f.page("osdParamsCfgPage")->findChild<QAbstractButton *>(QStringLiteral("okBt"));
-    onceInRun(
-        f.form, [&] { return !f.transport->requests.isEmpty(); },
-        [okBt, otherBt] {
-            okBt->click();
-            QTest::mouseClick(okBt, Qt::LeftButton);
-            QTest::keyClick(okBt, Qt::Key_Space);
-            QAccessible::queryAccessibleInterface(okBt)->actionInterface()->doAction(
-                QAccessibleActionInterface::pressAction());
-            otherBt->click(); // and of another page
-        });
-    f.configureAudio();
-    QCOMPARE(m_summaries->count(), 1);
-    QCOMPARE(m_alerts->count(), 2); // the presses that the overlay cannot hold back
-    QCOMPARE(m_alerts->at(1).at(1).toString(),
-             QStringLiteral("A configuration is under way. Please wait until it has ended."));
-    QCOMPARE(f.transport->requests.size(), 5 * 4);
-    f.configureAudio(); // and the next run is free to start
-    QCOMPARE(m_summaries->count(), 2);
-}
-
-void RunTest::formMayGoAtAnyMomentOfARun_data()
-{
-    QTest::addColumn<QString>("what"); // class of the widget that is deleted; none: the form is closed
-    QTest::addColumn<int>("requests"); // that have been sent by then
-    for (const char *what :
-         {"orda_batchCfg::BatchCfgForm", "QStackedWidget", "orda_batchCfg::AudioParamsCfgPage", ""}) {
-        // All reads out, in the first and the last pause before a write, waiting for the last answer.
-        for (const int requests : {3, 4, 11, 12})
-            QTest::addRow("%s, %d", what, requests) << QString::fromLatin1(what) << requests;
-    }
-}
-
-void RunTest::formMayGoAtAnyMomentOfARun()
-{
-    QFETCH(QString, what);
-    QFETCH(int, requests);
-    const FormFixture f(3, healthy);
-    f.tickAll();
-    const bool isFormDeleted = what.endsWith(QLatin1String("Form"));
-    QWidget *page = f.page("audioParametersPage");
-    QObject context;
-    auto connection = std::make_shared<QMetaObject::Connection>();
-    // From the event loop, right after the request that was waited for.
-    *connection = connect(f.transport, &ScriptedTransport::sent, &context, [&, connection](int count) {
-        if (count != requests)
-            return;
-        QTimer::singleShot(0, &context, [&] {
-            for (QWidget *widget = page; widget; widget = widget->parentWidget())
-                if (widget->inherits(what.toLatin1().constData())) {
-                    delete widget;
-                    return;
-                }
-            f.form->close();
-        });
-    });
-    f.configureAudio();
-    QCOMPARE(m_summaries->count(), what.isEmpty() ? 1 : 0);
-    QCOMPARE(f.form.isNull(), isFormDeleted);
-    QCOMPARE(orda_batchCfg::BatchCfgContact::instance().form() == nullptr, isFormDeleted);
-    QCOMPARE(orda_batchCfg::BatchCfgContact::instance().checkedDevIds().isEmpty(), isFormDeleted);
-    if (!isFormDeleted)
-        QTRY_VERIFY(!f.form->findChild<orda_base::DisabledWaitingWt *>());
-    const int before = m_summaries->count();
-    const FormFixture next(1, healthy);
-    next.tickAll();
-    next.configureAudio();
-    QCOMPARE(m_summaries->count(), before + 1);
-}
-
-void RunTest::quittingEndsARunQuietly()
-{
-    const FormFixture f(4, [](const Request &request) {
-        return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request);
-    });
-    f.tickAll();
-    onceInRun(
-        f.form, [] { return recordEntries().size() == 1; }, [] { QCoreApplication::quit(); });
-    bool isBack = false;
-    QTimer::singleShot(0, f.form, [&] {
-        f.configureAudio();
-        isBack = true;
-    });
-    QApplication::exec();
-    QVERIFY(isBack);
-    QCOMPARE(m_summaries->count(), 0);
-    QVERIFY(f.page("audioParametersPage")->findChildren<orda_batchCfg::ParamsCfgTask *>().isEmpty());
-    QTRY_VERIFY(!f.form->findChild<orda_base::DisabledWaitingWt *>());
-    QCOMPARE(recordEntries().size(), 1);
-}
-
-void RunTest::resultsAreOnTheDiskAtOnce()
-{
-    const FormFixture f(
-        2,
-        [](const Request &request) {
-            return request.devId == QLatin1String("dev0") ? healthy(request) : silent(request);
-        },
-        600ms);
-    f.tickAll();
-    QStringList inRun;
-    struct flock lock = {};
-    onceInRun(
-        f.form, [&] { return !recordEntries().isEmpty(); },
-        [&] {
-            inRun = recordEntries();
-            QCOMPARE(m_summaries->count(), 0);
-            // A client that knows of no locks; and reading the record in this process has not given the lock up.
-            QFile file(recordPath());
-            QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Append));
-            file.write("from elsewhere\n\n");
-            lock.l_type = F_WRLCK;
-            QCOMPARE(::fcntl(file.handle(), F_GETLK, &lock), 0);
-        });
-    f.configureAudio();
-    QCOMPARE(inRun.size(), 1);
-    QVERIFY(inRun.at(0).contains(QLatin1String("SN0")));
-    QVERIFY(lock.l_type != F_UNLCK);
-    QCOMPARE(recordEntries().size(), 3);
-    QCOMPARE(recordEntries().at(1), QStringLiteral("from elsewhere"));
-    struct stat info = {};
-    QCOMPARE(::stat(QFile::encodeName(recordPath()).constData(), &info), 0);
-    QCOMPARE(int(info.st_mode & 0777), 0600);
-}
-
-void RunTest::lostRecordIsSaidByThePage_data()
-{
-    QTest::addColumn<QByteArray>("tmpdir"); // empty: the usual one
-    QTest::addColumn<QString>("said");
-    QTest::newRow("link") << QByteArray() << "cannot open the record file .*: it is a symbolic link";
-    QTest::newRow("no directory") << QByteArray("/no/such/directory")
-                                  << R"(cannot open .*"/no/such/directory" is missing)";
-    QTest::newRow("relative directory") << QByteArray(".") << R"(cannot open .*"\." is not an absolute path)";
-    QTest::newRow("no room for the second entry") << QByteArray() << "cannot write the record file .*: File too large";
-    QTest::newRow("removed in mid-run") << QByteArray() << "the record file .* was removed or replaced during the run";
-}
-
-void RunTest::lostRecordIsSaidByThePage()
-{
-    QFETCH(QByteArray, tmpdir);
-    QFETCH(QString, said);
-    const QString what = QString::fromLatin1(QTest::currentDataTag());
-    const QByteArray usual = qgetenv("TMPDIR");
-    const QString target = QDir::tempPath() + QStringLiteral("/precious.txt");
-    QFile file(target);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("keep me") > 0);
-    file.close();
-    if (what == QLatin1String("link"))
-        QVERIFY(QFile::link(target, recordPath()));
-    const QString name = QFileInfo(recordPath()).fileName();
-    const QTemporaryDir here;
-    QVERIFY(QDir::setCurrent(here.path()));
-    if (!tmpdir.isEmpty())
-        qputenv("TMPDIR", tmpdir);
-    expectWarning(said);
-
-    const FormFixture f(2, healthy);
-    f.tickAll();
-    struct rlimit limit = {};
-    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const struct rlimit oneEntry = {100, limit.rlim_max};
-    if (what.startsWith(QLatin1String("no room")))
-        ::setrlimit(RLIMIT_FSIZE, &oneEntry);
-    if (what.startsWith(QLatin1String("removed")))
-        onceInRun(
-            f.form, [] { return QFile::exists(recordPath()); }, [] { QFile::remove(recordPath()); });
-    f.configureAudio();
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    qputenv("TMPDIR", usual);
-    QDir::setCurrent(QDir::tempPath());
-
-    QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:2, failure:0"));
-    const QWidget *page = f.page("audioParametersPage");
-    QVERIFY(page->property("recordError").toString().contains(QRegularExpression(said)));
-    const int kept = what.startsWith(QLatin1String("no room")) ? 1 : 0; // and no part of the second
-    QCOMPARE(page->property("recordEntryEnds").value<QVector<int>>().size(), kept);
-    if (what != QLatin1String("link"))
-        QCOMPARE(recordEntries().size(), kept);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("keep me"));
-    QVERIFY(!QFile::exists(QLatin1Char('/') + name) && !QFile::exists(here.filePath(name)));
-    QFile::remove(recordPath());
-    if (tmpdir.isEmpty()) {
-        f.configureAudio(); // the next run has its record
-        QCOMPARE(page->property("recordError").toString(), QString());
-        QCOMPARE(recordEntries().size(), 2);
-    }
-}
-
-void RunTest::deviceThatLeavesTheStoreIsStillReported()
-{
-    const FormFixture f(2, silent, 200ms);
-    auto dev = FormFixture::device(0);
-    dev.name = QStringLiteral("%1 %5");
-    dev.ip = QStringLiteral("an address of more than 16 characters");
-    orda_data::DevsMgrData::instance().updateDevs({dev});
-    f.tickAll();
-    onceInRun(
-        f.form, [&] { return !f.transport->requests.isEmpty(); },
-        [] { orda_data::DevsMgrData::instance().deleteDevs({QStringLiteral("dev1")}); });
-    f.configureAudio();
-    QCOMPARE(summary().text, QStringLiteral("A total of 2 devices have been configured, success:0, failure:2"));
-    const QStringList entries = recordEntries();
-    const QString timeout = QStringLiteral("    set audio parameters time out                ");
-    QVERIFY2(entries.at(0).endsWith(QStringLiteral("    SN0    ") + dev.ip + timeout + dev.name),
-             qPrintable(entries.at(0)));
-    QVERIFY2(entries.at(1).endsWith(QStringLiteral("        ") + QString(16, QLatin1Char(' ')) + timeout),
-             qPrintable(entries.at(1)));
-}
 
 ORDA_TEST_MAIN(RunTest)
 #include "run_test.moc"

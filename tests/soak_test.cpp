@@ -39,54 +39,43 @@ class SoakTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
-
-    void runsLeaveNothingBehind();
-};
-
-void SoakTest::runsLeaveNothingBehind()
-{
-    const int runs = qMax(100, qEnvironmentVariableIntValue("ORDA_SOAK_RUNS"));
-    device_fleet::FleetOptions options;
-    options.devices = 100;
-    device_fleet::EmbeddedFleet fleet(options);
-    QCOMPARE(fleet.start(), QString());
-    const SiteClient client(fleet.inventory());
-    QTRY_VERIFY(client.table()->rowCount() >= 85);
-    client.form.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
-    const auto answerSummary = [] {
-        const auto windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows)
-            if (auto *dialog = qobject_cast<QDialog *>(window))
-                dialog->reject();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    };
-
-    struct Usage
+    void runsLeaveNothingBehind()
     {
-        int memory, descriptors, threads, objects, windows;
-    } start{};
-    const auto usage = [&client]() -> Usage {
-        return {residentKilobytes(), entries("/proc/self/fd"), entries("/proc/self/task"),
-                client.form.findChildren<QObject *>().size(), QApplication::topLevelWidgets().size()};
-    };
-    for (int run = 0; run < runs; ++run) {
-        if (run == 50)
-            start = usage();
-        const FamilyRow &family = familyTable().at(run % 7);
-        QVERIFY2(client.configure(family).endsWith(QLatin1String("failure:0")), qPrintable(family.name));
-        answerSummary();
-    }
-    const Usage end = usage();
-    QCOMPARE(end.descriptors, start.descriptors);
-    QCOMPARE(end.threads, start.threads);
-    QCOMPARE(end.objects, start.objects);
-    QCOMPARE(end.windows, start.windows);
-    qInfo("%d runs: %d KiB after 50, %d KiB at the end", runs, start.memory, end.memory);
+        const int runs = qMax(100, qEnvironmentVariableIntValue("ORDA_SOAK_RUNS"));
+        device_fleet::FleetOptions options;
+        options.devices = 100;
+        device_fleet::EmbeddedFleet fleet(options);
+        QCOMPARE(fleet.start(), QString());
+        const SiteClient client(fleet.inventory());
+        QTRY_VERIFY(client.table()->rowCount() >= 85);
+        client.form.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
+        struct Usage
+        {
+            int memory, descriptors, threads, objects, windows;
+        } start{};
+        const auto usage = [&client]() -> Usage {
+            return {residentKilobytes(), entries("/proc/self/fd"), entries("/proc/self/task"),
+                    client.form.findChildren<QObject *>().size(), QApplication::topLevelWidgets().size()};
+        };
+        for (int run = 0; run < runs; ++run) {
+            if (run == 50)
+                start = usage();
+            const FamilyRow &family = familyTable().at(run % 7);
+            QVERIFY2(client.configure(family).endsWith(QLatin1String("failure:0")), qPrintable(family.name));
+            dismissDialogs();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        const Usage end = usage();
+        QCOMPARE(end.descriptors, start.descriptors);
+        QCOMPARE(end.threads, start.threads);
+        QCOMPARE(end.objects, start.objects);
+        QCOMPARE(end.windows, start.windows);
+        qInfo("%d runs: %d KiB after 50, %d KiB at the end", runs, start.memory, end.memory);
 #ifndef __SANITIZE_ADDRESS__ // which keeps what was freed for a while, and looks for leaks itself
-    QVERIFY2(end.memory < start.memory + 4096, "memory grows");
+        QVERIFY2(end.memory < start.memory + 4096, "memory grows");
 #endif
-}
+    }
+};
 
 ORDA_TEST_MAIN(SoakTest)
 #include "soak_test.moc"

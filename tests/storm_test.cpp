@@ -45,78 +45,73 @@ class StormTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
-
-    void everyDeviceIsReportedOnce_data();
-    void everyDeviceIsReportedOnce();
-};
-
-void StormTest::everyDeviceIsReportedOnce_data()
-{
-    QTest::addColumn<FamilyRow>("family");
-    QTest::addColumn<int>("seed");
-    const int seeds = qEnvironmentVariableIntValue("ORDA_STORM_SEEDS");
-    for (const FamilyRow &family : familyTable()) {
-        const bool isQuick =
-            QStringList{QStringLiteral("audio"), QStringLiteral("platform"), QStringLiteral("image")}.contains(
-                family.name);
-        if (family.navigationKey.isEmpty() || (seeds == 0 && !isQuick))
-            continue;
-        for (int seed = 1; seed <= qMax(1, seeds); ++seed)
-            QTest::addRow("%s, seed %d", qPrintable(family.name), seed) << family << seed;
+    void everyDeviceIsReportedOnce_data()
+    {
+        QTest::addColumn<FamilyRow>("family");
+        QTest::addColumn<int>("seed");
+        const int seeds = qEnvironmentVariableIntValue("ORDA_STORM_SEEDS");
+        for (const FamilyRow &family : familyTable()) {
+            const bool isQuick =
+                QStringList{QStringLiteral("audio"), QStringLiteral("platform"), QStringLiteral("image")}.contains(
+                    family.name);
+            if (family.navigationKey.isEmpty() || (seeds == 0 && !isQuick))
+                continue;
+            for (int seed = 1; seed <= qMax(1, seeds); ++seed)
+                QTest::addRow("%s, seed %d", qPrintable(family.name), seed) << family << seed;
+        }
     }
-}
 
-void StormTest::everyDeviceIsReportedOnce()
-{
-    allowWarnings(QStringLiteral("message over 1024 KiB")); // the fault of the huge answer
-    QFETCH(FamilyRow, family);
-    QFETCH(int, seed);
-    QRandomGenerator random{quint32(seed)};
-    FleetOptions options;
-    options.devices = devices;
-    options.seed = quint32(seed);
-    EmbeddedFleet fleet(options, randomFaults(family, random));
-    QCOMPARE(fleet.start(), QString());
-    const SiteClient client(fleet.inventory(), waitingTime);
-    QTRY_VERIFY(client.table()->rowCount() >= 240);
+    void everyDeviceIsReportedOnce()
+    {
+        allowWarnings(QStringLiteral("message over 1024 KiB")); // the fault of the huge answer
+        QFETCH(FamilyRow, family);
+        QFETCH(int, seed);
+        QRandomGenerator random{quint32(seed)};
+        FleetOptions options;
+        options.devices = devices;
+        options.seed = quint32(seed);
+        EmbeddedFleet fleet(options, randomFaults(family, random));
+        QCOMPARE(fleet.start(), QString());
+        const SiteClient client(fleet.inventory(), waitingTime);
+        QTRY_VERIFY(client.table()->rowCount() >= 240);
 
-    client.form.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
-    const QStringList ticked = client.form.checkedDevIds();
-    QTimer leaving;
-    QStringList away;
-    connect(&leaving, &QTimer::timeout, this, [&] {
-        if (away.size() > 10)
-            fleet.setOnline(away.takeFirst(), true);
-        away.append(ticked.at(random.bounded(ticked.size())));
-        fleet.setOnline(away.constLast(), false);
-    });
-    leaving.start(7ms);
-    QTimer::singleShot(1s, &leaving, [&] { // then it calms down
-        leaving.stop();
-        for (const QString &id : qAsConst(away))
-            fleet.setOnline(id, true);
-    });
-    QElapsedTimer sinceSignOfLife;
-    const auto connection = connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, this,
-                                    [&] { sinceSignOfLife.start(); });
-    sinceSignOfLife.start();
-    const QString summary = client.configure(family);
-    disconnect(connection);
-    QVERIFY2(sinceSignOfLife.elapsed() < 2 * waitingTime.count(),
-             qPrintable(QString::number(sinceSignOfLife.elapsed())));
+        client.form.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
+        const QStringList ticked = client.form.checkedDevIds();
+        QTimer leaving;
+        QStringList away;
+        connect(&leaving, &QTimer::timeout, this, [&] {
+            if (away.size() > 10)
+                fleet.setOnline(away.takeFirst(), true);
+            away.append(ticked.at(random.bounded(ticked.size())));
+            fleet.setOnline(away.constLast(), false);
+        });
+        leaving.start(7ms);
+        QTimer::singleShot(1s, &leaving, [&] { // then it calms down
+            leaving.stop();
+            for (const QString &id : qAsConst(away))
+                fleet.setOnline(id, true);
+        });
+        QElapsedTimer sinceSignOfLife;
+        const auto connection = connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes,
+                                        this, [&] { sinceSignOfLife.start(); });
+        sinceSignOfLife.start();
+        const QString summary = client.configure(family);
+        disconnect(connection);
+        QVERIFY2(sinceSignOfLife.elapsed() < 2 * waitingTime.count(),
+                 qPrintable(QString::number(sinceSignOfLife.elapsed())));
 
-    QFile record(recordPath(family));
-    QVERIFY(record.open(QIODevice::ReadOnly));
-    const QByteArray text = record.readAll();
-    QCOMPARE(text.count("\n\n"), ticked.size());
-    const int successes = text.count(" success ");
-    QCOMPARE(recordedMessages(family).size(), ticked.size()); // each by its own serial number
-    QCOMPARE(summary, QStringLiteral("A total of %1 devices have been configured, success:%2, failure:%3")
-                          .arg(ticked.size())
-                          .arg(successes)
-                          .arg(ticked.size() - successes));
-}
+        QFile record(recordPath(family));
+        QVERIFY(record.open(QIODevice::ReadOnly));
+        const QByteArray text = record.readAll();
+        QCOMPARE(text.count("\n\n"), ticked.size());
+        const int successes = text.count(" success ");
+        QCOMPARE(recordedMessages(family).size(), ticked.size()); // each by its own serial number
+        QCOMPARE(summary, QStringLiteral("A total of %1 devices have been configured, success:%2, failure:%3")
+                              .arg(ticked.size())
+                              .arg(successes)
+                              .arg(ticked.size() - successes));
+    }
+};
 
 ORDA_TEST_MAIN(StormTest)
 #include "storm_test.moc"

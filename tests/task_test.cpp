@@ -60,93 +60,76 @@ class TaskTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void endsOnceAsTheDeviceAnswers_data();
-    void endsOnceAsTheDeviceAnswers();
-    void sendsTheWholeObjectWithTheChosenMembers();
-    void pausesBetweenAnAnswerAndTheNextRequest();
-    void hearsOnlyItsOwnAnswers();
-    void aDeviceThatComesAndGoesWithoutEndIsNotWaitedFor();
-
-private:
-    static ScriptedTransport *use(const ScriptedTransport::Script &script)
+    void endsOnceAsTheDeviceAnswers_data()
     {
-        auto transport = std::make_unique<ScriptedTransport>(script);
-        ScriptedTransport *raw = transport.get();
-        vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
-        vms_sdk::ClientSdk::instance().setRequestTimeout(waitingTime);
-        return raw;
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<ScriptedTransport::Script>("script");
+        QTest::addColumn<QStringList>("methods");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<int>("code");
+
+        const auto row = [](const char *name, int flags, const ScriptedTransport::Script &script,
+                            const QStringList &methods, const char *message, int code) {
+            QTest::newRow(name) << flags << script << methods << QString::fromLatin1(message) << code;
+        };
+        const QStringList allFour{aiGet, aiSet, aoGet, aoSet};
+        row("both", 3, healthy, allFour, "success", 0);
+        row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}),
+            {aiGet, aiSet}, "success", 0);
+        for (const char *error :
+             {R"({"errorcode": "7"})", R"({"errorcode": 1.5})", R"({"errorcode": 4294967296})", "7"}) {
+            const QString text = QStringLiteral(R"({"method": "ai_set_param", "error": %1})").arg(QLatin1String(error));
+            row(qPrintable(text), 1, except(aiSet, {text}), {aiGet, aiSet}, "success", 0);
+        }
+        row("a whole error code", 1, except(aiSet, {answer(aiSet, {}, -7)}), {aiGet, aiSet},
+            "Failed to set audio in parameters(-7)", -7);
+        row("an empty text", 1, except(aiGet, {QString()}), {aiGet}, "Failed to parse json data", -61003);
+        row("an empty object is no answer", 1, except(aiGet, {QStringLiteral("{}")}), {aiGet},
+            "set audio parameters time out", -61004);
+        row("an array is no answer", 1, except(aiGet, {QStringLiteral("[]")}), {aiGet}, "set audio parameters time out",
+            -61004);
+        row(
+            "each answer twice", 3, [](const Request &request) { return healthy(request) + healthy(request); }, allFour,
+            "success", 0);
+        row("success, then a refusal of the same write", 1, except(aiSet, {answer(aiSet), answer(aiSet, {}, 4)}),
+            {aiGet, aiSet}, "success", 0);
     }
-};
 
-void TaskTest::endsOnceAsTheDeviceAnswers_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<ScriptedTransport::Script>("script");
-    QTest::addColumn<QStringList>("methods");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<int>("code");
+    void endsOnceAsTheDeviceAnswers()
+    {
+        QFETCH(int, flags);
+        QFETCH(ScriptedTransport::Script, script);
+        QFETCH(QStringList, methods);
+        QFETCH(QString, message);
+        QFETCH(int, code);
 
-    const auto row = [](const char *name, int flags, const ScriptedTransport::Script &script,
-                        const QStringList &methods, const char *message, int code) {
-        QTest::newRow(name) << flags << script << methods << QString::fromLatin1(message) << code;
-    };
-    const QStringList allFour{aiGet, aiSet, aoGet, aoSet};
-    row("both", 3, healthy, allFour, "success", 0);
-    row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}),
-        {aiGet, aiSet}, "success", 0);
-    for (const char *error : {R"({"errorcode": "7"})", R"({"errorcode": 1.5})", R"({"errorcode": 4294967296})", "7"}) {
-        const QString text = QStringLiteral(R"({"method": "ai_set_param", "error": %1})").arg(QLatin1String(error));
-        row(qPrintable(text), 1, except(aiSet, {text}), {aiGet, aiSet}, "success", 0);
+        const ScriptedTransport *transport = use(script);
+        AudioParamsCfgTask task(QStringLiteral("cam"), values(), flags, nullptr);
+        QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
+        const QVariantList &result = results.constFirst();
+        QCOMPARE(result.at(0).toString(), QStringLiteral("cam"));
+        QCOMPARE(result.at(1).toString(), message);
+        QCOMPARE(result.at(2).toInt(), code);
+        QCOMPARE(transport->methods(), methods);
+
+        // Nothing follows, neither a second result nor a request, until long after the id's waiting time.
+        QTest::qWait(2 * int(waitingTime.count()));
+        QCOMPARE(results.count(), 1);
+        QCOMPARE(transport->methods(), methods);
+        for (const Request &request : transport->requests)
+            QCOMPARE(request.requestId, task.requestId());
     }
-    row("a whole error code", 1, except(aiSet, {answer(aiSet, {}, -7)}), {aiGet, aiSet},
-        "Failed to set audio in parameters(-7)", -7);
-    row("an empty text", 1, except(aiGet, {QString()}), {aiGet}, "Failed to parse json data", -61003);
-    row("an empty object is no answer", 1, except(aiGet, {QStringLiteral("{}")}), {aiGet},
-        "set audio parameters time out", -61004);
-    row("an array is no answer", 1, except(aiGet, {QStringLiteral("[]")}), {aiGet}, "set audio parameters time out",
-        -61004);
-    row(
-        "each answer twice", 3, [](const Request &request) { return healthy(request) + healthy(request); }, allFour,
-        "success", 0);
-    row("success, then a refusal of the same write", 1, except(aiSet, {answer(aiSet), answer(aiSet, {}, 4)}),
-        {aiGet, aiSet}, "success", 0);
-}
 
-void TaskTest::endsOnceAsTheDeviceAnswers()
-{
-    QFETCH(int, flags);
-    QFETCH(ScriptedTransport::Script, script);
-    QFETCH(QStringList, methods);
-    QFETCH(QString, message);
-    QFETCH(int, code);
+    void sendsTheWholeObjectWithTheChosenMembers()
+    {
+        const ScriptedTransport *transport = use(healthy);
+        AudioParamsCfgTask task(QStringLiteral("cam"), values(),
+                                AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut, nullptr);
+        QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
 
-    const ScriptedTransport *transport = use(script);
-    AudioParamsCfgTask task(QStringLiteral("cam"), values(), flags, nullptr);
-    QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
-    QTRY_COMPARE(results.count(), 1);
-    const QVariantList &result = results.constFirst();
-    QCOMPARE(result.at(0).toString(), QStringLiteral("cam"));
-    QCOMPARE(result.at(1).toString(), message);
-    QCOMPARE(result.at(2).toInt(), code);
-    QCOMPARE(transport->methods(), methods);
-
-    // Nothing follows, neither a second result nor a request, until long after the id's waiting time.
-    QTest::qWait(2 * int(waitingTime.count()));
-    QCOMPARE(results.count(), 1);
-    QCOMPARE(transport->methods(), methods);
-    for (const Request &request : transport->requests)
-        QCOMPARE(request.requestId, task.requestId());
-}
-
-void TaskTest::sendsTheWholeObjectWithTheChosenMembers()
-{
-    const ScriptedTransport *transport = use(healthy);
-    AudioParamsCfgTask task(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut,
-                            nullptr);
-    QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
-    QTRY_COMPARE(results.count(), 1);
-
-    QCOMPARE(transport->requests.at(0).text, QStringLiteral(R"({
+        QCOMPARE(transport->requests.at(0).text, QStringLiteral(R"({
     "level": "Operator",
     "method": "ai_get_param",
     "param": {
@@ -154,7 +137,7 @@ void TaskTest::sendsTheWholeObjectWithTheChosenMembers()
     }
 }
 )"));
-    QCOMPARE(transport->requests.at(1).text, QStringLiteral(R"({
+        QCOMPARE(transport->requests.at(1).text, QStringLiteral(R"({
     "level": "Operator",
     "method": "ai_set_param",
     "param": {
@@ -166,74 +149,86 @@ void TaskTest::sendsTheWholeObjectWithTheChosenMembers()
     }
 }
 )"));
-    // The output has a gain as well, and what was read of the input is not written to it.
-    QCOMPARE(transport->requests.at(3).json().value(QLatin1String("param")).toObject(),
-             QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"encType": "g711a", "mask": 3, "aoGain": 7}})")
-                 .object());
-}
+        // The output has a gain as well, and what was read of the input is not written to it.
+        QCOMPARE(
+            transport->requests.at(3).json().value(QLatin1String("param")).toObject(),
+            QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"encType": "g711a", "mask": 3, "aoGain": 7}})")
+                .object());
+    }
 
-void TaskTest::pausesBetweenAnAnswerAndTheNextRequest()
-{
-    const ScriptedTransport *transport = use(healthy);
-    AudioParamsCfgTask task(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
-    QElapsedTimer sinceAnswer;
-    connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, &task, [&] {
-        if (transport->requests.size() == 1)
-            sinceAnswer.start();
-    });
-    QTRY_COMPARE(transport->requests.size(), 2);
-    QVERIFY2(sinceAnswer.elapsed() >= 9, qPrintable(QString::number(sinceAnswer.elapsed())));
-}
+    void pausesBetweenAnAnswerAndTheNextRequest()
+    {
+        const ScriptedTransport *transport = use(healthy);
+        AudioParamsCfgTask task(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+        QElapsedTimer sinceAnswer;
+        connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, &task, [&] {
+            if (transport->requests.size() == 1)
+                sinceAnswer.start();
+        });
+        QTRY_COMPARE(transport->requests.size(), 2);
+        QVERIFY2(sinceAnswer.elapsed() >= 9, qPrintable(QString::number(sinceAnswer.elapsed())));
+    }
 
-void TaskTest::hearsOnlyItsOwnAnswers()
-{
-    use([](const Request &) { return QStringList(); });
-    AudioParamsCfgTask first(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
-    AudioParamsCfgTask second(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
-    QVERIFY(first.requestId() != second.requestId());
-    QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
-    QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);
+    void hearsOnlyItsOwnAnswersAndTimeOuts()
+    {
+        use(silent);
+        AudioParamsCfgTask first(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask second(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+        QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
+        QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);
 
-    auto &sdk = vms_sdk::ClientSignals::instance();
-    emit sdk.signalCommonRes(first.requestId().toUpper() + QLatin1Char('x'), answer(aiGet, {}, 1));
-    emit sdk.signalRequestTimeout(QString(), {});
-    emit sdk.signalCommonRes(second.requestId(), answer(aiGet, {}, 1));
-    QCOMPARE(firstResults.count(), 0);
-    QCOMPARE(secondResults.count(), 1);
-}
+        auto &sdk = vms_sdk::ClientSignals::instance();
+        emit sdk.signalCommonRes(first.requestId().toUpper() + QLatin1Char('x'), answer(aiGet, {}, 1));
+        emit sdk.signalRequestTimeout(QStringLiteral("of a foreign request"), {});
+        QCOMPARE(firstResults.count() + secondResults.count(), 0);
+        emit sdk.signalRequestTimeout(second.requestId(), {});
+        QCOMPARE(firstResults.count(), 0);
+        QCOMPARE(secondResults.count(), 1);
+    }
 
-void TaskTest::aDeviceThatComesAndGoesWithoutEndIsNotWaitedFor()
-{
-    // It answers its first read only; another device's results renew its waiting time, as a page does it.
-    constexpr std::chrono::milliseconds limit{400};
-    int reads = 0;
-    const QString get = QStringLiteral("ifconfig_qbcloud_get_param");
-    use([&](const Request &request) {
-        const bool isFirst = request.method() == get && ++reads == 1;
-        return isFirst ? QStringList{answer(get)} : QStringList();
-    });
-    orda_batchCfg::PlatformParamsCfgTask task(QStringLiteral("cam"), {}, nullptr, limit);
-    const QSignalSpy results(&task, &orda_batchCfg::ParamsCfgTask::signalCfgResult);
-    QElapsedTimer sinceFirstReadAgain;
-    QTimer flapping;
-    connect(&flapping, &QTimer::timeout, &task, [&] {
-        for (const auto status : {vms_sdk::DevOffline, vms_sdk::DevLocked})
-            emit orda_data::DataSignals::instance().signalDevStatusChanged(task.devId(), status);
-        vms_sdk::renewal_request_id(task.requestId());
-        if (reads == 2)
-            sinceFirstReadAgain.start();
-    });
-    flapping.start(10);
-    QTRY_COMPARE(results.count(), 1);
-    QVERIFY2(sinceFirstReadAgain.elapsed() >= limit.count() - 1,
-             qPrintable(QString::number(sinceFirstReadAgain.elapsed())));
-    QVERIFY(reads > 5);
-    QCOMPARE(results.at(0).at(1).toString(), QStringLiteral("set platform parameters time out"));
-    QCOMPARE(results.at(0).at(2).toInt(), -61004);
-    const int readsAtEnd = reads;
-    QTest::qWait(30); // it goes on coming and going; nobody asks it any more
-    QCOMPARE(reads, readsAtEnd);
-}
+    void aDeviceThatComesAndGoesWithoutEndIsNotWaitedFor()
+    {
+        // It answers its first read only; another device's results renew its waiting time, as a page does it.
+        constexpr std::chrono::milliseconds limit{400};
+        int reads = 0;
+        const QString get = QStringLiteral("ifconfig_qbcloud_get_param");
+        use([&](const Request &request) {
+            const bool isFirst = request.method() == get && ++reads == 1;
+            return isFirst ? QStringList{answer(get)} : QStringList();
+        });
+        orda_batchCfg::PlatformParamsCfgTask task(QStringLiteral("cam"), {}, nullptr, limit);
+        const QSignalSpy results(&task, &orda_batchCfg::ParamsCfgTask::signalCfgResult);
+        QElapsedTimer sinceFirstReadAgain;
+        QTimer flapping;
+        connect(&flapping, &QTimer::timeout, &task, [&] {
+            for (const auto status : {vms_sdk::DevOffline, vms_sdk::DevLocked})
+                emit orda_data::DataSignals::instance().signalDevStatusChanged(task.devId(), status);
+            vms_sdk::renewal_request_id(task.requestId());
+            if (reads == 2)
+                sinceFirstReadAgain.start();
+        });
+        flapping.start(10);
+        QTRY_COMPARE(results.count(), 1);
+        QVERIFY2(sinceFirstReadAgain.elapsed() >= limit.count() - 1,
+                 qPrintable(QString::number(sinceFirstReadAgain.elapsed())));
+        QVERIFY(reads > 5);
+        QCOMPARE(results.at(0).at(1).toString(), QStringLiteral("set platform parameters time out"));
+        QCOMPARE(results.at(0).at(2).toInt(), -61004);
+        const int readsAtEnd = reads;
+        QTest::qWait(30); // it goes on coming and going; nobody asks it any more
+        QCOMPARE(reads, readsAtEnd);
+    }
+
+private:
+    static ScriptedTransport *use(const ScriptedTransport::Script &script)
+    {
+        auto transport = std::make_unique<ScriptedTransport>(script);
+        ScriptedTransport *raw = transport.get();
+        vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+        vms_sdk::ClientSdk::instance().setRequestTimeout(waitingTime);
+        return raw;
+    }
+};
 
 ORDA_TEST_MAIN(TaskTest)
 #include "task_test.moc"

@@ -95,101 +95,97 @@ class ThemeTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void followsThePalette();
-    void dropDownsOpenWhole();
-    void textsCanBeRead_data();
-    void textsCanBeRead();
-};
+    void followsThePalette()
+    {
+        const auto isDark = [] { return QApplication::palette().color(QPalette::Window).lightness() < 128; };
+        QApplication::setPalette(QPalette(Qt::black));
+        Theme::apply(*qApp);
+        QVERIFY(isDark());
+        QApplication::setPalette(QPalette(Qt::lightGray));
+        Theme::apply(*qApp);
+        QVERIFY(!isDark());
+    }
 
-void ThemeTest::followsThePalette()
-{
-    const auto isDark = [] { return QApplication::palette().color(QPalette::Window).lightness() < 128; };
-    QApplication::setPalette(QPalette(Qt::black));
-    Theme::apply(*qApp);
-    QVERIFY(isDark());
-    QApplication::setPalette(QPalette(Qt::lightGray));
-    Theme::apply(*qApp);
-    QVERIFY(!isDark());
-}
+    void dropDownsOpenWhole()
+    {
+        Theme::apply(*qApp, Theme::Light);
+        const FormFixture f(0, silent);
+        f.form->move(0, 0);
+        const auto combos = f.form->findChildren<QComboBox *>();
+        int looked = 0;
+        for (QComboBox *combo : combos) {
+            if (!combo->isVisible())
+                continue;
+            ++looked;
+            combo->showPopup();
+            QApplication::processEvents();
+            const auto *view = combo->view();
+            const QModelIndex first = view->model()->index(0, 0);
+            const QModelIndex last = view->model()->index(combo->count() - 1, 0);
+            QVERIFY2(view->viewport()->rect().contains(view->visualRect(first) | view->visualRect(last)),
+                     qPrintable(combo->objectName()));
+            const auto around = view->parentWidget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+            for (const QWidget *widget : around) // a scroll arrow covers a row
+                QVERIFY2(widget == view || !widget->isVisible(), qPrintable(combo->objectName()));
+            combo->hidePopup();
+        }
+        QVERIFY(looked > 5);
+    }
 
-void ThemeTest::dropDownsOpenWhole()
-{
-    Theme::apply(*qApp, Theme::Light);
-    const FormFixture f(0, [](const ScriptedTransport::Request &) { return QStringList(); });
-    f.form->move(0, 0);
-    const auto combos = f.form->findChildren<QComboBox *>();
-    int looked = 0;
-    for (QComboBox *combo : combos) {
-        if (!combo->isVisible())
-            continue;
-        ++looked;
-        combo->showPopup();
+    void textsCanBeRead_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("scheme");
+        QTest::addColumn<bool>("enabled");
+        for (const FamilyRow &family : familyTable()) {
+            if (family.navigationKey.isEmpty())
+                continue;
+            for (const int scheme : {Theme::Light, Theme::Dark})
+                for (const bool enabled : {true, false})
+                    QTest::addRow("%s, %s, %s", qPrintable(family.name), scheme == Theme::Dark ? "dark" : "light",
+                                  enabled ? "enabled" : "disabled")
+                        << family.name << scheme << enabled;
+        }
+    }
+
+    void textsCanBeRead()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, scheme);
+        QFETCH(bool, enabled);
+        Theme::apply(*qApp, Theme::Scheme(scheme));
+        const FormFixture f(3, silent);
+        f.form->findChild<QAbstractButton *>(familyRow(name).navigationKey)->click();
+        f.form->setEnabled(enabled);
+        f.form->resize(1500, 850);
         QApplication::processEvents();
-        const auto *view = combo->view();
-        const QModelIndex first = view->model()->index(0, 0);
-        const QModelIndex last = view->model()->index(combo->count() - 1, 0);
-        QVERIFY2(view->viewport()->rect().contains(view->visualRect(first) | view->visualRect(last)),
-                 qPrintable(combo->objectName()));
-        const auto around = view->parentWidget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        for (const QWidget *widget : around) // a scroll arrow covers a row
-            QVERIFY2(widget == view || !widget->isVisible(), qPrintable(combo->objectName()));
-        combo->hidePopup();
-    }
-    QVERIFY(looked > 5);
-}
 
-void ThemeTest::textsCanBeRead_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("scheme");
-    QTest::addColumn<bool>("enabled");
-    for (const FamilyRow &family : familyTable()) {
-        if (family.navigationKey.isEmpty())
-            continue;
-        for (const int scheme : {Theme::Light, Theme::Dark})
-            for (const bool enabled : {true, false})
-                QTest::addRow("%s, %s, %s", qPrintable(family.name), scheme == Theme::Dark ? "dark" : "light",
-                              enabled ? "enabled" : "disabled")
-                    << family.name << scheme << enabled;
+        QImage picture = pictureOf(f.form);
+        int looked = 0;
+        const auto check = [&](const QRect &rect, const QString &what) {
+            ++looked;
+            const double found = contrastIn(picture, rect);
+            QVERIFY2(found >= wanted, qPrintable(QStringLiteral("%1 has %2").arg(what).arg(found)));
+        };
+        const auto widgets = f.form->findChildren<QWidget *>();
+        for (const QWidget *widget : widgets) {
+            const QRect rect = textRect(widget);
+            if (rect.isEmpty() || !widget->isVisible())
+                continue;
+            check({widget->mapTo(f.form, rect.topLeft()), rect.size()}, widget->objectName());
+            if (QTest::currentTestFailed())
+                return;
+        }
+        f.table()->selectRow(1);
+        picture = pictureOf(f.form);
+        for (int row = 0; row < 3; ++row) {
+            const QRect cell = f.table()->visualItemRect(f.table()->item(row, 1));
+            check({f.table()->viewport()->mapTo(f.form, cell.topLeft()), cell.size()},
+                  QStringLiteral("row %1").arg(row));
+        }
+        QVERIFY(looked > 20);
     }
-}
-
-void ThemeTest::textsCanBeRead()
-{
-    QFETCH(QString, name);
-    QFETCH(int, scheme);
-    QFETCH(bool, enabled);
-    Theme::apply(*qApp, Theme::Scheme(scheme));
-    const FormFixture f(3, [](const ScriptedTransport::Request &) { return QStringList(); });
-    f.form->findChild<QAbstractButton *>(familyRow(name).navigationKey)->click();
-    f.form->setEnabled(enabled);
-    f.form->resize(1500, 850);
-    QApplication::processEvents();
-
-    QImage picture = pictureOf(f.form);
-    int looked = 0;
-    const auto check = [&](const QRect &rect, const QString &what) {
-        ++looked;
-        const double found = contrastIn(picture, rect);
-        QVERIFY2(found >= wanted, qPrintable(QStringLiteral("%1 has %2").arg(what).arg(found)));
-    };
-    const auto widgets = f.form->findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        const QRect rect = textRect(widget);
-        if (rect.isEmpty() || !widget->isVisible())
-            continue;
-        check({widget->mapTo(f.form, rect.topLeft()), rect.size()}, widget->objectName());
-        if (QTest::currentTestFailed())
-            return;
-    }
-    f.table()->selectRow(1);
-    picture = pictureOf(f.form);
-    for (int row = 0; row < 3; ++row) {
-        const QRect cell = f.table()->visualItemRect(f.table()->item(row, 1));
-        check({f.table()->viewport()->mapTo(f.form, cell.topLeft()), cell.size()}, QStringLiteral("row %1").arg(row));
-    }
-    QVERIFY(looked > 20);
-}
+};
 
 ORDA_TEST_MAIN(ThemeTest)
 

@@ -1,10 +1,10 @@
 #include "support/FormFixture.h"
 
+#include "support/OrdaTest.h"
+
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSdk.h>
 
-#include <QApplication>
-#include <QDialog>
 #include <QTest>
 
 FormFixture::FormFixture(int devices, const ScriptedTransport::Script &script, std::chrono::milliseconds waitingTime)
@@ -28,10 +28,7 @@ FormFixture::FormFixture(int devices, const ScriptedTransport::Script &script, s
 FormFixture::~FormFixture()
 {
     delete form;
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        if (auto *dialog = qobject_cast<QDialog *>(window))
-            dialog->reject();
+    dismissDialogs();
     auto &store = orda_data::DevsMgrData::instance();
     QStringList ids;
     const QList<vms_sdk::DevInfo> devs = store.getAllDevs(false);

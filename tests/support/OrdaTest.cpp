@@ -1,5 +1,7 @@
 #include "support/OrdaTest.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QMutex>
 #include <algorithm>
 #include <cstring>
@@ -44,6 +46,14 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
 }
 
 } // namespace
+
+void dismissDialogs()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        if (auto *dialog = qobject_cast<QDialog *>(window))
+            dialog->reject();
+}
 
 void OrdaTest::expectWarning(const QString &pattern)
 {

@@ -22,12 +22,17 @@ protected slots:
     void cleanup();
 };
 
-/// The main function of a test program: Qt's own event dispatcher, as the programs use it.
+/// Rejects every dialog that is open.
+void dismissDialogs();
+
+/// The main function of a test program: Qt's own event dispatcher, as the programs use it, and a window that closes
+/// does not end the loop that a test is in.
 #define ORDA_TEST_MAIN(TestClass)                                                                                      \
     int main(int argc, char *argv[])                                                                                   \
     {                                                                                                                  \
         qputenv("QT_NO_GLIB", "1");                                                                                    \
         QApplication app(argc, argv);                                                                                  \
+        QApplication::setQuitOnLastWindowClosed(false);                                                                \
         TestClass test;                                                                                                \
         return QTest::qExec(&test, argc, argv);                                                                        \
     }

@@ -53,6 +53,11 @@ signals:
     void sent(int count); ///< requests so far
 };
 
+inline QStringList silent(const ScriptedTransport::Request &)
+{
+    return {};
+}
+
 /// An answer as devices give it.
 inline QString answer(const QString &method, const QJsonObject &result = {}, int errorCode = 0)
 {

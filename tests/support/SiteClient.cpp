@@ -1,13 +1,13 @@
 #include "support/SiteClient.h"
 
+#include "support/OrdaTest.h"
+
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/WebSocketTransport.h>
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QSignalSpy>
 
 using orda_data::DevsMgrData;
@@ -26,10 +26,7 @@ SiteClient::SiteClient(const QList<vms_sdk::DevInfo> &devices, std::chrono::mill
 
 SiteClient::~SiteClient()
 {
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        if (auto *dialog = qobject_cast<QDialog *>(window))
-            dialog->reject();
+    dismissDialogs();
     vms_sdk::ClientSdk::instance().setTransport(nullptr);
     QStringList ids;
     const QList<vms_sdk::DevInfo> devices = DevsMgrData::instance().getAllDevs(false);
