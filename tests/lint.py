@@ -15,6 +15,7 @@ import hashlib
 import json
 import os
 import pathlib
+import shlex
 import subprocess
 import sys
 import time
@@ -63,7 +64,8 @@ def key(build, tool, source):
     paths = [path for path in paths if path.exists()]
     for entry in build.commands[str(source)]:
         parts.append(entry["command"])
-        paths += build.headers[entry["output"]]  # the source itself is among them
+        arguments = shlex.split(entry["command"])
+        paths += build.headers[arguments[arguments.index("-o") + 1]]  # the source itself is among them
     for path in paths:
         status = path.stat()
         parts += [str(path), content_hash(path, status.st_mtime_ns, status.st_size)]
