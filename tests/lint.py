@@ -27,7 +27,7 @@ TOOLS = {
     "clazy": ["clazy-standalone", "--checks=level1,no-use-static-qregularexpression", "--ignore-included-files",
               "--extra-arg=-Werror", "--extra-arg=-Wno-unknown-warning-option",
               "--extra-arg=-Wno-gnu-zero-variadic-macro-arguments"],
-    "clang-tidy": ["clang-tidy", "--quiet"],
+    "clang-tidy": ["clang-tidy", "--quiet", "--extra-arg=-Wno-gnu-zero-variadic-macro-arguments"],
 }
 
 
