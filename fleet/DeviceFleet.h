@@ -59,7 +59,7 @@ private:
     struct Device;
 
     Admission admission(const QString &path) const;
-    void greet(const QString &path, vms_sdk::WebSocketConnection *connection);
+    void greet(const QString &path, vms_sdk::WebSocketConnection *webSocket);
     void takeOver(Device &device, DeviceConnection *connection);
     void handleRequest(Device &device, DeviceConnection &connection, const vms_sdk::DeviceFrame &request);
     Device *find(const QString &deviceId) const;

@@ -49,16 +49,11 @@ private slots:
     {
         QTest::addColumn<FamilyRow>("family");
         QTest::addColumn<int>("seed");
-        const int seeds = qEnvironmentVariableIntValue("ORDA_STORM_SEEDS");
-        for (const FamilyRow &family : familyTable()) {
-            const bool isQuick =
-                QStringList{QStringLiteral("audio"), QStringLiteral("platform"), QStringLiteral("image")}.contains(
-                    family.name);
-            if (family.navigationKey.isEmpty() || (seeds == 0 && !isQuick))
-                continue;
-            for (int seed = 1; seed <= qMax(1, seeds); ++seed)
+        const int seeds = qMax(1, qEnvironmentVariableIntValue("ORDA_STORM_SEEDS"));
+        const QList<FamilyRow> families = stormedFamilies();
+        for (const FamilyRow &family : families)
+            for (int seed = 1; seed <= seeds; ++seed)
                 QTest::addRow("%s, seed %d", qPrintable(family.name), seed) << family << seed;
-        }
     }
 
     void everyDeviceIsReportedOnce()

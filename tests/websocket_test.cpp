@@ -57,7 +57,7 @@ public:
     QUrl url() const { return QUrl(QStringLiteral("ws://127.0.0.1:%1/d").arg(m_server.serverPort())); }
 
 private:
-    void answer()
+    void answer() const
     {
         const QByteArray request = client->readAll();
         const int key = request.indexOf("Sec-WebSocket-Key: ");

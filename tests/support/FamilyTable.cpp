@@ -57,6 +57,17 @@ const QList<FamilyRow> &familyTable()
     return rows;
 }
 
+QList<FamilyRow> stormedFamilies()
+{
+    const bool all = qEnvironmentVariableIsSet("ORDA_STORM_SEEDS");
+    const QStringList few{QStringLiteral("audio"), QStringLiteral("platform"), QStringLiteral("image")};
+    QList<FamilyRow> families;
+    for (const FamilyRow &family : familyTable())
+        if (!family.navigationKey.isEmpty() && (all || few.contains(family.name)))
+            families.append(family);
+    return families;
+}
+
 const FamilyRow &familyRow(const QString &name)
 {
     const auto &rows = familyTable();

@@ -19,6 +19,9 @@ struct FamilyRow
 
 const QList<FamilyRow> &familyTable();
 const FamilyRow &familyRow(const QString &name);
+/// Those of the form for the tests that take long: with ORDA_STORM_SEEDS set (./dev storm) all of them, without it
+/// three: the one with the most requests, the one that checks its writes, and one of the others.
+QList<FamilyRow> stormedFamilies();
 
 /// Message by serial number, from a record file as it lies on the disk now.
 QMap<QString, QString> recordedMessages(const FamilyRow &family);

@@ -17,7 +17,7 @@ namespace vms_sdk {
 namespace {
 
 // One turn of the event loop takes so much of a peer: its share of the thread, and what Qt holds for it.
-constexpr qint64 readBufferBytes = 64 * 1024;
+constexpr qint64 readBufferBytes = qint64(64) * 1024;
 
 QByteArray acceptKey(const QByteArray &key)
 {
@@ -59,7 +59,7 @@ void WebSocketConnection::open(const QUrl &url, const QSslConfiguration &tls)
 {
     m_url = url;
     const bool isSecure = url.scheme() == QLatin1String("wss");
-    const quint16 port = quint16(url.port(isSecure ? 443 : 80));
+    const auto port = quint16(url.port(isSecure ? 443 : 80));
     if (isSecure) {
         auto *socket = new QSslSocket(this);
         use(socket, true);

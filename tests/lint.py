@@ -1,0 +1,108 @@
+#!/usr/bin/python3
+"""clazy and clang-tidy over our sources, each file only when something that the tool reads has changed since it was clean.
+
+    lint.py BUILD FILE.cpp…
+
+BUILD is a directory that has just been built: Ninja knows there which headers each file is made of. A file is known by what it
+and these headers contain, comments included (a NOLINT is one), by its compile commands, the tool's version, arguments and
+.clang-tidy. What was clean is remembered outside the tree, so that a fresh clone profits; a finding is never remembered.
+"""
+
+import collections
+import concurrent.futures
+import functools
+import hashlib
+import json
+import os
+import pathlib
+import shlex
+import subprocess
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+CACHE = pathlib.Path(os.environ.get("XDG_CACHE_HOME") or pathlib.Path.home() / ".cache") / "orda-dev" / "lint"
+KEPT_DAYS = 60  # after the last use
+TOOLS = {
+    "clazy": ["clazy-standalone", "--checks=level1,no-use-static-qregularexpression", "--ignore-included-files",
+              "--extra-arg=-Werror", "--extra-arg=-Wno-unknown-warning-option",
+              "--extra-arg=-Wno-gnu-zero-variadic-macro-arguments"],
+    "clang-tidy": ["clang-tidy", "--quiet", "--extra-arg=-Wno-gnu-zero-variadic-macro-arguments"],
+}
+
+
+class Build:
+    def __init__(self, directory):
+        self.directory = pathlib.Path(directory).resolve()
+        self.commands = collections.defaultdict(list)  # of each file: a file may belong to several targets
+        for entry in json.loads((self.directory / "compile_commands.json").read_text()):
+            self.commands[entry["file"]].append(entry)
+        self.headers = {}
+        deps = subprocess.run(["ninja", "-C", self.directory, "-t", "deps"], check=True, stdout=subprocess.PIPE, text=True)
+        for line in deps.stdout.splitlines():
+            if line.startswith(" "):
+                self.headers[output].append(self.directory / line.strip())
+            elif ": #deps" in line:
+                output = line.split(": #deps")[0]
+                self.headers[output] = []
+
+
+@functools.lru_cache(maxsize=None)
+def content_hash(path, _modified, _size):
+    return hashlib.sha256(path.read_bytes()).hexdigest()
+
+
+@functools.lru_cache(maxsize=None)
+def version(program):
+    return subprocess.run([program, "--version"], check=True, stdout=subprocess.PIPE, text=True).stdout
+
+
+def key(build, tool, source):
+    """What the tool's verdict over a file depends on, with paths as seen from the tree: clones share what they know."""
+    parts = [tool, version(TOOLS[tool][0]), *TOOLS[tool]]
+    paths = [directory / ".clang-tidy" for directory in source.parents if directory.is_relative_to(ROOT)]
+    paths = [path for path in paths if path.exists()]
+    for entry in build.commands[str(source)]:
+        parts.append(entry["command"])
+        arguments = shlex.split(entry["command"])
+        paths += build.headers[arguments[arguments.index("-o") + 1]]  # the source itself is among them
+    for path in paths:
+        status = path.stat()
+        parts += [str(path), content_hash(path, status.st_mtime_ns, status.st_size)]
+    return hashlib.sha256("\0".join(parts).replace(str(ROOT), ".").encode()).hexdigest()
+
+
+def lint(build, tool, source):
+    """Whether the tool had to look, and whether the file is clean; prints what the tool finds."""
+    before = key(build, tool, source)
+    if (CACHE / before).exists():
+        (CACHE / before).touch()
+        return False, True
+    done = subprocess.run([*TOOLS[tool], "-p", build.directory, source], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          text=True)
+    if done.returncode != 0:
+        print(done.stdout, flush=True)
+    elif key(build, tool, source) == before:  # otherwise somebody is editing it
+        (CACHE / before).touch()
+    return True, done.returncode == 0
+
+
+def main():
+    build = Build(sys.argv[1])
+    sources = [ROOT / name for name in sys.argv[2:]]
+    CACHE.mkdir(parents=True, exist_ok=True)
+    unused = [entry for entry in CACHE.iterdir() if entry.stat().st_mtime < time.time() - KEPT_DAYS * 86400]
+    for entry in unused:
+        entry.unlink(missing_ok=True)
+    clean = True
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for tool in TOOLS:
+            results = list(pool.map(functools.partial(lint, build, tool), sources))
+            print("lint: %s looked at %d of %d files, %d with findings" % (
+                tool, sum(looked for looked, _ in results), len(results), sum(not good for _, good in results)), file=sys.stderr)
+            clean = clean and all(good for _, good in results)
+    sys.exit(0 if clean else 1)
+
+
+if __name__ == "__main__":
+    main()
