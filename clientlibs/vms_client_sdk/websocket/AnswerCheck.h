@@ -33,6 +33,6 @@ struct AnswerCheck
 
 /// Looks at an answer, a notice or a sign-on message. A text is at fault that is no JSON object or array, is deeper
 /// than maxJsonDepth, larger than maxWrittenBytes or names a key twice in one object.
-AnswerCheck checkAnswer(const QByteArray &utf8);
+AnswerCheck checkAnswer(const QByteArray &received);
 
 } // namespace vms_sdk
