@@ -177,9 +177,6 @@ void CfgResultsRecorder::record(const QString &devId, const QString &msg)
 bool CfgResultsRecorder::write(const QByteArray &entry)
 {
     const int fd = m_file->handle();
-    const off_t begin = ::lseek(fd, 0, SEEK_END);
-    if (begin < 0)
-        return false;
     const char *next = entry.constData();
     const char *const end = next + entry.size();
     while (next < end) {
@@ -189,14 +186,15 @@ bool CfgResultsRecorder::write(const QByteArray &entry)
         if (written <= 0) {
             const int cause = errno;
             // Half an entry would run into the next one.
-            if (next != entry.constData() && ::ftruncate(fd, begin) != 0)
+            const auto half = off_t(next - entry.constData());
+            if (half > 0 && ::ftruncate(fd, ::lseek(fd, 0, SEEK_END) - half) != 0)
                 qCDebug(logRecord) << "the record keeps a part of an entry";
             errno = cause;
             return false;
         }
         next += written;
     }
-    m_entryEnds.append(int(begin) + entry.size());
+    m_entryEnds.append((m_entryEnds.isEmpty() ? 0 : m_entryEnds.constLast()) + entry.size());
     return true;
 }
 

@@ -318,6 +318,7 @@ void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringLis
     const QJsonObject runValues = values();
     run->overlay = new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));
     run->overlayId = run->overlay->getUuid();
+    run->overlay->setProperty("total", run->total);
     tellProgress(*run);
     run->overlay->show();
     m_recorder->open();
@@ -356,7 +357,6 @@ void ParamsCfgPage::tellProgress(const Run &run)
 {
     // For the client, in numbers: the description is in the operator's language.
     run.overlay->setProperty("finished", run.finished());
-    run.overlay->setProperty("total", run.total);
 }
 
 void ParamsCfgPage::finishRun(const Run &run)

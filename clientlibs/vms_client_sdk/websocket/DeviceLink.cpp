@@ -23,7 +23,7 @@ namespace {
 
 // A device answers under the id that it was asked under. A run asks it under one id, so that this covers the answers
 // that come late, over many runs.
-constexpr std::size_t maxRequestIds = 64;
+constexpr int maxRequestIds = 64;
 
 // A device that was cut because it sent too much comes back in good time only when it has behaved for so long.
 constexpr std::chrono::minutes goodBehaviour{1};
@@ -42,13 +42,14 @@ std::chrono::milliseconds backOff(const WebSocketOptions &options, int losses)
 /// before anything tells who it is, and large ones take a second of the thread that all devices share.
 QSslConfiguration deviceTls()
 {
+    static const QList<QSslCipher> ciphers = [] {
+        QList<QSslCipher> list = QSslConfiguration::supportedCiphers();
+        const auto isPlain = [](const QSslCipher &c) { return c.keyExchangeMethod().startsWith(QLatin1String("DH")); };
+        list.erase(std::remove_if(list.begin(), list.end(), isPlain), list.end());
+        return list;
+    }();
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setProtocol(QSsl::TlsV1_2OrLater);
-    QList<QSslCipher> ciphers;
-    const QList<QSslCipher> supported = QSslConfiguration::supportedCiphers();
-    for (const QSslCipher &cipher : supported)
-        if (!cipher.keyExchangeMethod().startsWith(QLatin1String("DH")))
-            ciphers.append(cipher);
     tls.setCiphers(ciphers);
     // Named, the curves take the place of all groups of TLS 1.3, which has such numbers among them, too.
     tls.setEllipticCurves({QSslEllipticCurve::fromShortName(QStringLiteral("prime256v1")),
@@ -107,7 +108,8 @@ void DeviceLink::dial()
     m_host.setDeadline(this, m_host.options().connectLimit);
     m_signOn.emplace(m_device);
     m_connection = makeConnection();
-    m_connection->open(m_url, deviceTls()); // last: it can fail at once
+    const bool isSecure = m_url.scheme() == QLatin1String("wss");
+    m_connection->open(m_url, isSecure ? deviceTls() : QSslConfiguration()); // last: it can fail at once
 }
 
 WebSocketConnection *DeviceLink::makeConnection()
@@ -235,7 +237,7 @@ void DeviceLink::onNotice(const QByteArray &text)
 
 void DeviceLink::onAnswer(const QString &requestId, const QByteArray &text)
 {
-    if (std::find(m_requestIds.begin(), m_requestIds.end(), requestId) == m_requestIds.end()) {
+    if (!m_requestIds.contains(requestId)) {
         qCDebug(sdkLog) << "device" << m_device.id << "answers what it was not asked:" << requestId.left(64)
                         << "dropped";
         return;
@@ -290,10 +292,10 @@ void DeviceLink::send(const QString &requestId, const QString &text)
         warn(QStringLiteral("does not take its requests fast enough, or they are too large; some are dropped"));
         return;
     }
-    if (m_requestIds.empty() || m_requestIds.front() != requestId) {
-        m_requestIds.push_front(requestId);
+    if (m_requestIds.isEmpty() || m_requestIds.constFirst() != requestId) {
+        m_requestIds.prepend(requestId);
         if (m_requestIds.size() > maxRequestIds)
-            m_requestIds.pop_back();
+            m_requestIds.removeLast();
     }
     m_connection->sendText(frame);
 }

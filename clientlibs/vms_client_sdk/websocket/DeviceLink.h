@@ -7,9 +7,9 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 #include <QUrl>
 
-#include <deque>
 #include <optional>
 
 QT_BEGIN_NAMESPACE
@@ -91,7 +91,7 @@ private:
     int m_cuts = 0; ///< in a row, because the device sent more than it may
     QElapsedTimer m_onlineFor;
     int m_unansweredPings = 0;
-    std::deque<QString> m_requestIds; ///< sent to this device, the latest first
+    QStringList m_requestIds; ///< sent to this device, the latest first
     QSet<QString> m_warned; ///< since the last welcome
 };
 

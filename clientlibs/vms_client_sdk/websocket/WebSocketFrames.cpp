@@ -47,21 +47,37 @@ WebSocketFrames::WebSocketFrames(QIODevice &device, bool masksOwn)
     : m_device(device)
     , m_masksOwn(masksOwn)
 {
-    static const wslay_frame_callbacks callbacks{&Callbacks::send, &Callbacks::receive, &Callbacks::makeMask};
-    wslay_frame_context *context = nullptr;
-    if (wslay_frame_context_init(&context, &callbacks, this) != 0)
-        qBadAlloc();
-    m_context.reset(context);
 }
 
 WebSocketFrames::~WebSocketFrames() = default;
 
+wslay_frame_context *WebSocketFrames::context()
+{
+    if (!m_context) {
+        static const wslay_frame_callbacks callbacks{&Callbacks::send, &Callbacks::receive, &Callbacks::makeMask};
+        wslay_frame_context *made = nullptr;
+        if (wslay_frame_context_init(&made, &callbacks, this) != 0)
+            qBadAlloc();
+        m_context.reset(made);
+    }
+    return m_context.get();
+}
+
+void WebSocketFrames::releaseWhenIdle()
+{
+    // Of ten thousand connections nearly all are silent.
+    if (m_frameOffset == 0 && m_bytesTaken == m_bytesRead)
+        m_context.reset();
+}
+
 WebSocketFrames::Result WebSocketFrames::next(Chunk *chunk)
 {
     wslay_frame_iocb frame{};
-    const ssize_t result = wslay_frame_recv(m_context.get(), &frame);
-    if (result == WSLAY_ERR_WANT_READ)
+    const ssize_t result = wslay_frame_recv(context(), &frame);
+    if (result == WSLAY_ERR_WANT_READ) {
+        releaseWhenIdle();
         return Result::NothingYet;
+    }
     if (result < 0)
         return Result::Malformed;
     chunk->opcode = frame.opcode;
@@ -70,6 +86,11 @@ WebSocketFrames::Result WebSocketFrames::next(Chunk *chunk)
     chunk->reservedBits = frame.rsv;
     chunk->frameBytes = frame.payload_length;
     chunk->isFirst = m_frameOffset == 0;
+    if (chunk->isFirst) {
+        const int lengthBytes = frame.payload_length < 126 ? 0 : frame.payload_length < 65'536 ? 2 : 8;
+        m_bytesTaken += quint64(2 + lengthBytes + (chunk->isMasked ? 4 : 0));
+    }
+    m_bytesTaken += frame.data_length;
     chunk->data = QByteArray::fromRawData(reinterpret_cast<const char *>(frame.data), int(frame.data_length));
     m_frameOffset += frame.data_length;
     chunk->isLast = m_frameOffset == frame.payload_length;
@@ -91,13 +112,14 @@ QByteArray WebSocketFrames::encode(Opcode opcode, const QByteArray &payload)
     frame.data_length = size_t(payload.size());
     size_t sent = 0;
     do {
-        const ssize_t bytes = wslay_frame_send(m_context.get(), &frame);
+        const ssize_t bytes = wslay_frame_send(context(), &frame);
         if (bytes < 0)
             break; // not with a callback that takes everything
         sent += size_t(bytes);
         frame.data += bytes;
         frame.data_length -= size_t(bytes);
     } while (sent < size_t(payload.size()));
+    releaseWhenIdle();
     return std::exchange(m_encoded, {});
 }
 

@@ -65,10 +65,14 @@ private:
         void operator()(wslay_frame_context *context) const;
     };
 
+    wslay_frame_context *context();
+    void releaseWhenIdle();
+
     QIODevice &m_device;
     const bool m_masksOwn;
-    std::unique_ptr<wslay_frame_context, Free> m_context;
+    std::unique_ptr<wslay_frame_context, Free> m_context; ///< 8 KiB: none while nothing of a frame has come
     quint64 m_bytesRead = 0;
+    quint64 m_bytesTaken = 0; ///< those of them that were handed on, heads included
     quint64 m_frameOffset = 0; ///< of the payload that comes next
     QByteArray m_encoded;
 };
