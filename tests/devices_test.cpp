@@ -358,8 +358,10 @@ private slots:
             QTRY_COMPARE(device->received.size(), 1);
         }
         connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, m_transport, [count] {
+            // The window hangs until the network has taken all that it takes.
+            for (int before = -1; count->heard == 0 && count->raised != before; QThread::msleep(300))
+                before = count->raised;
             ++count->heard;
-            QThread::msleep(5);
         });
         const QString text = QStringLiteral("\n[\"%1\"]").arg(QString(characters, QLatin1Char('x')));
         for (const auto &device : site)
