@@ -16,8 +16,6 @@ struct WebSocketOptions
     std::chrono::milliseconds closeLimit{2'000}; ///< what a connection may take to close before it is cut
     int maxSettingUp = 32; ///< more at once make devices and switches drop handshakes
     int maxWaiting = 512; ///< connections that are up and wait for the device; each is an open file
-    int maxFramesPerSecond = 1'000; ///< from one device, of every kind; a device answers a run with about ten
-    int maxBytesPerSecond = 16 << 20; ///< from one device
 };
 
 } // namespace vms_sdk

@@ -114,8 +114,7 @@ void DeviceLink::dial()
 
 WebSocketConnection *DeviceLink::makeConnection()
 {
-    const PeerLimits limits{m_host.options().maxFramesPerSecond, m_host.options().maxBytesPerSecond, maxFrameBytes};
-    auto *connection = new WebSocketConnection(limits, this);
+    auto *connection = new WebSocketConnection(PeerLimits(), this);
     connection->setReading(!m_host.isReadingHeld());
     connection->setMaxMessageBytes(maxSignOnBytes);
     connect(connection, &WebSocketConnection::lineUp, this, &DeviceLink::onLineUp);
@@ -259,11 +258,6 @@ void DeviceLink::setReading(bool isReading)
 {
     if (m_connection)
         m_connection->setReading(isReading);
-}
-
-void DeviceLink::keptTooMuch(const QString &why)
-{
-    cut(why);
 }
 
 qint64 DeviceLink::unsentBytes() const

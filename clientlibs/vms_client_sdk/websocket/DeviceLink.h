@@ -41,7 +41,7 @@ public:
     void dial(); ///< by the host, once per queueForDialling()
     void deadlineReached(); ///< by the host
     void setReading(bool isReading); ///< by the host
-    void keptTooMuch(const QString &why); ///< by the host; the reason is for the log
+    void cut(const QString &why); ///< for what the device does; dialled again later than after a loss
     qint64 unsentBytes() const; ///< 0 without a connection
 
 signals:
@@ -71,7 +71,6 @@ private:
     void ping();
     void queue();
     void lost(const QString &why);
-    void cut(const QString &why);
     void refused(const QString &why);
     void rest(DevStatus status, int closeCode);
     void setStatus(DevStatus status);

@@ -144,7 +144,7 @@ void LinkHost::setUnfinished(DeviceLink *link, qint64 bytes)
 {
     m_unfinished.set(link, bytes);
     while (m_unfinished.isTooMuch())
-        m_unfinished.largest()->keptTooMuch(QStringLiteral("does not finish its message"));
+        m_unfinished.largest()->cut(QStringLiteral("does not finish its message"));
 }
 
 void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
@@ -156,7 +156,7 @@ void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
     for (DeviceLink *known : links) // most have taken theirs meanwhile
         m_unsent.set(known, known->unsentBytes());
     while (m_unsent.isTooMuch())
-        m_unsent.largest()->keptTooMuch(QStringLiteral("does not take what is sent to it"));
+        m_unsent.largest()->cut(QStringLiteral("does not take what is sent to it"));
 }
 
 void LinkHost::Kept::set(DeviceLink *link, qint64 bytes)

@@ -130,10 +130,7 @@ void WebSocketConnection::readHandshake()
     if (!fault.isEmpty())
         return end(fault);
     m_phase = Phase::Open;
-    const QPointer<WebSocketConnection> self(this);
-    emit opened();
-    if (self)
-        readFrames(); // they may have come with the handshake
+    readFrames(); // they may have come with the handshake
 }
 
 QString WebSocketConnection::handshakeFault() const

@@ -68,7 +68,6 @@ signals:
     /// TCP and, where the address asks for it, TLS are up; the handshake follows.
     void lineUp();
     void sslErrors(const QList<QSslError> &errors);
-    void opened();
     void textReceived(const QByteArray &utf8); ///< valid UTF-8
     void binaryReceived(); ///< it is dropped
     void pongReceived();
