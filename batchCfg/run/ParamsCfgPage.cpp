@@ -2,7 +2,6 @@
 
 #include "run/BatchCfgContact.h"
 #include "run/CfgResultsRecorder.h"
-#include "run/CheckBoxAccess.h"
 #include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
 #include "run/WheelGuard.h"
@@ -91,7 +90,6 @@ ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QW
     , m_title(title)
     , m_recorder(new CfgResultsRecorder(recordFile, this))
 {
-    installCheckBoxAccess();
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked,
             this, [this](const QString &uuid, int button) {
                 if (m_confirmUuid.isEmpty())
@@ -116,7 +114,7 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
     for (const Param &param : params) {
         if (param.box && !boxes.contains(param.box)) {
             boxes.append(param.box);
-            connect(param.box, &QCheckBox::clicked, this, &ParamsCfgPage::slotSelectedParamsChanged);
+            connect(param.box, &QCheckBox::toggled, this, &ParamsCfgPage::slotSelectedParamsChanged);
         }
     }
     auto *all = findChild<QCheckBox *>(QStringLiteral("allParams"));
@@ -141,11 +139,19 @@ void ParamsCfgPage::addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes
     m_selections.append({all, boxes, noneAlert});
     for (QCheckBox *box : boxes)
         box->setAccessibleName(tr("Configure %1").arg(box->text())); // the editor of the value has the name itself
-    connect(all, &QCheckBox::clicked, this, [this, all, boxes](bool checked) {
+    const auto tickAll = [this, all, boxes](bool checked) {
+        m_isTickingAll = true;
         all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         for (QCheckBox *box : boxes)
             box->setChecked(checked);
+        m_isTickingAll = false;
         refresh();
+    };
+    connect(all, &QCheckBox::clicked, this, tickAll);
+    // Assistive technology toggles a box without a click. "Partly" comes from the boxes, or on the way to a click.
+    connect(all, &QCheckBox::toggled, this, [this, all, tickAll](bool checked) {
+        if (!m_isTickingAll && all->checkState() != Qt::PartiallyChecked)
+            tickAll(checked);
     });
 }
 
@@ -157,7 +163,7 @@ void ParamsCfgPage::slotSelectedParamsChanged()
 void ParamsCfgPage::updateSelection(const QCheckBox *all)
 {
     for (const Selection &selection : qAsConst(m_selections)) {
-        if (selection.all == all) {
+        if (selection.all == all && !m_isTickingAll) {
             const auto ticked = std::count_if(selection.boxes.begin(), selection.boxes.end(),
                                               [](const QCheckBox *box) { return box->isChecked(); });
             const bool isWhole = ticked == selection.boxes.size();

@@ -1,7 +1,6 @@
 #include "shell/BatchCfgForm.h"
 
 #include "run/BatchCfgContact.h"
-#include "run/CheckBoxAccess.h"
 #include "shell/EmptyListHint.h"
 #include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
@@ -72,7 +71,6 @@ BatchCfgForm::BatchCfgForm(QWidget *parent)
     , m_ui(std::make_unique<Ui::BatchCfgForm>())
     , m_tableOperStyle(new orda_base::TableOperWtStyle(this))
 {
-    installCheckBoxAccess();
     m_ui->setupUi(this);
     BatchCfgContact::instance().setForm(this);
     initContextMenu();
