@@ -4,7 +4,7 @@
 
 namespace orda_base {
 
-/// An editor for a port number: takes 0 to 65535, or nothing.
+/// An editor for a port number: accepts 0 to 65535, or nothing.
 class PortEditWt : public QLineEdit
 {
     Q_OBJECT

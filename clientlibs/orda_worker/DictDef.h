@@ -5,7 +5,7 @@
 
 namespace orda_worker {
 
-/// Texts that all modules share. GUI thread only.
+/// Texts that all modules use. GUI thread only.
 class DictDef
 {
     Q_DECLARE_TR_FUNCTIONS(DictDef)
