@@ -1,5 +1,7 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QString>
 
 namespace XCOMMON {
@@ -14,6 +16,6 @@ enum PwdStrength
 
 /// There are four kinds of characters: lower case, upper case, digits, and all others.
 /// Empty: invalid. Under 8 characters, or only one kind: weak. Two kinds: medium. Three kinds or more: strong.
-PwdStrength checkPwdStrength(const QString &password);
+XCOMMON_EXPORT PwdStrength checkPwdStrength(const QString &password);
 
 } // namespace XCOMMON

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QHash>
 #include <QUuid>
 
@@ -8,7 +10,7 @@ namespace orda_base {
 class DisabledWaitingWt;
 
 /// Finds overlays by their ids, so that they can be destroyed without a pointer to them. GUI thread only.
-class DisabledWaitingWtManager
+class ORDA_BASE_EXPORT DisabledWaitingWtManager
 {
 public:
     static DisabledWaitingWtManager &instance();

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QObject>
 
 namespace orda_base {
 
 /// Base of a module's entry class. The client calls these functions during the life of the module; a module overrides
 /// those that it needs.
-class ModuleInitialization : public QObject
+class ORDA_BASE_EXPORT ModuleInitialization : public QObject
 {
     Q_OBJECT
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QTableWidgetItem>
 
 namespace orda_base {
 
 /// A cell that sorts by nameCollator().
-class NameTableItem : public QTableWidgetItem
+class ORDA_BASE_EXPORT NameTableItem : public QTableWidgetItem
 {
 public:
     explicit NameTableItem(const QString &name);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QAbstractButton>
 #include <QIcon>
 
@@ -7,7 +9,7 @@ namespace orda_base {
 
 /// A bar of the navigation, or an entry under a bar. The arrow keys move the focus to the button above or below; Space
 /// and Return press the button. Assistive technology is told which entry is open and which bars are unfolded.
-class NavigationButton : public QAbstractButton
+class ORDA_BASE_EXPORT NavigationButton : public QAbstractButton
 {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_base/Export.h>
 #include <orda_base/NavigationActionInfo.h>
 
 #include <QList>
@@ -17,7 +18,7 @@ class NavigationButton;
 /// A column of bars with icons. A bar either opens a page itself or shows and hides its entries, which open pages.
 /// Every bar and entry is a QAbstractButton whose object name is its key. The Tab key visits them from top to bottom.
 /// GUI thread only.
-class NavigationWidget : public QWidget
+class ORDA_BASE_EXPORT NavigationWidget : public QWidget
 {
     Q_OBJECT
 
@@ -37,7 +38,7 @@ public:
     /// The key of the highlighted entry; empty while there is none.
     QString currentKey() const { return m_currentKey; }
 
-signals:
+Q_SIGNALS:
     /// A bar or an entry was clicked. Also raised for a bar that only shows or hides its entries.
     void signalCurAction(const QString &key);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QObject>
 
 QT_BEGIN_NAMESPACE
@@ -12,7 +14,7 @@ namespace orda_base {
 /// in dialogs, and there again with every repetition of the key.
 ///
 /// The key goes no further then: a dialog around the widget would press a button of its own. GUI thread only.
-class ReturnPressesButton : public QObject
+class ORDA_BASE_EXPORT ReturnPressesButton : public QObject
 {
     Q_OBJECT
 

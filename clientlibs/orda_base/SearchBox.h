@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -10,7 +12,7 @@ namespace orda_base {
 
 /// A line edit for a search. It searches at every change of the text and at Return; Esc or its button clears it. GUI
 /// thread only.
-class SearchBox : public QWidget
+class ORDA_BASE_EXPORT SearchBox : public QWidget
 {
     Q_OBJECT
 
@@ -19,7 +21,7 @@ public:
 
     QString text() const;
 
-signals:
+Q_SIGNALS:
     /// @param keyword the present text; empty when the line was cleared
     void signalSearchByKeyword(const QString &keyword);
 

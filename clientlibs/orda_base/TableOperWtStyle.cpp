@@ -60,7 +60,8 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
         setVisibleRows(checked);
     };
     connect(all, &QCheckBox::clicked, this, tickAll);
-    // Assistive technology toggles the box without a click. "Partly" comes from the rows, or on the way to a click.
+    // Assistive technology toggles the box without a click. A change that comes from the rows ticks nothing: then the
+    // box is partly checked, or all rows are as it says.
     connect(all, &QCheckBox::toggled, this, [this, tickAll](bool checked) {
         if (m_all->checkState() != Qt::PartiallyChecked)
             tickAll(checked);

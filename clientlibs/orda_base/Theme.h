@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QString>
 
 QT_BEGIN_NAMESPACE
@@ -12,7 +14,7 @@ namespace orda_base {
 /// The style of all windows. A module chooses some of it by dynamic properties, which count whatever their value is:
 /// "common_bt_style1" and "common_bt_style2" on a push button for the main and the second action; "page_caption" and
 /// "dialog_caption" on a label for headings; "page_card" on a widget for a framed area.
-class Theme
+class ORDA_BASE_EXPORT Theme
 {
 public:
     enum Scheme

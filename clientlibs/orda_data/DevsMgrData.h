@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_data/Export.h>
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QHash>
@@ -14,7 +15,7 @@ using vms_sdk::DevInfo;
 /// The device store: the records of all devices and their states. It takes the states from the SDK
 /// (ClientSignals::signalDevStatusChanged), from the first call of instance() on. It reports changes through
 /// DataSignals. GUI thread only.
-class DevsMgrData : public QObject
+class ORDA_DATA_EXPORT DevsMgrData : public QObject
 {
     Q_OBJECT
 

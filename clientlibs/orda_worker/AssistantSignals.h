@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_worker/Export.h>
 #include <orda_worker/EventConfirmInfo.h>
 
 #include <QObject>
@@ -7,14 +8,14 @@
 namespace orda_worker {
 
 /// Signals of the dialogs of SystemAssistant. Raised on the GUI thread.
-class AssistantSignals : public QObject
+class ORDA_WORKER_EXPORT AssistantSignals : public QObject
 {
     Q_OBJECT
 
 public:
     static AssistantSignals &instance();
 
-signals:
+Q_SIGNALS:
     /// Raised once for each question that the operator answers. @param index the index of the button
     void signalEventConfirmOperBtClicked(const QString &uuid, int index);
     /// The dialog was shown.
