@@ -4,7 +4,6 @@
 #include "run/CfgFamily.h"
 #include "run/CfgResultsRecorder.h"
 #include "run/CfgRun.h"
-#include "run/CheckBoxAccess.h"
 #include "run/KeyEditor.h"
 #include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
@@ -59,7 +58,6 @@ ParamsCfgPage::ParamsCfgPage(const CfgFamily &family, QWidget *parent)
     , m_family(family)
     , m_recorder(new CfgResultsRecorder(family.recordFile(), this))
 {
-    installCheckBoxAccess();
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked,
             this, [this](const QString &uuid, int button) {
                 if (m_confirmUuid.isEmpty())
@@ -84,7 +82,7 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
     for (const Param &param : params) {
         if (param.box && !boxes.contains(param.box)) {
             boxes.append(param.box);
-            connect(param.box, &QCheckBox::clicked, this, &ParamsCfgPage::slotSelectedParamsChanged);
+            connect(param.box, &QCheckBox::toggled, this, &ParamsCfgPage::slotSelectedParamsChanged);
         }
         if (param.key)
             fillEditor(param.editor, m_family, param.key);
@@ -111,11 +109,20 @@ void ParamsCfgPage::addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes
     m_selections.append({all, boxes, noneAlert});
     for (QCheckBox *box : boxes)
         box->setAccessibleName(tr("Configure %1").arg(box->text())); // the editor of the value has the name itself
-    connect(all, &QCheckBox::clicked, this, [this, all, boxes](bool checked) {
+    const auto tickAll = [this, all, boxes](bool checked) {
+        m_isTickingAll = true;
         all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         for (QCheckBox *box : boxes)
             box->setChecked(checked);
+        m_isTickingAll = false;
         refresh();
+    };
+    connect(all, &QCheckBox::clicked, this, tickAll);
+    // Assistive technology toggles the box without a click. A change that comes from the boxes ticks nothing: then the
+    // box is partly checked, or all boxes are as it says.
+    connect(all, &QCheckBox::toggled, this, [this, all, tickAll](bool checked) {
+        if (!m_isTickingAll && all->checkState() != Qt::PartiallyChecked)
+            tickAll(checked);
     });
 }
 
@@ -127,7 +134,7 @@ void ParamsCfgPage::slotSelectedParamsChanged()
 void ParamsCfgPage::updateSelection(const QCheckBox *all)
 {
     for (const Selection &selection : qAsConst(m_selections)) {
-        if (selection.all == all) {
+        if (selection.all == all && !m_isTickingAll) {
             const auto ticked = std::count_if(selection.boxes.begin(), selection.boxes.end(),
                                               [](const QCheckBox *box) { return box->isChecked(); });
             const bool isWhole = ticked == selection.boxes.size();

@@ -2,7 +2,6 @@
 
 #include "families/Families.h"
 #include "run/BatchCfgContact.h"
-#include "run/CheckBoxAccess.h"
 #include "shell/EmptyListHint.h"
 #include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
@@ -73,7 +72,6 @@ BatchCfgForm::BatchCfgForm(QWidget *parent)
     , m_ui(std::make_unique<Ui::BatchCfgForm>())
     , m_tableOperStyle(new orda_base::TableOperWtStyle(this))
 {
-    installCheckBoxAccess();
     m_ui->setupUi(this);
     BatchCfgContact::instance().setForm(this);
     initContextMenu();

@@ -24,7 +24,7 @@ VideoParamsCfgPage::VideoParamsCfgPage(QWidget *parent)
     connect(m_hdPanel, &VideoParamsPanel::signalAlignmentGlobalPosX, this, &VideoParamsCfgPage::alignSmartEncoding);
 
     for (const QCheckBox *stream : {m_ui->HDStream, m_ui->SDStream})
-        connect(stream, &QCheckBox::clicked, this, &VideoParamsCfgPage::slotSelectedStreamsChanged);
+        connect(stream, &QCheckBox::toggled, this, &VideoParamsCfgPage::slotSelectedStreamsChanged);
     addSelection(m_ui->allStreams, {m_ui->HDStream, m_ui->SDStream}, tr("Please select the streams to be configured"));
     // The panels have the values, so the table has only the boxes and what they mean to the panels.
     setParams({
