@@ -5,6 +5,7 @@
 #include "run/CheckBoxAccess.h"
 #include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
+#include "run/SwitchImages.h"
 #include "run/WheelGuard.h"
 
 #include <XCOMMON/XLabel.h>
@@ -132,6 +133,7 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
     for (QPushButton *button : buttons)
         button->setAutoDefault(false);
     new WheelGuard(this);
+    completeSwitchImages(this);
     connect(m_okBt, &QPushButton::clicked, this, &ParamsCfgPage::configure);
     connect(m_reportBt, &QPushButton::clicked, this, &ParamsCfgPage::openReport);
 }
