@@ -28,7 +28,7 @@ public:
                                bool flag = false);
     ~DisabledWaitingWt() override;
 
-    QUuid getUuid() const { return m_uuid; }
+    QUuid getUuid() const;
     /// Seen within a few hundredths of a second: thousands of updates a second would be nothing but painting.
     void updateDescription(const QString &description);
     QString description() const { return m_text; }
