@@ -68,7 +68,7 @@ parts=$(cd "$scratch/whole/orda" && find batchCfg clientlibs fleet client packag
 grep -q '^CMAKE_BUILD_TYPE:STRING=$' "$scratch/whole/CMakeCache.txt" || fail "the build type of the client's tree was changed"
 
 # The same with the client libraries from elsewhere.
-configure_and_build "$scratch/tree" module "$@" -DCMAKE_BUILD_TYPE=Release -DORDA_BUNDLED_CLIENTLIBS=OFF
+configure_and_build "$scratch/tree" module "$@" -DCMAKE_BUILD_TYPE=Debug -DORDA_BUNDLED_CLIENTLIBS=OFF
 [ -z "$(find "$scratch/module" -name 'liborda_base*')" ] || fail "the client libraries were built although they were given"
 exports_only_the_entry "$(find "$scratch/module" -name liborda_batchCfg.so)"
 starts_when_installed module "$scratch/own"
@@ -79,6 +79,5 @@ mkdir -p "$skeleton"/{include,lib/cmake/orda_clientlibs}
 cp -R "$source"/docs/skeleton/*/ "$skeleton/include"
 cp "$source/docs/skeleton/orda_clientlibsConfig.cmake" "$skeleton/lib/cmake/orda_clientlibs"
 cp -P "$libraries"/lib{vms_client_sdk,XCOMMON,orda_data,orda_base,orda_worker,orda_saas}.so* "$skeleton/lib"
-configure_and_build "$source" alone "$@" -DORDA_BUNDLED_CLIENTLIBS=OFF -DCMAKE_PREFIX_PATH="$skeleton" -DORDA_WERROR=ON \
-  -DCMAKE_SHARED_LINKER_FLAGS=-Wl,-z,defs -DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O0
+configure_and_build "$source" alone "$@" -DORDA_BUNDLED_CLIENTLIBS=OFF -DCMAKE_PREFIX_PATH="$skeleton" -DORDA_WERROR=ON -DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O0
 grep -q '^CMAKE_BUILD_TYPE:STRING=RelWithDebInfo$' "$scratch/alone/CMakeCache.txt" || fail "there is no default build type"

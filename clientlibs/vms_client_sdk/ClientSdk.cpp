@@ -4,6 +4,7 @@
 #include "DeviceTransport.h"
 #include "Inbox.h"
 #include "Logging.h"
+#include "PendingRequests.h"
 #include "Requests.h"
 
 #include <QAbstractEventDispatcher>
@@ -30,6 +31,7 @@ ClientSdk &ClientSdk::instance()
 }
 
 ClientSdk::ClientSdk()
+    : m_pending(std::make_unique<PendingRequests>())
 {
     m_clock.start();
     m_timer.setSingleShot(true);
@@ -46,7 +48,7 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
     m_transport.reset();
     m_inbox.reset();
     m_answersFirst = 0;
-    m_pending.clear();
+    m_pending->clear();
     m_timedOut.clear();
     m_timer.stop();
 
@@ -76,8 +78,8 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
 
 void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
 {
-    m_pending.advanceTo(m_clock.elapsed());
-    m_pending.setTimeout(timeout);
+    m_pending->advanceTo(m_clock.elapsed());
+    m_pending->setTimeout(timeout);
     if (m_timer.isActive())
         startTimer(); // at the new pace
 }
@@ -85,8 +87,8 @@ void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
 void ClientSdk::send(const QString &requestId, const QString &devId, const QString &text)
 {
     Q_ASSERT(QThread::currentThread() == m_timer.thread());
-    m_pending.advanceTo(m_clock.elapsed());
-    m_pending.add(requestId);
+    m_pending->advanceTo(m_clock.elapsed());
+    m_pending->add(requestId);
     if (!m_timer.isActive())
         startTimer();
 
@@ -100,8 +102,8 @@ void ClientSdk::send(const QString &requestId, const QString &devId, const QStri
 void ClientSdk::renew(const QString &requestId)
 {
     if (!m_isClockFresh)
-        m_pending.advanceTo(m_clock.elapsed());
-    m_pending.renew(requestId);
+        m_pending->advanceTo(m_clock.elapsed());
+    m_pending->renew(requestId);
 }
 
 void ClientSdk::watchEventLoop()
@@ -119,7 +121,7 @@ template <typename Raise>
 void ClientSdk::raise(Raise signal)
 {
     watchEventLoop();
-    m_pending.advanceTo(m_clock.elapsed());
+    m_pending->advanceTo(m_clock.elapsed());
     m_isClockFresh = true;
     signal(ClientSignals::instance());
     m_isClockFresh = false;
@@ -146,11 +148,11 @@ void ClientSdk::checkTimeouts()
         }
         m_answersFirst = 0;
     }
-    m_pending.advanceTo(m_clock.elapsed());
-    m_timedOut += m_pending.takeDue();
+    m_pending->advanceTo(m_clock.elapsed());
+    m_timedOut += m_pending->takeDue();
     // Before the signals: a listener may wait in an event loop of its own, and the others' time-outs must come all the
     // same.
-    if (!m_pending.isEmpty() || !m_timedOut.isEmpty())
+    if (!m_pending->isEmpty() || !m_timedOut.isEmpty())
         startTimer();
     QElapsedTimer slice;
     slice.start();
@@ -165,7 +167,7 @@ void ClientSdk::checkTimeouts()
 
 void ClientSdk::startTimer()
 {
-    m_timer.start(int(m_pending.untilNextTick()));
+    m_timer.start(int(m_pending->untilNextTick()));
 }
 
 // Requests.h: here, because a run of 10,000 devices calls the second 5 * 10^7 times.
