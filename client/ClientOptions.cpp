@@ -1,10 +1,12 @@
-#include "ClientOptions.h"
+#include "client/ClientOptions.h"
 
-#include "Families.h"
+#include "client/Families.h"
+#include "programs/CommandLine.h"
 
-#include <CommandLine.h>
 #include <QCoreApplication>
 #include <QDir>
+
+namespace orda_client {
 
 namespace {
 
@@ -74,7 +76,7 @@ ClientOptions parseOptions(const QStringList &arguments)
     parser.addOptions({demo, inventory, faults, language, theme, run, devices, screenshots});
 
     ClientOptions options;
-    options.error = device_fleet::parseCommandLine(parser, arguments);
+    options.error = orda_programs::parseCommandLine(parser, arguments);
     if (!options.error.isEmpty())
         return options;
 
@@ -120,3 +122,5 @@ ClientOptions parseOptions(const QStringList &arguments)
         return fail(ClientOptions::tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir));
     return options;
 }
+
+} // namespace orda_client

@@ -4,22 +4,12 @@
 #include <QString>
 #include <QStringList>
 
-/// Exit codes of orda_client.
-enum ExitCode
-{
-    ExitOk = 0,
-    ExitSomeFailed = 1,
-    ExitUsage = 2,
-    ExitInput = 3,
-    ExitNoDevice = 4,
-    ExitRecordInUse = 5, ///< nothing was configured: another client's run has the record
-    ExitNoRecord = 6 ///< the run took place, but its record is missing or not whole
-};
+namespace orda_client {
 
 /// What the command line asks for.
 struct ClientOptions
 {
-    Q_DECLARE_TR_FUNCTIONS(ClientOptions)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::ClientOptions)
 
 public:
     int demoDevices = 0; ///< 0: no embedded fleet
@@ -38,3 +28,5 @@ QString requestedLanguage(const QStringList &arguments);
 
 /// @param arguments the application's, program name first. --help and --version print and end the program here.
 ClientOptions parseOptions(const QStringList &arguments);
+
+} // namespace orda_client

@@ -1,14 +1,14 @@
-#include "ClientWindow.h"
+#include "client/ClientWindow.h"
 
-#include "ClientSession.h"
-#include "CloseQuestion.h"
-#include "FailedDevices.h"
-#include "Families.h"
-#include "LastRunWindow.h"
-#include "OpeningSize.h"
-#include "PageRecord.h"
-#include "RecordFile.h"
-#include "RecordViewer.h"
+#include "client/ClientSession.h"
+#include "client/CloseQuestion.h"
+#include "client/FailedDevices.h"
+#include "client/Families.h"
+#include "client/LastRunWindow.h"
+#include "client/OpeningSize.h"
+#include "client/PageRecord.h"
+#include "client/RecordFile.h"
+#include "client/RecordViewer.h"
 
 #include <orda_base/BaseForm.h>
 #include <orda_base/BaseTools.h>
@@ -39,6 +39,8 @@
 #include <QUrl>
 
 #include <chrono>
+
+namespace orda_client {
 
 namespace {
 
@@ -331,3 +333,5 @@ void ClientWindow::showRemoteConfig(const QString &devId)
     form->addRow(buttons);
     dialog->open();
 }
+
+} // namespace orda_client

@@ -14,6 +14,9 @@ QT_END_NAMESPACE
 namespace orda_worker {
 struct EventConfirmInfo;
 }
+
+namespace orda_client {
+
 class ClientSession;
 class CloseQuestion;
 class LastRunWindow;
@@ -67,3 +70,5 @@ private:
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
 };
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "CloseQuestion.h"
+#include "client/CloseQuestion.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,6 +8,8 @@
 #include <QVariant>
 
 #include <chrono>
+
+namespace orda_client {
 
 namespace {
 
@@ -68,3 +70,5 @@ void CloseQuestion::follow()
     m_count->setText(tr("%1 of %n device(s) have not answered", nullptr, total).arg(missing));
     setAccessibleDescription(m_count->text());
 }
+
+} // namespace orda_client

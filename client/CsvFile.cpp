@@ -1,10 +1,12 @@
-#include "CsvFile.h"
+#include "client/CsvFile.h"
 
 #include <QAbstractItemModel>
 #include <QRegularExpression>
 #include <QSaveFile>
 
 #include <functional>
+
+namespace orda_client {
 
 namespace {
 
@@ -48,3 +50,5 @@ QString CsvFile::write(const QString &path, const QString &text)
         return tr("cannot write the file %1: %2").arg(path, file.errorString());
     return {};
 }
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "FailedDevices.h"
+#include "client/FailedDevices.h"
 
 #include <orda_base/DisabledWaitingWt.h>
 
@@ -8,6 +8,8 @@
 #include <QTableWidget>
 
 #include <algorithm>
+
+namespace orda_client {
 
 namespace {
 
@@ -105,3 +107,5 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
         table->scrollToItem(table->item(first, checkColumn));
     return result;
 }
+
+} // namespace orda_client

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <QCoreApplication>
 
@@ -8,10 +8,12 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
+namespace orda_client {
+
 /// The devices that failed in a run, brought back to the form for another try.
 class FailedDevices
 {
-    Q_DECLARE_TR_FUNCTIONS(FailedDevices)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::FailedDevices)
 
 public:
     struct Ticked
@@ -31,3 +33,5 @@ public:
     /// such rows out. The first ticked row is brought into sight.
     static Ticked tickAgain(QWidget *form, const QVector<RunEntry> &entries);
 };
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "FailureGroupList.h"
+#include "client/FailureGroupList.h"
 
 #include <vms_client_sdk/ForeignText.h>
 
@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QSignalBlocker>
 #include <QTextDocument>
+
+namespace orda_client {
 
 FailureGroupList::FailureGroupList(QWidget *parent)
     : orda_base::TableWidget(parent)
@@ -64,3 +66,5 @@ void FailureGroupList::addRow(const QString &recorded, int count)
     setItem(row, 0, message);
     setItem(row, 1, number);
 }
+
+} // namespace orda_client

@@ -1,8 +1,10 @@
-#include "Families.h"
+#include "client/Families.h"
 
 #include <QStackedWidget>
 
 #include <algorithm>
+
+namespace orda_client {
 
 namespace {
 
@@ -52,3 +54,5 @@ const Family *shownFamily(const QWidget *form)
                                     [&page](const Family &candidate) { return candidate.pageName == page; });
     return found == families().end() ? nullptr : &*found;
 }
+
+} // namespace orda_client

@@ -1,14 +1,14 @@
-#include "LastRunWindow.h"
+#include "client/LastRunWindow.h"
 
-#include "CsvFile.h"
-#include "FailedDevices.h"
-#include "FailureGroupList.h"
-#include "Families.h"
-#include "OpeningSize.h"
-#include "RunRecordFilter.h"
-#include "RunRecordModel.h"
-#include "RunRecordView.h"
-#include "TickReport.h"
+#include "client/CsvFile.h"
+#include "client/FailedDevices.h"
+#include "client/FailureGroupList.h"
+#include "client/Families.h"
+#include "client/OpeningSize.h"
+#include "client/RunRecordFilter.h"
+#include "client/RunRecordModel.h"
+#include "client/RunRecordView.h"
+#include "client/TickReport.h"
 
 #include <orda_base/SearchBox.h>
 #include <orda_worker/AssistantSignals.h>
@@ -33,6 +33,8 @@
 
 #include <algorithm>
 #include <chrono>
+
+namespace orda_client {
 
 namespace {
 
@@ -397,3 +399,5 @@ void LastRunWindow::exportCsv()
     });
     dialog->open();
 }
+
+} // namespace orda_client

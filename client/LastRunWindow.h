@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PageRecord.h"
+#include "client/PageRecord.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -17,6 +17,9 @@ QT_END_NAMESPACE
 namespace orda_base {
 class SearchBox;
 }
+
+namespace orda_client {
+
 class FailureGroupList;
 class RunRecordFilter;
 class RunRecordModel;
@@ -86,3 +89,5 @@ private:
     QPushButton *m_tickAgain;
     QPushButton *m_export;
 };
+
+} // namespace orda_client

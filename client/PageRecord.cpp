@@ -1,11 +1,13 @@
-#include "PageRecord.h"
+#include "client/PageRecord.h"
 
-#include "Families.h"
+#include "client/Families.h"
 
 #include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
+
+namespace orda_client {
 
 PageRecord PageRecord::of(const QWidget *form, const Family &family)
 {
@@ -59,3 +61,5 @@ QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also)
     });
     return records;
 }
+
+} // namespace orda_client

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RecordFile.h"
-#include "RunRecord.h"
+#include "client/RecordFile.h"
+#include "client/RunRecord.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -11,12 +11,14 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
+namespace orda_client {
+
 struct Family;
 
 /// What a page of the form says of the record of its last run, in this process.
 struct PageRecord
 {
-    Q_DECLARE_TR_FUNCTIONS(PageRecord)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::PageRecord)
 
 public:
     QString inUse; ///< who had the record when Configure was pressed last and so did nothing; else empty
@@ -49,3 +51,5 @@ struct FamilyRecord
 /// The records that are there or should be: those that may be read first, then the newest first.
 /// @param also a family that is in it in any case; may be null
 QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also);
+
+} // namespace orda_client

@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+namespace orda_client {
+
 /// How long the event loop of this thread did not turn: the lateness of a 5 ms timer. A window stands still as long.
 class PauseMeter
 {
@@ -40,3 +42,5 @@ private:
     QElapsedTimer m_sinceTick;
     double m_longest = 0;
 };
+
+} // namespace orda_client

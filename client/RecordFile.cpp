@@ -1,4 +1,4 @@
-#include "RecordFile.h"
+#include "client/RecordFile.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -9,6 +9,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+namespace orda_client {
 
 namespace {
 
@@ -97,3 +99,5 @@ RecordFile::Content RecordFile::read() const
         return fail(file.errorString());
     return {bytes, {}};
 }
+
+} // namespace orda_client

@@ -3,11 +3,13 @@
 #include <QCoreApplication>
 #include <QString>
 
+namespace orda_client {
+
 /// A record on the disk. It lies in a directory that all users of the machine may share, so only a regular file of the
 /// user's own is ever read.
 class RecordFile
 {
-    Q_DECLARE_TR_FUNCTIONS(RecordFile)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::RecordFile)
 
 public:
     /// What is there, told without reading. Two looks that are equal saw the same record.
@@ -42,3 +44,5 @@ public:
 private:
     QString m_path;
 };
+
+} // namespace orda_client

@@ -1,6 +1,8 @@
-#include "RecordViewer.h"
+#include "client/RecordViewer.h"
 
 #include <QProcess>
+
+namespace orda_client {
 
 void RecordViewer::open(const QString &path)
 {
@@ -25,3 +27,5 @@ void RecordViewer::open(const QString &path)
     });
     opener->start(QStringLiteral("xdg-open"), {path});
 }
+
+} // namespace orda_client

@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+namespace orda_client {
+
 /// Opens files with the desktop's viewer, and tells when there is none.
 class RecordViewer : public QObject
 {
@@ -16,3 +18,5 @@ public:
 signals:
     void signalNoViewer(const QString &path);
 };
+
+} // namespace orda_client

@@ -1,9 +1,10 @@
-#include "RunDriver.h"
+#include "client/RunDriver.h"
 
-#include "Families.h"
-#include "LastRunWindow.h"
-#include "PageRecord.h"
-#include "RecordFile.h"
+#include "client/Families.h"
+#include "client/LastRunWindow.h"
+#include "client/PageRecord.h"
+#include "client/RecordFile.h"
+#include "programs/Complaint.h"
 
 #include <orda_base/DisabledWaitingWt.h>
 #include <orda_data/DataSignals.h>
@@ -27,6 +28,10 @@
 
 #include <chrono>
 
+namespace orda_client {
+
+using namespace orda_programs;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -42,11 +47,6 @@ QTextStream &out()
 {
     static QTextStream stream(stdout);
     return stream;
-}
-
-void printError(const QString &text)
-{
-    QTextStream(stderr) << "orda_client: " << vms_sdk::escaped(text) << Qt::endl;
 }
 
 } // namespace
@@ -68,7 +68,7 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
         window->resize(window->sizeHint()); // the screen in memory is small and bounds nothing
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) {
-                printError(text);
+                complain(text);
                 end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? ExitNoDevice : ExitRecordInUse);
             });
 }
@@ -82,7 +82,7 @@ void RunDriver::start()
             m_unsettled.insert(dev.id);
     for (const QString &id : qAsConst(m_options.deviceIds)) {
         if (!m_unsettled.contains(id)) {
-            printError(tr("--devices: there is no device \"%1\"").arg(id));
+            complain(tr("--devices: there is no device \"%1\"").arg(id));
             end(ExitUsage);
             return;
         }
@@ -141,7 +141,7 @@ void RunDriver::tickAndConfigure()
     out() << tr("%n device(s) ticked", nullptr, ticked) << Qt::endl;
     const int missing = m_options.deviceIds.size() - ticked;
     if (missing > 0)
-        printError(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
+        complain(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
 }
 
@@ -242,7 +242,7 @@ void RunDriver::printRecord() const
 {
     const PageRecord page = PageRecord::of(m_window, *m_family);
     if (!page.error.isEmpty())
-        printError(page.complaint());
+        complain(page.complaint());
     if (page.isMissing())
         return; // what the file holds is of another run
     const RecordFile file(m_family->recordFile);
@@ -250,7 +250,7 @@ void RunDriver::printRecord() const
     const RecordFile::Content content = file.read();
     out() << vms_sdk::escaped(QString::fromLocal8Bit(content.bytes), QStringLiteral("\n")) << Qt::flush;
     if (!content.error.isEmpty())
-        printError(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
+        complain(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
 }
 
 void RunDriver::picture(QWidget *widget, const QString &name) const
@@ -259,10 +259,12 @@ void RunDriver::picture(QWidget *widget, const QString &name) const
         return;
     const QString path = QDir(m_options.screenshotsDir).filePath(name + QStringLiteral(".png"));
     if (!widget->grab().save(path))
-        printError(tr("cannot write the picture %1").arg(path));
+        complain(tr("cannot write the picture %1").arg(path));
 }
 
 void RunDriver::end(ExitCode code)
 {
     QCoreApplication::exit(code);
 }
+
+} // namespace orda_client

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "ClientOptions.h"
-#include "PauseMeter.h"
+#include "client/ClientOptions.h"
+#include "client/PauseMeter.h"
+#include "programs/ExitCode.h"
 
 #include <vms_client_sdk/DevInfo.h>
 
@@ -16,6 +17,9 @@ QT_END_NAMESPACE
 namespace orda_worker {
 struct EventConfirmInfo;
 }
+
+namespace orda_client {
+
 struct Family;
 
 /// Drives the form as an operator would, without one: waits until the devices have come online, opens the family's
@@ -47,7 +51,7 @@ private:
     void pictureLastRun() const;
     void printRecord() const;
     void picture(QWidget *widget, const QString &name) const;
-    static void end(ExitCode code);
+    static void end(orda_programs::ExitCode code);
 
     ClientOptions m_options;
     const Family *m_family;
@@ -61,3 +65,5 @@ private:
     PauseMeter m_pauses;
     QString m_lastProgress;
 };
+
+} // namespace orda_client

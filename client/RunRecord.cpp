@@ -1,4 +1,4 @@
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <orda_base/SortOrder.h>
 
@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <optional>
+
+namespace orda_client {
 
 namespace {
 
@@ -254,3 +256,5 @@ QVector<FailureGroup> groupFailures(const QVector<RunEntry> &entries)
                      [](const FailureGroup &group, const FailureGroup &other) { return group.count > other.count; });
     return groups;
 }
+
+} // namespace orda_client

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVector>
 
+namespace orda_client {
+
 /// The outcome of one device, as a run's record has it.
 struct RunEntry
 {
@@ -53,3 +55,5 @@ QStringList successTexts();
 
 /// The largest group first, equal ones by their message.
 QVector<FailureGroup> groupFailures(const QVector<RunEntry> &entries);
+
+} // namespace orda_client

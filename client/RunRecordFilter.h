@@ -1,10 +1,12 @@
 #pragma once
 
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <QSortFilterProxyModel>
 
 #include <optional>
+
+namespace orda_client {
 
 class RunRecordModel;
 
@@ -34,3 +36,5 @@ private:
     std::optional<FailureGroup> m_group;
     QString m_keyword;
 };
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "RunRecordModel.h"
+#include "client/RunRecordModel.h"
 
 #include <orda_base/SortOrder.h>
 #include <vms_client_sdk/ForeignText.h>
@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <tuple>
+
+namespace orda_client {
 
 namespace {
 
@@ -169,3 +171,5 @@ QVariant RunRecordModel::headerData(int section, Qt::Orientation orientation, in
         return tr("Message");
     }
 }
+
+} // namespace orda_client

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <QAbstractTableModel>
 #include <QCollatorSortKey>
 
 #include <optional>
 #include <vector>
+
+namespace orda_client {
 
 /// A run's record as a table, a row an entry in the order of the record.
 class RunRecordModel : public QAbstractTableModel
@@ -57,3 +59,5 @@ private:
     QVector<RunEntry> m_entries;
     std::vector<Keys> m_keys; // by row; comparing texts anew each time would be most of a sort
 };
+
+} // namespace orda_client

@@ -1,12 +1,14 @@
-#include "RunRecordView.h"
+#include "client/RunRecordView.h"
 
-#include "RunRecordModel.h"
+#include "client/RunRecordModel.h"
 
 #include <QFontMetrics>
 #include <QHeaderView>
 
 #include <algorithm>
 #include <utility>
+
+namespace orda_client {
 
 namespace {
 
@@ -56,3 +58,5 @@ RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
     }
     horizontalHeader()->resizeSection(RunRecordModel::Outcome, outcomeWidth);
 }
+
+} // namespace orda_client

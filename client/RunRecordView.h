@@ -2,6 +2,8 @@
 
 #include <QTableView>
 
+namespace orda_client {
+
 /// The table in which a record is looked at, sorted by a click on a title.
 class RunRecordView : public QTableView
 {
@@ -11,3 +13,5 @@ public:
     /// @param record has the columns of RunRecordModel, and must outlive the view
     explicit RunRecordView(QAbstractItemModel *record, QWidget *parent = nullptr);
 };
+
+} // namespace orda_client

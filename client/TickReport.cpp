@@ -1,4 +1,4 @@
-#include "TickReport.h"
+#include "client/TickReport.h"
 
 #include <vms_client_sdk/ForeignText.h>
 
@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
+
+namespace orda_client {
 
 namespace {
 
@@ -46,3 +48,5 @@ void TickReport::setTicked(const FailedDevices::Ticked &ticked)
     m_left->setPlainText(vms_sdk::displayText(ticked.left.join(QLatin1Char('\n')), QStringLiteral("\n")));
     m_left->setVisible(!ticked.left.isEmpty());
 }
+
+} // namespace orda_client

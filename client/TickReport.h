@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FailedDevices.h"
+#include "client/FailedDevices.h"
 
 #include <QWidget>
 
@@ -8,6 +8,8 @@ QT_BEGIN_NAMESPACE
 class QLabel;
 class QPlainTextEdit;
 QT_END_NAMESPACE
+
+namespace orda_client {
 
 /// What has become of the failed devices that were to be ticked again: how many were, and which were not, with why.
 class TickReport : public QWidget
@@ -23,3 +25,5 @@ private:
     QLabel *m_text;
     QPlainTextEdit *m_left;
 };
+
+} // namespace orda_client

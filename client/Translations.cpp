@@ -1,9 +1,11 @@
-#include "Translations.h"
+#include "client/Translations.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
+
+namespace orda_client {
 
 namespace {
 
@@ -65,3 +67,5 @@ void Translations::load(const QString &file)
         m_translators.push_back(std::move(translator));
     }
 }
+
+} // namespace orda_client

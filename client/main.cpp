@@ -1,33 +1,24 @@
-#include "ClientOptions.h"
-#include "ClientSession.h"
-#include "ClientWindow.h"
-#include "RunDriver.h"
-#include "Translations.h"
+#include "client/ClientOptions.h"
+#include "client/ClientSession.h"
+#include "client/ClientWindow.h"
+#include "client/RunDriver.h"
+#include "client/Translations.h"
+#include "programs/Complaint.h"
 
 #include <orda_base/Theme.h>
-#include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/OpenFiles.h>
 
 #include <QApplication>
 #include <QIcon>
-#include <QTextStream>
 #include <QTimer>
 
 #include <chrono>
 #include <memory>
 
+using namespace orda_client;
+using namespace orda_programs;
+
 namespace {
-
-void complain(const QString &text)
-{
-    QTextStream(stderr) << "orda_client: " << vms_sdk::escaped(text) << Qt::endl;
-}
-
-int fail(const QString &error, ExitCode code)
-{
-    complain(error);
-    return code;
-}
 
 /// Without any display the window is drawn in memory only, which is enough for --run, --help and mistakes.
 /// @return whether that is so

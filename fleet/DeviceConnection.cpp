@@ -1,6 +1,6 @@
-#include "DeviceConnection.h"
+#include "fleet/DeviceConnection.h"
 
-#include "Logging.h"
+#include "fleet/Logging.h"
 
 #include <vms_client_sdk/SignOn.h>
 #include <vms_client_sdk/websocket/AnswerCheck.h>

@@ -1,11 +1,11 @@
-#include "DeviceFleet.h"
+#include "fleet/DeviceFleet.h"
 
-#include "DeviceConnection.h"
-#include "DeviceListener.h"
-#include "Logging.h"
-#include "Reaction.h"
-#include "SimulatedDevice.h"
-#include "Site.h"
+#include "fleet/DeviceConnection.h"
+#include "fleet/DeviceListener.h"
+#include "fleet/Logging.h"
+#include "fleet/Reaction.h"
+#include "fleet/SimulatedDevice.h"
+#include "fleet/Site.h"
 
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>

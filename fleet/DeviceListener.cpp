@@ -1,8 +1,8 @@
-#include "DeviceListener.h"
+#include "fleet/DeviceListener.h"
 
-#include "FleetOptions.h"
-#include "Logging.h"
-#include "TlsIdentity.h"
+#include "fleet/FleetOptions.h"
+#include "fleet/Logging.h"
+#include "fleet/TlsIdentity.h"
 
 #include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>

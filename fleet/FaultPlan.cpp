@@ -1,6 +1,6 @@
-#include "FaultPlan.h"
+#include "fleet/FaultPlan.h"
 
-#include "FaultPlanReader.h"
+#include "fleet/FaultPlanReader.h"
 
 #include <vms_client_sdk/ForeignText.h>
 

@@ -1,6 +1,6 @@
-#include "FaultPlanReader.h"
+#include "fleet/FaultPlanReader.h"
 
-#include "SimulatedDevice.h"
+#include "fleet/SimulatedDevice.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,4 +1,4 @@
-#include "ParameterTemplates.h"
+#include "fleet/ParameterTemplates.h"
 
 #include <QFile>
 #include <QJsonArray>

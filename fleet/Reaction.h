@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FaultPlan.h"
+#include "fleet/FaultPlan.h"
 
 #include <vms_client_sdk/DeviceProtocol.h>
 

@@ -1,4 +1,4 @@
-#include "SimulatedDevice.h"
+#include "fleet/SimulatedDevice.h"
 
 #include <QJsonArray>
 

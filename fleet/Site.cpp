@@ -1,6 +1,6 @@
-#include "Site.h"
+#include "fleet/Site.h"
 
-#include "ParameterTemplates.h"
+#include "fleet/ParameterTemplates.h"
 
 #include <QHostAddress>
 #include <QRandomGenerator>

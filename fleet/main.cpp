@@ -1,10 +1,9 @@
-#include "ProgramOptions.h"
-#include "UnixSignals.h"
+#include "fleet/DeviceFleet.h"
+#include "fleet/FaultPlan.h"
+#include "fleet/ProgramOptions.h"
+#include "fleet/UnixSignals.h"
+#include "programs/Complaint.h"
 
-#include <DeviceFleet.h>
-#include <FaultPlan.h>
-
-#include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
 
@@ -14,20 +13,12 @@
 #include <QSaveFile>
 #include <QTextStream>
 
+using namespace device_fleet;
+using namespace orda_programs;
+
 namespace {
 
 constexpr qint64 otherFiles = 64; // libraries, the server socket, input and output files
-
-void complain(const QString &text)
-{
-    QTextStream(stderr) << "orda_fleet: " << vms_sdk::escaped(text) << Qt::endl;
-}
-
-int fail(const QString &error, ExitCode code)
-{
-    complain(error);
-    return code;
-}
 
 /// @return a text for the user, empty on success
 QString writeDump(const QString &path, const QJsonObject &dump)
@@ -53,12 +44,12 @@ QString openFilesError(int devices)
         .arg(limit);
 }
 
-device_fleet::FaultPlan readFaults(const QString &path, QString *error)
+FaultPlan readFaults(const QString &path, QString *error)
 {
     if (path.isEmpty())
         return {};
     QStringList warnings;
-    device_fleet::FaultPlan plan = device_fleet::FaultPlan::read(path, error, &warnings);
+    FaultPlan plan = FaultPlan::read(path, error, &warnings);
     for (const QString &warning : qAsConst(warnings))
         complain(warning);
     return plan;
@@ -79,13 +70,12 @@ int main(int argc, char *argv[])
         return fail(options.error + QStringLiteral(" (see orda_fleet --help)"), ExitUsage);
 
     QString error = openFilesError(options.fleet.devices);
-    const device_fleet::FaultPlan faults =
-        error.isEmpty() ? readFaults(options.faultsFile, &error) : device_fleet::FaultPlan();
+    const FaultPlan faults = error.isEmpty() ? readFaults(options.faultsFile, &error) : FaultPlan();
     if (!error.isEmpty())
         return fail(error, ExitInput);
 
     const UnixSignals signalsOfProcess;
-    device_fleet::DeviceFleet fleet(options.fleet, faults);
+    DeviceFleet fleet(options.fleet, faults);
     error = fleet.start();
     if (error.isEmpty())
         error = vms_sdk::writeInventory(options.inventoryFile, fleet.inventory());

@@ -1,10 +1,10 @@
-#include "ClientSdk.h"
+#include <vms_client_sdk/ClientSdk.h>
 
-#include "ClientSignals.h"
-#include "DeviceTransport.h"
-#include "Inbox.h"
-#include "Logging.h"
-#include "Requests.h"
+#include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/Inbox.h>
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/Requests.h>
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>

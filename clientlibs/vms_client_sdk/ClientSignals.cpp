@@ -1,4 +1,4 @@
-#include "ClientSignals.h"
+#include <vms_client_sdk/ClientSignals.h>
 
 namespace vms_sdk {
 

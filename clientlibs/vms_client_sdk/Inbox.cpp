@@ -1,4 +1,4 @@
-#include "Inbox.h"
+#include <vms_client_sdk/Inbox.h>
 
 #include <QElapsedTimer>
 #include <QPointer>

@@ -1,7 +1,7 @@
-#include "Inventory.h"
+#include <vms_client_sdk/Inventory.h>
 
-#include "DeviceProtocol.h"
-#include "ForeignText.h"
+#include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/ForeignText.h>
 
 #include <QCoreApplication>
 #include <QFile>

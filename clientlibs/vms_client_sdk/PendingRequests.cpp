@@ -1,4 +1,4 @@
-#include "PendingRequests.h"
+#include <vms_client_sdk/PendingRequests.h>
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "WebSocketTransport.h"
+#include <vms_client_sdk/WebSocketTransport.h>
 
-#include "Logging.h"
-#include "websocket/NetworkWorker.h"
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/websocket/NetworkWorker.h>
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "AnswerCheck.h"
+#include <vms_client_sdk/websocket/AnswerCheck.h>
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../DeviceProtocol.h"
+#include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QByteArray>
 

@@ -1,4 +1,4 @@
-#include "Backlog.h"
+#include <vms_client_sdk/websocket/Backlog.h>
 
 namespace vms_sdk {
 

@@ -1,8 +1,8 @@
-#include "ClientSignOn.h"
+#include <vms_client_sdk/websocket/ClientSignOn.h>
 
-#include "../ForeignText.h"
-#include "../SignOn.h"
-#include "AnswerCheck.h"
+#include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/SignOn.h>
+#include <vms_client_sdk/websocket/AnswerCheck.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,11 +1,11 @@
-#include "DeviceLink.h"
+#include <vms_client_sdk/websocket/DeviceLink.h>
 
-#include "../DeviceProtocol.h"
-#include "../ForeignText.h"
-#include "../Logging.h"
-#include "AnswerCheck.h"
-#include "LinkHost.h"
-#include "WebSocketConnection.h"
+#include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/websocket/AnswerCheck.h>
+#include <vms_client_sdk/websocket/LinkHost.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../DevInfo.h"
-#include "ClientSignOn.h"
-#include "PinnedCertificate.h"
+#include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/websocket/ClientSignOn.h>
+#include <vms_client_sdk/websocket/PinnedCertificate.h>
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,7 +1,7 @@
-#include "LinkHost.h"
+#include <vms_client_sdk/websocket/LinkHost.h>
 
-#include "DeviceLink.h"
-#include "WebSocketConnection.h"
+#include <vms_client_sdk/websocket/DeviceLink.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <algorithm>
 

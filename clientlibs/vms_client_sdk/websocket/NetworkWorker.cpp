@@ -1,8 +1,8 @@
-#include "NetworkWorker.h"
+#include <vms_client_sdk/websocket/NetworkWorker.h>
 
-#include "../Logging.h"
-#include "DeviceLink.h"
-#include "LinkHost.h"
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/websocket/DeviceLink.h>
+#include <vms_client_sdk/websocket/LinkHost.h>
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../DevInfo.h"
-#include "../WebSocketOptions.h"
-#include "StatusChanges.h"
+#include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/WebSocketOptions.h>
+#include <vms_client_sdk/websocket/StatusChanges.h>
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,6 +1,6 @@
-#include "PinnedCertificate.h"
+#include <vms_client_sdk/websocket/PinnedCertificate.h>
 
-#include "../DeviceProtocol.h"
+#include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QCryptographicHash>
 #include <QDateTime>

@@ -1,6 +1,6 @@
-#include "WebSocketConnection.h"
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
-#include "../DeviceProtocol.h"
+#include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QCryptographicHash>
 #include <QPointer>

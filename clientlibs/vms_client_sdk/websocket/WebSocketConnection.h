@@ -1,7 +1,7 @@
 #pragma once
 
-#include "HttpHead.h"
-#include "WebSocketFrames.h"
+#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/websocket/WebSocketFrames.h>
 
 #include <QAbstractSocket>
 #include <QElapsedTimer>

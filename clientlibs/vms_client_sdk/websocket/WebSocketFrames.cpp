@@ -1,4 +1,4 @@
-#include "WebSocketFrames.h"
+#include <vms_client_sdk/websocket/WebSocketFrames.h>
 
 #include <QIODevice>
 #include <QRandomGenerator>
