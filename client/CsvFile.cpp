@@ -1,8 +1,9 @@
 #include "client/CsvFile.h"
 
+#include <vms_client_sdk/WholeFile.h>
+
 #include <QAbstractItemModel>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <functional>
 
@@ -44,11 +45,8 @@ QString CsvFile::text(const QAbstractItemModel &table)
 
 QString CsvFile::write(const QString &path, const QString &text)
 {
-    QSaveFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return tr("cannot write the file %1: %2").arg(path, file.errorString());
-    return {};
+    const QString why = vms_sdk::writeWholeFile(path, text.toUtf8(), vms_sdk::Readers::Usual);
+    return why.isEmpty() ? QString() : tr("cannot write the file %1: %2").arg(path, why);
 }
 
 } // namespace orda_client

@@ -63,6 +63,9 @@ public:
     /// @return the plan, without any fault on an error
     static FaultPlan read(const QString &path, QString *error, QStringList *warnings);
 
+    /// All names that "fault" takes, for a user to choose from.
+    static QStringList faultNames();
+
     /// Stands for every device or every method.
     static QString any() { return QStringLiteral("*"); }
 

@@ -1,6 +1,6 @@
 #include "fleet/ProgramOptions.h"
 
-#include "fleet/FaultPlanReader.h"
+#include "fleet/FaultPlan.h"
 #include "programs/CommandLine.h"
 
 #include <QCoreApplication>
@@ -34,7 +34,7 @@ QString description()
               "  faults: %1\n"
               "  returnWith, for drop-and-return: new-settings, old-settings, missing-member\n\n"
               "Exit codes: 0 ended by a signal, 2 wrong usage, 3 a file or the port cannot be used.")
-        .arg(FaultPlanReader::faultNames().join(QStringLiteral(", ")));
+        .arg(FaultPlan::faultNames().join(QStringLiteral(", ")));
 }
 
 constexpr int maxDevices = 1000000;

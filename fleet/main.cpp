@@ -6,11 +6,10 @@
 
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
+#include <vms_client_sdk/WholeFile.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <QTextStream>
 
 using namespace device_fleet;
@@ -23,12 +22,8 @@ constexpr qint64 otherFiles = 64; // libraries, the server socket, input and out
 /// @return a text for the user, empty on success
 QString writeDump(const QString &path, const QJsonObject &dump)
 {
-    QSaveFile file(path);
-    const QByteArray content = QJsonDocument(dump).toJson();
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
-                        && file.write(content) == content.size() && file.commit();
-    return isWritten ? QString()
-                     : QCoreApplication::translate("main", "%1: cannot be written: %2").arg(path, file.errorString());
+    const QString why = vms_sdk::writeWholeFile(path, QJsonDocument(dump).toJson(), vms_sdk::Readers::OwnerOnly);
+    return why.isEmpty() ? QString() : QCoreApplication::translate("main", "%1: cannot be written: %2").arg(path, why);
 }
 
 QString openFilesError(int devices)
