@@ -12,6 +12,7 @@
 
 #include <orda_base/BaseForm.h>
 #include <orda_base/BaseTools.h>
+#include <orda_base/DelayedCall.h>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
@@ -48,6 +49,9 @@ using namespace std::chrono_literals;
 
 constexpr QSize wantedSize(1500, 850);
 
+// Thousands of devices come online in one go: the bar is brought up to date at most ten times a second.
+constexpr auto statusBarDelay = 100ms;
+
 QString statusText(vms_sdk::DevStatus status)
 {
     switch (status) {
@@ -81,6 +85,8 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     , m_last(new QLabel(this))
     , m_showLastRun(new QAction(tr("&Last run"), this))
     , m_viewer(new RecordViewer(this))
+    , m_statusBarUpdate(new orda_base::DelayedCall(
+          statusBarDelay, [this] { updateStatusBar(); }, this))
 {
     setWindowTitle(tr("Batch Configuration"));
     auto *area = new QScrollArea(this); // on a screen that is too small for the form
@@ -197,22 +203,19 @@ void ClientWindow::buildStatusBar()
     m_lastRunBt->hide();
     statusBar()->addPermanentWidget(m_lastRunBt);
     statusBar()->addPermanentWidget(m_onlineCount);
+    followDevices();
+    updateStatusBar();
+}
 
-    // Thousands of devices come online in one go: the bar is brought up to date at most ten times a second.
-    auto *countSoon = new QTimer(this);
-    countSoon->setSingleShot(true);
-    countSoon->setInterval(100ms);
-    connect(countSoon, &QTimer::timeout, this, &ClientWindow::updateStatusBar);
-    const auto scheduleCount = [countSoon] {
-        if (!countSoon->isActive())
-            countSoon->start();
-    };
+void ClientWindow::followDevices()
+{
     const auto &changes = orda_data::DataSignals::instance();
-    connect(&changes, &orda_data::DataSignals::signalUpdateDevs, countSoon, scheduleCount);
-    connect(&changes, &orda_data::DataSignals::signalDeleteDevs, countSoon, scheduleCount);
-    connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, countSoon,
-            [this, scheduleCount](const QString &devId, vms_sdk::DevStatus status) {
-                scheduleCount();
+    connect(&changes, &orda_data::DataSignals::signalUpdateDevs, m_statusBarUpdate, &orda_base::DelayedCall::request);
+    connect(&changes, &orda_data::DataSignals::signalDeleteDevs, m_statusBarUpdate, &orda_base::DelayedCall::request);
+    connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, m_statusBarUpdate,
+            &orda_base::DelayedCall::request);
+    connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, this,
+            [this](const QString &devId, vms_sdk::DevStatus status) {
                 // A device that stays away is dialled again and again, which is no news.
                 if (status != vms_sdk::DevConnecting && m_known.value(devId, vms_sdk::DevOffline) != status) {
                     m_known.insert(devId, status);
@@ -223,7 +226,6 @@ void ClientWindow::buildStatusBar()
         for (const QString &devId : devIds)
             m_known.remove(devId);
     });
-    updateStatusBar();
 }
 
 void ClientWindow::openInventory()

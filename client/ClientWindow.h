@@ -11,6 +11,9 @@ class QLabel;
 class QToolButton;
 QT_END_NAMESPACE
 
+namespace orda_base {
+class DelayedCall;
+}
 namespace orda_worker {
 struct EventConfirmInfo;
 }
@@ -48,6 +51,7 @@ private:
     void buildMenu();
     void leaveMenuBar(const QMenu *menu);
     void buildStatusBar();
+    void followDevices();
     void openInventory();
     void updateStatusBar();
     void showLast(const QString &text);
@@ -64,6 +68,7 @@ private:
     QToolButton *m_lastRunBt = nullptr;
     QPointer<LastRunWindow> m_lastRun;
     RecordViewer *m_viewer;
+    orda_base::DelayedCall *m_statusBarUpdate;
     QString m_lastChanged; // id of a device whose state has changed and is to be shown
     QHash<QString, vms_sdk::DevStatus> m_known; // by device id, without the attempts to connect between two states
     QPointer<QWidget> m_focusBeforeMenu;
