@@ -89,7 +89,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
           statusBarDelay, [this] { updateStatusBar(); }, this))
 {
     setWindowTitle(tr("Batch Configuration"));
-    auto *area = new QScrollArea(this); // on a screen that is too small for the form
+    auto *area = new QScrollArea(this); // for screens that are too small for the form
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
     area->setWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
@@ -105,7 +105,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) { showLast(text); });
     connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this, &ClientWindow::showSummary);
-    QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module gives bare paths
+    QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module opens paths without a scheme
     connect(m_viewer, &RecordViewer::signalNoViewer, this, [this](const QString &path) {
         for (const Family &family : families())
             if (path == RecordFile(family.recordFile).path())
@@ -115,7 +115,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
 
 ClientWindow::~ClientWindow()
 {
-    disconnect(qApp, nullptr, this, nullptr); // the focus changes once more when the window is half gone
+    disconnect(qApp, nullptr, this, nullptr); // the focus changes once more while the window is being destroyed
 }
 
 QSize ClientWindow::sizeHint() const
@@ -140,7 +140,7 @@ void ClientWindow::buildMenu()
     QAction *quit = devices->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
-    leaveMenuBar(devices);
+    returnFocusFrom(devices);
 
     QMenu *run = menuBar()->addMenu(tr("&Run"));
     m_showLastRun->setObjectName(QStringLiteral("showLastRun"));
@@ -148,12 +148,12 @@ void ClientWindow::buildMenu()
     m_showLastRun->setStatusTip(tr("Lists the outcome of each device, and ticks the failed ones again"));
     connect(m_showLastRun, &QAction::triggered, this, &ClientWindow::showLastRun);
     run->addAction(m_showLastRun);
-    leaveMenuBar(run);
+    returnFocusFrom(run);
 }
 
-void ClientWindow::leaveMenuBar(const QMenu *menu)
+void ClientWindow::returnFocusFrom(const QMenu *menu)
 {
-    // A menu that is left by Esc leaves the focus in the menu bar, where the form's shortcuts are not heard.
+    // Esc closes a menu and leaves the focus in the menu bar, where the form's shortcuts do not work.
     connect(menu, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0ms, this, [this] {
             if (menuBar()->hasFocus() && !QApplication::activePopupWidget() && m_focusBeforeMenu)
@@ -182,7 +182,7 @@ void ClientWindow::askBeforeClosing(QWidget *overlay)
         m_closesInRun = true;
         close();
     });
-    // The run's summary may have come meanwhile: it gets the keys, not the window below it.
+    // The run's summary may have opened meanwhile: then it must get the keys, not the window below it.
     connect(m_closeQuestion, &QObject::destroyed, this, [] {
         if (QWidget *dialog = QApplication::activeModalWidget())
             dialog->activateWindow();
@@ -195,7 +195,7 @@ void ClientWindow::buildStatusBar()
     m_last->setTextFormat(Qt::PlainText); // devices' names
     m_last->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(m_last, 1);
-    // From the first run on; the summary keeps the focus.
+    // Hidden until the first run is over.
     m_lastRunBt = new QToolButton(this);
     m_showLastRun->setIconText(tr("Last run")); // on the button, without the menu's mnemonic
     m_lastRunBt->setDefaultAction(m_showLastRun);
@@ -216,7 +216,7 @@ void ClientWindow::followDevices()
             &orda_base::DelayedCall::request);
     connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, this,
             [this](const QString &devId, vms_sdk::DevStatus status) {
-                // A device that stays away is dialled again and again, which is no news.
+                // A device that stays offline is dialled again and again, which is not worth a message.
                 if (status != vms_sdk::DevConnecting && m_known.value(devId, vms_sdk::DevOffline) != status) {
                     m_known.insert(devId, status);
                     m_lastChanged = devId;
@@ -266,7 +266,7 @@ void ClientWindow::showSummary(const orda_worker::EventConfirmInfo &info)
     const Family *family = shownFamily(centralWidget());
     const QString complaint = family ? PageRecord::of(centralWidget(), *family).complaint() : QString();
     showLast(complaint.isEmpty() ? info.text : info.text + QStringLiteral(" – ") + complaint);
-    m_lastRunBt->show(); // what is asked is always a run's summary
+    m_lastRunBt->show(); // the module asks nothing but to confirm a run's summary
     if (complaint.isEmpty())
         return;
     const auto windows = QApplication::topLevelWidgets();
@@ -283,8 +283,8 @@ void ClientWindow::openRecord(const QUrl &url)
         const RecordFile file(family.recordFile);
         if (url != QUrl(file.path()))
             continue;
-        const RecordFile::State state = file.look();
-        // A viewer would show what this run did not write, or what another user has put there.
+        const RecordFile::State state = file.state();
+        // A viewer would also show what an earlier run has written, or what another user has put there.
         const bool isOwn = PageRecord::of(centralWidget(), family).error.isEmpty();
         if (isOwn && state.exists && state.refusal.isEmpty())
             m_viewer->open(file.path());
@@ -292,7 +292,7 @@ void ClientWindow::openRecord(const QUrl &url)
             showLastRunOf(family);
         return;
     }
-    QDesktopServices::openUrl(url); // of something else; it does not come here again
+    QDesktopServices::openUrl(url); // not a record; Qt does not call this handler again for it
 }
 
 void ClientWindow::showLastRunOf(const Family &family)

@@ -49,7 +49,7 @@ private slots:
 
 private:
     void buildMenu();
-    void leaveMenuBar(const QMenu *menu);
+    void returnFocusFrom(const QMenu *menu);
     void buildStatusBar();
     void followDevices();
     void openInventory();
@@ -69,8 +69,8 @@ private:
     QPointer<LastRunWindow> m_lastRun;
     RecordViewer *m_viewer;
     orda_base::DelayedCall *m_statusBarUpdate;
-    QString m_lastChanged; // id of a device whose state has changed and is to be shown
-    QHash<QString, vms_sdk::DevStatus> m_known; // by device id, without the attempts to connect between two states
+    QString m_lastChanged; // id of the device whose change of state the status bar is to show
+    QHash<QString, vms_sdk::DevStatus> m_known; // by device id; attempts to connect are left out
     QPointer<QWidget> m_focusBeforeMenu;
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;

@@ -36,7 +36,7 @@ CloseQuestion::CloseQuestion(QWidget *overlay, QWidget *parent)
     close->setAutoDefault(false);
     auto *wait = new QPushButton(tr("Keep waiting"), this);
     wait->setProperty("common_bt_style1", true);
-    wait->setDefault(true); // a key that was pressed by accident ends no run
+    wait->setDefault(true); // so that Return pressed by accident does not end the run
     wait->setFocus();
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     connect(wait, &QPushButton::clicked, this, &QDialog::reject);
@@ -53,16 +53,16 @@ CloseQuestion::CloseQuestion(QWidget *overlay, QWidget *parent)
     layout->addSpacing(margin / 2);
     layout->addLayout(row);
 
-    auto *again = new QTimer(this);
-    connect(again, &QTimer::timeout, this, &CloseQuestion::follow);
-    again->start(followInterval);
+    auto *timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, &CloseQuestion::follow);
+    timer->start(followInterval);
     follow();
 }
 
 void CloseQuestion::follow()
 {
     if (!m_overlay || m_overlay->isHidden()) {
-        reject(); // its summary says how the run has ended
+        reject(); // the run is over, and its summary is shown
         return;
     }
     const int total = m_overlay->property("total").toInt();

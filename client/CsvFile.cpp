@@ -13,7 +13,7 @@ namespace {
 
 QString cell(QString text)
 {
-    // Nothing that a device calls itself becomes a formula, also where a spreadsheet splits cells in another way.
+    // No text of a device may become a formula, not even in spreadsheets that split cells at other characters.
     static const QRegularExpression formula(
         QStringLiteral("(^|[;|\\t\\r\\n])(?=[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
     text.replace(formula, QStringLiteral("\\1'"));

@@ -17,10 +17,10 @@ FailureGroupList::FailureGroupList(QWidget *parent)
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
     setShowGrid(false);
-    setTextElideMode(Qt::ElideMiddle); // messages differ in the code at their end
+    setTextElideMode(Qt::ElideMiddle); // the error code is at the end of a message
     horizontalHeader()->hide();
     verticalHeader()->hide();
-    // The message gives way, the number is always seen.
+    // A long message is shortened, so that the number is always seen.
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     connect(this, &QTableWidget::itemSelectionChanged, this, &FailureGroupList::signalGroupChosen);

@@ -51,17 +51,16 @@ private:
     QWidget *buildGroups();
     QWidget *buildTable();
     QWidget *buildButtons();
-    void setKeys();
+    void addShortcuts();
 
-    void lookAndFollow();
-    void look(bool turnToNewest);
+    void refreshAndContinue();
+    void refresh(bool turnToNewest);
     void listFamilies();
     void showFamily(int index);
     void load();
-    void showOthers(); ///< rows than before
+    void showOtherRows(); ///< after the search or a choice has changed
     void updateView();
     QString emptyText() const;
-    QString timeText() const;
     QString familyTitle(const Family &family) const;
 
     void tickFailedAgain();
@@ -70,11 +69,11 @@ private:
     QWidget *m_form;
     RunRecordModel *m_model;
     RunRecordFilter *m_filter;
-    QTimer m_lookAgain;
+    QTimer m_refreshTimer;
     QVector<FamilyRecord> m_records;
     const Family *m_family = nullptr; // which is shown
-    std::optional<FamilyRecord> m_loaded; // the record that the model has, or has not for an error
-    QString m_error; // why the record is not there
+    std::optional<FamilyRecord> m_loaded; // the record that was read into the model, or could not be for m_error
+    QString m_error; // why the record is not shown
 
     QComboBox *m_families;
     QLabel *m_summary;

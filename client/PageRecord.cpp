@@ -49,7 +49,7 @@ QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also)
 {
     QVector<FamilyRecord> records;
     for (const Family &family : families()) {
-        const RecordFile::State state = RecordFile(family.recordFile).look();
+        const RecordFile::State state = RecordFile(family.recordFile).state();
         const PageRecord page = PageRecord::of(form, family);
         if (state.exists || !page.error.isEmpty() || &family == also)
             records.append({&family, state, page});

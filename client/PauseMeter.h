@@ -5,7 +5,8 @@
 
 namespace orda_client {
 
-/// How long the event loop of this thread did not turn: the lateness of a 5 ms timer. A window stands still as long.
+/// Measures how long the event loop of this thread was blocked, by how late a 5 ms timer fires. A window does not react
+/// for as long.
 class PauseMeter
 {
 public:

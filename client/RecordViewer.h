@@ -4,7 +4,7 @@
 
 namespace orda_client {
 
-/// Opens files with the desktop's viewer, and tells when there is none.
+/// Opens files with the desktop's viewer, and reports when there is none.
 class RecordViewer : public QObject
 {
     Q_OBJECT

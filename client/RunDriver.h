@@ -40,7 +40,7 @@ private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void handleDevStatus(const QString &devId, vms_sdk::DevStatus status);
     void whenSettled();
-    void picturePages(int from);
+    void savePageScreenshots(int from);
     void tickAndConfigure();
     void openPage(const Family &family);
     int tickDevices();
@@ -48,9 +48,9 @@ private:
     void followProgress();
     void handleSummary(const orda_worker::EventConfirmInfo &info);
     void answerSummary();
-    void pictureLastRun() const;
+    void saveLastRunScreenshot() const;
     void printRecord() const;
-    void picture(QWidget *widget, const QString &name) const;
+    void saveScreenshot(QWidget *widget, const QString &name) const;
     static void end(orda_programs::ExitCode code);
 
     ClientOptions m_options;
@@ -61,7 +61,7 @@ private:
     bool m_hasSummary = false;
     bool m_isAllDone = false;
     QElapsedTimer m_duration; // since the press
-    qint64 m_lastHeard = 0; // of m_duration: the last answer or time-out
+    qint64 m_lastHeard = 0; // by m_duration: when the last answer or time-out came
     PauseMeter m_pauses;
     QString m_lastProgress;
 };

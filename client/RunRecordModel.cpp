@@ -13,7 +13,7 @@ namespace orda_client {
 
 namespace {
 
-constexpr int maxShown = 2000; // characters; what cannot be read may be of any length
+constexpr int maxShown = 2000; // characters; an unreadable entry may have any length
 
 } // namespace
 
@@ -132,7 +132,7 @@ QVariant RunRecordModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return text(entry, index.column());
     case Qt::ToolTipRole: {
-        // A name may look like mark-up, which a tool tip would take it for.
+        // A tool tip would interpret a name that looks like HTML.
         const QString shown = vms_sdk::displayText(text(entry, index.column()).left(maxShown), QStringLiteral("\n"));
         return shown.isEmpty() ? QString() : Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal);
     }

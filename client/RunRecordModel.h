@@ -57,7 +57,7 @@ private:
     static QString text(const RunEntry &entry, int column);
 
     QVector<RunEntry> m_entries;
-    std::vector<Keys> m_keys; // by row; comparing texts anew each time would be most of a sort
+    std::vector<Keys> m_keys; // by row; comparing the texts each time would take most of the time of sorting
 };
 
 } // namespace orda_client

@@ -4,7 +4,7 @@
 
 namespace orda_client {
 
-/// The table in which a record is looked at, sorted by a click on a title.
+/// The table that shows a record, sorted by a click on a title.
 class RunRecordView : public QTableView
 {
     Q_OBJECT

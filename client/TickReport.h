@@ -11,7 +11,7 @@ QT_END_NAMESPACE
 
 namespace orda_client {
 
-/// What has become of the failed devices that were to be ticked again: how many were, and which were not, with why.
+/// Tells how many failed devices were ticked again, and which were not and why.
 class TickReport : public QWidget
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
 
 private:
     QLabel *m_text;
-    QPlainTextEdit *m_left;
+    QPlainTextEdit *m_notTicked;
 };
 
 } // namespace orda_client

@@ -50,8 +50,8 @@ bool Translations::install(const QString &language)
         return false;
     const QLocale locale(code);
     if (locale.language() != QLocale::system().language())
-        QLocale::setDefault(locale); // its numbers too
-    // Qt's own texts, of its file dialog for one, where they are installed.
+        QLocale::setDefault(locale); // numbers are written as in this language too
+    // Qt's own texts, such as those of its file dialog, where they are installed.
     load(QLibraryInfo::location(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_%1").arg(code));
     const QStringList files = filesOf(code);
     for (const QString &file : files)

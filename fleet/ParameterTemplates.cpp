@@ -39,7 +39,7 @@ public:
     {
     }
 
-    /// Undefined for a member that this device has not.
+    /// Undefined for a member that this device does not have.
     QJsonValue draw(const QJsonValue &part);
 
 private:

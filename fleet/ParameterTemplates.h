@@ -13,8 +13,8 @@ namespace device_fleet {
 ///     {"$oneOf": [a, b, …]}              one of these
 ///     {"$range": [low, high]}            a whole number from low to high
 ///     {"$first": {"$oneOf": [1, 2]}, "of": […]}   that many entries of the list, from its beginning
-///     {"$percent": 90, "value": v}       v in so many of 100 devices, in the others the member is missing
-///     {"$device": "name"}                from the device's record: name, serialNumber, ip or mac
+///     {"$percent": 90, "value": v}       v in 90 of 100 devices; in the others the member is missing
+///     {"$device": "name"}                of this device: name, serialNumber, ip or mac
 ///
 /// The same generator state gives the same parameters.
 QJsonObject drawParameters(const vms_sdk::DevInfo &device, QRandomGenerator &random);

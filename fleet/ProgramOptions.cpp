@@ -77,7 +77,7 @@ ProgramOptions parseOptions(const QStringList &arguments)
                                      QStringLiteral("MS"), QStringLiteral("0"));
     const QCommandLineOption faults(QStringLiteral("faults"), tr("Faults to simulate, see above."),
                                     QStringLiteral("FILE"));
-    // The parser knows options with one value only: the key's file is left over as an argument.
+    // Options of Qt's parser have one value: the file of the key is left as a positional argument.
     const QCommandLineOption tls(QStringLiteral("tls"), tr("Speak TLS with this certificate and key (PEM files)."),
                                  QStringLiteral("CERT> <KEY"));
     const QCommandLineOption listen(

@@ -65,7 +65,7 @@ std::optional<QJsonObject> writtenMembers(const Family &family, const QJsonObjec
 
 void merge(QJsonObject &target, const QJsonObject &members)
 {
-    // Into a fresh object: one that is written to again and again keeps every text that it ever held.
+    // Into a new object: a QJsonObject that is changed often keeps the texts that it has lost.
     QJsonObject merged;
     for (auto it = target.constBegin(); it != target.constEnd(); ++it)
         merged.insert(it.key(), members.contains(it.key()) ? members.value(it.key()) : it.value());

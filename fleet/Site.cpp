@@ -13,7 +13,7 @@ namespace {
 
 constexpr int camera = 1;
 constexpr int recorder = 6;
-constexpr int decoder = 3; // stands for all other kinds
+constexpr int decoder = 3; // an example of the other kinds
 constexpr int reachedDirectly = 1;
 constexpr int reachedThroughOthers = 2;
 

@@ -54,7 +54,7 @@ FaultPlan readFaults(const QString &path, QString *error)
 
 int main(int argc, char *argv[])
 {
-    // GLib's dispatcher looks at every socket on every wake-up, which thousands of devices turn into seconds.
+    // GLib's dispatcher checks every socket on every wake-up, which takes seconds with thousands of devices.
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orda_fleet"));

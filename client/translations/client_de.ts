@@ -343,22 +343,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>&amp;Schließen</translation>
     </message>
     <message>
-        <source>Devices: %1</source>
-        <translation>Geräte: %1</translation>
-    </message>
-    <message>
-        <source>Succeeded: %1</source>
-        <translation>Erfolgreich: %1</translation>
-    </message>
-    <message>
-        <source>Failed: %1</source>
-        <translation>Fehlgeschlagen: %1</translation>
-    </message>
-    <message>
-        <source>Unreadable: %1</source>
-        <translation>Unlesbar: %1</translation>
-    </message>
-    <message>
         <source>No run yet. Tick devices and parameters in the form and press Configure; the outcome of each device is then listed here.</source>
         <translation>Noch kein Lauf. Wählen Sie im Formular Geräte und Parameter und drücken Sie Konfigurieren; das Ergebnis jedes Geräts steht dann hier.</translation>
     </message>
@@ -383,20 +367,12 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Kein Gerät dieses Laufs passt zur Suche und zur Auswahl daneben.</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>%1 bis %2</translation>
-    </message>
-    <message>
         <source>Export CSV</source>
         <translation>CSV exportieren</translation>
     </message>
     <message>
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>Kommagetrennte Werte (*.csv);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>The run is still going on.</source>
-        <translation>Der Lauf ist noch im Gange.</translation>
     </message>
 </context>
 <context>
@@ -517,6 +493,33 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Message</source>
         <translation>Meldung</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::RunSummary</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Devices: %1</source>
+        <translation>Geräte: %1</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1</source>
+        <translation>Erfolgreich: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Unreadable: %1</source>
+        <translation>Unlesbar: %1</translation>
+    </message>
+    <message>
+        <source>The run is still going on.</source>
+        <translation>Der Lauf ist noch im Gange.</translation>
     </message>
 </context>
 <context>

@@ -341,22 +341,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>关闭(&amp;C)</translation>
     </message>
     <message>
-        <source>Devices: %1</source>
-        <translation>设备：%1</translation>
-    </message>
-    <message>
-        <source>Succeeded: %1</source>
-        <translation>成功：%1</translation>
-    </message>
-    <message>
-        <source>Failed: %1</source>
-        <translation>失败：%1</translation>
-    </message>
-    <message>
-        <source>Unreadable: %1</source>
-        <translation>无法读取：%1</translation>
-    </message>
-    <message>
         <source>No run yet. Tick devices and parameters in the form and press Configure; the outcome of each device is then listed here.</source>
         <translation>尚无运行。请在表单中勾选设备和参数并按“配置”；随后此处将列出每台设备的结果。</translation>
     </message>
@@ -381,20 +365,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>本次运行中没有符合搜索和筛选条件的设备。</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>%1 至 %2</translation>
-    </message>
-    <message>
         <source>Export CSV</source>
         <translation>导出 CSV</translation>
     </message>
     <message>
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>逗号分隔值 (*.csv);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>The run is still going on.</source>
-        <translation>运行仍在进行。</translation>
     </message>
 </context>
 <context>
@@ -511,6 +487,33 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Message</source>
         <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::RunSummary</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Devices: %1</source>
+        <translation>设备：%1</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1</source>
+        <translation>成功：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>Unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>The run is still going on.</source>
+        <translation>运行仍在进行。</translation>
     </message>
 </context>
 <context>

@@ -40,7 +40,7 @@ private:
     CheckedEntry &m_entry;
 };
 
-/// For what goes into lists and record files, a line or a cell each.
+/// For texts that take one line of a file or one cell of a list.
 QString DeviceReader::printableText(const QString &key)
 {
     QString value = m_entry.text(key);
@@ -49,7 +49,7 @@ QString DeviceReader::printableText(const QString &key)
     return value;
 }
 
-/// For what tells devices apart: a character that nobody sees must not make two of one.
+/// For texts that tell devices apart: two that differ only in characters that nobody sees would look like one device.
 QString DeviceReader::visibleText(const QString &key, const QString &absent)
 {
     QString value = m_entry.text(key, absent);
@@ -62,7 +62,7 @@ QString DeviceReader::ipText()
 {
     const QString key = QStringLiteral("ip");
     QString ip = visibleText(key);
-    // Back to text and compared: "10.1" and "010.0.0.1" are addresses too, but not the ones that people take them for.
+    // Turned back into a text and compared: "10.1" and "010.0.0.1" are valid, but not the addresses that people expect.
     if (!ip.isEmpty()
         && (QHostAddress(ip).protocol() != QAbstractSocket::IPv4Protocol || QHostAddress(ip).toString() != ip))
         m_entry.fail(key, tr("must be an IPv4 address such as 192.168.1.20, or empty where \"url\" is given"));
@@ -193,7 +193,7 @@ Inventory readInventory(const QString &path)
     const bool isSecret =
         std::any_of(devices.cbegin(), devices.cend(), [](const DevInfo &device) { return !device.password.isEmpty(); });
     const QFile::Permissions ofOthers = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup
-                                      | QFile::WriteOther; // who may write names other devices
+                                      | QFile::WriteOther; // who can change the file can put other devices into it
     if (isSecret && (file.permissions() & ofOthers))
         file.fail(
             DeviceReader::tr("holds passwords and may be read or changed by others; set its mode to 0600 (chmod 600)"));

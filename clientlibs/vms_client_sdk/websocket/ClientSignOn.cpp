@@ -11,7 +11,7 @@ namespace vms_sdk {
 
 namespace {
 
-/// What a stranger says does not go into the log at any length.
+/// The sender is not known yet: its texts must not fill the log.
 QString quoted(const QString &text)
 {
     constexpr int longest = 64;

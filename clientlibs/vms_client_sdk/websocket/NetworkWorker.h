@@ -55,7 +55,7 @@ private:
     StatusChanges m_statusChanges;
     QTimer m_statusTimer;
     LinkHost *m_host;
-    Links m_links; ///< by device id; go before the host
+    Links m_links; ///< by device id; deleted before the host
 };
 
 } // namespace vms_sdk
