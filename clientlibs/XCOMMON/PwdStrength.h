@@ -1,5 +1,7 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QString>
 
 namespace XCOMMON {
@@ -14,6 +16,6 @@ enum PwdStrength
 
 /// Classes of characters are lower case, upper case, digits, and all others.
 /// Empty: invalid. Under 8 characters, or of one class only: weak. Three classes or more: strong. Else medium.
-PwdStrength checkPwdStrength(const QString &password);
+XCOMMON_EXPORT PwdStrength checkPwdStrength(const QString &password);
 
 } // namespace XCOMMON

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QLabel>
 
 namespace XCOMMON {
 
 /// The client's label, which the theme tells from other labels by its class.
-class XLabel : public QLabel
+class XCOMMON_EXPORT XLabel : public QLabel
 {
     Q_OBJECT
 

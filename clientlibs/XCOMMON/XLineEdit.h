@@ -1,11 +1,13 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QLineEdit>
 
 namespace XCOMMON {
 
 /// The client's line edit, which the theme tells from other line edits by its class.
-class XLineEdit : public QLineEdit
+class XCOMMON_EXPORT XLineEdit : public QLineEdit
 {
     Q_OBJECT
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <XCOMMON/XWidget.h>
+#include <orda_base/Export.h>
 
 namespace orda_base {
 
 /// Base of the screens that modules hand to the client.
-class BaseForm : public XCOMMON::XWidget
+class ORDA_BASE_EXPORT BaseForm : public XCOMMON::XWidget
 {
     Q_OBJECT
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QDateTime>
 #include <QObject>
 
@@ -10,7 +12,7 @@ class XTableWidget;
 namespace orda_base {
 
 /// Small services for all modules. GUI thread only.
-class BaseTools : public QObject
+class ORDA_BASE_EXPORT BaseTools : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +30,7 @@ public:
     /// Raises signalDevRemoteConfigOpened().
     void openDevRemoteConfig(const QString &devId);
 
-signals:
+Q_SIGNALS:
     /// The client opens the device's remote-configuration screen.
     void signalDevRemoteConfigOpened(const QString &devId);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QComboBox>
 #include <QList>
 #include <QVariant>
@@ -7,7 +9,7 @@
 namespace orda_base {
 
 /// A combo box whose items carry values beside their texts.
-class ComboBox : public QComboBox
+class ORDA_BASE_EXPORT ComboBox : public QComboBox
 {
     Q_OBJECT
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QPointer>
 #include <QTimer>
 #include <QUuid>
@@ -15,7 +17,7 @@ namespace orda_base {
 /// Covers a widget while something goes on: shows that it does, tells assistive technology how far it has got, and lets
 /// no mouse, key or shortcut through to it; the window around it keeps its menus and their shortcuts. Destroyed through
 /// DisabledWaitingWtManager, or with its parent. GUI thread only.
-class DisabledWaitingWt : public QWidget
+class ORDA_BASE_EXPORT DisabledWaitingWt : public QWidget
 {
     Q_OBJECT
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QHash>
 #include <QUuid>
 
@@ -8,7 +10,7 @@ namespace orda_base {
 class DisabledWaitingWt;
 
 /// Knows the overlays that live, so that they can be destroyed by whoever has only their id. GUI thread only.
-class DisabledWaitingWtManager
+class ORDA_BASE_EXPORT DisabledWaitingWtManager
 {
 public:
     static DisabledWaitingWtManager &instance();

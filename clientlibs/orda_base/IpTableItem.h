@@ -1,11 +1,13 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QTableWidgetItem>
 
 namespace orda_base {
 
 /// A cell that sorts by the number of its IP address; cells without one come last.
-class IpTableItem : public QTableWidgetItem
+class ORDA_BASE_EXPORT IpTableItem : public QTableWidgetItem
 {
 public:
     /// @param number the address in host byte order, for texts that are no IPv4 address; a text that is one has the

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QObject>
 
 namespace orda_base {
 
 /// Base of the modules' entry classes. The operations are the client's calls in the life of a module; a module that
 /// needs none of them overrides none.
-class ModuleInitialization : public QObject
+class ORDA_BASE_EXPORT ModuleInitialization : public QObject
 {
     Q_OBJECT
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QAbstractButton>
 #include <QIcon>
 
@@ -7,7 +9,7 @@ namespace orda_base {
 
 /// A bar of the navigation, or an entry under one. The arrow keys go to the ones above and below, Space and Return
 /// press it; assistive technology learns whether it is current, or unfolded.
-class NavigationButton : public QAbstractButton
+class ORDA_BASE_EXPORT NavigationButton : public QAbstractButton
 {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_base/Export.h>
 #include <orda_base/NavigationActionInfo.h>
 
 #include <QList>
@@ -16,7 +17,7 @@ class NavigationButton;
 
 /// A column of bars with icons. A bar either is an entry itself or opens and closes its entries. Every bar and entry is
 /// a QAbstractButton whose object name is its key; the Tab key goes through them from top to bottom. GUI thread only.
-class NavigationWidget : public QWidget
+class ORDA_BASE_EXPORT NavigationWidget : public QWidget
 {
     Q_OBJECT
 
@@ -36,7 +37,7 @@ public:
     /// The current entry's key; empty before there is one.
     QString currentKey() const { return m_currentKey; }
 
-signals:
+Q_SIGNALS:
     /// A bar or an entry was clicked. A bar that only opens its entries says so too, without becoming current.
     void signalCurAction(const QString &key);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -9,7 +11,7 @@ QT_END_NAMESPACE
 namespace orda_base {
 
 /// A line to search by: looks at every key stroke and at Return; Esc or its button clears it. GUI thread only.
-class SearchBox : public QWidget
+class ORDA_BASE_EXPORT SearchBox : public QWidget
 {
     Q_OBJECT
 
@@ -18,7 +20,7 @@ public:
 
     QString text() const;
 
-signals:
+Q_SIGNALS:
     /// @param keyword the text as it stands; empty when it was cleared
     void signalSearchByKeyword(const QString &keyword);
 

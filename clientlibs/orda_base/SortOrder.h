@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QCollator>
 #include <QString>
 
@@ -9,9 +11,9 @@ namespace orda_base {
 
 /// Compares as people read names: by the rules of the locale, numbers by their value ("cam 2" before "cam 10"). GUI
 /// thread only.
-const QCollator &nameCollator();
+ORDA_BASE_EXPORT const QCollator &nameCollator();
 
 /// The number of a dotted IPv4 address in host byte order; nothing for every other text.
-std::optional<quint32> ipv4Number(const QString &text);
+ORDA_BASE_EXPORT std::optional<quint32> ipv4Number(const QString &text);
 
 } // namespace orda_base

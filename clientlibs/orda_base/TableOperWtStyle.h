@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -18,7 +20,7 @@ namespace orda_base {
 
 /// Ties an "All" check box and a header row of its own to a table with check marks in column 0, and lets the Space key
 /// tick the selected rows.
-class TableOperWtStyle : public QObject
+class ORDA_BASE_EXPORT TableOperWtStyle : public QObject
 {
     Q_OBJECT
 

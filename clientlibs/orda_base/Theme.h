@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QString>
 
 QT_BEGIN_NAMESPACE
@@ -12,7 +14,7 @@ namespace orda_base {
 /// The one look of all windows. What a module asks for by dynamic properties (their presence counts, not their value):
 /// "common_bt_style1" and "common_bt_style2" on a push button: the main action, and the one beside it;
 /// "page_caption" on a label: a heading; "page_card" on a widget: a framed area.
-class Theme
+class ORDA_BASE_EXPORT Theme
 {
 public:
     enum Scheme

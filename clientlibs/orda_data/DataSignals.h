@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_data/Export.h>
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QObject>
@@ -8,14 +9,14 @@
 namespace orda_data {
 
 /// Changes of the device store (DevsMgrData), raised on the GUI thread after the store has changed.
-class DataSignals : public QObject
+class ORDA_DATA_EXPORT DataSignals : public QObject
 {
     Q_OBJECT
 
 public:
     static DataSignals &instance();
 
-signals:
+Q_SIGNALS:
     void signalDevStatusChanged(const QString &devId, vms_sdk::DevStatus status);
     /// Records were added or replaced. The store raises both flags set; listeners act on the first.
     void signalUpdateDevs(const QList<vms_sdk::DevInfo> &devs, bool recordsChanged, bool listChanged);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_data/Export.h>
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QHash>
@@ -14,7 +15,7 @@ using vms_sdk::DevInfo;
 /// The device store: the records that the client knows, and their states, which follow the SDK's
 /// (ClientSignals::signalDevStatusChanged) from the first use on. GUI thread only. Changes are raised through
 /// DataSignals.
-class DevsMgrData : public QObject
+class ORDA_DATA_EXPORT DevsMgrData : public QObject
 {
     Q_OBJECT
 

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <orda_saas/Export.h>
+
 #include <QSet>
 #include <QString>
 
 namespace orda_saas {
 
 /// The rights that the operator has at the cloud service. GUI thread only.
-class SaasWorker
+class ORDA_SAAS_EXPORT SaasWorker
 {
 public:
     static SaasWorker &instance();

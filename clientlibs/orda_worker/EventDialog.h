@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_worker/Export.h>
+
 #include <QDialog>
 
 QT_BEGIN_NAMESPACE
@@ -9,7 +11,7 @@ QT_END_NAMESPACE
 namespace orda_worker {
 
 /// A text with buttons. Deletes itself when it is closed.
-class EventDialog : public QDialog
+class ORDA_WORKER_EXPORT EventDialog : public QDialog
 {
     Q_OBJECT
 
@@ -19,7 +21,7 @@ public:
     /// A further paragraph under the text.
     void addText(const QString &text);
 
-signals:
+Q_SIGNALS:
     /// Once, for the button that was clicked; for the last one when the dialog was closed without.
     void signalAnswered(int button);
 

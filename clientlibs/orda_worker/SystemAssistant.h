@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orda_worker/EventConfirmInfo.h>
+#include <orda_worker/Export.h>
 
 #include <QCoreApplication>
 
@@ -8,7 +9,7 @@ namespace orda_worker {
 
 /// Speaks to the operator in dialogs over the active window. No call waits for the answer; several dialogs may be open
 /// at once. GUI thread only.
-class SystemAssistant
+class ORDA_WORKER_EXPORT SystemAssistant
 {
     Q_DECLARE_TR_FUNCTIONS(SystemAssistant)
 

@@ -4,6 +4,7 @@
 #include <vms_client_sdk/DeviceTransport.h>
 #include <vms_client_sdk/Inbox.h>
 #include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/PendingRequests.h>
 #include <vms_client_sdk/Requests.h>
 
 #include <QAbstractEventDispatcher>
@@ -31,6 +32,7 @@ ClientSdk &ClientSdk::instance()
 }
 
 ClientSdk::ClientSdk()
+    : m_pending(std::make_unique<PendingRequests>())
 {
     m_clock.start();
     m_timer.setSingleShot(true);
@@ -47,7 +49,7 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
     m_transport.reset();
     m_inbox.reset();
     m_answersFirst = 0;
-    m_pending.clear();
+    m_pending->clear();
     m_timedOut.clear();
     m_timer.stop();
 
@@ -77,8 +79,8 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
 
 void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
 {
-    m_pending.advanceTo(m_clock.elapsed());
-    m_pending.setTimeout(timeout);
+    m_pending->advanceTo(m_clock.elapsed());
+    m_pending->setTimeout(timeout);
     if (m_timer.isActive())
         startTimer(); // the ticks are of another length now
 }
@@ -86,8 +88,8 @@ void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
 void ClientSdk::send(const QString &requestId, const QString &devId, const QString &text)
 {
     Q_ASSERT(QThread::currentThread() == m_timer.thread());
-    m_pending.advanceTo(m_clock.elapsed());
-    m_pending.add(requestId);
+    m_pending->advanceTo(m_clock.elapsed());
+    m_pending->add(requestId);
     if (!m_timer.isActive())
         startTimer();
 
@@ -101,8 +103,8 @@ void ClientSdk::send(const QString &requestId, const QString &devId, const QStri
 void ClientSdk::renew(const QString &requestId)
 {
     if (!m_isClockFresh)
-        m_pending.advanceTo(m_clock.elapsed());
-    m_pending.renew(requestId);
+        m_pending->advanceTo(m_clock.elapsed());
+    m_pending->renew(requestId);
 }
 
 void ClientSdk::watchEventLoop()
@@ -120,7 +122,7 @@ template <typename Raise>
 void ClientSdk::raise(Raise signal)
 {
     watchEventLoop();
-    m_pending.advanceTo(m_clock.elapsed());
+    m_pending->advanceTo(m_clock.elapsed());
     m_isClockFresh = true;
     signal(ClientSignals::instance());
     m_isClockFresh = false;
@@ -147,10 +149,10 @@ void ClientSdk::checkTimeouts()
         }
         m_answersFirst = 0;
     }
-    m_pending.advanceTo(m_clock.elapsed());
-    m_timedOut += m_pending.takeDue();
+    m_pending->advanceTo(m_clock.elapsed());
+    m_timedOut += m_pending->takeDue();
     // Before the signals: a listener may run an event loop of its own, in which the other time-outs must still come.
-    if (!m_pending.isEmpty() || !m_timedOut.isEmpty())
+    if (!m_pending->isEmpty() || !m_timedOut.isEmpty())
         startTimer();
     QElapsedTimer slice;
     slice.start();
@@ -165,7 +167,7 @@ void ClientSdk::checkTimeouts()
 
 void ClientSdk::startTimer()
 {
-    m_timer.start(int(m_pending.untilNextTick()));
+    m_timer.start(int(m_pending->untilNextTick()));
 }
 
 // The functions of Requests.h are in this file so that renew() can be inlined: a run over 10,000 devices calls it

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <vms_client_sdk/DevInfo.h>
-#include <vms_client_sdk/PendingRequests.h>
+#include <vms_client_sdk/Export.h>
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QStringList>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 
 class QAbstractEventDispatcher;
@@ -14,10 +15,11 @@ namespace vms_sdk {
 
 class DeviceTransport;
 class Inbox;
+class PendingRequests;
 
 /// The SDK itself: hands requests to the transport, raises answers, states and time-outs (ClientSignals). GUI thread
 /// only.
-class ClientSdk
+class VMS_CLIENT_SDK_EXPORT ClientSdk
 {
 public:
     static ClientSdk &instance();
@@ -47,7 +49,7 @@ private:
 
     std::unique_ptr<DeviceTransport> m_transport;
     std::unique_ptr<Inbox> m_inbox; ///< one for each transport: what is still in it is dropped with the transport
-    PendingRequests m_pending;
+    std::unique_ptr<PendingRequests> m_pending;
     QStringList m_timedOut; ///< taken out of m_pending, time-out not raised yet
     quint64 m_answersFirst = 0; ///< the inbox must have passed on this many items before time-outs are raised
     qint64 m_answersFirstSince = 0; ///< since when, by m_clock, the time-outs have waited for these items

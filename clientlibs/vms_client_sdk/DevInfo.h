@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/Export.h>
+
 #include <QList>
 #include <QMetaType>
 #include <QString>
@@ -19,7 +21,7 @@ enum DevStatus
 };
 
 /// True for the three online states.
-bool isOnlineStatus(DevStatus status);
+VMS_CLIENT_SDK_EXPORT bool isOnlineStatus(DevStatus status);
 
 /// One device of the site. Plain data; an unknown device is the record with an empty id.
 struct DevInfo
@@ -41,7 +43,7 @@ struct DevInfo
         fingerprint; ///< SHA-256 of the device's certificate, hexadecimal with or without colons; empty: the CAs decide
 };
 
-bool operator==(const DevInfo &a, const DevInfo &b);
+VMS_CLIENT_SDK_EXPORT bool operator==(const DevInfo &a, const DevInfo &b);
 inline bool operator!=(const DevInfo &a, const DevInfo &b)
 {
     return !(a == b);

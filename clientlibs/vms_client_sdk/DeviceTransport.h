@@ -1,13 +1,14 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/Export.h>
 
 #include <QObject>
 
 namespace vms_sdk {
 
 /// Carries texts to devices and back. The SDK owns the transport that it is given (ClientSdk::setTransport).
-class DeviceTransport : public QObject
+class VMS_CLIENT_SDK_EXPORT DeviceTransport : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +23,7 @@ public:
     /// that limits how many answers may wait for the GUI thread counts them with this; the default does nothing.
     virtual void passedOn(const QString &requestId, const QString &text);
 
-signals:
+Q_SIGNALS:
     // May be raised on any thread, from inside send() too: the SDK always queues them.
     void answered(const QString &requestId, const QString &text);
     void devStatusChanged(const QString &devId, vms_sdk::DevStatus status);

@@ -44,7 +44,7 @@ public:
     void cut(const QString &why); ///< for what the device does; dialled again later than after a loss
     qint64 unsentBytes() const; ///< 0 without a connection
 
-signals:
+Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
     void statusChanged(const QString &devId, vms_sdk::DevStatus status);
 

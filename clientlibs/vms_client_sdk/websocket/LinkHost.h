@@ -67,7 +67,7 @@ public:
     /// deletes it.
     void closeConnection(WebSocketConnection *connection, int closeCode);
 
-signals:
+Q_SIGNALS:
     void readingHeld(bool isHeld);
 
 private:

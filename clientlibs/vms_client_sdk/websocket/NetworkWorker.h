@@ -31,7 +31,7 @@ public:
     void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
     void passedOn(const QString &requestId, int characters); ///< from any thread
 
-signals:
+Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
     void devStatusChanged(const QString &devId, vms_sdk::DevStatus status);
 

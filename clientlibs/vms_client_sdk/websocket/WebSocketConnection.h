@@ -64,7 +64,7 @@ public:
     /// Ends it at once; finished() follows where it was not finished before.
     void abort();
 
-signals:
+Q_SIGNALS:
     /// TCP and, where the address asks for it, TLS are up; the handshake follows.
     void lineUp();
     void sslErrors(const QList<QSslError> &errors);
