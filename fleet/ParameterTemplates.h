@@ -19,7 +19,7 @@ struct ParameterObject
     QJsonObject members; ///< a template
 };
 
-/// All of them, from parameters.json: there is nothing else to tell the fleet of a new one.
+/// All of them, from parameters.json: a new one is added there and nowhere else.
 const QVector<ParameterObject> &parameterObjects();
 
 /// Draws a device's parameters, by the names of the objects. A template is ordinary JSON in which an object may stand

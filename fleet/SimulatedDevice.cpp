@@ -1,6 +1,6 @@
 #include "fleet/SimulatedDevice.h"
 
-#include "ParameterTemplates.h"
+#include "fleet/ParameterTemplates.h"
 
 #include <QJsonArray>
 
