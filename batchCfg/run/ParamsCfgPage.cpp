@@ -7,6 +7,7 @@
 #include "run/KeyEditor.h"
 #include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
+#include "run/SwitchImages.h"
 #include "run/WheelGuard.h"
 
 #include <XCOMMON/XLabel.h>
@@ -100,6 +101,7 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
     for (QPushButton *button : buttons)
         button->setAutoDefault(false);
     new WheelGuard(this);
+    completeSwitchImages(this);
     connect(m_okBt, &QPushButton::clicked, this, &ParamsCfgPage::configure);
     connect(m_reportBt, &QPushButton::clicked, this, &ParamsCfgPage::openReport);
 }

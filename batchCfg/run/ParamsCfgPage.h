@@ -24,7 +24,7 @@ struct CfgFamily;
 /// The page's form has the check box "allParams" and the buttons "okBt" and "reportBt".
 ///
 /// What the module itself does not show is in dynamic properties for clients that do: "recordInUse", "recordError" and
-/// "recordEntryEnds" (docs/integration.md).
+/// "recordEntryEnds" (docs/scripting.md).
 class ParamsCfgPage : public QWidget
 {
     Q_OBJECT

@@ -100,6 +100,11 @@ DisabledWaitingWt::~DisabledWaitingWt()
     DisabledWaitingWtManager::instance().remove(m_uuid);
 }
 
+QUuid DisabledWaitingWt::getUuid() const
+{
+    return m_uuid;
+}
+
 void DisabledWaitingWt::updateDescription(const QString &description)
 {
     m_text = description;

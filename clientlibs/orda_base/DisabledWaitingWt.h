@@ -30,7 +30,7 @@ public:
                                bool flag = false);
     ~DisabledWaitingWt() override;
 
-    QUuid getUuid() const { return m_uuid; }
+    QUuid getUuid() const;
     /// Shown after at most 40 ms: painting each of thousands of updates a second would take all the time there is.
     void updateDescription(const QString &description);
     QString description() const { return m_text; }
