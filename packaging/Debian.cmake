@@ -25,6 +25,9 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SOURCE orda-batchcfg)
 # The libraries lie in a directory of their own, and the programs' packages depend on the very version that they were built with.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/lib")
+# Packages of other clients depend on the libraries by what stays within a major version.
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON) # takes the debug information out, as CPACK_STRIP_FILES would, and keeps it
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
@@ -32,8 +35,6 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_DEBIAN_LIBRARIES_PACKAGE_NAME ${libraries})
 set(CPACK_DEBIAN_LIBRARIES_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARIES_PACKAGE_SHLIBDEPS ON)
-# Packages of other clients come to depend on this one as on any library.
-set(CPACK_DEBIAN_LIBRARIES_PACKAGE_GENERATE_SHLIBS ON)
 # The check marks and arrows of the theme are SVG, which Qt reads by a plug-in.
 set(CPACK_DEBIAN_LIBRARIES_PACKAGE_DEPENDS "libqt5svg5")
 set(CPACK_DEBIAN_LIBRARIES_DESCRIPTION "batch configuration of cameras: the module and its libraries
