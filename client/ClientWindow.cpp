@@ -16,7 +16,6 @@
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/EventConfirmInfo.h>
-#include <orda_worker/EventDialog.h>
 #include <orda_worker/SystemAssistant.h>
 #include <shell/BatchCfgInit.h>
 #include <vms_client_sdk/ForeignText.h>
@@ -31,6 +30,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTextDocument>
@@ -267,9 +267,9 @@ void ClientWindow::showSummary(const orda_worker::EventConfirmInfo &info)
         return;
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        auto *summary = qobject_cast<orda_worker::EventDialog *>(window);
-        if (summary && summary->accessibleDescription() == info.text)
-            summary->addText(complaint);
+        auto *summary = qobject_cast<QMessageBox *>(window);
+        if (summary && summary->informativeText() == info.text)
+            summary->setInformativeText(info.text + QLatin1Char('\n') + complaint);
     }
 }
 

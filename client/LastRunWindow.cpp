@@ -10,18 +10,17 @@
 #include "RunRecordView.h"
 #include "TickReport.h"
 
+#include <orda_base/ReturnPressesButton.h>
 #include <orda_base/SearchBox.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/SystemAssistant.h>
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QDate>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
@@ -202,16 +201,8 @@ void LastRunWindow::setKeys()
     connect(escape, &QShortcut::activated, this, &QWidget::close);
     auto *find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, m_search, [this] { m_search->setFocus(Qt::ShortcutFocusReason); });
+    new orda_base::ReturnPressesButton(this); // as in the form
     m_table->setFocus();
-}
-
-void LastRunWindow::keyPressEvent(QKeyEvent *event)
-{
-    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
-    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
-        button->click(); // as in the form
-    else
-        QMainWindow::keyPressEvent(event);
 }
 
 void LastRunWindow::showEvent(QShowEvent *event)

@@ -39,7 +39,6 @@ public:
     void turnTo(const Family *family);
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

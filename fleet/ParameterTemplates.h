@@ -4,11 +4,26 @@
 
 #include <QJsonObject>
 #include <QRandomGenerator>
+#include <QString>
+#include <QVector>
 
 namespace device_fleet {
 
-/// Draws a device's parameters from parameters.json, which holds one template for each parameter object. A template is
-/// ordinary JSON in which an object may stand for a choice:
+/// A parameter object that devices have, and its two methods.
+struct ParameterObject
+{
+    QString name;
+    QString readMethod, writeMethod;
+    QString writtenUnder; ///< the member of a write's "param" that holds what is written; empty: "param" itself
+    QString writtenPart; ///< the member of the object that is written to; empty: the object itself
+    QJsonObject members; ///< a template
+};
+
+/// All of them, from parameters.json: there is nothing else to tell the fleet of a new one.
+const QVector<ParameterObject> &parameterObjects();
+
+/// Draws a device's parameters, by the names of the objects. A template is ordinary JSON in which an object may stand
+/// for a choice:
 ///
 ///     {"$oneOf": [a, b, …]}              one of these
 ///     {"$range": [low, high]}            a whole number from low to high

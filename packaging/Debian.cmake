@@ -101,8 +101,9 @@ package_documents(orda-client client)
 package_documents(orda-fleet fleet)
 
 set(place "${CMAKE_INSTALL_DATADIR}/doc/orda-batchcfg-dev")
-foreach(page integration compatibility device-protocol reliability)
+foreach(page integration scripting compatibility device-protocol reliability)
   install(FILES "${PROJECT_SOURCE_DIR}/docs/${page}.md" DESTINATION "${place}" COMPONENT development)
 endforeach()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/tests/consumer" "${PROJECT_SOURCE_DIR}/docs/examples/plugin" DESTINATION "${place}/examples"
   COMPONENT development PATTERN headers EXCLUDE)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/skeleton" DESTINATION "${place}" COMPONENT development)

@@ -21,6 +21,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QTableWidget>
@@ -363,9 +364,9 @@ private slots:
         QTRY_VERIFY(!lastRun());
         expectWarning(QStringLiteral("it is a symbolic link"));
         child<QAbstractButton>(*page, "okBt")->click();
-        auto *summary = child<QDialog>(window, "eventConfirmDialog");
-        QVERIFY(summary->accessibleDescription().contains(
-            QLatin1String("success:1, failure:1\nThe last run left no record")));
+        auto *summary = child<QMessageBox>(window, "eventConfirmDialog");
+        QVERIFY(
+            summary->informativeText().contains(QLatin1String("success:1, failure:1\nThe last run left no record")));
         const auto labels = summary->findChildren<QLabel *>();
         for (const QLabel *label : labels) // the dialog has grown
             QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The Debian packages in use: the sample client is built from and against what the -dev package holds, then orda_client configures
-# simulated devices in a bare Debian 12 in which nothing was installed but its package and the libraries'. Called by `./dev package --try`: package_test.sh DIRECTORY, which
-# has the .deb files. Ends with 77 where a bare Debian cannot be made.
+# simulated devices in a bare Debian 12 in which nothing was installed but its package and the libraries'. Called by
+# `./dev package --try`: package_test.sh DIRECTORY, which has the .deb files. Ends with 77 where a bare Debian cannot be made.
 set -euo pipefail
 packages=$(realpath "$1")
 work=$(mktemp -d)
@@ -14,8 +14,9 @@ for package in "$packages"/*.deb; do
 done
 # The sample as the package has it.
 cmake -S "$work/root/usr/share/doc/orda-batchcfg-dev/examples/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/root/usr" >"$work/consumer.log" &&
-  cmake --build "$work/consumer" >>"$work/consumer.log" || fail "no client can be built: $(cat "$work/consumer.log")"
-QT_QPA_PLATFORM=offscreen TMPDIR=$work "$work/consumer/consumer" || fail "the run of the client that was built failed"
+  cmake --build "$work/consumer" >>"$work/consumer.log" &&
+  cmake --install "$work/consumer" --prefix "$work/client" >>"$work/consumer.log" || fail "no client can be built: $(cat "$work/consumer.log")"
+QT_QPA_PLATFORM=offscreen TMPDIR=$work "$work/client/bin/consumer" || fail "the run of the client that was built and installed failed"
 
 [ "$(id -u)" -eq 0 ] || skip "a bare Debian is made by root only"
 command -v mmdebstrap >/dev/null || skip "mmdebstrap is not installed"

@@ -6,7 +6,7 @@
 
 namespace XCOMMON {
 
-/// The client's label, which the theme tells from other labels by its class.
+/// The client's label. A style sheet can tell it from other labels by its class.
 class XCOMMON_EXPORT XLabel : public QLabel
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace XCOMMON {
 
-/// The client's line edit, which the theme tells from other line edits by its class.
+/// The client's line edit. A style sheet can tell it from other line edits by its class.
 class XCOMMON_EXPORT XLineEdit : public QLineEdit
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace XCOMMON {
 
-/// The client's context menu, which the theme tells from other menus by its class.
+/// The client's context menu. A style sheet can tell it from other menus by its class.
 class XCOMMON_EXPORT XMenu : public QMenu
 {
     Q_OBJECT

@@ -6,8 +6,8 @@
 
 namespace XCOMMON {
 
-/// The client's table. What it does is what QTableWidget does: a list that decides which devices are written to has no
-/// workings of its own.
+/// The client's table. It adds nothing to QTableWidget: it shows which devices a run writes to, so it uses only what Qt
+/// itself tests.
 class XCOMMON_EXPORT XTableWidget : public QTableWidget
 {
     Q_OBJECT

@@ -6,8 +6,7 @@
 
 namespace orda_base {
 
-/// A cell that sorts as people read names: by the rules of the locale, numbers by their value ("cam 2" before "cam
-/// 10").
+/// A cell that sorts by nameCollator().
 class ORDA_BASE_EXPORT NameTableItem : public QTableWidgetItem
 {
 public:

@@ -6,7 +6,7 @@
 
 namespace orda_base {
 
-/// An editor for a port number: takes 0 to 65535, or nothing.
+/// An editor for a port number: accepts 0 to 65535, or nothing.
 class ORDA_BASE_EXPORT PortEditWt : public QLineEdit
 {
     Q_OBJECT

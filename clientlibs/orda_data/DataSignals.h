@@ -18,9 +18,9 @@ public:
 
 Q_SIGNALS:
     void signalDevStatusChanged(const QString &devId, vms_sdk::DevStatus status);
-    /// Records were added or replaced. The store raises both flags set; listeners act on the first.
+    /// Records were added or replaced. The store sets both flags. Listeners need to look at the first one only.
     void signalUpdateDevs(const QList<vms_sdk::DevInfo> &devs, bool recordsChanged, bool listChanged);
-    /// Records were removed. The store raises the flag set.
+    /// Records were removed. The store always sets the flag.
     void signalDeleteDevs(const QStringList &devIds, bool recordsRemoved);
 
 private:

@@ -15,10 +15,9 @@ public:
     static LoginSignals &instance();
 
 Q_SIGNALS:
-    /// The operator has logged out: rights that came with the login are gone.
+    /// The operator has logged out and has lost the rights that came with the login.
     void signalSaasLogoutSuccess();
-    /// The enterprise that the operator works for, and with it the rights, may have changed. @param status the
-    /// service's own code
+    /// The operator's enterprise may have changed, and so may the rights. @param status the code as the service sent it
     void signalEnterpriseStatus(int status);
 
 private:

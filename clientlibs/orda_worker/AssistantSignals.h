@@ -1,13 +1,13 @@
 #pragma once
 
-#include <orda_worker/EventConfirmInfo.h>
 #include <orda_worker/Export.h>
+#include <orda_worker/EventConfirmInfo.h>
 
 #include <QObject>
 
 namespace orda_worker {
 
-/// What happens at the assistant's dialogs. Raised on the GUI thread.
+/// Signals of the dialogs of SystemAssistant. Raised on the GUI thread.
 class ORDA_WORKER_EXPORT AssistantSignals : public QObject
 {
     Q_OBJECT
@@ -16,9 +16,9 @@ public:
     static AssistantSignals &instance();
 
 Q_SIGNALS:
-    /// Once for every dialog that the operator answers. @param index of the button
+    /// Raised once for each question that the operator answers. @param index the index of the button
     void signalEventConfirmOperBtClicked(const QString &uuid, int index);
-    /// For those who follow along: the dialog is on the screen.
+    /// The dialog was shown.
     void signalMessageAlerted(const QString &title, const QString &text);
     void signalEventConfirmRaised(const orda_worker::EventConfirmInfo &info);
 

@@ -7,7 +7,7 @@
 
 namespace orda_worker {
 
-/// Texts that all modules share. GUI thread only.
+/// Texts that all modules use. GUI thread only.
 class ORDA_WORKER_EXPORT DictDef
 {
     Q_DECLARE_TR_FUNCTIONS(DictDef)
