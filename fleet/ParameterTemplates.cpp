@@ -1,4 +1,4 @@
-#include "ParameterTemplates.h"
+#include "fleet/ParameterTemplates.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -36,7 +36,7 @@ public:
     {
     }
 
-    /// Undefined for a member that this device has not.
+    /// Undefined for a member that this device does not have.
     QJsonValue draw(const QJsonValue &part);
 
 private:

@@ -19,7 +19,7 @@ struct ParameterObject
     QJsonObject members; ///< a template
 };
 
-/// All of them, from parameters.json: there is nothing else to tell the fleet of a new one.
+/// All of them, from parameters.json: a new one is added there and nowhere else.
 const QVector<ParameterObject> &parameterObjects();
 
 /// Draws a device's parameters, by the names of the objects. A template is ordinary JSON in which an object may stand
@@ -28,8 +28,8 @@ const QVector<ParameterObject> &parameterObjects();
 ///     {"$oneOf": [a, b, …]}              one of these
 ///     {"$range": [low, high]}            a whole number from low to high
 ///     {"$first": {"$oneOf": [1, 2]}, "of": […]}   that many entries of the list, from its beginning
-///     {"$percent": 90, "value": v}       v in so many of 100 devices, in the others the member is missing
-///     {"$device": "name"}                from the device's record: name, serialNumber, ip or mac
+///     {"$percent": 90, "value": v}       v in 90 of 100 devices; in the others the member is missing
+///     {"$device": "name"}                of this device: name, serialNumber, ip or mac
 ///
 /// The same generator state gives the same parameters.
 QJsonObject drawParameters(const vms_sdk::DevInfo &device, QRandomGenerator &random);

@@ -1,6 +1,6 @@
-#include "SimulatedDevice.h"
+#include "fleet/SimulatedDevice.h"
 
-#include "ParameterTemplates.h"
+#include "fleet/ParameterTemplates.h"
 
 #include <QJsonArray>
 
@@ -40,7 +40,7 @@ std::optional<QJsonObject> writtenMembers(const ParameterObject &described, cons
 
 void merge(QJsonObject &target, const QJsonObject &members)
 {
-    // Into a fresh object: one that is written to again and again keeps every text that it ever held.
+    // Into a new object: a QJsonObject that is changed often keeps the texts that it has lost.
     QJsonObject merged;
     for (auto it = target.constBegin(); it != target.constEnd(); ++it)
         merged.insert(it.key(), members.contains(it.key()) ? members.value(it.key()) : it.value());

@@ -65,8 +65,8 @@ mkdir "$scratch/tree"
 ln -s "$source" "$scratch/tree/orda"
 ln -s "$source"/tests/consumer/{main.cpp,tree/CMakeLists.txt} "$scratch/tree"
 configure "$scratch/tree" whole "$@" -DCMAKE_PREFIX_PATH=
-parts=$(cd "$scratch/whole/orda" && find batchCfg clientlibs fleet client packaging tests bench -prune 2>/dev/null | xargs || true)
-[ "$parts" = "batchCfg clientlibs fleet" ] || fail "these become parts of the client's tree: $parts"
+parts=$(cd "$scratch/whole/orda" && find batchCfg clientlibs fleet programs client packaging tests bench -prune 2>/dev/null | xargs || true)
+[ "$parts" = "batchCfg clientlibs fleet programs" ] || fail "these become parts of the client's tree: $parts"
 cmake --build "$scratch/whole" -- -n | grep -q device_fleet && fail "the client's tree builds the simulated devices, which it did not ask for"
 grep -q '^CMAKE_BUILD_TYPE:STRING=$' "$scratch/whole/CMakeCache.txt" || fail "the build type of the client's tree was changed"
 

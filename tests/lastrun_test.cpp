@@ -1,11 +1,12 @@
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
 
-#include <ClientSession.h>
-#include <ClientWindow.h>
-#include <EmbeddedFleet.h>
-#include <Families.h>
-#include <LastRunWindow.h>
+#include "client/ClientSession.h"
+#include "client/ClientWindow.h"
+#include "client/Families.h"
+#include "client/LastRunWindow.h"
+#include "fleet/EmbeddedFleet.h"
+
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSignals.h>
 
@@ -30,6 +31,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace orda_client;
 using device_fleet::EmbeddedFleet;
 using device_fleet::Fault;
 

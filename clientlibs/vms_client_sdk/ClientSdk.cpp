@@ -1,11 +1,11 @@
-#include "ClientSdk.h"
+#include <vms_client_sdk/ClientSdk.h>
 
-#include "ClientSignals.h"
-#include "DeviceTransport.h"
-#include "Inbox.h"
-#include "Logging.h"
-#include "PendingRequests.h"
-#include "Requests.h"
+#include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/Inbox.h>
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/PendingRequests.h>
+#include <vms_client_sdk/Requests.h>
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -17,9 +17,10 @@ namespace vms_sdk {
 
 namespace {
 
-constexpr qint64 sliceMs = 8; // as the inbox's
+constexpr qint64 sliceMs = 8; // the same as the inbox has
 
-// So long a time-out waits for answers that came before it: devices that answer without end must not keep a run alive.
+// How long a time-out may wait for answers that arrived before it. Without a limit, devices that answer without end
+// would keep a run from ending.
 constexpr qint64 maxTimeoutDelayMs = 5'000;
 
 } // namespace
@@ -61,7 +62,7 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
         else if (const auto *change = std::get_if<Inbox::StatusChange>(&item))
             raise([=](ClientSignals &sdk) { emit sdk.signalDevStatusChanged(change->devId, change->status); });
     });
-    // On the thread that raises them: the inbox brings them over.
+    // Direct, on the thread that raises them: the inbox carries them to this thread.
     QObject::connect(
         m_transport.get(), &DeviceTransport::answered, m_inbox.get(),
         [inbox = m_inbox.get()](const QString &requestId, const QString &text) {
@@ -81,7 +82,7 @@ void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
     m_pending->advanceTo(m_clock.elapsed());
     m_pending->setTimeout(timeout);
     if (m_timer.isActive())
-        startTimer(); // at the new pace
+        startTimer(); // the ticks are of another length now
 }
 
 void ClientSdk::send(const QString &requestId, const QString &devId, const QString &text)
@@ -136,7 +137,7 @@ void ClientSdk::passOnAnswer(const QString &requestId, const QString &text)
 
 void ClientSdk::checkTimeouts()
 {
-    // An answer that came in time, to a thread that was busy, goes before the time-out.
+    // An answer that arrived in time, while this thread was busy, is passed on before the time-out.
     if (m_inbox && m_timedOut.isEmpty()) {
         if (m_answersFirst == 0) {
             m_answersFirst = m_inbox->putCount();
@@ -150,15 +151,14 @@ void ClientSdk::checkTimeouts()
     }
     m_pending->advanceTo(m_clock.elapsed());
     m_timedOut += m_pending->takeDue();
-    // Before the signals: a listener may wait in an event loop of its own, and the others' time-outs must come all the
-    // same.
+    // Before the signals: a listener may run an event loop of its own, in which the other time-outs must still come.
     if (!m_pending->isEmpty() || !m_timedOut.isEmpty())
         startTimer();
     QElapsedTimer slice;
     slice.start();
     while (!m_timedOut.isEmpty()) {
         if (slice.elapsed() >= sliceMs) {
-            m_timer.start(0); // the event loop has its turn
+            m_timer.start(0); // let the event loop handle other events first
             return;
         }
         raise([id = m_timedOut.takeFirst()](ClientSignals &sdk) { emit sdk.signalRequestTimeout(id, QVariant()); });
@@ -170,7 +170,8 @@ void ClientSdk::startTimer()
     m_timer.start(int(m_pending->untilNextTick()));
 }
 
-// Requests.h: here, because a run of 10,000 devices calls the second 5 * 10^7 times.
+// The functions of Requests.h are in this file so that renew() can be inlined: a run over 10,000 devices calls it
+// 5 * 10^7 times.
 
 void common_req(const QString &requestId, const QString &devId, const QString &text)
 {

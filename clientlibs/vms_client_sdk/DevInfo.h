@@ -15,7 +15,7 @@ enum DevStatus
     DevOffline = 0,
     DevOnline = 1,
     DevConnecting = 2, ///< being dialled or signing on
-    DevRefused = 3, ///< the sign-on failed; not tried again until the record changes or the operator asks
+    DevRefused = 3, ///< the sign-on failed; not tried again until the record changes or the operator asks for it
     DevDefaultPassword = 5, ///< online, still with its factory password
     DevLocked = 6 ///< online, locked against changes of its password
 };

@@ -19,8 +19,8 @@ public:
     /// Called on the GUI thread. Must not block. A text that cannot be delivered is dropped: the request then ends by
     /// its time-out.
     virtual void send(const QString &requestId, const QString &devId, const QString &text) = 0;
-    /// Called on the GUI thread when an answer that this transport raised is about to reach the listeners: it no longer
-    /// waits for them. A transport that bounds what waits counts by this; the default does nothing.
+    /// Called on the GUI thread when an answer that this transport raised is about to reach the listeners. A transport
+    /// that limits how many answers may wait for the GUI thread counts them with this; the default does nothing.
     virtual void passedOn(const QString &requestId, const QString &text);
 
 Q_SIGNALS:

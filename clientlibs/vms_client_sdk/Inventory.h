@@ -12,7 +12,7 @@ namespace vms_sdk {
 struct Inventory
 {
     QList<DevInfo> devices;
-    QStringList warnings; ///< what was read over, for the operator, a printable line each: unknown keys
+    QStringList warnings; ///< for the operator, a printable line each: keys that are not used
     QString error; ///< for the operator: a printable line with file, entry, field and what
                    ///< would be right; empty on success
 };

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../DevInfo.h"
-#include "../WebSocketOptions.h"
-#include "StatusChanges.h"
+#include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/WebSocketOptions.h>
+#include <vms_client_sdk/websocket/StatusChanges.h>
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -55,7 +55,7 @@ private:
     StatusChanges m_statusChanges;
     QTimer m_statusTimer;
     LinkHost *m_host;
-    Links m_links; ///< by device id; go before the host
+    Links m_links; ///< by device id; deleted before the host
 };
 
 } // namespace vms_sdk

@@ -2,10 +2,10 @@
 
 #include <QCommandLineParser>
 
-namespace device_fleet {
+namespace orda_programs {
 
-/// What both programs do with a command line: adds --help and --version, which print and end the program here.
+/// Reads a program's command line. Adds --help and --version, which print and end the program here.
 /// @return a text for the user, empty when @p arguments (program name first) suit the parser's options
 QString parseCommandLine(QCommandLineParser &parser, const QStringList &arguments);
 
-} // namespace device_fleet
+} // namespace orda_programs

@@ -1,9 +1,9 @@
-#include "CommandLine.h"
+#include "programs/CommandLine.h"
 
 #include <cstdio>
 #include <cstdlib>
 
-namespace device_fleet {
+namespace orda_programs {
 
 QString parseCommandLine(QCommandLineParser &parser, const QStringList &arguments)
 {
@@ -23,4 +23,4 @@ QString parseCommandLine(QCommandLineParser &parser, const QStringList &argument
     return {};
 }
 
-} // namespace device_fleet
+} // namespace orda_programs
