@@ -1,4 +1,4 @@
-#include "orda_base/TableAccess.h"
+#include <orda_base/TableAccess.h>
 
 #include <QAccessibleWidget>
 #include <QHash>
