@@ -3,11 +3,13 @@
 #include <audio/AudioParamsCfgPage.h>
 #include <platform/Platform9100ParamsCfgPage.h>
 #include <platform/PlatformParamsCfgPage.h>
+#include <run/SwitchImages.h>
 #include <video/VideoParamsPanel.h>
 
 #include <QApplication>
 #include <QJsonObject>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -99,6 +101,24 @@ private slots:
             QCOMPARE(panel.getParams().value(QStringLiteral("bitRate")).toInt(), sent);
             QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
         }
+    }
+
+    void switchesNeedNoImagesOfTheClient()
+    {
+        AudioParamsCfgPage page;
+        auto *button = page.findChild<QPushButton *>(QStringLiteral("audioSwitch"));
+        const auto states = [button] {
+            button->setChecked(false);
+            const QImage off = button->grab().toImage();
+            button->setChecked(true);
+            return qMakePair(off, button->grab().toImage());
+        };
+        const auto withImages = states(); // of orda_base, which the module's own equal
+        const QString nowhere = QStringLiteral(":/nowhere/");
+        button->setStyleSheet(button->styleSheet().replace(QStringLiteral(":/images/images/"), nowhere));
+        QVERIFY(states() != withImages);
+        completeSwitchImages(&page, nowhere);
+        QVERIFY(states() == withImages);
     }
 
     void addressLinesFollowTheWindow()

@@ -323,6 +323,52 @@ private slots:
         }
     }
 
+    void isNamedAsItsUsersKnowIt_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("timeout");
+        QTest::addColumn<QString>("methods");
+        QTest::addColumn<QString>("things"); // in the failure texts
+        const auto row = [](const char *name, const char *title, const char *timeout, const char *methods,
+                            const char *things) {
+            QTest::newRow(name) << latin1(title) << latin1(timeout) << latin1(methods) << latin1(things);
+        };
+        row("audio", "Audio", "audio", "ai_get_param ai_set_param ao_get_param ao_set_param", "audio in,audio out");
+        row("video", "Video", "stream", "stream_get_params stream_set_params", "stream");
+        row("image", "Image", "image",
+            "image_get_adjust_param image_set_adjust_param image_get_dncut_param image_set_dncut_param "
+            "image_get_expertsetting_param image_set_expertsetting_param",
+            "image adjust,image day-night,image expert");
+        row("osd", "OSD", "osd", "chnosd_get_param chnosd_set_param", "osd");
+        row("network", "Network", "network",
+            "netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo ifconfig_get_inet ifconfig_eth_set",
+            "onvif discovery,ip");
+        row("platform", "Platform", "platform", "ifconfig_qbcloud_get_param ifconfig_qbcloud_set_param", "platform");
+        row("platform_9100", "Platform 9100", "platform 9100", "alarmservice_get_cfg alarmservice_set_cfg",
+            "platform 9100");
+        row("onvif", "Onvif", "onvif discovery",
+            "netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo", "onvif discovery");
+    }
+
+    void isNamedAsItsUsersKnowIt()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, timeout);
+        QFETCH(QString, methods);
+        QFETCH(QString, things);
+        const QString name = latin1(QTest::currentDataTag());
+        const FamilyRow &family = familyRow(name);
+        QCOMPARE(family.title, title + latin1(" Parameters Configuration Result"));
+        QCOMPARE(family.recordFile, latin1("vms_%1_params_batch_cfg_record.txt").arg(name));
+        QCOMPARE(family.timeoutText, latin1("set %1 parameters time out").arg(timeout));
+        QCOMPARE(family.methods.join(QLatin1Char(' ')), methods);
+        QStringList failures;
+        for (const QString &thing : things.split(QLatin1Char(',')))
+            for (const char *step : {"get", "set"})
+                failures.append(latin1("Failed to %1 %2 parameters(").arg(latin1(step), thing) + latin1("%1)"));
+        QCOMPARE(family.failures, failures);
+    }
+
     void saysWhichStepFailed_data()
     {
         QTest::addColumn<QString>("name");

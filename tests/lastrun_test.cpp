@@ -1,11 +1,12 @@
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
 
-#include <ClientSession.h>
-#include <ClientWindow.h>
-#include <EmbeddedFleet.h>
-#include <Families.h>
-#include <LastRunWindow.h>
+#include "client/ClientSession.h"
+#include "client/ClientWindow.h"
+#include "client/Families.h"
+#include "client/LastRunWindow.h"
+#include "fleet/EmbeddedFleet.h"
+
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSignals.h>
 
@@ -21,6 +22,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QTableWidget>
@@ -29,6 +31,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace orda_client;
 using device_fleet::EmbeddedFleet;
 using device_fleet::Fault;
 
@@ -363,9 +366,9 @@ private slots:
         QTRY_VERIFY(!lastRun());
         expectWarning(QStringLiteral("it is a symbolic link"));
         child<QAbstractButton>(*page, "okBt")->click();
-        auto *summary = child<QDialog>(window, "eventConfirmDialog");
-        QVERIFY(summary->accessibleDescription().contains(
-            QLatin1String("success:1, failure:1\nThe last run left no record")));
+        auto *summary = child<QMessageBox>(window, "eventConfirmDialog");
+        QVERIFY(
+            summary->informativeText().contains(QLatin1String("success:1, failure:1\nThe last run left no record")));
         const auto labels = summary->findChildren<QLabel *>();
         for (const QLabel *label : labels) // the dialog has grown
             QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));

@@ -1,7 +1,7 @@
 #include "support/OrdaTest.h"
 #include "support/SiteClient.h"
 
-#include <EmbeddedFleet.h>
+#include "fleet/EmbeddedFleet.h"
 
 #include <QApplication>
 #include <QMap>

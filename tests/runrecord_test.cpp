@@ -1,10 +1,12 @@
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
 
-#include <RunRecord.h>
+#include "client/RunRecord.h"
 
 #include <QApplication>
 #include <QRandomGenerator>
+
+using namespace orda_client;
 
 /// What a record's text is taken for.
 class RunRecordTest : public OrdaTest

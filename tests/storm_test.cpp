@@ -1,7 +1,8 @@
 #include "support/OrdaTest.h"
 #include "support/SiteClient.h"
 
-#include <EmbeddedFleet.h>
+#include "fleet/EmbeddedFleet.h"
+
 #include <vms_client_sdk/ClientSignals.h>
 
 #include <QAbstractButton>
