@@ -5,8 +5,6 @@
 #include <platform/PlatformParamsCfgPage.h>
 #include <video/VideoParamsPanel.h>
 
-#include <QApplication>
-#include <QJsonObject>
 #include <QLineEdit>
 #include <QSlider>
 #include <QSpinBox>
@@ -48,11 +46,11 @@ private slots:
         QFETCH(int, sent);
         AudioParamsCfgPage page;
         page.show();
-        auto *edit = page.findChild<QLineEdit *>(name + QStringLiteral("Param"));
-        auto *slider = page.findChild<QSlider *>(name + QStringLiteral("Slider"));
-        QCOMPARE(edit->text(), QStringLiteral("50"));
+        auto *edit = page.findChild<QLineEdit *>(name + "Param");
+        auto *slider = page.findChild<QSlider *>(name + "Slider");
+        QCOMPARE(edit->text(), "50");
         for (const QChar key : qAsConst(typed)) {
-            if (key == QLatin1Char('<'))
+            if (key == '<')
                 QTest::keyClick(edit, Qt::Key_Backspace);
             else
                 QTest::keyClick(edit, key.toLatin1());
@@ -60,7 +58,7 @@ private slots:
         }
         QCOMPARE(slider->value(), sent);
         slider->setValue(30);
-        QCOMPARE(edit->text(), QStringLiteral("30"));
+        QCOMPARE(edit->text(), "30");
     }
 
     void videoQualityTakesTheNearestBound_data()
@@ -87,7 +85,7 @@ private slots:
             VideoParamsPanel panel(VideoParamsPanel::MainStream);
             panel.show();
             QApplication::setActiveWindow(&panel);
-            auto *spin = panel.findChild<QSpinBox *>(QStringLiteral("videoQuality"));
+            auto *spin = panel.findChild<QSpinBox *>("videoQuality");
             spin->setFocus();
             spin->selectAll();
             QTest::keyClick(spin, Qt::Key_Delete);
@@ -96,7 +94,7 @@ private slots:
                 QTest::keyClick(spin, Qt::Key_Tab);
                 QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent));
             }
-            QCOMPARE(panel.getParams().value(QStringLiteral("bitRate")).toInt(), sent);
+            QCOMPARE(panel.getParams().value("bitRate").toInt(), sent);
             QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
         }
     }
@@ -108,7 +106,7 @@ private slots:
         for (const auto &page : pages) {
             page->show();
             for (const char *name : {"serviceAddressParam", "onlineUrl", "bussinessUrl"}) {
-                const auto *line = page->findChild<QLineEdit *>(QLatin1String(name));
+                const auto *line = page->findChild<QLineEdit *>(name);
                 if (!line)
                     continue;
                 page->resize(500, 600);

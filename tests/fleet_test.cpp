@@ -7,17 +7,8 @@
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
 
-#include <QApplication>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QNetworkInterface>
-#include <QProcess>
-#include <QSet>
-#include <QSignalSpy>
 #include <QTcpSocket>
-#include <QTemporaryDir>
-#include <QTemporaryFile>
 
 #include <csignal>
 #include <memory>
@@ -39,7 +30,7 @@ QByteArray request(const QByteArray &method, const QByteArray &param = "{}")
 
 int errorCode(const QJsonObject &answer)
 {
-    return answer[L1("error")][L1("errorcode")].toInt(1);
+    return answer["error"]["errorcode"].toInt(1);
 }
 
 FleetOptions site(int devices)
@@ -73,7 +64,7 @@ QByteArray answerTo(const vms_sdk::DevInfo &device)
 
 QString programFile()
 {
-    return QCoreApplication::applicationDirPath() + L1("/orda_fleet");
+    return QCoreApplication::applicationDirPath() + "/orda_fleet";
 }
 
 } // namespace
@@ -98,7 +89,7 @@ private slots:
     void badRequestChangesNothing()
     {
         QFETCH(QByteArray, text);
-        SimulatedDevice device(QStringLiteral("d"), makeSiteDevice(1, 0).parameters);
+        SimulatedDevice device("d", makeSiteDevice(1, 0).parameters);
         const QJsonObject before = device.parameters();
         QTEST(errorCode(device.answer(json(text).toObject())), "code");
         QCOMPARE(device.parameters(), before);
@@ -114,10 +105,8 @@ private slots:
             const auto count = std::count_if(devices.begin(), devices.end(), has);
             QVERIFY2(count > 0 && count < 200, trait);
         };
-        const auto streams = [](const SiteDevice &d) {
-            return d.parameters[L1("video")][L1("streams")].toArray().size();
-        };
-        const auto eth = [](const SiteDevice &d) { return d.parameters[L1("inet")][L1("eth")]; };
+        const auto streams = [](const SiteDevice &d) { return d.parameters["video"]["streams"].toArray().size(); };
+        const auto eth = [](const SiteDevice &d) { return d.parameters["inet"]["eth"]; };
         using Device = const SiteDevice &;
         some("camera", [](Device d) { return d.info.kindCode == 1; });
         some("recorder", [](Device d) { return d.info.kindCode == 6; });
@@ -134,13 +123,13 @@ private slots:
         some("one stream", [&](Device d) { return streams(d) == 1; });
         some("three streams", [&](Device d) { return streams(d) == 3; });
         some("no eth", [&](Device d) { return eth(d).isUndefined(); });
-        some("no speed", [&](Device d) { return eth(d).isObject() && eth(d)[L1("speed")].isUndefined(); });
-        some("no large font", [](Device d) { return d.parameters[L1("osd")][L1("bLargeOSD")].isUndefined(); });
+        some("no speed", [&](Device d) { return eth(d).isObject() && eth(d)["speed"].isUndefined(); });
+        some("no large font", [](Device d) { return d.parameters["osd"]["bLargeOSD"].isUndefined(); });
 
         QSet<QString> unique;
         int usable = 0; // would be listed whatever its password
         for (const SiteDevice &d : devices) {
-            unique << d.info.id << d.info.serialNumber << (d.info.ip.isEmpty() ? d.info.id + L1("/cloud") : d.info.ip);
+            unique << d.info.id << d.info.serialNumber << (d.info.ip.isEmpty() ? d.info.id + "/cloud" : d.info.ip);
             usable += d.online && d.info.accessCode == 1 && QList<int>{1, 6}.contains(d.info.kindCode)
                    && !d.info.ip.isEmpty();
             QCOMPARE(d.parameters.size(), SimulatedDevice::methods().size() / 2);
@@ -180,23 +169,23 @@ private slots:
         QString error;
         QStringList warnings;
         const FaultPlan plan = FaultPlan::read(file.fileName(), &error, &warnings);
-        const bool isWarning = complaint.contains(L1("unknown key"));
+        const bool isWarning = complaint.contains("unknown key");
         const QString said = isWarning ? warnings.join(QString()) : error;
         QVERIFY2(said.startsWith(file.fileName()) && said.contains(complaint), qPrintable(said));
-        QCOMPARE(plan.find(QStringLiteral("d"), QStringLiteral("ai_get_param")).has_value(), isWarning);
+        QCOMPARE(plan.find("d", "ai_get_param").has_value(), isWarning);
     }
 
     void narrowerFaultGoesFirst()
     {
         FaultPlan plan;
-        plan.set(L1("*"), L1("*"), {Fault::Garbage});
-        plan.set(L1("*"), L1("m"), {Fault::NoAnswer});
-        plan.set(L1("d"), L1("*"), {Fault::NoResult});
-        plan.set(L1("d"), L1("m"), {Fault::ForeignId});
-        QCOMPARE(plan.find(L1("d"), L1("m"))->fault, Fault::ForeignId);
-        QCOMPARE(plan.find(L1("d"), L1("x"))->fault, Fault::NoResult);
-        QCOMPARE(plan.find(L1("x"), L1("m"))->fault, Fault::NoAnswer);
-        QCOMPARE(plan.find(L1("x"), L1("x"))->fault, Fault::Garbage);
+        plan.set("*", "*", {Fault::Garbage});
+        plan.set("*", "m", {Fault::NoAnswer});
+        plan.set("d", "*", {Fault::NoResult});
+        plan.set("d", "m", {Fault::ForeignId});
+        QCOMPARE(plan.find("d", "m")->fault, Fault::ForeignId);
+        QCOMPARE(plan.find("d", "x")->fault, Fault::NoResult);
+        QCOMPARE(plan.find("x", "m")->fault, Fault::NoAnswer);
+        QCOMPARE(plan.find("x", "x")->fault, Fault::Garbage);
     }
 
     void strangersAreTurnedAway()
@@ -205,7 +194,7 @@ private slots:
         auto fleet = std::make_unique<EmbeddedFleet>(options);
         QCOMPARE(fleet->start(), QString());
         vms_sdk::DevInfo device = fleet->inventory().at(0);
-        device.path = L1("/dev-9999");
+        device.path = "/dev-9999";
         QVERIFY(answerTo(device).startsWith("HTTP/1.1 404 "));
         QVERIFY(answerTo(QHostAddress::LocalHost, device.port, QByteArray(100000, 'x')).isEmpty());
 
@@ -215,7 +204,7 @@ private slots:
         });
         if (outside == addresses.end())
             QSKIP("this machine has no address but its own loopback");
-        QVERIFY(answerTo(*outside, device.port, upgradeRequest(L1("/dev-0001"))).isEmpty());
+        QVERIFY(answerTo(*outside, device.port, upgradeRequest("/dev-0001")).isEmpty());
         options.listenAddress = *outside;
         fleet = std::make_unique<EmbeddedFleet>(options);
         QCOMPARE(fleet->start(), QString());
@@ -225,17 +214,16 @@ private slots:
     void tooManyDevicesForOneProcess()
     {
         EmbeddedFleet fleet(site(int(vms_sdk::raiseOpenFileLimit() / 2)));
-        QVERIFY(fleet.start().contains(L1("orda_fleet --devices")));
+        QVERIFY(fleet.start().contains("orda_fleet --devices"));
     }
 
     void programWritesInventoryAndDump()
     {
         const QTemporaryDir dir;
-        const QString inventoryFile = dir.filePath(L1("inventory.json"));
-        const QString dumpFile = dir.filePath(L1("dump.json"));
+        const QString inventoryFile = dir.filePath("inventory.json");
+        const QString dumpFile = dir.filePath("dump.json");
         QProcess program;
-        program.start(programFile(),
-                      {L1("--devices"), L1("5"), L1("--inventory"), inventoryFile, L1("--dump"), dumpFile});
+        program.start(programFile(), {"--devices", "5", "--inventory", inventoryFile, "--dump", dumpFile});
         QVERIFY(program.waitForReadyRead());
         QVERIFY(program.readAll().contains("5 devices"));
         const vms_sdk::Inventory inventory = vms_sdk::readInventory(inventoryFile);
@@ -252,7 +240,7 @@ private slots:
         QCOMPARE(program.exitCode(), 0);
         QFile dump(dumpFile);
         QVERIFY(dump.open(QIODevice::ReadOnly));
-        QCOMPARE(json(dump.readAll())[L1("devices")].toObject().size(), 5);
+        QCOMPARE(json(dump.readAll())["devices"].toObject().size(), 5);
     }
 
     void programExplainsWrongUsage_data()
@@ -274,7 +262,7 @@ private slots:
     {
         QFETCH(QString, complaint);
         QProcess program;
-        program.start(programFile(), QString::fromLatin1(QTest::currentDataTag()).split(QLatin1Char(' ')));
+        program.start(programFile(), QString::fromLatin1(QTest::currentDataTag()).split(' '));
         QVERIFY(program.waitForFinished());
         QTEST(program.exitCode(), "exitCode");
         const QString said = QString::fromUtf8(program.readAllStandardError());

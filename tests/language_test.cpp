@@ -6,18 +6,14 @@
 #include <orda_base/NavigationButton.h>
 #include <orda_base/Theme.h>
 
-#include <QApplication>
 #include <QComboBox>
 #include <QHelpEvent>
-#include <QJsonArray>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
-#include <QTranslator>
-#include <QtMath>
 
 #include <memory>
 #include <vector>
@@ -43,8 +39,8 @@ QStringList sentBy(const FamilyRow &family)
     const FormFixture f(1, knowsAll);
     f.tickAll();
     const QWidget *page = f.form->findChild<QWidget *>(family.pageName);
-    if (auto *name = page->findChild<QLineEdit *>(QStringLiteral("nameParam")))
-        name->setText(QStringLiteral("Gate 1")); // what stands there at first is a text of the language
+    if (auto *name = page->findChild<QLineEdit *>("nameParam"))
+        name->setText("Gate 1"); // what stands there at first is a text of the language
     const auto combos = page->findChildren<QComboBox *>();
     int choices = 1;
     for (const QComboBox *combo : combos)
@@ -71,7 +67,7 @@ public:
     QString translate(const char *, const char *source, const char *, int) const override
     {
         const QString text = QString::fromUtf8(source);
-        return text + QLatin1Char(' ') + QString(qCeil(text.size() * 0.4) - 1, QLatin1Char('n'));
+        return text + ' ' + QString(qCeil(text.size() * 0.4) - 1, 'n');
     }
 };
 
@@ -90,7 +86,7 @@ private slots:
         OrdaTest::cleanup();
     }
 
-    void wireIsTheSameInEveryLanguage_data() { addFamilies({QStringLiteral("de"), QStringLiteral("zh_CN")}); }
+    void wireIsTheSameInEveryLanguage_data() { addFamilies({"de", "zh_CN"}); }
 
     void wireIsTheSameInEveryLanguage()
     {
@@ -101,7 +97,7 @@ private slots:
         QVERIFY(inEnglish.size() >= 2);
 
         install(language);
-        QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != QLatin1String("success"));
+        QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != "success");
         QCOMPARE(sentBy(family), inEnglish);
     }
 
@@ -116,7 +112,7 @@ private slots:
     void fitsAFieldLaptop()
     {
         QFETCH(QString, language);
-        if (language != QLatin1String("en"))
+        if (language != "en")
             install(language);
         const FormFixture f(3, knowsAll);
         const QSize needed = f.form->minimumSizeHint();
@@ -198,8 +194,7 @@ private:
     {
         for (const char *part : {"batchCfg", "clientlibs"}) {
             m_translators.push_back(std::make_unique<QTranslator>());
-            QVERIFY(
-                m_translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(QLatin1String(part), language)));
+            QVERIFY(m_translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(part, language)));
             QCoreApplication::installTranslator(m_translators.back().get());
         }
     }

@@ -12,16 +12,12 @@
 
 #include <orda_base/Theme.h>
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSignalSpy>
 
 #include <functional>
 
@@ -57,20 +53,16 @@ QString choices(const QComboBox *combo)
     QStringList items;
     for (int i = 0; i < combo->count(); ++i) {
         const QVariant data = combo->itemData(i);
-        const QString number = data.type() == QVariant::Int ? QStringLiteral("#") : QString();
-        items.append(combo->itemText(i) + (data.isValid() ? QLatin1Char('=') + number + data.toString() : QString()));
+        const QString number = data.type() == QVariant::Int ? "#" : QString();
+        items.append(combo->itemText(i) + (data.isValid() ? '=' + number + data.toString() : QString()));
     }
-    return QStringLiteral("%1 %2: %3")
-        .arg(combo->objectName())
-        .arg(combo->currentIndex())
-        .arg(items.join(QStringLiteral(", ")));
+    return QStringLiteral("%1 %2: %3").arg(combo->objectName()).arg(combo->currentIndex()).arg(items.join(", "));
 }
 
 QList<PageCase> pageCases()
 {
-    const QString positions =
-        QStringLiteral("Param 0: Top Left=left_top, Bottom Left=left_bottom, Top Right=right_top, "
-                       "Bottom Right=right_bottom, Hide=hide");
+    const QString positions = "Param 0: Top Left=left_top, Bottom Left=left_bottom, Top Right=right_top, "
+                              "Bottom Right=right_bottom, Hide=hide";
     return {
         {"AudioParamsCfgPage",
          make<AudioParamsCfgPage>,
@@ -80,9 +72,8 @@ QList<PageCase> pageCases()
           {"alarmOutVolume", {"alarmOutVolumePanel"}},
           {"samplingRate", {"samplingRatePanel", "bitWidePanel"}}},
          {},
-         {QStringLiteral("BitWideParam 0: 16bit=#16"),
-          QStringLiteral("encodingFormatParam 0: G711U=g711u, G711A=g711a"),
-          QStringLiteral("samplingRateParam 0: 8000=#8000")}},
+         {"BitWideParam 0: 16bit=#16", "encodingFormatParam 0: G711U=g711u, G711A=g711a",
+          "samplingRateParam 0: 8000=#8000"}},
         {"VideoParamsCfgPage",
          make<VideoParamsCfgPage>,
          {{"smartEncoding", {"smartEncodingPanel"}},
@@ -91,19 +82,19 @@ QList<PageCase> pageCases()
           {"frameRate", {"frameRateWt"}},
           {"bitRate", {"bitRateModeWt", "bitRateStrategyWt", "videoQualityWt"}}},
          {},
-         {QStringLiteral("smartEncodingCtrl 0: Open=open, Close=close, Auto=autoopen")}},
+         {"smartEncodingCtrl 0: Open=open, Close=close, Auto=autoopen"}},
         {"ImageParamsCfgPage",
          make<ImageParamsCfgPage>,
          {{"imageFlip", {"imageFlipPanel"}}, {"expertMode", {"expertModePanel"}}, {"lightMode", {"lightModePanel"}}},
          {},
-         {QStringLiteral("expertModeParam 0: Auto=auto, Indoor=indoor, Outdoor=outdoor, Backlight=backlight"),
-          QStringLiteral("imageFlipParam 0: Off=off, Horizontal=horizontal, Vertical=vertical, Rotate 180=both"),
-          QStringLiteral("lightModeParam 0: Infrared=ir, White Light=white, Smart Dual Light=smart, Off=off")}},
+         {"expertModeParam 0: Auto=auto, Indoor=indoor, Outdoor=outdoor, Backlight=backlight",
+          "imageFlipParam 0: Off=off, Horizontal=horizontal, Vertical=vertical, Rotate 180=both",
+          "lightModeParam 0: Infrared=ir, White Light=white, Smart Dual Light=smart, Off=off"}},
         {"PlatformParamsCfgPage",
          make<PlatformParamsCfgPage>,
          {{"serviceEnable", {"serviceEnablePanel"}}, {"serviceAddress", {"serviceAddressPanel"}}},
          {"serviceTypePanel"},
-         {QStringLiteral("serviceType 0: Public Cloud=public, Private Cloud=private")}},
+         {"serviceType 0: Public Cloud=public, Private Cloud=private"}},
         {"Platform9100ParamsCfgPage",
          make<Platform9100ParamsCfgPage>,
          {{"serviceEnable", {"serviceEnablePanel"}},
@@ -126,9 +117,8 @@ QList<PageCase> pageCases()
           {"namePosition", {"namePositionPanel"}},
           {"largeFont", {"largeFontPanel"}}},
          {},
-         {QStringLiteral("namePosition") + positions,
-          QStringLiteral("timeFormatParam 0: YYYY-MM-DD, MM/DD/YYYY, DD/MM/YYYY"),
-          QStringLiteral("timePosition") + positions}},
+         {"namePosition" + positions, "timeFormatParam 0: YYYY-MM-DD, MM/DD/YYYY, DD/MM/YYYY",
+          "timePosition" + positions}},
         {"OnvifParamsCfgPage", make<OnvifParamsCfgPage>, {{"compatibleEnable", {"compatibleEnablePanel"}}}, {}, {}},
     };
 }
@@ -165,8 +155,8 @@ private slots:
                 found.append(choices(combo));
         found.sort();
         QCOMPARE(found, expected.choices);
-        QVERIFY(page->findChild<QPushButton *>(QStringLiteral("okBt"))->property("common_bt_style1").toBool());
-        QVERIFY(page->findChild<QPushButton *>(QStringLiteral("reportBt"))->property("common_bt_style2").toBool());
+        QVERIFY(page->findChild<QPushButton *>("okBt")->property("common_bt_style1").toBool());
+        QVERIFY(page->findChild<QPushButton *>("reportBt")->property("common_bt_style2").toBool());
     }
 
     void followsEverySelection_data() { addPages(); }
@@ -177,10 +167,10 @@ private slots:
         const PageCase expected = pageCases().at(number);
         const std::unique_ptr<QWidget> page(expected.make());
         page->show();
-        auto *all = page->findChild<QCheckBox *>(QStringLiteral("allParams"));
-        const auto *okBt = page->findChild<QPushButton *>(QStringLiteral("okBt"));
+        auto *all = page->findChild<QCheckBox *>("allParams");
+        const auto *okBt = page->findChild<QPushButton *>("okBt");
         const auto isShown = [&page](const char *panel) {
-            return page->findChild<QWidget *>(QLatin1String(panel))->isVisibleTo(page.get());
+            return page->findChild<QWidget *>(panel)->isVisibleTo(page.get());
         };
         const auto box = [&](int i) { return page->findChild<QCheckBox *>(QLatin1String(expected.boxes.at(i).name)); };
         const int everything = (1 << expected.boxes.size()) - 1;
@@ -232,7 +222,7 @@ private slots:
             page->resize(size);
             page->show();
             QCoreApplication::processEvents();
-            const auto *area = page->findChild<QScrollArea *>(QStringLiteral("valuesArea"));
+            const auto *area = page->findChild<QScrollArea *>("valuesArea");
             // Beside the other columns of a form that is 1500 pixels wide nothing needs to be scrolled sideways.
             QVERIFY2(size.width() < 700 || area->widget()->width() <= area->viewport()->width(),
                      qPrintable(QString::number(area->widget()->width())));
@@ -260,35 +250,33 @@ private slots:
             all.sort();
             return all;
         };
-        const QString small =
-            QStringLiteral("1280*960, 1280*720, 960*540, 768*432, 720*576, 720*480, 704*576, 640*480, "
-                           "352*288, 368*208");
+        const QString small = "1280*960, 1280*720, 960*540, 768*432, 720*576, 720*480, 704*576, 640*480, "
+                              "352*288, 368*208";
         QStringList expected{
-            QStringLiteral("bitRateMode 0: Variable Bitrate=vbr, Fixed Bitrate=cbr"),
-            QStringLiteral("bitRateStrategy 2: Best Image Quality=#100, Image Quality Priority=#80, Balance Mode=#60, "
-                           "Storage Priority=#40, Optimal Storage=#20"),
-            QStringLiteral("encodingFormat 0: H264=h264, H265=h265"),
-            QStringLiteral("frameRate 7: 10, 15, 20, 21, 22, 23, 24, 25, 30"),
-            QStringLiteral("resolution 2: 2560*1440, 2304*1296, 1920*1080, ") + small};
+            "bitRateMode 0: Variable Bitrate=vbr, Fixed Bitrate=cbr",
+            "bitRateStrategy 2: Best Image Quality=#100, Image Quality Priority=#80, Balance Mode=#60, "
+            "Storage Priority=#40, Optimal Storage=#20",
+            "encodingFormat 0: H264=h264, H265=h265", "frameRate 7: 10, 15, 20, 21, 22, 23, 24, 25, 30",
+            "resolution 2: 2560*1440, 2304*1296, 1920*1080, " + small};
         QCOMPARE(offered(main), expected);
-        expected.last() = QStringLiteral("resolution 6: ") + small;
+        expected.last() = "resolution 6: " + small;
         QCOMPARE(offered(sub), expected);
-        QCOMPARE(main.findChild<QLabel *>(QStringLiteral("title"))->text(), QStringLiteral("HD Stream"));
-        QCOMPARE(sub.findChild<QLabel *>(QStringLiteral("title"))->text(), QStringLiteral("SD Stream"));
+        QCOMPARE(main.findChild<QLabel *>("title")->text(), "HD Stream");
+        QCOMPARE(sub.findChild<QLabel *>("title")->text(), "SD Stream");
 
         // Packed from the top left, in the order of the fields, whether the panel is on the screen or not.
-        const auto *grid = main.findChild<QGridLayout *>(QStringLiteral("gridLayout"));
+        const auto *grid = main.findChild<QGridLayout *>("gridLayout");
         const auto packed = [grid] {
             QStringList cells;
             for (int place = 0; place < 6; ++place)
                 if (QLayoutItem *item = grid->itemAtPosition(place / 2, place % 2))
                     cells.append(item->widget()->objectName());
-            return cells.join(QLatin1Char(' '));
+            return cells.join(' ');
         };
         main.setParamsMask(VideoParamsPanel::BitRate);
-        QCOMPARE(packed(), QStringLiteral("bitRateModeWt bitRateStrategyWt videoQualityWt"));
+        QCOMPARE(packed(), "bitRateModeWt bitRateStrategyWt videoQualityWt");
         main.setParamsMask(VideoParamsPanel::Resolution | VideoParamsPanel::BitRate);
-        QCOMPARE(packed(), QStringLiteral("resolutionWt bitRateModeWt bitRateStrategyWt videoQualityWt"));
+        QCOMPARE(packed(), "resolutionWt bitRateModeWt bitRateStrategyWt videoQualityWt");
         QCOMPARE(main.getParams(),
                  QJsonDocument::fromJson(
                      R"({"width": 1920, "height": 1080, "rcMode": "vbr", "quality": 60, "bitRate": 1024})")
@@ -301,14 +289,14 @@ private slots:
     {
         VideoParamsCfgPage page;
         page.show();
-        const auto box = [&page](const char *name) { return page.findChild<QCheckBox *>(QLatin1String(name)); };
-        const auto *okBt = page.findChild<QPushButton *>(QStringLiteral("okBt"));
+        const auto box = [&page](const char *name) { return page.findChild<QCheckBox *>(name); };
+        const auto *okBt = page.findChild<QPushButton *>("okBt");
         const auto panels = page.findChildren<VideoParamsPanel *>();
-        const auto *smartEncoding = page.findChild<QWidget *>(QStringLiteral("smartEncodingPanel"));
+        const auto *smartEncoding = page.findChild<QWidget *>("smartEncodingPanel");
         const auto shown = [&] {
             return QList<bool>{panels.at(0)->isVisible(), panels.at(1)->isVisible(), smartEncoding->isVisible()};
         };
-        const auto *stack = page.findChild<QVBoxLayout *>(QStringLiteral("paramsPanelsLayout"));
+        const auto *stack = page.findChild<QVBoxLayout *>("paramsPanelsLayout");
         QCOMPARE(stack->indexOf(panels.at(0)), 1);
         QCOMPARE(stack->indexOf(panels.at(1)), 2);
         QCOMPARE(shown(), (QList<bool>{true, true, true}));
@@ -335,9 +323,9 @@ private slots:
         page.show();
         auto *panel = page.findChild<VideoParamsPanel *>();
         const QSignalSpy reports(panel, &VideoParamsPanel::signalAlignmentGlobalPosX);
-        const auto *smart = page.findChild<QWidget *>(QStringLiteral("smartEncodingCtrl"));
+        const auto *smart = page.findChild<QWidget *>("smartEncodingCtrl");
         const auto x = [&page](const char *name) {
-            const auto *widget = page.findChild<VideoParamsPanel *>()->findChild<QWidget *>(QLatin1String(name));
+            const auto *widget = page.findChild<VideoParamsPanel *>()->findChild<QWidget *>(name);
             return widget->mapToGlobal(QPoint()).x();
         };
         QTRY_COMPARE(reports.count(), 1);
@@ -348,14 +336,14 @@ private slots:
 
         const auto isInLine = [&](const char *first) { return smart->mapToGlobal(QPoint()).x() == x(first); };
         QVERIFY(isInLine("encodingFormat"));
-        const auto box = [&page](const char *name) { return page.findChild<QCheckBox *>(QLatin1String(name)); };
+        const auto box = [&page](const char *name) { return page.findChild<QCheckBox *>(name); };
         for (int i = 0; i < 25; ++i) // faster than the reports come
             box("encodingFormat")->click();
         QTRY_VERIFY(isInLine("resolution"));
         box("resolution")->click();
         box("frameRate")->click();
         QTRY_VERIFY(isInLine("bitRateMode"));
-        QVERIFY(page.findChild<QLayout *>(QStringLiteral("smartEncodingPanelLayout"))->spacing() >= 0);
+        QVERIFY(page.findChild<QLayout *>("smartEncodingPanelLayout")->spacing() >= 0);
         QTRY_VERIFY(reports.count() >= 27);
         box("bitRate")->click(); // nothing at (0,0) is left to report
         const int before = reports.count();

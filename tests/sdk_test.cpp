@@ -10,13 +10,6 @@
 #include <vms_client_sdk/Requests.h>
 #include <vms_client_sdk/SignOn.h>
 
-#include <QApplication>
-#include <QMap>
-#include <QRandomGenerator>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QThread>
-
 using namespace vms_sdk;
 using namespace std::chrono_literals;
 using orda_data::DataSignals;
@@ -43,7 +36,7 @@ DevInfo device(const QString &id)
 
 void request(const char *id)
 {
-    common_req(QString::fromLatin1(id), QStringLiteral("d"), QStringLiteral("text"));
+    common_req(QString::fromLatin1(id), "d", "text");
 }
 
 } // namespace
@@ -99,10 +92,10 @@ private slots:
         ClientSdk::instance().setRequestTimeout(200ms);
         for (const auto phase : {105ms, 112ms, 119ms}) { // within a tick of 20 ms
             const QSignalSpy timeouts(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout);
-            common_req(QStringLiteral("id"), QStringLiteral("cam"), QString());
+            common_req("id", "cam", QString());
             QElapsedTimer sinceRenewal;
             QTimer::singleShot(phase, this, [&sinceRenewal] {
-                renewal_request_id(QStringLiteral("id"));
+                renewal_request_id("id");
                 sinceRenewal.start();
             });
             QTRY_COMPARE(timeouts.count(), 1);
@@ -121,9 +114,9 @@ private slots:
         request("r");
         QCOMPARE(answers.count(), 0);
         QTRY_COMPARE(timeouts.count(), 1);
-        QCOMPARE(timeouts.at(0).at(0).toString(), QStringLiteral("r"));
+        QCOMPARE(timeouts.at(0).at(0).toString(), "r");
         QCOMPARE(answers.count(), 1);
-        QCOMPARE(answers.at(0), QVariantList({QStringLiteral("r"), QStringLiteral("text")}));
+        QCOMPARE(answers.at(0), QVariantList({"r", "text"}));
     }
 
     void answersThatCameInTimeGoBeforeTheTimeOut()
@@ -132,13 +125,12 @@ private slots:
         ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
         QStringList order;
         QObject context;
-        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context,
-                [&] { order.append(QStringLiteral("answer")); });
+        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context, [&] { order.append("answer"); });
         connect(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout, &context,
-                [&] { order.append(QStringLiteral("time-out")); });
+                [&] { order.append("time-out"); });
         request("r");
         QThread::msleep(50); // a busy user interface
-        QTRY_COMPARE(order, (QStringList{QStringLiteral("answer"), QStringLiteral("time-out")}));
+        QTRY_COMPARE(order, (QStringList{"answer", "time-out"}));
     }
 
     void manyAnswersAtOnceLeaveTheEventLoopItsTurns()
@@ -174,23 +166,23 @@ private slots:
         ClientSdk::instance().setRequestTimeout(20ms);
         QString timedOut;
         QObject context;
-        connect(
-            &ClientSignals::instance(), &ClientSignals::signalRequestTimeout, &context, [&timedOut](const QString &id) {
-                timedOut += id;
-                renewal_request_id(id); // taken out: nothing to renew
-                if (id == QLatin1String("1")) {
-                    request("a");
-                    QTRY_COMPARE(timedOut, QStringLiteral("12a")); // the others' time-outs reach an event loop in here
-                } else if (id == QLatin1String("3")) {
-                    ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
-                }
-            });
+        connect(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout, &context,
+                [&timedOut](const QString &id) {
+                    timedOut += id;
+                    renewal_request_id(id); // taken out: nothing to renew
+                    if (id == "1") {
+                        request("a");
+                        QTRY_COMPARE(timedOut, "12a"); // the others' time-outs reach an event loop in here
+                    } else if (id == "3") {
+                        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+                    }
+                });
         request("1");
         request("2");
-        QTRY_COMPARE(timedOut, QStringLiteral("12a"));
+        QTRY_COMPARE(timedOut, "12a");
         request("3");
         request("dropped with its transport");
-        QTRY_COMPARE(timedOut, QStringLiteral("12a3"));
+        QTRY_COMPARE(timedOut, "12a3");
 
         QSignalSpy answers(&ClientSignals::instance(), &ClientSignals::signalCommonRes);
         connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context,
@@ -199,14 +191,14 @@ private slots:
         request("dropped with its transport");
         QTRY_COMPARE(answers.count(), 1);
         request("6");
-        QTRY_COMPARE(timedOut, QStringLiteral("12a36"));
+        QTRY_COMPARE(timedOut, "12a36");
         QCOMPARE(answers.count(), 1);
     }
 
     void signOnProofsAreThoseOfTheProtocolPage()
     {
         const QByteArray deviceNonce("AAECAwQFBgcICQoLDA0ODw=="), clientNonce("EBESExQVFhcYGRobHB0eHw==");
-        const QString password = QStringLiteral("Gr\u00fcn-7!");
+        const QString password = "Gr\u00fcn-7!";
         QCOMPARE(signOnProof(SignOnSide::Client, password, deviceNonce, clientNonce),
                  QByteArray("kxWP5SulC8vjo0qwWUUcCEqlfrV2lVEvIU3e5sCIC9o="));
         QCOMPARE(signOnProof(SignOnSide::Device, password, deviceNonce, clientNonce),
@@ -267,7 +259,7 @@ private slots:
             "{'devices': [{'id': 'first', 'ip': '10.0.0.1', 'port': 1, 'serialNumber': 'S'}, {" + id + entry + "}]}"));
         QCOMPARE(inventory.devices.size(), error.isEmpty() ? 2 : 0);
         QCOMPARE(inventory.error.isEmpty(), error.isEmpty());
-        const QRegularExpression expected(error.replace(QLatin1Char('\''), QLatin1Char('"')));
+        const QRegularExpression expected(error.replace('\'', '"'));
         QVERIFY2(expected.match(inventory.error).hasMatch(), qPrintable(inventory.error));
         QVERIFY(!holdsInvisible(inventory.error)); // it is quoted on terminals
     }
@@ -294,31 +286,31 @@ private slots:
         QFETCH(QString, log);
         QCOMPARE(holdsInvisible(text), !log.isEmpty());
         QCOMPARE(escaped(text), log.isEmpty() ? text : log);
-        QCOMPARE(displayText(text), log.isEmpty() ? text : QString(QStringLiteral("a%1b")).arg(QChar(0xfffd)));
-        QCOMPARE(escaped(text + QLatin1Char('\n'), QStringLiteral("\n")), escaped(text) + QLatin1Char('\n'));
+        QCOMPARE(displayText(text), log.isEmpty() ? text : QString("a%1b").arg(QChar(0xfffd)));
+        QCOMPARE(escaped(text + '\n', "\n"), escaped(text) + '\n');
     }
 
     void inventoryFilesSurviveARoundTripAndStayPrivate()
     {
-        DevInfo camera = device(QStringLiteral("c")), recorder = device(QStringLiteral("r"));
-        camera.ip = QStringLiteral("10.0.1.2");
+        DevInfo camera = device("c"), recorder = device("r");
+        camera.ip = "10.0.1.2";
         camera.ipNumber = 0x0a000102;
         camera.port = 443;
         camera.tls = true;
-        camera.fingerprint = QString(64, QLatin1Char('a'));
-        camera.password = QStringLiteral("p");
+        camera.fingerprint = QString(64, 'a');
+        camera.password = "p";
         camera.accessCode = 2;
-        recorder.url = QStringLiteral("ws://relay.example/r");
+        recorder.url = "ws://relay.example/r";
         recorder.kindCode = 6;
-        const QString path = m_dir.filePath(QStringLiteral("written.json"));
+        const QString path = m_dir.filePath("written.json");
         QCOMPARE(writeInventory(path, {camera, recorder}), QString());
         QCOMPARE(readInventory(path).devices, QList<DevInfo>({camera, recorder}));
         for (const QFile::Permission others :
              {QFile::ReadGroup, QFile::ReadOther, QFile::WriteGroup, QFile::WriteOther}) {
             QFile(path).setPermissions(QFile::ReadOwner | QFile::WriteOwner | others);
-            QVERIFY(readInventory(path).error.contains(QLatin1String("0600")));
+            QVERIFY(readInventory(path).error.contains("0600"));
         }
-        QVERIFY(!writeInventory(m_dir.filePath(QStringLiteral("none/x.json")), {camera}).isEmpty());
+        QVERIFY(!writeInventory(m_dir.filePath("none/x.json"), {camera}).isEmpty());
 
         QList<DevInfo> many;
         for (int i = 0; i < 100'000; ++i) {
@@ -330,7 +322,7 @@ private slots:
 
         const Inventory typo =
             readInventory(fileWith("{'devices': [{'id': 'a', 'ip': '10.0.0.1', 'port': 1, 'pass\\u001bword': ''}]}"));
-        QVERIFY(typo.devices.size() == 1 && typo.warnings.value(0).contains(QLatin1String("\"pass\\u001bword\"")));
+        QVERIFY(typo.devices.size() == 1 && typo.warnings.value(0).contains("\"pass\\u001bword\""));
     }
 
     void theStoreFollowsTheSdkAndKeepsTheOrder()
@@ -339,17 +331,17 @@ private slots:
         QSignalSpy states(&DataSignals::instance(), &DataSignals::signalDevStatusChanged);
         QSignalSpy updates(&DataSignals::instance(), &DataSignals::signalUpdateDevs);
         QSignalSpy deletions(&DataSignals::instance(), &DataSignals::signalDeleteDevs);
-        const QString b = QStringLiteral("b"), a = QStringLiteral("a"), c = QStringLiteral("c");
+        const QString b = "b", a = "a", c = "c";
         store.updateDevs({device(b), device(a), device(c)});
         emit ClientSignals::instance().signalDevStatusChanged(a, DevLocked);
         store.setDevStatus(a, DevLocked);
         store.setDevStatus(b, DevRefused);
-        store.setDevStatus(QStringLiteral("stranger"), DevOnline);
+        store.setDevStatus("stranger", DevOnline);
         QCOMPARE(states.count(), 2);
         QCOMPARE(store.getAllDevs(true), QList<DevInfo>({device(a)}));
 
         DevInfo renamed = device(a);
-        renamed.name = QStringLiteral("gate");
+        renamed.name = "gate";
         store.updateDevs({renamed});
         QCOMPARE(updates.at(1).at(0).value<QList<DevInfo>>(), QList<DevInfo>({renamed}));
         QCOMPARE(store.getDevStatus(a), DevLocked);
@@ -367,7 +359,7 @@ private slots:
 private:
     QString fileWith(QByteArray content)
     {
-        QFile file(m_dir.filePath(QStringLiteral("inventory.json")));
+        QFile file(m_dir.filePath("inventory.json"));
         if (file.open(QIODevice::WriteOnly))
             file.write(content.replace('\'', '"'));
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);

@@ -6,9 +6,7 @@
 #include <orda_base/Theme.h>
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
-#include <QHash>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>

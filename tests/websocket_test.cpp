@@ -5,10 +5,6 @@
 #include <vms_client_sdk/websocket/StatusChanges.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
-#include <QApplication>
-#include <QCryptographicHash>
-#include <QRandomGenerator>
-#include <QSignalSpy>
 #include <QSslConfiguration>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -145,7 +141,7 @@ private slots:
         QFETCH(QString, reason);
         QVERIFY2(ended.at(0).at(1).toString().contains(reason), qPrintable(ended.at(0).at(1).toString()));
         QTEST(ended.at(0).at(2).toBool(), "isOffence");
-        QCOMPARE(ended.at(0).at(0).toInt(), reason == QLatin1String("connection closed") ? 4401 : 1006);
+        QCOMPARE(ended.at(0).at(0).toInt(), reason == "connection closed" ? 4401 : 1006);
         QVERIFY(m_connection->isFinished());
     }
 
@@ -226,7 +222,7 @@ private slots:
             QVERIFY(m_connection->unsentBytes() < 120'000);
         }
         QTRY_COMPARE(cut.size(), 1);
-        QVERIFY(cut.at(0).at(1).toString().contains(QLatin1String("pongs")));
+        QVERIFY(cut.at(0).at(1).toString().contains("pongs"));
     }
 
     void whatWaitsIsCountedPerDeviceAndInAll()
@@ -235,13 +231,13 @@ private slots:
         Backlog backlog([&roomAgain] { ++roomAgain; });
         const int large = 500'000; // characters: a megabyte each
         int added = 0;
-        while (backlog.add(QStringLiteral("a"), QStringLiteral("id of a"), large))
+        while (backlog.add("a", "id of a", large))
             ++added;
         QCOMPARE(added, 4);
-        QVERIFY(backlog.add(QStringLiteral("b"), QStringLiteral("id of b"), large)); // others are not concerned
-        backlog.passedOn(QStringLiteral("unknown"), large);
-        backlog.passedOn(QStringLiteral("id of a"), large);
-        QVERIFY(backlog.add(QStringLiteral("a"), QStringLiteral("id of a"), large));
+        QVERIFY(backlog.add("b", "id of b", large)); // others are not concerned
+        backlog.passedOn("unknown", large);
+        backlog.passedOn("id of a", large);
+        QVERIFY(backlog.add("a", "id of a", large));
 
         QStringList ids;
         for (int i = 0; !backlog.isFull(); ++i) {
@@ -260,12 +256,12 @@ private slots:
     void changesOfStateAreMergedAfterTheFirstTen()
     {
         StatusChanges changes;
-        const QString id = QStringLiteral("d");
+        const QString id = "d";
         const auto add = [&](DevStatus status, qint64 now) { return changes.add(id, status, now).size(); };
         for (int i = 0; i < 10; ++i)
             QCOMPARE(add(i % 2 ? DevOnline : DevDefaultPassword, 5'000 + i), 1);
         QCOMPARE(add(DevLocked, 5'100), 0);
-        QCOMPARE(changes.add(QStringLiteral("other"), DevOnline, 5'100).size(), 1);
+        QCOMPARE(changes.add("other", DevOnline, 5'100).size(), 1);
         QVERIFY(changes.isHolding());
         QCOMPARE(changes.takeDue(5'999).size(), 0);
         QCOMPARE(changes.takeDue(6'000), QVector<StatusChanges::Change>({{id, DevLocked}}));

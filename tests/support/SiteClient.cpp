@@ -13,6 +13,32 @@
 using orda_data::DevsMgrData;
 using orda_worker::AssistantSignals;
 
+namespace {
+
+device_fleet::FleetOptions optionsOf(int devices, quint32 seed)
+{
+    device_fleet::FleetOptions options;
+    options.devices = devices;
+    options.seed = seed;
+    return options;
+}
+
+QList<vms_sdk::DevInfo> started(device_fleet::EmbeddedFleet &fleet)
+{
+    if (const QString error = fleet.start(); !error.isEmpty())
+        qFatal("%s", qPrintable(error));
+    return fleet.inventory();
+}
+
+} // namespace
+
+FleetSite::FleetSite(int devices, std::chrono::milliseconds waitingTime, const device_fleet::FaultPlan &faults,
+                     quint32 seed)
+    : fleet(optionsOf(devices, seed), faults)
+    , client(started(fleet), waitingTime)
+{
+}
+
 SiteClient::SiteClient(const QList<vms_sdk::DevInfo> &devices, std::chrono::milliseconds waitingTime)
 {
     auto transport = std::make_unique<vms_sdk::WebSocketTransport>();
