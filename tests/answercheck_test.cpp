@@ -92,11 +92,8 @@ class AnswerCheckTest : public OrdaTest
 private slots:
     void textsBeyondALimitAreNamed_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("fault"); // a part of it; empty: none
-        const auto row = [](const char *name, const QByteArray &text, const char *fault) {
-            QTest::newRow(name) << text << QString::fromLatin1(fault);
-        };
+        columns<QByteArray, QString>({"text", "fault"}); // a part of it; empty: none
+        const auto row = [](const char *name, const QByteArray &text, const char *fault) { ::row(name, text, fault); };
         row("an answer", R"({"method": "ai_get_param", "result": {"a": [1, {"a": 2}], "b": "\u00e9"}})", "");
         row("as deep as allowed", nested(maxJsonDepth), "");
         row("a level deeper", nested(maxJsonDepth + 1), "deep");

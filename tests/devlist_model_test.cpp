@@ -343,12 +343,7 @@ class DevlistModelTest : public OrdaTest
     Q_OBJECT
 
 private slots:
-    void followsWhateverHappens_data()
-    {
-        QTest::addColumn<int>("seed");
-        for (int seed = 1; seed <= qMax(40, qEnvironmentVariableIntValue("ORDA_LIST_SEEDS")); ++seed)
-            QTest::addRow("seed %d", seed) << seed;
-    }
+    void followsWhateverHappens_data() { seeds(qMax(40, qEnvironmentVariableIntValue("ORDA_LIST_SEEDS"))); }
 
     void followsWhateverHappens()
     {

@@ -21,22 +21,13 @@ class EditorsTest : public OrdaTest
 private slots:
     void volumesShowWhatIsSent_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("typed"); // over "50"; < deletes
-        QTest::addColumn<int>("sent");
-        for (const char *name : {"audioInVolume", "alarmOutVolume"}) {
-            const auto row = [name](const char *typed, int sent) {
-                QTest::addRow("%s, %s", name, typed) << QString::fromLatin1(name) << QString::fromLatin1(typed) << sent;
-            };
-            row("<<", 0);
-            row("<<<7", 7);
-            row("<<8<", 0);
-            row("<<150", 100);
-            row("<<100<<<1000", 100);
-            row("<<007", 7);
-            row("<<-5", 5);
-            row("<<3x.,4", 34);
-        }
+        columns<QString, QString, int>({"name", "typed", "sent"}); // over "50"; < deletes
+        const std::pair<const char *, int> cases[]{{"<<", 0},      {"<<<7", 7},           {"<<8<", 0},
+                                                   {"<<150", 100}, {"<<100<<<1000", 100}, {"<<007", 7},
+                                                   {"<<-5", 5},    {"<<3x.,4", 34}};
+        for (const char *name : {"audioInVolume", "alarmOutVolume"})
+            for (const auto &[typed, sent] : cases)
+                row(qPrintable(QString(name) + ", " + typed), name, typed, sent);
     }
 
     void volumesShowWhatIsSent()
@@ -63,23 +54,16 @@ private slots:
 
     void videoQualityTakesTheNearestBound_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("sent");
-        for (const auto &[typed, sent] :
-             std::initializer_list<std::pair<const char *, int>>{{"5", 10},
-                                                                 {"0", 10},
-                                                                 {"", 10},
-                                                                 {"10240", 10240},
-                                                                 {"10241", 10240},
-                                                                 {"99999", 10240},
-                                                                 {"99999999999999999999", 10240},
-                                                                 {"2x0-48", 2048}})
-            QTest::addRow("\"%s\"", typed) << QString::fromLatin1(typed) << sent;
+        columns<int>({"sent"});
+        for (const char *tooSmall : {"5", "0", ""})
+            row(tooSmall, 10);
+        for (const char *tooLarge : {"10240", "10241", "99999", "99999999999999999999"})
+            row(tooLarge, 10240);
+        row("2x0-48", 2048);
     }
 
     void videoQualityTakesTheNearestBound()
     {
-        QFETCH(QString, typed);
         QFETCH(int, sent);
         for (const bool isLeft : {true, false}) { // else Configure comes while the number is being typed
             VideoParamsPanel panel(VideoParamsPanel::MainStream);
@@ -89,7 +73,7 @@ private slots:
             spin->setFocus();
             spin->selectAll();
             QTest::keyClick(spin, Qt::Key_Delete);
-            QTest::keyClicks(spin, typed);
+            QTest::keyClicks(spin, QTest::currentDataTag());
             if (isLeft) {
                 QTest::keyClick(spin, Qt::Key_Tab);
                 QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent));
@@ -101,21 +85,21 @@ private slots:
 
     void addressLinesFollowTheWindow()
     {
-        const std::unique_ptr<QWidget> pages[]{std::make_unique<PlatformParamsCfgPage>(),
-                                               std::make_unique<Platform9100ParamsCfgPage>()};
-        for (const auto &page : pages) {
-            page->show();
-            for (const char *name : {"serviceAddressParam", "onlineUrl", "bussinessUrl"}) {
-                const auto *line = page->findChild<QLineEdit *>(name);
-                if (!line)
-                    continue;
-                page->resize(500, 600);
-                QCoreApplication::processEvents();
-                const int narrow = line->width();
-                page->resize(900, 600);
-                QCoreApplication::processEvents();
-                QCOMPARE(line->width(), narrow + 400);
-            }
+        PlatformParamsCfgPage page;
+        Platform9100ParamsCfgPage page9100;
+        const QList<QLineEdit *> lines =
+            page.findChildren<QLineEdit *>("serviceAddressParam")
+            + page9100.findChildren<QLineEdit *>(QRegularExpression("^(online|bussiness)Url$"));
+        QCOMPARE(lines.size(), 3);
+        for (QLineEdit *line : lines) {
+            QWidget *window = line->window();
+            window->show();
+            window->resize(500, 600);
+            QCoreApplication::processEvents();
+            const int narrow = line->width();
+            window->resize(900, 600);
+            QCoreApplication::processEvents();
+            QCOMPARE(line->width(), narrow + 400);
         }
     }
 };

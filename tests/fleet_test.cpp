@@ -76,14 +76,12 @@ class FleetTest : public OrdaTest
 private slots:
     void badRequestChangesNothing_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("code");
-        QTest::newRow("not JSON") << QByteArray("hello") << int(DeviceBadRequest);
-        QTest::newRow("unknown method") << request("reboot") << int(DeviceUnknownMethod);
-        QTest::newRow("wrong key") << request("ai_set_param", R"({"attr": {"aiGain": 1}})") << int(DeviceBadParameter);
-        QTest::newRow("no such stream") << request("stream_set_params",
-                                                   R"({"streams": [{"streamid": 0, "width": 1}, {"streamid": 9}]})")
-                                        << int(DeviceBadParameter);
+        columns<QByteArray, int>({"text", "code"});
+        row("not JSON", QByteArray("hello"), int(DeviceBadRequest));
+        row("unknown method", request("reboot"), int(DeviceUnknownMethod));
+        row("wrong key", request("ai_set_param", R"({"attr": {"aiGain": 1}})"), int(DeviceBadParameter));
+        const QByteArray streams = R"({"streams": [{"streamid": 0, "width": 1}, {"streamid": 9}]})";
+        row("no such stream", request("stream_set_params", streams), int(DeviceBadParameter));
     }
 
     void badRequestChangesNothing()
@@ -142,11 +140,7 @@ private slots:
 
     void faultFileIsCheckedAndExplained_data()
     {
-        QTest::addColumn<QByteArray>("entry");
-        QTest::addColumn<QString>("complaint"); // an error, or "unknown key": only a warning
-        const auto row = [](const char *name, const char *entry, const char *complaint) {
-            QTest::newRow(name) << QByteArray(entry) << QString::fromLatin1(complaint);
-        };
+        columns<QString, QString>({"entry", "complaint"}); // an error, or "unknown key": only a warning
         row("not JSON", "{", "is not JSON");
         row("no object", R"("garbage")", "faults[1]: must be an object");
         row("unknown fault", R"({"fault": "slow"})", R"(faults[1]: field "fault": must be one of error-code, )");
@@ -161,10 +155,10 @@ private slots:
 
     void faultFileIsCheckedAndExplained()
     {
-        QFETCH(QByteArray, entry);
+        QFETCH(QString, entry);
         QFETCH(QString, complaint);
         QTemporaryFile file;
-        QVERIFY(file.open() && file.write(R"({"faults": [{"fault": "no-answer"}, )" + entry + "]}") > 0
+        QVERIFY(file.open() && file.write(R"({"faults": [{"fault": "no-answer"}, )" + entry.toUtf8() + "]}") > 0
                 && file.flush());
         QString error;
         QStringList warnings;
@@ -245,17 +239,16 @@ private slots:
 
     void programExplainsWrongUsage_data()
     {
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("complaint");
-        QTest::newRow("--devices 5") << 2 << "--inventory OUT is missing";
-        QTest::newRow("--devices 0 --inventory x") << 2 << "--devices takes a whole number from 1 to ";
-        QTest::newRow("--devices 1 --inventory x --tls cert.pem") << 2 << "--tls takes two files";
-        QTest::newRow("--devices 1 --inventory x --dump ./x") << 2 << "name the same file";
-        QTest::newRow("--devices 1 --inventory x --listen localhost") << 2 << "--listen takes an IPv4 address";
-        QTest::newRow("--devices 1 --inventory x y") << 2 << "unexpected argument \"y\"";
-        QTest::newRow("--devices 1 --inventory x --faults /no/such") << 3 << "/no/such: cannot be read";
-        QTest::newRow("--devices 1 --inventory x --tls /dev/null /dev/null") << 3 << "must be a certificate";
-        QTest::newRow("--devices 1 --inventory /no/such/x") << 3 << "/no/such/x: cannot be written";
+        columns<int, QString>({"exitCode", "complaint"});
+        row("--devices 5", 2, "--inventory OUT is missing");
+        row("--devices 0 --inventory x", 2, "--devices takes a whole number from 1 to ");
+        row("--devices 1 --inventory x --tls cert.pem", 2, "--tls takes two files");
+        row("--devices 1 --inventory x --dump ./x", 2, "name the same file");
+        row("--devices 1 --inventory x --listen localhost", 2, "--listen takes an IPv4 address");
+        row("--devices 1 --inventory x y", 2, "unexpected argument \"y\"");
+        row("--devices 1 --inventory x --faults /no/such", 3, "/no/such: cannot be read");
+        row("--devices 1 --inventory x --tls /dev/null /dev/null", 3, "must be a certificate");
+        row("--devices 1 --inventory /no/such/x", 3, "/no/such/x: cannot be written");
     }
 
     void programExplainsWrongUsage()

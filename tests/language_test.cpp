@@ -90,9 +90,8 @@ private slots:
 
     void wireIsTheSameInEveryLanguage()
     {
-        QFETCH(QString, name);
+        QFETCH(FamilyRow, family);
         QFETCH(QString, language);
-        const FamilyRow family = familyRow(name);
         const QStringList inEnglish = sentBy(family);
         QVERIFY(inEnglish.size() >= 2);
 
@@ -103,9 +102,9 @@ private slots:
 
     void fitsAFieldLaptop_data()
     {
-        QTest::addColumn<QString>("language");
+        columns<QString>({"language"});
         for (const char *language : {"en", "de", "zh_CN"})
-            QTest::newRow(language) << QString::fromLatin1(language);
+            row(language, language);
     }
 
     /// 1280 x 720, less a window's frame, menu and status bar.
@@ -120,12 +119,11 @@ private slots:
                  qPrintable(QStringLiteral("%1 x %2").arg(needed.width()).arg(needed.height())));
     }
 
-    void longerTextsAreNotCutOff_data() { addFamilies({}); }
+    void longerTextsAreNotCutOff_data() { addFamilies({"lengthened"}); }
 
     void longerTextsAreNotCutOff()
     {
-        QFETCH(QString, name);
-        const FamilyRow family = familyRow(name);
+        QFETCH(FamilyRow, family);
         Lengthened lengthened;
         QCoreApplication::installTranslator(&lengthened);
         const FormFixture f(3, knowsAll);
@@ -178,16 +176,11 @@ private slots:
 private:
     static void addFamilies(const QStringList &languages)
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("language");
-        for (const FamilyRow &family : familyTable()) {
-            if (family.navigationKey.isEmpty())
-                continue;
+        columns<FamilyRow, QString>({"family", "language"});
+        for (const FamilyRow &family : familyTable())
             for (const QString &language : languages)
-                QTest::addRow("%s, %s", qPrintable(family.name), qPrintable(language)) << family.name << language;
-            if (languages.isEmpty())
-                QTest::addRow("%s", qPrintable(family.name)) << family.name << QString();
-        }
+                if (!family.navigationKey.isEmpty())
+                    row(qPrintable(family.name + ", " + language), family, language);
     }
 
     void install(const QString &language)

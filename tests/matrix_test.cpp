@@ -71,10 +71,10 @@ class MatrixTest : public OrdaTest
 private slots:
     void everyFaultAtEveryRequest_data()
     {
-        QTest::addColumn<FamilyRow>("family");
+        columns<FamilyRow>({"family"});
         const QList<FamilyRow> families = stormedFamilies();
         for (const FamilyRow &family : families)
-            QTest::newRow(qPrintable(family.name)) << family;
+            row(qPrintable(family.name), family);
     }
 
     void everyFaultAtEveryRequest()

@@ -11,17 +11,13 @@ class RunRecordTest : public OrdaTest
 private slots:
     void recordIsReadWhateverItsTextsHold_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("expected"); // outcome and fields
-        const auto row = [](const char *what, const QString &text, const QStringList &expected) {
-            QTest::newRow(what) << text << expected;
-        };
+        columns<QString, QStringList>({"text", "expected"}); // outcome and fields
         const QString next = entry("B", "10.0.0.2", "success", "next");
         const QString nextFields = "2|B|10.0.0.2|success|next";
         const auto whole = [&](const char *what, const char *sn, const char *ip, const char *message,
                                const char *name) {
             const QString fields = QString::fromUtf8(QByteArrayList{"0", sn, ip, message, name}.join('|'));
-            row(what, entry(sn, ip, message, name) + next, {fields, nextFields});
+            row(what, entry(sn, ip, message, name) + next, QStringList{fields, nextFields});
         };
         whole("address", "SN 1", "10.20.30.40", "Failed to get audio parameters(-1)", "Cam 1");
         whole("widest address", "A", "255.255.255.255", "no", "Cam");
@@ -42,14 +38,15 @@ private slots:
 
         const QString noSuchDay = QString(next).replace("03-04", "13-44");
         const auto unreadable = [](const QString &text) { return QStringLiteral("1|||%1|").arg(text.trimmed()); };
-        row("nothing", {}, {});
-        row("foreign text", "hello\n\n" + next, {unreadable("hello"), nextFields});
-        row("no such day", noSuchDay + next, {unreadable(noSuchDay), nextFields});
-        row("cut off in the result", next + next.left(50), {nextFields, unreadable(next.left(50))});
-        row("cut off in the time", next + next.left(5), {nextFields, unreadable(next.left(5))});
+        row("nothing", "", QStringList());
+        row("foreign text", "hello\n\n" + next, QStringList{unreadable("hello"), nextFields});
+        row("no such day", noSuchDay + next, QStringList{unreadable(noSuchDay), nextFields});
+        row("cut off in the result", next + next.left(50), QStringList{nextFields, unreadable(next.left(50))});
+        row("cut off in the time", next + next.left(5), QStringList{nextFields, unreadable(next.left(5))});
         const QString old = QString(next).replace("2026", "2001");
-        row("time goes back", next + old + next + next, {unreadable(next), unreadable(old), nextFields, nextFields});
-        row("cut off, and another behind it", next.chopped(4) + next, {unreadable(next.chopped(4) + next)});
+        row("time goes back", next + old + next + next,
+            QStringList{unreadable(next), unreadable(old), nextFields, nextFields});
+        row("cut off, and another behind it", next.chopped(4) + next, QStringList{unreadable(next.chopped(4) + next)});
     }
 
     void recordIsReadWhateverItsTextsHold()
@@ -65,17 +62,12 @@ private slots:
         QCOMPARE(read, expected);
     }
 
-    void fieldsDoNotTurnAFailureIntoASuccess_data()
-    {
-        QTest::addColumn<int>("seed");
-        for (int seed = 0; seed < 60; ++seed)
-            QTest::addRow("%d", seed) << seed;
-    }
+    void fieldsDoNotTurnAFailureIntoASuccess_data() { seeds(60); }
 
     void fieldsDoNotTurnAFailureIntoASuccess()
     {
         QFETCH(int, seed);
-        QRandomGenerator random(quint32(seed) + 1);
+        QRandomGenerator random{quint32(seed)};
         const QString gap = "    ";
         const QString success = "10.0.0.1            success";
         const QString whole = "A    " + success + "                B";

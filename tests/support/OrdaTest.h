@@ -35,6 +35,14 @@ void row(const char *name, const Values &...values)
     (QTest::newRow(name) << ... << values);
 }
 
+/// Rows for a random test: each runs with a seed of its own.
+inline void seeds(int count)
+{
+    columns<int>({"seed"});
+    for (int seed = 1; seed <= count; ++seed)
+        row(qPrintable(QStringLiteral("seed %1").arg(seed)), seed);
+}
+
 /// What a run tells in the end.
 QString summaryOf(int successes, int failures);
 
