@@ -281,11 +281,8 @@ class FamiliesTest : public OrdaTest
 private slots:
     void writesWhatWasSelected_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("boxes");
-        QTest::addColumn<Prepare>("prepare");
-        QTest::addColumn<QByteArrayList>("requests");
-        QTest::addColumn<QJsonObject>("device");
+        columns<QString, QString, Prepare, QByteArrayList, QJsonObject>(
+            {"name", "boxes", "prepare", "requests", "device"});
         for (const auto addRows : {addAudioRows, addVideoRows, addImageRows, addOsdRows, addNetworkRows,
                                    addPlatformRows, addPlatform9100Rows})
             addRows();
@@ -325,8 +322,7 @@ private slots:
 
     void saysWhichStepFailed_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("step");
+        columns<QString, int>({"name", "step"});
         for (const FamilyRow &f : familyTable())
             for (int step = 0; step < f.methods.size(); ++step)
                 QTest::addRow("%s", qPrintable(f.name + QStringLiteral(": ") + f.methods.at(step))) << f.name << step;
@@ -367,22 +363,18 @@ private slots:
 
     void cloudSettingsAreCheckedWhenTheDeviceIsBack_data()
     {
-        QTest::addColumn<QByteArray>("device"); // when it is read again
-        QTest::addColumn<QString>("message");
-        const QString failed = QStringLiteral("Failed to set platform parameters(-1)");
-        QTest::newRow("new settings") << QByteArray(
-            R"({"qbcloud_en": false, "qbcloud_addr": "new", "qbcloud_type": "public",
-                                                "more": 1})")
-                                      << QStringLiteral("success");
-        QTest::newRow("old settings") << QByteArray(R"({"qbcloud_en": true, "qbcloud_addr": "old"})") << failed;
-        QTest::newRow("one is missing") << QByteArray(R"({"qbcloud_en": false, "qbcloud_addr": "new"})") << failed;
-        QTest::newRow("a number for a switch")
-            << QByteArray(R"({"qbcloud_en": 0, "qbcloud_addr": "new", "qbcloud_type": "public"})") << failed;
+        columns<QString, QString>({"device", "message"}); // when it is read again
+        const char *const failed = "Failed to set platform parameters(-1)";
+        const char *const same = R"({"qbcloud_en": false, "qbcloud_addr": "new", "qbcloud_type": "public", "more": 1})";
+        row("new settings", same, "success");
+        row("old settings", R"({"qbcloud_en": true, "qbcloud_addr": "old"})", failed);
+        row("one is missing", R"({"qbcloud_en": false, "qbcloud_addr": "new"})", failed);
+        row("a number for a switch", R"({"qbcloud_en": 0, "qbcloud_addr": "new", "qbcloud_type": "public"})", failed);
     }
 
     void cloudSettingsAreCheckedWhenTheDeviceIsBack()
     {
-        QFETCH(QByteArray, device);
+        QFETCH(QString, device);
         QFETCH(QString, message);
         auto &store = orda_data::DevsMgrData::instance();
         const QString set = QStringLiteral("ifconfig_qbcloud_set_param");
@@ -399,7 +391,7 @@ private slots:
                 return {};
             }
             if (++reads > 1)
-                return {answer(request.method(), QJsonDocument::fromJson(device).object())};
+                return {answer(request.method(), QJsonDocument::fromJson(device.toUtf8()).object())};
             QTimer::singleShot(0ms, &store, [blink] { blink(QStringLiteral("dev1")); }); // somebody else, and too early
             return answers(ordinaryDevice(), request);
         });

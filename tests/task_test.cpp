@@ -62,16 +62,11 @@ class TaskTest : public OrdaTest
 private slots:
     void endsOnceAsTheDeviceAnswers_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<ScriptedTransport::Script>("script");
-        QTest::addColumn<QStringList>("methods");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<int>("code");
-
+        columns<int, ScriptedTransport::Script, QStringList, QString, int>(
+            {"flags", "script", "methods", "message", "code"});
         const auto row = [](const char *name, int flags, const ScriptedTransport::Script &script,
-                            const QStringList &methods, const char *message, int code) {
-            QTest::newRow(name) << flags << script << methods << QString::fromLatin1(message) << code;
-        };
+                            const QStringList &methods, const char *message,
+                            int code) { ::row(name, flags, script, methods, message, code); };
         const QStringList allFour{aiGet, aiSet, aoGet, aoSet};
         row("both", 3, healthy, allFour, "success", 0);
         row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}),

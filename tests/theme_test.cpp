@@ -54,10 +54,7 @@ double contrastIn(const QImage &picture, const QRect &rect)
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             ++counts[image.pixel(x, y)];
-    QRgb ground = 0;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        if (it.value() > counts.value(ground))
-            ground = it.key();
+    const QRgb ground = counts.key(*std::max_element(counts.cbegin(), counts.cend()));
     double best = 1;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it)
         best = std::max(best, contrast(it.key(), ground));
@@ -118,9 +115,8 @@ private slots:
             combo->showPopup();
             QApplication::processEvents();
             const auto *view = combo->view();
-            const QModelIndex first = view->model()->index(0, 0);
-            const QModelIndex last = view->model()->index(combo->count() - 1, 0);
-            QVERIFY2(view->viewport()->rect().contains(view->visualRect(first) | view->visualRect(last)),
+            const auto rowRect = [&](int row) { return view->visualRect(view->model()->index(row, 0)); };
+            QVERIFY2(view->viewport()->rect().contains(rowRect(0) | rowRect(combo->count() - 1)),
                      qPrintable(combo->objectName()));
             const auto around = view->parentWidget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
             for (const QWidget *widget : around) // a scroll arrow covers a row
