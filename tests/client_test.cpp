@@ -1,8 +1,9 @@
 #include "support/OrdaTest.h"
 
-#include <ClientSession.h>
-#include <ClientWindow.h>
-#include <FailedDevices.h>
+#include "client/ClientSession.h"
+#include "client/ClientWindow.h"
+#include "client/FailedDevices.h"
+
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
@@ -18,6 +19,7 @@
 #include <QStatusBar>
 #include <QTableWidget>
 
+using namespace orda_client;
 using namespace std::chrono_literals;
 
 namespace {

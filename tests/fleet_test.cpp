@@ -1,8 +1,8 @@
 #include "support/OrdaTest.h"
 
-#include <EmbeddedFleet.h>
-#include <SimulatedDevice.h>
-#include <Site.h>
+#include "fleet/EmbeddedFleet.h"
+#include "fleet/SimulatedDevice.h"
+#include "fleet/Site.h"
 
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
