@@ -11,6 +11,11 @@ function(orda_target name)
   if(ORDA_WERROR)
     target_compile_options(${name} PRIVATE -Werror)
   endif()
+  if(ORDA_CLAZY) # what moc and uic have made is included, and left alone
+    target_compile_options(${name} PRIVATE "SHELL:-Xclang -load -Xclang ${ORDA_CLAZY_PLUGIN} -Xclang -add-plugin -Xclang clazy"
+      "SHELL:-Xclang -plugin-arg-clazy -Xclang level1,no-use-static-qregularexpression"
+      "SHELL:-Xclang -plugin-arg-clazy -Xclang ignore-included-files")
+  endif()
   if(ORDA_SANITIZE)
     target_compile_options(${name} PRIVATE -fsanitize=${ORDA_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(${name} PRIVATE -fsanitize=${ORDA_SANITIZE})
