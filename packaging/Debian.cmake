@@ -1,53 +1,109 @@
-# Two packages by CPack: what runs, and what a client's developer builds against.
+# Four packages by CPack: the libraries, what a client's developer builds against, the client, and the simulated devices.
+
+# The version stands in CMakeLists.txt; these are written by hand and must not fall behind.
+foreach(file "debian/changelog;^orda-batchcfg \\(([0-9.]+)-1\\)" "../CHANGELOG.md;\n## \\[([0-9.]+)\\]" "org.example.orda_client.metainfo.xml;<release version=\"([0-9.]+)\"")
+  list(GET file 1 pattern)
+  list(GET file 0 file)
+  file(READ "${file}" text)
+  if(NOT text MATCHES "${pattern}" OR NOT CMAKE_MATCH_1 STREQUAL PROJECT_VERSION)
+    message(FATAL_ERROR "packaging/${file} does not begin with version ${PROJECT_VERSION}")
+  endif()
+endforeach()
+
+set(libraries "liborda-batchcfg${PROJECT_VERSION_MAJOR}")
+set(this_version "(= ${PROJECT_VERSION}-1)")
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME orda-batchcfg)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # it would go before each package's own
 set(CPACK_PACKAGE_CONTACT "Orda Batch Configuration developers <batchcfg@example.org>")
-set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_SOURCE orda-batchcfg)
+# The libraries lie in a directory of their own, and the programs' packages depend on the very version that they were built with.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/lib")
+# Packages of other clients depend on the libraries by what stays within a major version.
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON) # takes the debug information out, as CPACK_STRIP_FILES would, and keeps it
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME orda-batchcfg)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION video)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_LIBRARIES_PACKAGE_NAME ${libraries})
+set(CPACK_DEBIAN_LIBRARIES_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARIES_PACKAGE_SHLIBDEPS ON)
 # The check marks and arrows of the theme are SVG, which Qt reads by a plug-in.
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt5svg5, fonts-dejavu-core, hicolor-icon-theme")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n, xdg-utils")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "qtwayland5")
-set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "configure many online cameras and recorders at once
+set(CPACK_DEBIAN_LIBRARIES_PACKAGE_DEPENDS "libqt5svg5")
+set(CPACK_DEBIAN_LIBRARIES_DESCRIPTION "batch configuration of cameras: the module and its libraries
+The module orda_batchCfg brings a form with which a desktop client configures
+many cameras and recorders at once.
+.
+This package has the module and the client libraries that it uses.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME orda-batchcfg-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${libraries} ${this_version}, qtbase5-dev")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "batch configuration of cameras: files to build a client with
+The module orda_batchCfg brings a form with which a desktop client configures
+many cameras and recorders at once.
+.
+This package has the headers of the module and of the client libraries, the
+CMake packages orda_batchCfg and orda_clientlibs, the pages on how to use them,
+a sample client and a sample plug-in.")
+
+set(CPACK_DEBIAN_CLIENT_PACKAGE_NAME orda-client)
+set(CPACK_DEBIAN_CLIENT_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_CLIENT_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_CLIENT_PACKAGE_DEPENDS "${libraries} ${this_version}, fonts-dejavu-core, hicolor-icon-theme")
+set(CPACK_DEBIAN_CLIENT_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n, xdg-utils")
+set(CPACK_DEBIAN_CLIENT_PACKAGE_SUGGESTS "orda-fleet, qtwayland5")
+set(CPACK_DEBIAN_CLIENT_DESCRIPTION "configure many online cameras and recorders at once
 An operator ticks cameras and recorders that are online, ticks the parameters
 to change, and presses Configure: each device's parameters are read, changed
 only where they were ticked, and written back, with one result a device, a
 summary, and a record file.
 .
-This package has the desktop client orda_client, the simulated devices of
-orda_fleet, the module that a client of one's own can load, and the client
-libraries that the module uses.")
+This package has the desktop client orda_client.")
 
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME orda-batchcfg-dev)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "orda-batchcfg (= ${PROJECT_VERSION}-1), qtbase5-dev")
-set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "batch configuration of cameras: files to build a client with
-The module orda_batchCfg brings a form with which a desktop client configures
-many cameras and recorders at once.
+set(CPACK_DEBIAN_FLEET_PACKAGE_NAME orda-fleet)
+set(CPACK_DEBIAN_FLEET_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_FLEET_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS "${libraries} ${this_version}")
+set(CPACK_DEBIAN_FLEET_DESCRIPTION "simulated cameras and recorders to try orda_client on
+Thousands of devices behind real sockets, which answer as cameras and recorders
+do, or with the faults that they are told to have.
 .
-This package has the headers of the module and of the client libraries, and
-the CMake packages orda_batchCfg and orda_clientlibs.")
+This package has the program orda_fleet.")
 
 include(CPack)
-cpack_add_component_group(runtime)
-foreach(component clientlibs module client)
-  cpack_add_component(${component} GROUP runtime)
+cpack_add_component_group(libraries)
+foreach(component clientlibs module)
+  cpack_add_component(${component} GROUP libraries)
 endforeach()
-cpack_add_component(development)
+foreach(component development client fleet)
+  cpack_add_component(${component})
+endforeach()
 
-install(FILES debian/copyright DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/orda-batchcfg" COMPONENT client)
-install(FILES debian/copyright DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/orda-batchcfg-dev" COMPONENT development)
-gzipped("${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog" changelog.Debian "${CMAKE_INSTALL_DATADIR}/doc/orda-batchcfg" client)
-gzipped("${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog" changelog.Debian "${CMAKE_INSTALL_DATADIR}/doc/orda-batchcfg-dev" development)
+# package_documents(<package> <component>): what every package has.
+function(package_documents package component)
+  set(place "${CMAKE_INSTALL_DATADIR}/doc/${package}")
+  install(FILES debian/copyright DESTINATION "${place}" COMPONENT ${component})
+  gzipped("${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog" changelog.Debian "${place}" ${component})
+  gzipped("${PROJECT_SOURCE_DIR}/CHANGELOG.md" changelog "${place}" ${component})
+endfunction()
+
+package_documents(${libraries} module)
+package_documents(orda-batchcfg-dev development)
+package_documents(orda-client client)
+package_documents(orda-fleet fleet)
+
+set(place "${CMAKE_INSTALL_DATADIR}/doc/orda-batchcfg-dev")
+foreach(page integration scripting compatibility device-protocol reliability)
+  install(FILES "${PROJECT_SOURCE_DIR}/docs/${page}.md" DESTINATION "${place}" COMPONENT development)
+endforeach()
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/tests/consumer" "${PROJECT_SOURCE_DIR}/docs/examples/plugin" DESTINATION "${place}/examples"
+  COMPONENT development PATTERN headers EXCLUDE)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/skeleton" DESTINATION "${place}" COMPONENT development)

@@ -203,8 +203,7 @@ private slots:
     void assistiveTechnologyTogglesBoxes()
     {
         const FormFixture f(3, silent);
-        f.page("audio_param")->setFocus();
-        press(Qt::Key_Return);
+        f.form->findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
         const QWidget *page = f.page("audioParametersPage");
         const auto toggle = [](QAccessibleInterface *control) {
             control->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());

@@ -56,6 +56,8 @@ done
 configure_and_build "$source/tests/consumer" consumer "$@" -DCMAKE_BUILD_TYPE=Release
 starts_when_installed consumer "$scratch/client"
 configure_and_build "$source/tests/consumer/headers" headers "$@" -DINCLUDE_DIR="$prefix/include"
+configure_and_build "$source/docs/examples/plugin" plugin "$@"
+"$scratch/plugin/plugin_client" "$scratch/plugin/libbatchCfg_plugin.so" || fail "the plug-in around the module cannot be used"
 exports_only_the_entry "$libraries/liborda_batchCfg.so"
 
 # A client's own tree, with these sources as a part of it.

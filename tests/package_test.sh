@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
-# The Debian packages in use: a client is built against what the -dev package holds, then orda_client configures simulated devices in a
-# bare Debian 12 in which nothing was installed but its package. Called by `./dev package --try`: package_test.sh DIRECTORY, which
-# has the .deb files. Ends with 77 where a bare Debian cannot be made.
+# The Debian packages in use: the sample client is built from and against what the -dev package holds, then orda_client configures
+# simulated devices in a bare Debian 12 in which nothing was installed but its package and the libraries'. Called by
+# `./dev package --try`: package_test.sh DIRECTORY, which has the .deb files. Ends with 77 where a bare Debian cannot be made.
 set -euo pipefail
 packages=$(realpath "$1")
-here=$(dirname "$(realpath "$0")")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "package_test: $*" >&2; exit 1; }
@@ -13,7 +12,8 @@ skip() { echo "package_test: skipped: $*" >&2; exit 77; }
 for package in "$packages"/*.deb; do
   dpkg-deb --extract "$package" "$work/root"
 done
-cmake -S "$here/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/root/usr" >"$work/consumer.log" &&
+# The sample as the package has it.
+cmake -S "$work/root/usr/share/doc/orda-batchcfg-dev/examples/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/root/usr" >"$work/consumer.log" &&
   cmake --build "$work/consumer" >>"$work/consumer.log" &&
   cmake --install "$work/consumer" --prefix "$work/client" >>"$work/consumer.log" || fail "no client can be built: $(cat "$work/consumer.log")"
 QT_QPA_PLATFORM=offscreen TMPDIR=$work "$work/client/bin/consumer" || fail "the run of the client that was built and installed failed"
@@ -25,7 +25,7 @@ echo "package_test: making a bare Debian 12" >&2
 run='cd /home/guard && LC_ALL=C.UTF-8 QT_DEBUG_PLUGINS=1 orda_client --demo 20 --run audio --screenshots pictures'
 if ! mmdebstrap --quiet --mode=root --variant=minbase --format=null \
   --customize-hook="touch '$work/made'" \
-  --customize-hook="copy-in '$(ls "$packages"/orda-batchcfg_*.deb)' /tmp" \
+  --customize-hook="copy-in $(echo "$packages"/liborda-batchcfg*.deb "$packages"/orda-client_*.deb) /tmp" \
   --customize-hook='chroot "$1" sh -c "apt-get install --yes --no-install-recommends /tmp/*.deb && useradd --create-home guard" >&2' \
   --customize-hook="chroot \"\$1\" runuser --user guard -- sh -c '$run' >'$work/run.log' 2>'$work/plugins.log'; echo \$? >'$work/result'" \
   --customize-hook="if [ -d \"\$1/home/guard/pictures\" ]; then cp -r \"\$1/home/guard/pictures\" '$packages'; fi" \

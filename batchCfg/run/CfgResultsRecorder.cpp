@@ -28,8 +28,8 @@ QString temporaryDirectory()
     return QStandardPaths::writableLocation(QStandardPaths::TempLocation);
 }
 
-// Qt takes the root directory in place of one that is missing, and looks for a relative one in the working directory. The
-// record must go to neither of them.
+// Qt takes the root directory in place of one that is missing, and looks for a relative one in the working directory.
+// The record must go to neither of them.
 QString refusalOfDirectory()
 {
     const QByteArray given = qgetenv("TMPDIR");
@@ -136,7 +136,8 @@ bool CfgResultsRecorder::open()
 }
 
 // Opens and locks the file for this run and leaves its content as it is.
-// @return the descriptor; -1 when that failed, with the reason in @p why, and in @p holder when another run has the file
+// @return the descriptor; -1 when that failed, with the reason in @p why, and in @p holder when another run has the
+// file
 int CfgResultsRecorder::openLocked(QString *why, QString *holder) const
 {
     *why = m_noDirectory;

@@ -34,8 +34,8 @@ public:
     void close();
 
     QString filePath() const { return m_filePath; }
-    /// Why the record that was opened last is missing or not complete, in words for the user; empty when it is complete.
-    /// Does not change after close().
+    /// Why the record that was opened last is missing or not complete, in words for the user; empty when it is
+    /// complete. Does not change after close().
     QString error() const { return m_error; }
     /// Where each entry of that record ends in the file, in bytes. A reader needs this because a device's message may
     /// look like an entry.

@@ -21,8 +21,8 @@ public:
     /// @param table owns this object and must have its columns
     explicit OrderNumbers(QTableWidget *table);
 
-    /// A cell whose text is the order number of its row; for assistive technology the text of the next cell follows. The
-    /// table that it is put into owns it.
+    /// A cell whose text is the order number of its row; for assistive technology the text of the next cell follows.
+    /// The table that it is put into owns it.
     QTableWidgetItem *makeItem();
 
 private:

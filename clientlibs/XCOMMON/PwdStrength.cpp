@@ -1,4 +1,4 @@
-#include "XCOMMON/PwdStrength.h"
+#include <XCOMMON/PwdStrength.h>
 
 namespace XCOMMON {
 

@@ -1,1 +1,1 @@
-#include "XCOMMON/XLabel.h"
+#include <XCOMMON/XLabel.h>

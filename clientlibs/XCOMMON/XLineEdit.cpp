@@ -1,1 +1,1 @@
-#include "XCOMMON/XLineEdit.h"
+#include <XCOMMON/XLineEdit.h>

@@ -1,1 +1,1 @@
-#include "XCOMMON/XMenu.h"
+#include <XCOMMON/XMenu.h>

@@ -1,1 +1,1 @@
-#include "XCOMMON/XTableWidget.h"
+#include <XCOMMON/XTableWidget.h>

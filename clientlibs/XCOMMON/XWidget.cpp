@@ -1,1 +1,1 @@
-#include "XCOMMON/XWidget.h"
+#include <XCOMMON/XWidget.h>

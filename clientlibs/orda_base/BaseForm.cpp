@@ -1,4 +1,4 @@
-#include "orda_base/BaseForm.h"
+#include <orda_base/BaseForm.h>
 
 namespace orda_base {
 

@@ -1,4 +1,4 @@
-#include "orda_base/BaseTools.h"
+#include <orda_base/BaseTools.h>
 
 #include <XCOMMON/XTableWidget.h>
 #include <vms_client_sdk/DevInfo.h>

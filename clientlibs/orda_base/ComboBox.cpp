@@ -1,4 +1,4 @@
-#include "orda_base/ComboBox.h"
+#include <orda_base/ComboBox.h>
 
 #include <QAbstractItemView>
 #include <QEvent>

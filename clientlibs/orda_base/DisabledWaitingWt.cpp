@@ -1,6 +1,7 @@
-#include "orda_base/DisabledWaitingWt.h"
+#include <orda_base/DisabledWaitingWt.h>
 
-#include "orda_base/DisabledWaitingWtManager.h"
+#include <orda_base/DelayedCall.h>
+#include <orda_base/DisabledWaitingWtManager.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -51,17 +52,16 @@ DisabledWaitingWt::DisabledWaitingWt(QWidget *parent, const QString &description
     , m_card(new QWidget(this))
     , m_text(description)
     , m_description(new QLabel(description, m_card))
+    , m_showSoon(new DelayedCall(
+          updateInterval,
+          [this] {
+              m_description->setText(m_text);
+              m_announceSoon->request();
+          },
+          this))
+    , m_announceSoon(new DelayedCall(
+          announceInterval, [this] { announce(); }, this))
 {
-    m_showSoon.setSingleShot(true);
-    m_showSoon.setInterval(updateInterval);
-    connect(&m_showSoon, &QTimer::timeout, this, [this] {
-        m_description->setText(m_text);
-        if (!m_announceSoon.isActive())
-            m_announceSoon.start();
-    });
-    m_announceSoon.setSingleShot(true);
-    m_announceSoon.setInterval(announceInterval);
-    connect(&m_announceSoon, &QTimer::timeout, this, &DisabledWaitingWt::announce);
     setObjectName(QStringLiteral("disabledWaitingWt"));
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(description);
@@ -108,8 +108,7 @@ QUuid DisabledWaitingWt::getUuid() const
 void DisabledWaitingWt::updateDescription(const QString &description)
 {
     m_text = description;
-    if (!m_showSoon.isActive())
-        m_showSoon.start();
+    m_showSoon->request();
 }
 
 void DisabledWaitingWt::announce()

@@ -3,7 +3,6 @@
 #include <orda_base/Export.h>
 
 #include <QPointer>
-#include <QTimer>
 #include <QUuid>
 #include <QWidget>
 
@@ -13,6 +12,8 @@ class QShortcut;
 QT_END_NAMESPACE
 
 namespace orda_base {
+
+class DelayedCall;
 
 /// Covers a widget while something goes on: shows that it does, reports the progress to assistive technology, and keeps
 /// mouse, keys and shortcuts from the widget. The menus of the window still work. Destroyed through
@@ -53,8 +54,8 @@ private:
     QWidget *m_card;
     QString m_text;
     QLabel *m_description;
-    QTimer m_showSoon;
-    QTimer m_announceSoon;
+    DelayedCall *m_showSoon;
+    DelayedCall *m_announceSoon;
     QPointer<QWidget> m_focusBefore;
 };
 

@@ -1,6 +1,6 @@
-#include "orda_base/DisabledWaitingWtManager.h"
+#include <orda_base/DisabledWaitingWtManager.h>
 
-#include "orda_base/DisabledWaitingWt.h"
+#include <orda_base/DisabledWaitingWt.h>
 
 namespace orda_base {
 

@@ -1,6 +1,6 @@
-#include "orda_base/IpTableItem.h"
+#include <orda_base/IpTableItem.h>
 
-#include "orda_base/SortOrder.h"
+#include <orda_base/SortOrder.h>
 
 namespace orda_base {
 

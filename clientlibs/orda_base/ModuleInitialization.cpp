@@ -1,4 +1,4 @@
-#include "orda_base/ModuleInitialization.h"
+#include <orda_base/ModuleInitialization.h>
 
 namespace orda_base {
 

@@ -1,7 +1,7 @@
-#include "orda_base/NavigationButton.h"
+#include <orda_base/NavigationButton.h>
 
-#include "orda_base/ReturnPressesButton.h"
-#include "orda_base/Theme.h"
+#include <orda_base/ReturnPressesButton.h>
+#include <orda_base/Theme.h>
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>

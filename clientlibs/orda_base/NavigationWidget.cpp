@@ -1,6 +1,6 @@
-#include "orda_base/NavigationWidget.h"
+#include <orda_base/NavigationWidget.h>
 
-#include "orda_base/NavigationButton.h"
+#include <orda_base/NavigationButton.h>
 
 #include <QVBoxLayout>
 

@@ -1,4 +1,4 @@
-#include "orda_base/PlainTextDelegate.h"
+#include <orda_base/PlainTextDelegate.h>
 
 #include <vms_client_sdk/ForeignText.h>
 

@@ -1,4 +1,4 @@
-#include "orda_base/PortEditWt.h"
+#include <orda_base/PortEditWt.h>
 
 #include <QRegularExpressionValidator>
 

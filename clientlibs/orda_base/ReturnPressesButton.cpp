@@ -1,4 +1,4 @@
-#include "orda_base/ReturnPressesButton.h"
+#include <orda_base/ReturnPressesButton.h>
 
 #include <QAbstractButton>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
-#include "orda_base/SearchBox.h"
+#include <orda_base/SearchBox.h>
 
-#include "orda_base/Theme.h"
+#include <orda_base/Theme.h>
 
 #include <QAction>
 #include <QHBoxLayout>

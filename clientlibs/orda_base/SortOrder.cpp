@@ -1,4 +1,4 @@
-#include "orda_base/SortOrder.h"
+#include <orda_base/SortOrder.h>
 
 #include <QLocale>
 #include <QStringList>

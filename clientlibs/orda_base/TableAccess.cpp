@@ -1,4 +1,4 @@
-#include "orda_base/TableAccess.h"
+#include <orda_base/TableAccess.h>
 
 #include <QAccessibleWidget>
 #include <QHash>
@@ -249,7 +249,9 @@ protected:
     ~TableAccess() override
     {
         QObject::disconnect(m_changes);
-        for (const QAccessible::Id id : m_cells.values() + m_headers.values())
+        for (const QAccessible::Id id : qAsConst(m_cells))
+            QAccessible::deleteAccessibleInterface(id);
+        for (const QAccessible::Id id : qAsConst(m_headers))
             QAccessible::deleteAccessibleInterface(id);
     }
 

@@ -1,6 +1,7 @@
-#include "orda_base/TableOperWtStyle.h"
+#include <orda_base/TableOperWtStyle.h>
 
 #include <XCOMMON/XTableWidget.h>
+#include <orda_base/DelayedCall.h>
 
 #include <QCheckBox>
 #include <QHeaderView>
@@ -22,9 +23,9 @@ bool isCheckable(const QTableWidgetItem *item)
 
 TableOperWtStyle::TableOperWtStyle(QObject *parent)
     : QObject(parent)
+    , m_updateAllBox(new DelayedCall(
+          std::chrono::milliseconds(0), [this] { updateAllBox(); }, this))
 {
-    m_updateSoon.setSingleShot(true);
-    connect(&m_updateSoon, &QTimer::timeout, this, &TableOperWtStyle::updateAllBox);
 }
 
 void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLayout *header,
@@ -45,15 +46,10 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
                 if (topLeft.column() == checkColumn && roles.contains(Qt::CheckStateRole) && !m_isTickingAll)
                     updateAllBox();
             });
-    // Later and once, because thousands of rows may change at a time and each update looks at all rows.
-    const auto updateSoon = [this] {
-        if (!m_updateSoon.isActive())
-            m_updateSoon.start();
-    };
-    connect(table->model(), &QAbstractItemModel::rowsInserted, this, updateSoon);
-    connect(table->model(), &QAbstractItemModel::rowsRemoved, this, updateSoon);
+    connect(table->model(), &QAbstractItemModel::rowsInserted, m_updateAllBox, &DelayedCall::request);
+    connect(table->model(), &QAbstractItemModel::rowsRemoved, m_updateAllBox, &DelayedCall::request);
     // A row that is hidden or shown again gets another height.
-    connect(table->verticalHeader(), &QHeaderView::sectionResized, this, updateSoon);
+    connect(table->verticalHeader(), &QHeaderView::sectionResized, m_updateAllBox, &DelayedCall::request);
     // A tri-state box would go to "partly" at every third click; a click on it means all or none.
     const auto tickAll = [this](bool checked) {
         m_all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);

@@ -5,7 +5,6 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QTimer>
 
 QT_BEGIN_NAMESPACE
 class QCheckBox;
@@ -17,6 +16,8 @@ class XTableWidget;
 }
 
 namespace orda_base {
+
+class DelayedCall;
 
 /// Connects a table that has check marks in column 0 with an "All" check box and a separate header row, and lets the
 /// Space key tick the selected rows.
@@ -46,7 +47,7 @@ private:
     QPointer<QCheckBox> m_all;
     QPointer<XCOMMON::XTableWidget> m_table;
     QPointer<QLayout> m_header;
-    QTimer m_updateSoon; // updates the "All" box once for many changes
+    DelayedCall *m_updateAllBox; // later and once: thousands of rows may change, and each update goes through all rows
     bool m_isTickingAll = false;
 };
 

@@ -1,7 +1,7 @@
-#include "orda_base/TableWidget.h"
+#include <orda_base/TableWidget.h>
 
-#include "orda_base/PlainTextDelegate.h"
-#include "orda_base/TableAccess.h"
+#include <orda_base/PlainTextDelegate.h>
+#include <orda_base/TableAccess.h>
 
 #include <QFocusEvent>
 #include <QHeaderView>

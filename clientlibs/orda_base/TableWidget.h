@@ -1,7 +1,7 @@
 #pragma once
 
-#include <orda_base/Export.h>
 #include <XCOMMON/XTableWidget.h>
+#include <orda_base/Export.h>
 
 namespace orda_base {
 

@@ -1,4 +1,4 @@
-#include "orda_base/Theme.h"
+#include <orda_base/Theme.h>
 
 #include <QApplication>
 #include <QFile>

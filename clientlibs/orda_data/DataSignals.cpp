@@ -1,4 +1,4 @@
-#include "DataSignals.h"
+#include <orda_data/DataSignals.h>
 
 namespace orda_data {
 

@@ -1,6 +1,6 @@
-#include "DevsMgrData.h"
+#include <orda_data/DevsMgrData.h>
 
-#include "DataSignals.h"
+#include <orda_data/DataSignals.h>
 
 #include <vms_client_sdk/ClientSignals.h>
 

@@ -1,4 +1,4 @@
-#include "orda_saas/LoginSignals.h"
+#include <orda_saas/LoginSignals.h>
 
 namespace orda_saas {
 

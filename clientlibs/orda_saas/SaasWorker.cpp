@@ -1,4 +1,4 @@
-#include "orda_saas/SaasWorker.h"
+#include <orda_saas/SaasWorker.h>
 
 namespace orda_saas {
 

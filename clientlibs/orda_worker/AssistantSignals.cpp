@@ -1,4 +1,4 @@
-#include "orda_worker/AssistantSignals.h"
+#include <orda_worker/AssistantSignals.h>
 
 namespace orda_worker {
 

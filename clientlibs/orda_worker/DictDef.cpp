@@ -1,4 +1,4 @@
-#include "orda_worker/DictDef.h"
+#include <orda_worker/DictDef.h>
 
 namespace orda_worker {
 

@@ -1,6 +1,6 @@
-#include "orda_worker/SystemAssistant.h"
+#include <orda_worker/SystemAssistant.h>
 
-#include "orda_worker/AssistantSignals.h"
+#include <orda_worker/AssistantSignals.h>
 
 #include <orda_base/ReturnPressesButton.h>
 

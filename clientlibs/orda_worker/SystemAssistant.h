@@ -1,7 +1,7 @@
 #pragma once
 
-#include <orda_worker/Export.h>
 #include <orda_worker/EventConfirmInfo.h>
+#include <orda_worker/Export.h>
 
 #include <QCoreApplication>
 
