@@ -2,12 +2,6 @@
 
 #include <vms_client_sdk/websocket/AnswerCheck.h>
 
-#include <QApplication>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QRandomGenerator>
-
 using namespace vms_sdk;
 
 namespace {
@@ -98,11 +92,8 @@ class AnswerCheckTest : public OrdaTest
 private slots:
     void textsBeyondALimitAreNamed_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("fault"); // a part of it; empty: none
-        const auto row = [](const char *name, const QByteArray &text, const char *fault) {
-            QTest::newRow(name) << text << QString::fromLatin1(fault);
-        };
+        columns<QByteArray, QString>({"text", "fault"}); // a part of it; empty: none
+        const auto row = [](const char *name, const QByteArray &text, const char *fault) { ::row(name, text, fault); };
         row("an answer", R"({"method": "ai_get_param", "result": {"a": [1, {"a": 2}], "b": "\u00e9"}})", "");
         row("as deep as allowed", nested(maxJsonDepth), "");
         row("a level deeper", nested(maxJsonDepth + 1), "deep");
@@ -146,12 +137,11 @@ private slots:
         const int bytes = int(maxWrittenBytes - checkAnswer(textOf(0)).writtenBytes);
         QVERIFY(!checkAnswer(textOf(bytes)).fault);
         QVERIFY(checkAnswer(textOf(bytes + 1)).fault);
-        const QJsonObject attributes{{QStringLiteral("echoed"), QJsonDocument::fromJson(textOf(bytes)).array()},
-                                     {QStringLiteral("channelName"), QString(32'767, QChar(0x4e2d))}};
-        const QJsonObject request{{QStringLiteral("method"), QStringLiteral("chnosd_set_param")},
-                                  {QStringLiteral("level"), QStringLiteral("Operator")},
-                                  {QStringLiteral("param"), QJsonObject{{QStringLiteral("channelid"), 0},
-                                                                        {QStringLiteral("attr"), attributes}}}};
+        const QJsonObject attributes{{"echoed", QJsonDocument::fromJson(textOf(bytes)).array()},
+                                     {"channelName", QString(32'767, QChar(0x4e2d))}};
+        const QJsonObject request{{"method", "chnosd_set_param"},
+                                  {"level", "Operator"},
+                                  {"param", QJsonObject{{"channelid", 0}, {"attr", attributes}}}};
         QVERIFY(QJsonDocument(request).toJson().size() + 64 < maxFrameBytes);
     }
 
@@ -168,9 +158,10 @@ private slots:
                 const AnswerCheck check = checkAnswer(text);
                 QVERIFY2(!check.fault && !document.isNull(), where());
                 const QJsonValue content = document.isArray() ? QJsonValue(document.array()) : document.object();
-                const QJsonObject deeper{{QStringLiteral("a"), content}};
-                const int around = QJsonDocument(QJsonObject{{QStringLiteral("a"), 1}}).toJson().size() - 1;
-                const int written = QJsonDocument(deeper).toJson().size() - around;
+                const auto sizeWith = [](const QJsonValue &value) {
+                    return QJsonDocument(QJsonObject{{"a", value}}).toJson().size();
+                };
+                const int written = sizeWith(content) - sizeWith(1) + 1;
                 QVERIFY2(check.writtenBytes >= written, where());
                 // A comma and a line break too many, and what a short fraction may turn into.
                 const int values = text.count(',') + text.count('[') + text.count('{');

@@ -10,18 +10,14 @@
 #include <vms_client_sdk/ClientSdk.h>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTableWidget>
-#include <QTemporaryFile>
-#include <QTimer>
 
 using namespace orda_client;
 using namespace std::chrono_literals;
@@ -35,7 +31,7 @@ QString said(const QWidget *widget)
     const auto labels = widget->findChildren<QLabel *>();
     for (const QLabel *label : labels)
         texts.append(label->text());
-    return texts.join(QLatin1Char('\n'));
+    return texts.join('\n');
 }
 
 } // namespace
@@ -52,8 +48,8 @@ private slots:
         ClientSession session;
         ClientWindow window(&session);
         window.show();
-        const QSize screen = window.screen()->availableSize();
-        QVERIFY2(window.width() < screen.width() && window.height() < screen.height(), "there is no room for a frame");
+        const QRect screen = window.screen()->availableGeometry();
+        QVERIFY(screen.adjusted(0, 0, -1, -1).contains({screen.topLeft(), window.size()})); // with room for a frame
         const auto *area = qobject_cast<QScrollArea *>(window.centralWidget());
         const QWidget *form = area->widget();
         QTRY_VERIFY(area->horizontalScrollBar()->maximum() > 0);
@@ -70,20 +66,18 @@ private slots:
         auto &store = orda_data::DevsMgrData::instance();
         QSignalSpy attempts(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged);
         vms_sdk::DevInfo dev;
-        dev.id = QStringLiteral("dev0");
-        dev.name = QStringLiteral("Cam 0");
-        dev.ip = QStringLiteral("127.0.0.1");
+        dev.id = "dev0";
+        dev.name = "Cam 0";
+        dev.ip = "127.0.0.1";
         dev.port = 1; // nobody listens there
         store.updateDevs({dev});
-        emit orda_worker::AssistantSignals::instance().signalEventConfirmRaised(
-            {{}, {}, QStringLiteral("The summary"), {}});
+        emit orda_worker::AssistantSignals::instance().signalEventConfirmRaised({{}, {}, "The summary", {}});
         QTRY_VERIFY_WITH_TIMEOUT(attempts.count() >= 6, 20'000); // connecting, offline, three times
         QTest::qWait(150); // the bar is brought up to date every 100 ms
-        QVERIFY2(said(window.statusBar()).contains(QStringLiteral("The summary")),
-                 qPrintable(said(window.statusBar())));
+        QVERIFY(said(window.statusBar()).contains("The summary"));
 
         store.setDevStatus(dev.id, vms_sdk::DevOnline);
-        QTRY_VERIFY(said(window.statusBar()).contains(QStringLiteral("Cam 0: online")));
+        QTRY_VERIFY(said(window.statusBar()).contains("Cam 0: online"));
         store.deleteDevs({dev.id});
     }
 
@@ -98,25 +92,25 @@ private slots:
         ClientWindow window(&session);
         window.show();
         QCOMPARE(session.startDemo(2, faults.fileName()), QString());
-        const auto *table = window.findChild<QTableWidget *>(QStringLiteral("devsTableWt"));
+        const auto *table = window.findChild<QTableWidget *>("devsTableWt");
         QTRY_COMPARE(table->rowCount(), 2);
-        window.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
-        window.findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
+        window.findChild<QCheckBox *>("selAll")->click();
+        window.findChild<QAbstractButton *>("audio_param")->click();
 
         QString question;
         QTimer::singleShot(500ms, &window, [&] { // when the one device has answered
             window.close();
-            if (const auto *dialog = window.findChild<QDialog *>(QStringLiteral("closeQuestion")))
+            if (const auto *dialog = window.findChild<QDialog *>("closeQuestion"))
                 question = said(dialog);
         });
-        const QWidget *page = window.findChild<QWidget *>(QStringLiteral("audioParametersPage"));
-        page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
-        QVERIFY2(question.contains(QStringLiteral("1 of 2 device(s) have not answered")), qPrintable(question));
+        const QWidget *page = window.findChild<QWidget *>("audioParametersPage");
+        page->findChild<QAbstractButton *>("okBt")->click();
+        QVERIFY2(question.contains("1 of 2 device(s) have not answered"), qPrintable(question));
         QVERIFY(window.isVisible());
         // The run has ended meanwhile: nothing is left to ask, and the summary stands there.
-        QTRY_VERIFY(!window.findChild<QDialog *>(QStringLiteral("closeQuestion")));
-        auto *summary = window.findChild<QDialog *>(QStringLiteral("eventConfirmDialog"));
-        QVERIFY(summary && said(summary).contains(QStringLiteral("success:1, failure:1")));
+        QTRY_VERIFY(!window.findChild<QDialog *>("closeQuestion"));
+        auto *summary = window.findChild<QDialog *>("eventConfirmDialog");
+        QVERIFY(summary && said(summary).contains("success:1, failure:1"));
         summary->reject();
         QVERIFY(window.close());
     }

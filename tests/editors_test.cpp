@@ -6,8 +6,6 @@
 #include <run/SwitchImages.h>
 #include <video/VideoParamsPanel.h>
 
-#include <QApplication>
-#include <QJsonObject>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSlider>
@@ -25,22 +23,13 @@ class EditorsTest : public OrdaTest
 private slots:
     void volumesShowWhatIsSent_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("typed"); // over "50"; < deletes
-        QTest::addColumn<int>("sent");
-        for (const char *name : {"audioInVolume", "alarmOutVolume"}) {
-            const auto row = [name](const char *typed, int sent) {
-                QTest::addRow("%s, %s", name, typed) << QString::fromLatin1(name) << QString::fromLatin1(typed) << sent;
-            };
-            row("<<", 0);
-            row("<<<7", 7);
-            row("<<8<", 0);
-            row("<<150", 100);
-            row("<<100<<<1000", 100);
-            row("<<007", 7);
-            row("<<-5", 5);
-            row("<<3x.,4", 34);
-        }
+        columns<QString, QString, int>({"name", "typed", "sent"}); // over "50"; < deletes
+        const std::pair<const char *, int> cases[]{{"<<", 0},      {"<<<7", 7},           {"<<8<", 0},
+                                                   {"<<150", 100}, {"<<100<<<1000", 100}, {"<<007", 7},
+                                                   {"<<-5", 5},    {"<<3x.,4", 34}};
+        for (const char *name : {"audioInVolume", "alarmOutVolume"})
+            for (const auto &[typed, sent] : cases)
+                row(qPrintable(QString(name) + ", " + typed), name, typed, sent);
     }
 
     void volumesShowWhatIsSent()
@@ -50,11 +39,11 @@ private slots:
         QFETCH(int, sent);
         AudioParamsCfgPage page;
         page.show();
-        auto *edit = page.findChild<QLineEdit *>(name + QStringLiteral("Param"));
-        auto *slider = page.findChild<QSlider *>(name + QStringLiteral("Slider"));
-        QCOMPARE(edit->text(), QStringLiteral("50"));
+        auto *edit = page.findChild<QLineEdit *>(name + "Param");
+        auto *slider = page.findChild<QSlider *>(name + "Slider");
+        QCOMPARE(edit->text(), "50");
         for (const QChar key : qAsConst(typed)) {
-            if (key == QLatin1Char('<'))
+            if (key == '<')
                 QTest::keyClick(edit, Qt::Key_Backspace);
             else
                 QTest::keyClick(edit, key.toLatin1());
@@ -62,43 +51,36 @@ private slots:
         }
         QCOMPARE(slider->value(), sent);
         slider->setValue(30);
-        QCOMPARE(edit->text(), QStringLiteral("30"));
+        QCOMPARE(edit->text(), "30");
     }
 
     void videoQualityTakesTheNearestBound_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("sent");
-        for (const auto &[typed, sent] :
-             std::initializer_list<std::pair<const char *, int>>{{"5", 10},
-                                                                 {"0", 10},
-                                                                 {"", 10},
-                                                                 {"10240", 10240},
-                                                                 {"10241", 10240},
-                                                                 {"99999", 10240},
-                                                                 {"99999999999999999999", 10240},
-                                                                 {"2x0-48", 2048}})
-            QTest::addRow("\"%s\"", typed) << QString::fromLatin1(typed) << sent;
+        columns<int>({"sent"});
+        for (const char *tooSmall : {"5", "0", ""})
+            row(tooSmall, 10);
+        for (const char *tooLarge : {"10240", "10241", "99999", "99999999999999999999"})
+            row(tooLarge, 10240);
+        row("2x0-48", 2048);
     }
 
     void videoQualityTakesTheNearestBound()
     {
-        QFETCH(QString, typed);
         QFETCH(int, sent);
         for (const bool isLeft : {true, false}) { // else Configure comes while the number is being typed
             VideoParamsPanel panel(VideoParamsPanel::MainStream);
             panel.show();
             QApplication::setActiveWindow(&panel);
-            auto *spin = panel.findChild<QSpinBox *>(QStringLiteral("videoQuality"));
+            auto *spin = panel.findChild<QSpinBox *>("videoQuality");
             spin->setFocus();
             spin->selectAll();
             QTest::keyClick(spin, Qt::Key_Delete);
-            QTest::keyClicks(spin, typed);
+            QTest::keyClicks(spin, QTest::currentDataTag());
             if (isLeft) {
                 QTest::keyClick(spin, Qt::Key_Tab);
                 QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent));
             }
-            QCOMPARE(panel.getParams().value(QStringLiteral("bitRate")).toInt(), sent);
+            QCOMPARE(panel.getParams().value("bitRate").toInt(), sent);
             QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
         }
     }
@@ -123,21 +105,21 @@ private slots:
 
     void addressLinesFollowTheWindow()
     {
-        const std::unique_ptr<QWidget> pages[]{std::make_unique<PlatformParamsCfgPage>(),
-                                               std::make_unique<Platform9100ParamsCfgPage>()};
-        for (const auto &page : pages) {
-            page->show();
-            for (const char *name : {"serviceAddressParam", "onlineUrl", "bussinessUrl"}) {
-                const auto *line = page->findChild<QLineEdit *>(QLatin1String(name));
-                if (!line)
-                    continue;
-                page->resize(500, 600);
-                QCoreApplication::processEvents();
-                const int narrow = line->width();
-                page->resize(900, 600);
-                QCoreApplication::processEvents();
-                QCOMPARE(line->width(), narrow + 400);
-            }
+        PlatformParamsCfgPage page;
+        Platform9100ParamsCfgPage page9100;
+        const QList<QLineEdit *> lines =
+            page.findChildren<QLineEdit *>("serviceAddressParam")
+            + page9100.findChildren<QLineEdit *>(QRegularExpression("^(online|bussiness)Url$"));
+        QCOMPARE(lines.size(), 3);
+        for (QLineEdit *line : lines) {
+            QWidget *window = line->window();
+            window->show();
+            window->resize(500, 600);
+            QCoreApplication::processEvents();
+            const int narrow = line->width();
+            window->resize(900, 600);
+            QCoreApplication::processEvents();
+            QCOMPARE(line->width(), narrow + 400);
         }
     }
 };

@@ -7,17 +7,8 @@
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
 
-#include <QApplication>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QNetworkInterface>
-#include <QProcess>
-#include <QSet>
-#include <QSignalSpy>
 #include <QTcpSocket>
-#include <QTemporaryDir>
-#include <QTemporaryFile>
 
 #include <csignal>
 #include <memory>
@@ -27,7 +18,7 @@ using L1 = QLatin1String;
 
 namespace {
 
-QJsonValue json(const QByteArray &text)
+QJsonObject json(const QByteArray &text)
 {
     return QJsonDocument::fromJson(text).object();
 }
@@ -35,11 +26,6 @@ QJsonValue json(const QByteArray &text)
 QByteArray request(const QByteArray &method, const QByteArray &param = "{}")
 {
     return R"({"method": ")" + method + R"(", "level": "Operator", "param": )" + param + "}";
-}
-
-int errorCode(const QJsonObject &answer)
-{
-    return answer[L1("error")][L1("errorcode")].toInt(1);
 }
 
 FleetOptions site(int devices)
@@ -71,9 +57,9 @@ QByteArray answerTo(const vms_sdk::DevInfo &device)
     return answerTo(QHostAddress(device.ip), device.port, upgradeRequest(device.path));
 }
 
-QString programFile()
+void startFleet(QProcess &process, const QString &arguments)
 {
-    return QCoreApplication::applicationDirPath() + L1("/orda_fleet");
+    process.start(QCoreApplication::applicationDirPath() + "/orda_fleet", arguments.split(' '));
 }
 
 } // namespace
@@ -85,79 +71,66 @@ class FleetTest : public OrdaTest
 private slots:
     void badRequestChangesNothing_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("code");
-        QTest::newRow("not JSON") << QByteArray("hello") << int(DeviceBadRequest);
-        QTest::newRow("unknown method") << request("reboot") << int(DeviceUnknownMethod);
-        QTest::newRow("wrong key") << request("ai_set_param", R"({"attr": {"aiGain": 1}})") << int(DeviceBadParameter);
-        QTest::newRow("no such stream") << request("stream_set_params",
-                                                   R"({"streams": [{"streamid": 0, "width": 1}, {"streamid": 9}]})")
-                                        << int(DeviceBadParameter);
+        columns<QByteArray, int>({"text", "code"});
+        row("not JSON", QByteArray("hello"), int(DeviceBadRequest));
+        row("unknown method", request("reboot"), int(DeviceUnknownMethod));
+        row("wrong key", request("ai_set_param", R"({"attr": {"aiGain": 1}})"), int(DeviceBadParameter));
+        const QByteArray streams = R"({"streams": [{"streamid": 0, "width": 1}, {"streamid": 9}]})";
+        row("no such stream", request("stream_set_params", streams), int(DeviceBadParameter));
     }
 
     void badRequestChangesNothing()
     {
         QFETCH(QByteArray, text);
-        SimulatedDevice device(QStringLiteral("d"), makeSiteDevice(1, 0).parameters);
+        SimulatedDevice device("d", makeSiteDevice(1, 0).parameters);
         const QJsonObject before = device.parameters();
-        QTEST(errorCode(device.answer(json(text).toObject())), "code");
+        QTEST(device.answer(json(text)).value("error")["errorcode"].toInt(1), "code");
         QCOMPARE(device.parameters(), before);
     }
 
     void siteHasSomethingOfEverything()
     {
-        std::vector<SiteDevice> devices;
-        devices.reserve(200);
-        for (int i = 0; i < 200; ++i)
-            devices.push_back(makeSiteDevice(FleetOptions().seed, i));
-        const auto some = [&devices](const char *trait, const auto &has) {
-            const auto count = std::count_if(devices.begin(), devices.end(), has);
-            QVERIFY2(count > 0 && count < 200, trait);
-        };
-        const auto streams = [](const SiteDevice &d) {
-            return d.parameters[L1("video")][L1("streams")].toArray().size();
-        };
-        const auto eth = [](const SiteDevice &d) { return d.parameters[L1("inet")][L1("eth")]; };
-        using Device = const SiteDevice &;
-        some("camera", [](Device d) { return d.info.kindCode == 1; });
-        some("recorder", [](Device d) { return d.info.kindCode == 6; });
-        some("other kind", [](Device d) { return d.info.kindCode != 1 && d.info.kindCode != 6; });
-        some("not reached directly", [](Device d) { return d.info.accessCode != 1; });
-        some("offline", [](Device d) { return !d.online; });
-        some("factory password", [](Device d) { return d.state == vms_sdk::DevDefaultPassword; });
-        some("locked", [](Device d) { return d.state == vms_sdk::DevLocked; });
-        some("cloud device", [](Device d) { return d.info.ip.isEmpty(); });
-        some("weak password", [](Device d) { return d.state == vms_sdk::DevOnline && d.info.password.size() < 8; });
-        some("empty name", [](Device d) { return d.info.name.isEmpty(); });
-        some("long name", [](Device d) { return d.info.name.size() > 60; });
-        some("non-ASCII name", [](Device d) { return d.info.name.toUtf8().size() != d.info.name.size(); });
-        some("one stream", [&](Device d) { return streams(d) == 1; });
-        some("three streams", [&](Device d) { return streams(d) == 3; });
-        some("no eth", [&](Device d) { return eth(d).isUndefined(); });
-        some("no speed", [&](Device d) { return eth(d).isObject() && eth(d)[L1("speed")].isUndefined(); });
-        some("no large font", [](Device d) { return d.parameters[L1("osd")][L1("bLargeOSD")].isUndefined(); });
-
+        QMap<QString, int> found;
         QSet<QString> unique;
-        int usable = 0; // would be listed whatever its password
-        for (const SiteDevice &d : devices) {
-            unique << d.info.id << d.info.serialNumber << (d.info.ip.isEmpty() ? d.info.id + L1("/cloud") : d.info.ip);
-            usable += d.online && d.info.accessCode == 1 && QList<int>{1, 6}.contains(d.info.kindCode)
-                   && !d.info.ip.isEmpty();
-            QCOMPARE(d.parameters.size(), SimulatedDevice::methods().size() / 2);
+        for (int i = 0; i < 200; ++i) {
+            const SiteDevice device = makeSiteDevice(FleetOptions().seed, i);
+            const vms_sdk::DevInfo &info = device.info;
+            const QJsonObject &params = device.parameters;
+            const QJsonValue eth = params["inet"]["eth"];
+            const int streams = params["video"]["streams"].toArray().size();
+            const bool isCamera = info.kindCode == 1, isRecorder = info.kindCode == 6, hasIp = !info.ip.isEmpty();
+            found["camera"] += isCamera;
+            found["recorder"] += isRecorder;
+            found["other kind"] += !isCamera && !isRecorder;
+            found["not reached directly"] += info.accessCode != 1;
+            found["offline"] += !device.online;
+            found["factory password"] += device.state == vms_sdk::DevDefaultPassword;
+            found["locked"] += device.state == vms_sdk::DevLocked;
+            found["cloud device"] += !hasIp;
+            found["weak password"] += device.state == vms_sdk::DevOnline && info.password.size() < 8;
+            found["empty name"] += info.name.isEmpty();
+            found["long name"] += info.name.size() > 60;
+            found["non-ASCII name"] += info.name.toUtf8().size() != info.name.size();
+            found["one stream"] += streams == 1;
+            found["three streams"] += streams == 3;
+            found["no eth"] += eth.isUndefined();
+            found["no speed"] += eth.isObject() && eth["speed"].isUndefined();
+            found["no large font"] += params["osd"]["bLargeOSD"].isUndefined();
+            found["usable"] += device.online && info.accessCode == 1 && (isCamera || isRecorder) && hasIp;
+            unique << info.id << info.serialNumber << (hasIp ? info.ip : info.id + "/cloud");
+            QCOMPARE(params.size(), SimulatedDevice::methods().size() / 2);
         }
+        for (auto it = found.cbegin(); it != found.cend(); ++it)
+            QVERIFY2(it.value() > 0 && it.value() < 200, qPrintable(it.key()));
+        QVERIFY2(found["usable"] >= 170, qPrintable(QString::number(found["usable"])));
         QCOMPARE(unique.size(), 600);
-        QVERIFY2(usable >= 170, qPrintable(QString::number(usable)));
-        QCOMPARE(makeSiteDevice(1, 3).parameters, devices.at(3).parameters);
-        QVERIFY(makeSiteDevice(2, 3).parameters != devices.at(3).parameters);
+        QCOMPARE(makeSiteDevice(1, 3).parameters, makeSiteDevice(1, 3).parameters);
+        QVERIFY(makeSiteDevice(2, 3).parameters != makeSiteDevice(1, 3).parameters);
     }
 
     void faultFileIsCheckedAndExplained_data()
     {
-        QTest::addColumn<QByteArray>("entry");
-        QTest::addColumn<QString>("complaint"); // an error, or "unknown key": only a warning
-        const auto row = [](const char *name, const char *entry, const char *complaint) {
-            QTest::newRow(name) << QByteArray(entry) << QString::fromLatin1(complaint);
-        };
+        columns<QString, QString>({"entry", "complaint"}); // an error, or "unknown key": only a warning
         row("not JSON", "{", "is not JSON");
         row("no object", R"("garbage")", "faults[1]: must be an object");
         row("unknown fault", R"({"fault": "slow"})", R"(faults[1]: field "fault": must be one of error-code, )");
@@ -172,31 +145,31 @@ private slots:
 
     void faultFileIsCheckedAndExplained()
     {
-        QFETCH(QByteArray, entry);
+        QFETCH(QString, entry);
         QFETCH(QString, complaint);
         QTemporaryFile file;
-        QVERIFY(file.open() && file.write(R"({"faults": [{"fault": "no-answer"}, )" + entry + "]}") > 0
+        QVERIFY(file.open() && file.write(R"({"faults": [{"fault": "no-answer"}, )" + entry.toUtf8() + "]}") > 0
                 && file.flush());
         QString error;
         QStringList warnings;
         const FaultPlan plan = FaultPlan::read(file.fileName(), &error, &warnings);
-        const bool isWarning = complaint.contains(L1("unknown key"));
+        const bool isWarning = complaint.contains("unknown key");
         const QString said = isWarning ? warnings.join(QString()) : error;
         QVERIFY2(said.startsWith(file.fileName()) && said.contains(complaint), qPrintable(said));
-        QCOMPARE(plan.find(QStringLiteral("d"), QStringLiteral("ai_get_param")).has_value(), isWarning);
+        QCOMPARE(plan.find("d", "ai_get_param").has_value(), isWarning);
     }
 
     void narrowerFaultGoesFirst()
     {
         FaultPlan plan;
-        plan.set(L1("*"), L1("*"), {Fault::Garbage});
-        plan.set(L1("*"), L1("m"), {Fault::NoAnswer});
-        plan.set(L1("d"), L1("*"), {Fault::NoResult});
-        plan.set(L1("d"), L1("m"), {Fault::ForeignId});
-        QCOMPARE(plan.find(L1("d"), L1("m"))->fault, Fault::ForeignId);
-        QCOMPARE(plan.find(L1("d"), L1("x"))->fault, Fault::NoResult);
-        QCOMPARE(plan.find(L1("x"), L1("m"))->fault, Fault::NoAnswer);
-        QCOMPARE(plan.find(L1("x"), L1("x"))->fault, Fault::Garbage);
+        plan.set("*", "*", {Fault::Garbage});
+        plan.set("*", "m", {Fault::NoAnswer});
+        plan.set("d", "*", {Fault::NoResult});
+        plan.set("d", "m", {Fault::ForeignId});
+        QCOMPARE(plan.find("d", "m")->fault, Fault::ForeignId);
+        QCOMPARE(plan.find("d", "x")->fault, Fault::NoResult);
+        QCOMPARE(plan.find("x", "m")->fault, Fault::NoAnswer);
+        QCOMPARE(plan.find("x", "x")->fault, Fault::Garbage);
     }
 
     void strangersAreTurnedAway()
@@ -205,7 +178,7 @@ private slots:
         auto fleet = std::make_unique<EmbeddedFleet>(options);
         QCOMPARE(fleet->start(), QString());
         vms_sdk::DevInfo device = fleet->inventory().at(0);
-        device.path = L1("/dev-9999");
+        device.path = "/dev-9999";
         QVERIFY(answerTo(device).startsWith("HTTP/1.1 404 "));
         QVERIFY(answerTo(QHostAddress::LocalHost, device.port, QByteArray(100000, 'x')).isEmpty());
 
@@ -215,7 +188,7 @@ private slots:
         });
         if (outside == addresses.end())
             QSKIP("this machine has no address but its own loopback");
-        QVERIFY(answerTo(*outside, device.port, upgradeRequest(L1("/dev-0001"))).isEmpty());
+        QVERIFY(answerTo(*outside, device.port, upgradeRequest("/dev-0001")).isEmpty());
         options.listenAddress = *outside;
         fleet = std::make_unique<EmbeddedFleet>(options);
         QCOMPARE(fleet->start(), QString());
@@ -225,17 +198,16 @@ private slots:
     void tooManyDevicesForOneProcess()
     {
         EmbeddedFleet fleet(site(int(vms_sdk::raiseOpenFileLimit() / 2)));
-        QVERIFY(fleet.start().contains(L1("orda_fleet --devices")));
+        QVERIFY(fleet.start().contains("orda_fleet --devices"));
     }
 
     void programWritesInventoryAndDump()
     {
         const QTemporaryDir dir;
-        const QString inventoryFile = dir.filePath(L1("inventory.json"));
-        const QString dumpFile = dir.filePath(L1("dump.json"));
+        const QString inventoryFile = dir.filePath("inventory.json");
+        const QString dumpFile = dir.filePath("dump.json");
         QProcess program;
-        program.start(programFile(),
-                      {L1("--devices"), L1("5"), L1("--inventory"), inventoryFile, L1("--dump"), dumpFile});
+        startFleet(program, "--devices 5 --inventory " + inventoryFile + " --dump " + dumpFile);
         QVERIFY(program.waitForReadyRead());
         QVERIFY(program.readAll().contains("5 devices"));
         const vms_sdk::Inventory inventory = vms_sdk::readInventory(inventoryFile);
@@ -252,29 +224,28 @@ private slots:
         QCOMPARE(program.exitCode(), 0);
         QFile dump(dumpFile);
         QVERIFY(dump.open(QIODevice::ReadOnly));
-        QCOMPARE(json(dump.readAll())[L1("devices")].toObject().size(), 5);
+        QCOMPARE(json(dump.readAll())["devices"].toObject().size(), 5);
     }
 
     void programExplainsWrongUsage_data()
     {
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("complaint");
-        QTest::newRow("--devices 5") << 2 << "--inventory OUT is missing";
-        QTest::newRow("--devices 0 --inventory x") << 2 << "--devices takes a whole number from 1 to ";
-        QTest::newRow("--devices 1 --inventory x --tls cert.pem") << 2 << "--tls takes two files";
-        QTest::newRow("--devices 1 --inventory x --dump ./x") << 2 << "name the same file";
-        QTest::newRow("--devices 1 --inventory x --listen localhost") << 2 << "--listen takes an IPv4 address";
-        QTest::newRow("--devices 1 --inventory x y") << 2 << "unexpected argument \"y\"";
-        QTest::newRow("--devices 1 --inventory x --faults /no/such") << 3 << "/no/such: cannot be read";
-        QTest::newRow("--devices 1 --inventory x --tls /dev/null /dev/null") << 3 << "must be a certificate";
-        QTest::newRow("--devices 1 --inventory /no/such/x") << 3 << "/no/such/x: cannot be written";
+        columns<int, QString>({"exitCode", "complaint"});
+        row("--devices 5", 2, "--inventory OUT is missing");
+        row("--devices 0 --inventory x", 2, "--devices takes a whole number from 1 to ");
+        row("--devices 1 --inventory x --tls cert.pem", 2, "--tls takes two files");
+        row("--devices 1 --inventory x --dump ./x", 2, "name the same file");
+        row("--devices 1 --inventory x --listen localhost", 2, "--listen takes an IPv4 address");
+        row("--devices 1 --inventory x y", 2, "unexpected argument \"y\"");
+        row("--devices 1 --inventory x --faults /no/such", 3, "/no/such: cannot be read");
+        row("--devices 1 --inventory x --tls /dev/null /dev/null", 3, "must be a certificate");
+        row("--devices 1 --inventory /no/such/x", 3, "/no/such/x: cannot be written");
     }
 
     void programExplainsWrongUsage()
     {
         QFETCH(QString, complaint);
         QProcess program;
-        program.start(programFile(), QString::fromLatin1(QTest::currentDataTag()).split(QLatin1Char(' ')));
+        startFleet(program, QTest::currentDataTag());
         QVERIFY(program.waitForFinished());
         QTEST(program.exitCode(), "exitCode");
         const QString said = QString::fromUtf8(program.readAllStandardError());

@@ -6,18 +6,14 @@
 #include <orda_base/NavigationButton.h>
 #include <orda_base/Theme.h>
 
-#include <QApplication>
 #include <QComboBox>
 #include <QHelpEvent>
-#include <QJsonArray>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
-#include <QTranslator>
-#include <QtMath>
 
 #include <memory>
 #include <vector>
@@ -43,8 +39,8 @@ QStringList sentBy(const FamilyRow &family)
     const FormFixture f(1, knowsAll);
     f.tickAll();
     const QWidget *page = f.form->findChild<QWidget *>(family.pageName);
-    if (auto *name = page->findChild<QLineEdit *>(QStringLiteral("nameParam")))
-        name->setText(QStringLiteral("Gate 1")); // what stands there at first is a text of the language
+    if (auto *name = page->findChild<QLineEdit *>("nameParam"))
+        name->setText("Gate 1"); // what stands there at first is a text of the language
     const auto combos = page->findChildren<QComboBox *>();
     int choices = 1;
     for (const QComboBox *combo : combos)
@@ -71,7 +67,7 @@ public:
     QString translate(const char *, const char *source, const char *, int) const override
     {
         const QString text = QString::fromUtf8(source);
-        return text + QLatin1Char(' ') + QString(qCeil(text.size() * 0.4) - 1, QLatin1Char('n'));
+        return text + ' ' + QString(qCeil(text.size() * 0.4) - 1, 'n');
     }
 };
 
@@ -90,33 +86,32 @@ private slots:
         OrdaTest::cleanup();
     }
 
-    void wireIsTheSameInEveryLanguage_data() { addFamilies({QStringLiteral("de"), QStringLiteral("zh_CN")}); }
+    void wireIsTheSameInEveryLanguage_data() { addFamilies({"de", "zh_CN"}); }
 
     void wireIsTheSameInEveryLanguage()
     {
-        QFETCH(QString, name);
+        QFETCH(FamilyRow, family);
         QFETCH(QString, language);
-        const FamilyRow family = familyRow(name);
         const QStringList inEnglish = sentBy(family);
         QVERIFY(inEnglish.size() >= 2);
 
         install(language);
-        QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != QLatin1String("success"));
+        QVERIFY(QCoreApplication::translate("orda_batchCfg::ParamsCfgTask", "success") != "success");
         QCOMPARE(sentBy(family), inEnglish);
     }
 
     void fitsAFieldLaptop_data()
     {
-        QTest::addColumn<QString>("language");
+        columns<QString>({"language"});
         for (const char *language : {"en", "de", "zh_CN"})
-            QTest::newRow(language) << QString::fromLatin1(language);
+            row(language, language);
     }
 
     /// 1280 x 720, less a window's frame, menu and status bar.
     void fitsAFieldLaptop()
     {
         QFETCH(QString, language);
-        if (language != QLatin1String("en"))
+        if (language != "en")
             install(language);
         const FormFixture f(3, knowsAll);
         const QSize needed = f.form->minimumSizeHint();
@@ -124,12 +119,11 @@ private slots:
                  qPrintable(QStringLiteral("%1 x %2").arg(needed.width()).arg(needed.height())));
     }
 
-    void longerTextsAreNotCutOff_data() { addFamilies({}); }
+    void longerTextsAreNotCutOff_data() { addFamilies({"lengthened"}); }
 
     void longerTextsAreNotCutOff()
     {
-        QFETCH(QString, name);
-        const FamilyRow family = familyRow(name);
+        QFETCH(FamilyRow, family);
         Lengthened lengthened;
         QCoreApplication::installTranslator(&lengthened);
         const FormFixture f(3, knowsAll);
@@ -182,24 +176,18 @@ private slots:
 private:
     static void addFamilies(const QStringList &languages)
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("language");
-        for (const FamilyRow &family : familyTable()) {
-            if (family.navigationKey.isEmpty())
-                continue;
+        columns<FamilyRow, QString>({"family", "language"});
+        const QList<FamilyRow> families = offeredFamilies();
+        for (const FamilyRow &family : families)
             for (const QString &language : languages)
-                QTest::addRow("%s, %s", qPrintable(family.name), qPrintable(language)) << family.name << language;
-            if (languages.isEmpty())
-                QTest::addRow("%s", qPrintable(family.name)) << family.name << QString();
-        }
+                row(qPrintable(family.name + ", " + language), family, language);
     }
 
     void install(const QString &language)
     {
         for (const char *part : {"batchCfg", "clientlibs"}) {
             m_translators.push_back(std::make_unique<QTranslator>());
-            QVERIFY(
-                m_translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(QLatin1String(part), language)));
+            QVERIFY(m_translators.back()->load(QStringLiteral(":/translations/%1_%2").arg(part, language)));
             QCoreApplication::installTranslator(m_translators.back().get());
         }
     }

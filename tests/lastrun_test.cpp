@@ -1,5 +1,6 @@
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
+#include "support/Store.h"
 
 #include "client/ClientSession.h"
 #include "client/ClientWindow.h"
@@ -7,18 +8,13 @@
 #include "client/LastRunWindow.h"
 #include "fleet/EmbeddedFleet.h"
 
-#include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSignals.h>
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateTime>
 #include <QDialog>
-#include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,7 +22,6 @@
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QTableWidget>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -39,12 +34,12 @@ namespace {
 
 QString recordPath()
 {
-    return QDir::temp().filePath(findFamily(QStringLiteral("audio"))->recordFile);
+    return QDir::temp().filePath(findFamily("audio")->recordFile);
 }
 
 QString now()
 {
-    return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    return QDateTime::currentDateTime().toString("yyyy-MM-dd hh:mm:ss");
 }
 
 void append(const QString &text, QIODevice::OpenMode mode = QIODevice::Append)
@@ -65,7 +60,7 @@ QStringList column(const QAbstractItemModel *model, int number)
 template <typename Widget>
 Widget *child(const QWidget &window, const char *name)
 {
-    return window.findChild<Widget *>(QLatin1String(name));
+    return window.findChild<Widget *>(name);
 }
 
 QLineEdit *searchIn(const QWidget &window, const char *box)
@@ -73,10 +68,10 @@ QLineEdit *searchIn(const QWidget &window, const char *box)
     return child<QWidget>(window, box)->findChild<QLineEdit *>();
 }
 
-device_fleet::FleetOptions options(int devices)
+device_fleet::FleetOptions thirty()
 {
     device_fleet::FleetOptions options;
-    options.devices = devices;
+    options.devices = 30;
     return options;
 }
 
@@ -99,11 +94,12 @@ struct Client
 struct Site : Client
 {
     Site()
-        : fleet(options(30))
+        : fleet(thirty())
     {
+        child<QAbstractButton>(window, "audio_param")->click();
         fleet.start();
         devices = fleet.inventory();
-        devices[1].name = QStringLiteral("=1+\"1\";=2, north");
+        devices[1].name = "=1+\"1\";=2, north";
         orda_data::DevsMgrData::instance().updateDevs(devices);
         const auto areOnline = [this] {
             return itemOf(0) && itemOf(1) && itemOf(2) && itemOf(4) && itemOf(5) && itemOf(6);
@@ -111,17 +107,11 @@ struct Site : Client
         if (!QTest::qWaitFor(areOnline))
             qFatal("the devices did not come online");
         for (const int device : {1, 2, 4, 5})
-            fleet.setFault(devices.at(device).id, QStringLiteral("ai_get_param"), {Fault::ErrorCode, -1});
-        fleet.setFault(devices.at(6).id, QStringLiteral("*"), {Fault::Garbage});
+            fleet.setFault(devices.at(device).id, "ai_get_param", {Fault::ErrorCode, -1});
+        fleet.setFault(devices.at(6).id, "*", {Fault::Garbage});
     }
 
-    ~Site() // the next one waits for devices of its own
-    {
-        QStringList ids;
-        for (const vms_sdk::DevInfo &dev : qAsConst(devices))
-            ids.append(dev.id);
-        orda_data::DevsMgrData::instance().deleteDevs(ids);
-    }
+    ~Site() { clearStore(); } // the next one waits for devices of its own
     Q_DISABLE_COPY_MOVE(Site)
 
     QTableWidgetItem *itemOf(int device) const
@@ -146,10 +136,20 @@ struct Site : Client
         return texts;
     }
     QAbstractButton *again() const { return child<QAbstractButton>(lastRun(), "tickFailedAgain"); }
+    void press(const char *button) const
+    {
+        child<QAbstractButton>(*child<QWidget>(window, "audioParametersPage"), button)->click();
+    }
+    void report() const { press("reportBt"); }
+    bool isLastRunOpen() const { return window.findChild<LastRunWindow *>(); }
+    void closeLastRun() const
+    {
+        window.findChild<LastRunWindow *>()->close();
+        QTRY_VERIFY(!isLastRunOpen());
+    }
     void configure() const
     {
-        child<QAbstractButton>(window, "audio_param")->click();
-        child<QAbstractButton>(*child<QWidget>(window, "audioParametersPage"), "okBt")->click();
+        press("okBt");
         child<QDialog>(window, "eventConfirmDialog")->reject();
     }
     void tickAllAndConfigure() const
@@ -179,26 +179,26 @@ private slots:
 
     void recordOfDoubtfulOriginIsNotRead_data()
     {
-        QTest::addColumn<QString>("said");
+        columns<QString>({"said"});
         for (const char *what :
              {"symbolic link", "not a regular file", "more than one name", "too large", "another user"})
-            QTest::newRow(what) << QString::fromLatin1(what);
+            row(what, what);
     }
 
     void recordOfDoubtfulOriginIsNotRead()
     {
         QFETCH(QString, said);
-        const QString elsewhere = recordPath() + QStringLiteral(".elsewhere");
+        const QString elsewhere = recordPath() + ".elsewhere";
         append(entry("A", "10.0.0.1", "no", "Cam"));
         QFile::remove(elsewhere);
         const QByteArray path = QFile::encodeName(recordPath());
-        if (said == QLatin1String("not a regular file"))
+        if (said == "not a regular file")
             QVERIFY(QFile::remove(recordPath()) && ::mkfifo(path.constData(), 0600) == 0);
-        else if (said == QLatin1String("symbolic link"))
+        else if (said == "symbolic link")
             QVERIFY(QFile::rename(recordPath(), elsewhere) && QFile::link(elsewhere, recordPath()));
-        else if (said == QLatin1String("too large"))
+        else if (said == "too large")
             QVERIFY(QFile::resize(recordPath(), qint64(1) << 32));
-        else if (said == QLatin1String("another user")) {
+        else if (said == "another user") {
             if (::geteuid() != 0)
                 QSKIP("only root can give a file away");
             QVERIFY(::chown(path.constData(), 65534, 65534) == 0);
@@ -215,14 +215,14 @@ private slots:
         append(entry("3", "10.0.0.9", "success", "cam 10") + entry("1", "", "no", "cam 3")
                + entry("2", "10.0.0.10", "success", "Cam 2") + entry("4", "gate.site", "success", "Gate"));
         const Client client;
-        const auto order = [&client] { return column(client.shown(), 2).join(QLatin1Char(' ')); };
+        const auto order = [&client] { return column(client.shown(), 2).join(' '); };
         const auto sorted = [&](int by) {
             child<QTableView>(client.lastRun(), "record")->sortByColumn(by, Qt::AscendingOrder);
             return order();
         };
-        QCOMPARE(order(), QStringLiteral("1 2 3 4")); // failures first
-        QCOMPARE(sorted(1), QStringLiteral("2 1 3 4"));
-        QCOMPARE(sorted(3), QStringLiteral("3 2 4 1"));
+        QCOMPARE(order(), "1 2 3 4"); // failures first
+        QCOMPARE(sorted(1), "2 1 3 4");
+        QCOMPARE(sorted(3), "3 2 4 1");
     }
 
     void failuresAreGroupedFoundAndExported()
@@ -230,15 +230,14 @@ private slots:
         const Site site;
         const LastRunWindow &window = site.lastRun();
         QVERIFY(!site.again()->isEnabled());
-        QVERIFY(child<QLabel>(window, "empty")->text().startsWith(QLatin1String("No run yet")));
+        QVERIFY(child<QLabel>(window, "empty")->text().startsWith("No run yet"));
         site.tickAllAndConfigure();
         const auto *shown = site.shown();
         QCOMPARE(shown->rowCount(), site.ticked().size());
 
         auto *groups = child<QTableWidget>(window, "groups");
         QCOMPARE(column(groups->model(), 0).mid(1),
-                 QStringList({QStringLiteral("Failed to get audio in parameters(-1)"),
-                              QStringLiteral("Failed to parse json data")}));
+                 QStringList({"Failed to get audio in parameters(-1)", "Failed to parse json data"}));
         groups->selectRow(1);
         QStringList grouped = column(shown, 2);
         grouped.sort();
@@ -246,14 +245,13 @@ private slots:
         groups->selectRow(0);
         child<QComboBox>(window, "outcomes")->setCurrentIndex(1);
         QCOMPARE(shown->rowCount(), 5);
-        searchIn(window, "recordSearch")->setText(QStringLiteral("=1+"));
+        searchIn(window, "recordSearch")->setText("=1+");
         child<QAbstractButton>(window, "exportCsv")->click();
-        const QString exported = QDir::temp().filePath(QStringLiteral("failed.csv"));
+        const QString exported = QDir::temp().filePath("failed.csv");
         emit window.findChild<QFileDialog *>()->fileSelected(exported);
         QFile file(exported);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString row =
-            column(shown, 4).constFirst() + QStringLiteral(",Failed to get audio in parameters(-1)\r\n");
+        const QString row = column(shown, 4).constFirst() + ",Failed to get audio in parameters(-1)\r\n";
         QCOMPARE(file.readAll(), QStringLiteral("\uFEFFOutcome,Name,Serial number,IP address,Time,Message\r\n"
                                                 "Failed,\"'=1+\"\"1\"\";'=2, north\",%1,%2,%3")
                                      .arg(site.devices.at(1).serialNumber, site.devices.at(1).ip, row)
@@ -271,8 +269,7 @@ private slots:
         append(entry("", "10.0.0.1", "no", "nameless", now()));
         QTRY_COMPARE(groups->rowCount(), 4);
         append(entry("unknown", "10.0.0.1", "no", "stranger", now())
-               + entry(qPrintable(site.devices.at(2).serialNumber), "10.0.0.1", "success", "twin", now())
-               + QStringLiteral("2026-"));
+               + entry(qPrintable(site.devices.at(2).serialNumber), "10.0.0.1", "success", "twin", now()) + "2026-");
         QTRY_COMPARE(groups->rowCount(), 5);
         site.itemOf(0)->setText(site.devices.at(6).serialNumber);
         site.fleet.setOnline(site.devices.at(4).id, false);
@@ -281,14 +278,14 @@ private slots:
         site.again()->click();
         QCOMPARE(site.ticked(), site.serialNumbers({1, 5}));
         QCOMPARE(searchIn(site.window, "searchBox")->text(), QString());
-        QVERIFY(child<QLabel>(window, "tickReport")->text().startsWith(QLatin1String("Ticked 2 of 8")));
-        QStringList left = child<QPlainTextEdit>(window, "tickReportList")->toPlainText().split(QLatin1Char('\n'));
+        QVERIFY(child<QLabel>(window, "tickReport")->text().startsWith("Ticked 2 of 8"));
+        QStringList left = child<QPlainTextEdit>(window, "tickReportList")->toPlainText().split('\n');
         QCOMPARE(left.size(), 6);
-        QCOMPARE(left.filter(QStringLiteral("not in the list")).size(), 2);
-        QCOMPARE(left.filter(QStringLiteral("several devices of the run")).size(), 1);
-        QCOMPARE(left.filter(QStringLiteral("several devices in the list")).size(), 1);
-        QCOMPARE(left.filter(QStringLiteral("nameless: it has no serial number")).size(), 1);
-        QCOMPARE(left.filter(QStringLiteral("2026-: its entry in the record cannot be read")).size(), 1);
+        QCOMPARE(left.filter("not in the list").size(), 2);
+        QCOMPARE(left.filter("several devices of the run").size(), 1);
+        QCOMPARE(left.filter("several devices in the list").size(), 1);
+        QCOMPARE(left.filter("nameless: it has no serial number").size(), 1);
+        QCOMPARE(left.filter("2026-: its entry in the record cannot be read").size(), 1);
     }
 
     void failedDevicesAreConfiguredAtTheSecondTry()
@@ -311,72 +308,57 @@ private slots:
         site.configure();
         disconnect(midRun);
         QCOMPARE(changed, site.serialNumbers({2, 4, 5, 6})); // the list is left alone
-        QCOMPARE(column(site.shown(), 5), QStringList(QVector<QString>(5, QStringLiteral("success")).toList()));
+        QCOMPARE(column(site.shown(), 5), QStringList(QVector<QString>(5, "success").toList()));
         QVERIFY(!site.again()->isEnabled());
     }
 
-    void runThatLostItsRecordIsShownAsSuch()
+    void reportWithoutAViewerOpensTheWindow()
     {
-        const QTemporaryDir programs; // an opener that finds no viewer
-        const QString seen = programs.filePath(QStringLiteral("seen"));
-        QFile opener(programs.filePath(QStringLiteral("xdg-open")));
+        const QTemporaryDir programs; // an opener that finds none
+        QFile opener(programs.filePath("xdg-open")), seen(programs.filePath("seen"));
         QVERIFY(opener.open(QIODevice::WriteOnly));
         opener.write("#!/bin/sh\necho \"$1\" >\"${0%/*}/seen\"\nexit 3\n");
         opener.close();
         opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        Site site;
+        // A time of this very run, so that nothing but the writer's word tells that this is no entry.
+        site.devices[6].name = QString("X\n\n%1    SN    10.0.0.1            success                Y").arg(now());
+        orda_data::DevsMgrData::instance().updateDevs(site.devices);
+        site.tickAllAndConfigure();
+        site.closeLastRun();
         const QByteArray path = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(programs.path()));
-
-        EmbeddedFleet fleet(options(2));
-        QCOMPARE(fleet.start(), QString());
-        QList<vms_sdk::DevInfo> devices = fleet.inventory();
-        // Times as of this very run, so that nothing but the writer's word tells that these are no entries.
-        devices[0].name = QStringLiteral("X\n\n%1    SN    10.0.0.1            success                Y").arg(now());
-        fleet.setFault(devices.at(0).id, QStringLiteral("*"), {Fault::Garbage});
-        ClientSession session;
-        ClientWindow window(&session);
-        window.show();
-        orda_data::DevsMgrData::instance().updateDevs(devices);
-        auto *list = child<QTableWidget>(window, "devsTableWt");
-        QTRY_COMPARE(list->rowCount(), 2);
-        child<QAbstractButton>(window, "audio_param")->click();
-        child<QCheckBox>(window, "selAll")->click();
-        auto *page = child<QWidget>(window, "audioParametersPage");
-        const auto lastRun = [&window] { return window.findChild<LastRunWindow *>(); };
-        const auto report = [&] { child<QAbstractButton>(*page, "reportBt")->click(); };
-
-        child<QAbstractButton>(*page, "okBt")->click();
-        child<QDialog>(window, "eventConfirmDialog")->reject();
-        report();
-        QTRY_VERIFY(lastRun());
+        site.report();
+        QTRY_VERIFY(site.isLastRunOpen());
         qputenv("PATH", path);
-        QFile file(seen);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QFile::encodeName(recordPath()) + '\n');
-        auto *record = child<QTableView>(*lastRun(), "record");
-        QStringList outcomes = column(record->model(), 0);
-        outcomes.sort();
-        QVERIFY2(outcomes.size() == 2 && outcomes.filter(QStringLiteral("Succeeded")).size() == 1,
-                 qPrintable(outcomes.join(QLatin1Char(' '))));
+        QVERIFY(seen.open(QIODevice::ReadOnly));
+        QCOMPARE(seen.readAll(), QFile::encodeName(recordPath()) + '\n');
+        QCOMPARE(column(site.shown(), 0).filter("Failed").size(), 4);
+        QCOMPARE(column(site.shown(), 0).filter("Unreadable").size(), 1);
+        QVERIFY(!column(site.shown(), 2).contains("SN"));
+    }
 
-        // A run that cannot write: what another has put there is not shown, and Report opens the window.
-        QVERIFY(QFile::rename(recordPath(), recordPath() + QStringLiteral(".elsewhere"))
-                && QFile::link(recordPath() + QStringLiteral(".elsewhere"), recordPath()));
-        lastRun()->close();
-        QTRY_VERIFY(!lastRun());
-        expectWarning(QStringLiteral("it is a symbolic link"));
-        child<QAbstractButton>(*page, "okBt")->click();
-        auto *summary = child<QMessageBox>(window, "eventConfirmDialog");
-        QVERIFY(
-            summary->informativeText().contains(QLatin1String("success:1, failure:1\nThe last run left no record")));
+    /// What another has put there is not shown, and Report opens the window.
+    void runThatLostItsRecordIsShownAsSuch()
+    {
+        append("elsewhere");
+        QVERIFY(QFile::rename(recordPath(), recordPath() + ".elsewhere")
+                && QFile::link(recordPath() + ".elsewhere", recordPath()));
+        const Site site;
+        site.closeLastRun();
+        child<QCheckBox>(site.window, "selAll")->click();
+        expectWarning("it is a symbolic link");
+        site.press("okBt");
+        auto *summary = child<QMessageBox>(site.window, "eventConfirmDialog");
+        QVERIFY(summary->informativeText().contains("failure:5\nThe last run left no record"));
         const auto labels = summary->findChildren<QLabel *>();
         for (const QLabel *label : labels) // the dialog has grown
             QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));
         summary->reject();
-        report();
-        QVERIFY(lastRun());
-        QCOMPARE(child<QTableView>(*lastRun(), "record")->model()->rowCount(), 0);
-        QVERIFY(child<QLabel>(*lastRun(), "empty")->text().contains(QLatin1String("it is a symbolic link")));
+        site.report();
+        QVERIFY(site.isLastRunOpen());
+        QCOMPARE(site.shown()->rowCount(), 0);
+        QVERIFY(child<QLabel>(site.lastRun(), "empty")->text().contains("it is a symbolic link"));
     }
 };
 

@@ -3,9 +3,6 @@
 
 #include "client/RunRecord.h"
 
-#include <QApplication>
-#include <QRandomGenerator>
-
 using namespace orda_client;
 
 /// What a record's text is taken for.
@@ -16,17 +13,13 @@ class RunRecordTest : public OrdaTest
 private slots:
     void recordIsReadWhateverItsTextsHold_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("expected"); // outcome and fields
-        const auto row = [](const char *what, const QString &text, const QStringList &expected) {
-            QTest::newRow(what) << text << expected;
-        };
+        columns<QString, QStringList>({"text", "expected"}); // outcome and fields
         const QString next = entry("B", "10.0.0.2", "success", "next");
-        const QString nextFields = QStringLiteral("2|B|10.0.0.2|success|next");
+        const QString nextFields = "2|B|10.0.0.2|success|next";
         const auto whole = [&](const char *what, const char *sn, const char *ip, const char *message,
                                const char *name) {
             const QString fields = QString::fromUtf8(QByteArrayList{"0", sn, ip, message, name}.join('|'));
-            row(what, entry(sn, ip, message, name) + next, {fields, nextFields});
+            row(what, entry(sn, ip, message, name) + next, QStringList{fields, nextFields});
         };
         whole("address", "SN 1", "10.20.30.40", "Failed to get audio parameters(-1)", "Cam 1");
         whole("widest address", "A", "255.255.255.255", "no", "Cam");
@@ -45,16 +38,17 @@ private slots:
         whole("gaps around the name", "A", "10.0.0.1", "no", "    Cam                    2  ");
         whole("lines in name and result", "A", "10.0.0.1", "no\nanswer", "Cam\n\n2026\n\nHall\n");
 
-        const QString noSuchDay = QString(next).replace(QLatin1String("03-04"), QLatin1String("13-44"));
+        const QString noSuchDay = QString(next).replace("03-04", "13-44");
         const auto unreadable = [](const QString &text) { return QStringLiteral("1|||%1|").arg(text.trimmed()); };
-        row("nothing", {}, {});
-        row("foreign text", QStringLiteral("hello\n\n") + next, {unreadable(QStringLiteral("hello")), nextFields});
-        row("no such day", noSuchDay + next, {unreadable(noSuchDay), nextFields});
-        row("cut off in the result", next + next.left(50), {nextFields, unreadable(next.left(50))});
-        row("cut off in the time", next + next.left(5), {nextFields, unreadable(next.left(5))});
-        const QString old = QString(next).replace(QLatin1String("2026"), QLatin1String("2001"));
-        row("time goes back", next + old + next + next, {unreadable(next), unreadable(old), nextFields, nextFields});
-        row("cut off, and another behind it", next.chopped(4) + next, {unreadable(next.chopped(4) + next)});
+        row("nothing", "", QStringList());
+        row("foreign text", "hello\n\n" + next, QStringList{unreadable("hello"), nextFields});
+        row("no such day", noSuchDay + next, QStringList{unreadable(noSuchDay), nextFields});
+        row("cut off in the result", next + next.left(50), QStringList{nextFields, unreadable(next.left(50))});
+        row("cut off in the time", next + next.left(5), QStringList{nextFields, unreadable(next.left(5))});
+        const QString old = QString(next).replace("2026", "2001");
+        row("time goes back", next + old + next + next,
+            QStringList{unreadable(next), unreadable(old), nextFields, nextFields});
+        row("cut off, and another behind it", next.chopped(4) + next, QStringList{unreadable(next.chopped(4) + next)});
     }
 
     void recordIsReadWhateverItsTextsHold()
@@ -62,40 +56,35 @@ private slots:
         QFETCH(QString, text);
         QFETCH(QStringList, expected);
         QStringList read;
-        const QVector<RunEntry> entries = parseRunRecord(text, {QStringLiteral("success")});
+        const QVector<RunEntry> entries = parseRunRecord(text, {"success"});
         for (const RunEntry &entry : entries) {
             const QStringList fields{entry.serialNumber, entry.ip, entry.message, entry.name};
-            read.append(QStringLiteral("%1|%2").arg(QString::number(entry.outcome), fields.join(QLatin1Char('|'))));
+            read.append(QStringLiteral("%1|%2").arg(QString::number(entry.outcome), fields.join('|')));
         }
         QCOMPARE(read, expected);
     }
 
-    void fieldsDoNotTurnAFailureIntoASuccess_data()
-    {
-        QTest::addColumn<int>("seed");
-        for (int seed = 0; seed < 60; ++seed)
-            QTest::addRow("%d", seed) << seed;
-    }
+    void fieldsDoNotTurnAFailureIntoASuccess_data() { seeds(60); }
 
     void fieldsDoNotTurnAFailureIntoASuccess()
     {
         QFETCH(int, seed);
-        QRandomGenerator random(quint32(seed) + 1);
-        const QString gap = QStringLiteral("    ");
-        const QString success = QStringLiteral("10.0.0.1            success");
-        const QString whole = QStringLiteral("A    ") + success + QStringLiteral("                B");
-        const auto next = [](const char *time) { return QStringLiteral("\n\n%1    ").arg(QLatin1String(time)); };
-        const QStringList parts{QStringLiteral("A"),
-                                QStringLiteral("10.0.0.1"),
-                                QStringLiteral("gate"),
-                                QStringLiteral(" "),
+        QRandomGenerator random{quint32(seed)};
+        const QString gap = "    ";
+        const QString success = "10.0.0.1            success";
+        const QString whole = "A    " + success + "                B";
+        const auto next = [](const char *time) { return QStringLiteral("\n\n%1    ").arg(time); };
+        const QStringList parts{"A",
+                                "10.0.0.1",
+                                "gate",
+                                " ",
                                 gap,
                                 gap + gap + gap,
                                 gap + gap + gap + gap,
-                                QStringLiteral("success"),
+                                "success",
                                 success,
                                 whole,
-                                QStringLiteral("\n\n"),
+                                "\n\n",
                                 next("2001-02-03 04:05:06"),
                                 next("2001-13-44 04:05:06"),
                                 next("2099-02-03 04:05:06")};
@@ -105,7 +94,7 @@ private slots:
                 text += parts.at(random.bounded(parts.size()));
             return text.toUtf8();
         };
-        const QStringList successTexts{QStringLiteral("success")};
+        const QStringList successTexts{"success"};
         for (int i = 0; i < 300; ++i) {
             QByteArray message = random.bounded(2) ? QByteArray("no") : field();
             if (message.trimmed() == "success")
@@ -116,10 +105,9 @@ private slots:
             QCOMPARE(read.size(), 2);
             QVERIFY2(read.at(0).outcome != RunEntry::Succeeded && read.at(1).outcome == RunEntry::Succeeded,
                      qPrintable(own));
-            const auto guessed = parseRunRecord(text, successTexts, QStringLiteral("2026-03-05 00:00:00"));
+            const auto guessed = parseRunRecord(text, successTexts, "2026-03-05 00:00:00");
             for (const RunEntry &entry : guessed)
-                QVERIFY2(entry.outcome != RunEntry::Succeeded || entry.serialNumber == QLatin1String("B"),
-                         qPrintable(own));
+                QVERIFY2(entry.outcome != RunEntry::Succeeded || entry.serialNumber == "B", qPrintable(own));
         }
     }
 

@@ -1,17 +1,7 @@
 #include "support/OrdaTest.h"
 #include "support/SiteClient.h"
 
-#include "fleet/EmbeddedFleet.h"
-
 #include <vms_client_sdk/ClientSignals.h>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QCheckBox>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QRandomGenerator>
-#include <QTimer>
 
 using namespace std::chrono_literals;
 using namespace device_fleet;
@@ -32,7 +22,7 @@ FaultPlan randomFaults(const FamilyRow &family, QRandomGenerator &random)
         rule.delay = std::chrono::milliseconds(random.bounded(1, 800));
         rule.returnWith = ReturnWith(random.bounded(int(ReturnWith::MissingMember) + 1));
         if (random.bounded(2) == 0)
-            plan.set(QStringLiteral("dev-%1").arg(i, 4, 10, QLatin1Char('0')), method, rule);
+            plan.set(QString::asprintf("dev-%04d", i), method, rule);
     }
     return plan;
 }
@@ -48,8 +38,7 @@ class StormTest : public OrdaTest
 private slots:
     void everyDeviceIsReportedOnce_data()
     {
-        QTest::addColumn<FamilyRow>("family");
-        QTest::addColumn<int>("seed");
+        columns<FamilyRow, int>({"family", "seed"});
         const int seeds = qMax(1, qEnvironmentVariableIntValue("ORDA_STORM_SEEDS"));
         const QList<FamilyRow> families = stormedFamilies();
         for (const FamilyRow &family : families)
@@ -59,33 +48,28 @@ private slots:
 
     void everyDeviceIsReportedOnce()
     {
-        allowWarnings(QStringLiteral("message over 1024 KiB")); // the fault of the huge answer
+        allowWarnings("message over 1024 KiB"); // the fault of the huge answer
         QFETCH(FamilyRow, family);
         QFETCH(int, seed);
         QRandomGenerator random{quint32(seed)};
-        FleetOptions options;
-        options.devices = devices;
-        options.seed = quint32(seed);
-        EmbeddedFleet fleet(options, randomFaults(family, random));
-        QCOMPARE(fleet.start(), QString());
-        const SiteClient client(fleet.inventory(), waitingTime);
+        FleetSite site(devices, waitingTime, randomFaults(family, random), quint32(seed));
+        const SiteClient &client = site.client;
         QTRY_VERIFY(client.table()->rowCount() >= 240);
-
-        client.form.findChild<QCheckBox *>(QStringLiteral("selAll"))->click();
+        client.tickAll();
         const QStringList ticked = client.form.checkedDevIds();
         QTimer leaving;
         QStringList away;
         connect(&leaving, &QTimer::timeout, this, [&] {
             if (away.size() > 10)
-                fleet.setOnline(away.takeFirst(), true);
+                site.fleet.setOnline(away.takeFirst(), true);
             away.append(ticked.at(random.bounded(ticked.size())));
-            fleet.setOnline(away.constLast(), false);
+            site.fleet.setOnline(away.constLast(), false);
         });
         leaving.start(7ms);
         QTimer::singleShot(1s, &leaving, [&] { // then it calms down
             leaving.stop();
             for (const QString &id : qAsConst(away))
-                fleet.setOnline(id, true);
+                site.fleet.setOnline(id, true);
         });
         QElapsedTimer sinceSignOfLife;
         const auto connection = connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes,
@@ -102,10 +86,7 @@ private slots:
         QCOMPARE(text.count("\n\n"), ticked.size());
         const int successes = text.count(" success ");
         QCOMPARE(recordedMessages(family).size(), ticked.size()); // each by its own serial number
-        QCOMPARE(summary, QStringLiteral("A total of %1 devices have been configured, success:%2, failure:%3")
-                              .arg(ticked.size())
-                              .arg(successes)
-                              .arg(ticked.size() - successes));
+        QCOMPARE(summary, summaryOf(successes, ticked.size() - successes));
     }
 };
 

@@ -1,8 +1,8 @@
 #include "support/FormFixture.h"
 
 #include "support/OrdaTest.h"
+#include "support/Store.h"
 
-#include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSdk.h>
 
 #include <QTest>
@@ -15,12 +15,10 @@ FormFixture::FormFixture(int devices, const ScriptedTransport::Script &script, s
     vms_sdk::ClientSdk::instance().setRequestTimeout(waitingTime);
 
     auto &store = orda_data::DevsMgrData::instance();
-    QList<vms_sdk::DevInfo> devs;
-    for (int i = 0; i < devices; ++i)
-        devs.append(device(i));
-    store.updateDevs(devs);
-    for (const vms_sdk::DevInfo &dev : qAsConst(devs))
-        store.setDevStatus(dev.id, vms_sdk::DevOnline);
+    for (int i = 0; i < devices; ++i) {
+        store.updateDevs({device(i)});
+        store.setDevStatus(device(i).id, vms_sdk::DevOnline);
+    }
     form = new orda_batchCfg::BatchCfgForm;
     form->show();
 }
@@ -29,12 +27,7 @@ FormFixture::~FormFixture()
 {
     delete form;
     dismissDialogs();
-    auto &store = orda_data::DevsMgrData::instance();
-    QStringList ids;
-    const QList<vms_sdk::DevInfo> devs = store.getAllDevs(false);
-    for (const vms_sdk::DevInfo &dev : devs)
-        ids.append(dev.id);
-    store.deleteDevs(ids);
+    clearStore();
     vms_sdk::ClientSdk::instance().setTransport(nullptr);
 }
 

@@ -1,6 +1,5 @@
 #include "support/OrdaTest.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QMutex>
 #include <algorithm>
@@ -17,11 +16,7 @@ struct Warnings
     QStringList expected, allowed, unexpected;
 };
 
-Warnings &warnings()
-{
-    static Warnings instance;
-    return instance;
-}
+Q_GLOBAL_STATIC(Warnings, warnings)
 
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
@@ -31,21 +26,29 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         const auto matches = [&text](const QString &pattern) {
             return QRegularExpression(pattern).match(text).hasMatch();
         };
-        QStringList &expected = warnings().expected;
+        QStringList &expected = warnings->expected;
         const auto found = std::find_if(expected.begin(), expected.end(), matches);
         if (found != expected.end()) {
             expected.erase(found);
             return;
         }
-        const QStringList &allowed = warnings().allowed;
+        const QStringList &allowed = warnings->allowed;
         if (std::any_of(allowed.begin(), allowed.end(), matches))
             return;
-        warnings().unexpected.append(text);
+        warnings->unexpected.append(text);
     }
     previousHandler(type, context, text);
 }
 
 } // namespace
+
+QString summaryOf(int successes, int failures)
+{
+    return QStringLiteral("A total of %1 devices have been configured, success:%2, failure:%3")
+        .arg(successes + failures)
+        .arg(successes)
+        .arg(failures);
+}
 
 void dismissDialogs()
 {
@@ -58,19 +61,19 @@ void dismissDialogs()
 void OrdaTest::expectWarning(const QString &pattern)
 {
     const std::lock_guard lock(mutex);
-    warnings().expected.append(pattern);
+    warnings->expected.append(pattern);
 }
 
 void OrdaTest::allowWarnings(const QString &pattern)
 {
     const std::lock_guard lock(mutex);
-    warnings().allowed.append(pattern);
+    warnings->allowed.append(pattern);
 }
 
 void OrdaTest::init()
 {
     const std::lock_guard lock(mutex);
-    warnings() = {};
+    *warnings() = {};
     previousHandler = qInstallMessageHandler(handleMessage);
 }
 
@@ -78,7 +81,7 @@ void OrdaTest::cleanup()
 {
     qInstallMessageHandler(previousHandler);
     const std::lock_guard lock(mutex);
-    QVERIFY2(warnings().unexpected.isEmpty(), qPrintable(warnings().unexpected.join(QLatin1Char('\n'))));
-    QVERIFY2(warnings().expected.isEmpty(),
-             qPrintable(QStringLiteral("missing: ") + warnings().expected.join(QLatin1Char('\n'))));
+    QVERIFY2(warnings->unexpected.isEmpty(), qPrintable(warnings->unexpected.join(QLatin1Char('\n'))));
+    QVERIFY2(warnings->expected.isEmpty(),
+             qPrintable(QStringLiteral("missing: ") + warnings->expected.join(QLatin1Char('\n'))));
 }

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QObject>
-#include <QRegularExpression>
-#include <QStringList>
-#include <QTest>
+#include <QApplication>
+#include <QtTest>
 
 /// Base of every test class: a warning of ours (category "orda.*") that the test has not announced fails the test
 /// function. A class with an init() or cleanup() of its own calls these.
@@ -21,6 +19,32 @@ protected slots:
     void init();
     void cleanup();
 };
+
+/// The columns of a test function's data.
+template <typename... Types>
+void columns(std::initializer_list<const char *> names)
+{
+    const auto *name = names.begin();
+    (QTest::addColumn<Types>(*name++), ...);
+}
+
+/// A row of a test function's data; a literal is a QString.
+template <typename... Values>
+void row(const char *name, const Values &...values)
+{
+    (QTest::newRow(name) << ... << values);
+}
+
+/// Rows for a random test: each runs with a seed of its own.
+inline void seeds(int count)
+{
+    columns<int>({"seed"});
+    for (int seed = 1; seed <= count; ++seed)
+        row(qPrintable(QStringLiteral("seed %1").arg(seed)), seed);
+}
+
+/// What a run tells in the end.
+QString summaryOf(int successes, int failures);
 
 /// Rejects every dialog that is open.
 void dismissDialogs();

@@ -1,8 +1,8 @@
 #include "support/SiteClient.h"
 
 #include "support/OrdaTest.h"
+#include "support/Store.h"
 
-#include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/WebSocketTransport.h>
@@ -10,8 +10,33 @@
 #include <QAbstractButton>
 #include <QSignalSpy>
 
-using orda_data::DevsMgrData;
 using orda_worker::AssistantSignals;
+
+namespace {
+
+device_fleet::FleetOptions optionsOf(int devices, quint32 seed)
+{
+    device_fleet::FleetOptions options;
+    options.devices = devices;
+    options.seed = seed;
+    return options;
+}
+
+QList<vms_sdk::DevInfo> started(device_fleet::EmbeddedFleet &fleet)
+{
+    if (const QString error = fleet.start(); !error.isEmpty())
+        qFatal("%s", qPrintable(error));
+    return fleet.inventory();
+}
+
+} // namespace
+
+FleetSite::FleetSite(int devices, std::chrono::milliseconds waitingTime, const device_fleet::FaultPlan &faults,
+                     quint32 seed)
+    : fleet(optionsOf(devices, seed), faults)
+    , client(started(fleet), waitingTime)
+{
+}
 
 SiteClient::SiteClient(const QList<vms_sdk::DevInfo> &devices, std::chrono::milliseconds waitingTime)
 {
@@ -19,7 +44,7 @@ SiteClient::SiteClient(const QList<vms_sdk::DevInfo> &devices, std::chrono::mill
     auto *raw = transport.get();
     vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
     vms_sdk::ClientSdk::instance().setRequestTimeout(waitingTime);
-    DevsMgrData::instance().updateDevs(devices);
+    orda_data::DevsMgrData::instance().updateDevs(devices);
     raw->setDevices(devices);
     form.show();
 }
@@ -28,11 +53,7 @@ SiteClient::~SiteClient()
 {
     dismissDialogs();
     vms_sdk::ClientSdk::instance().setTransport(nullptr);
-    QStringList ids;
-    const QList<vms_sdk::DevInfo> devices = DevsMgrData::instance().getAllDevs(false);
-    for (const vms_sdk::DevInfo &dev : devices)
-        ids.append(dev.id);
-    DevsMgrData::instance().deleteDevs(ids);
+    clearStore();
 }
 
 QString SiteClient::configure(const FamilyRow &family) const
