@@ -187,6 +187,8 @@ private slots:
         press(Qt::Key_Escape);
         QCOMPARE(f.column(0).size(), 12);
         QCOMPARE(f.form->checkedDevIds().size(), 3);
+        f.table()->setFocus(); // what is selected stays so
+        QCOMPARE(f.table()->selectionModel()->selectedRows().size(), 12);
         f.table()->setCurrentCell(1, 0);
         f.table()->setFocus();
         press(Qt::Key_Space); // once, where Qt ticks by itself too

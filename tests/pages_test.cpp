@@ -301,6 +301,7 @@ private slots:
         const auto box = [&page](const char *name) { return page.findChild<QCheckBox *>(name); };
         auto *layout = page.findChild<QLayout *>("smartEncodingPanelLayout");
         layout->setSpacing(40); // out of line, as with captions of another width
+        QTRY_VERIFY(!isInLine("encodingFormat"));
         for (int i = 0; i < 25; ++i) // faster than the reports come
             box("encodingFormat")->click();
         QTRY_VERIFY(isInLine("resolution"));
