@@ -1,7 +1,8 @@
 #include "Benchmarks.h"
 #include "support/FormFixture.h"
 
-#include <PauseMeter.h>
+#include "client/PauseMeter.h"
+
 #include <orda_base/IpTableItem.h>
 #include <orda_base/NameTableItem.h>
 #include <orda_data/DataSignals.h>
@@ -247,7 +248,7 @@ void listComesAndGoes(benchmark::State &state, const QString &keyword)
     };
     double comeMs = 0;
     double goMs = 0;
-    PauseMeter meter;
+    orda_client::PauseMeter meter;
     f.searchEdit()->setText(keyword);
     meter.start();
     while (state.KeepRunning()) {

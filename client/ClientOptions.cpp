@@ -1,10 +1,12 @@
-#include "ClientOptions.h"
+#include "client/ClientOptions.h"
 
-#include "Families.h"
+#include "client/Families.h"
+#include "programs/CommandLine.h"
 
-#include <CommandLine.h>
 #include <QCoreApplication>
 #include <QDir>
+
+namespace orda_client {
 
 namespace {
 
@@ -23,100 +25,108 @@ QStringList idsIn(const QString &list)
     return ids;
 }
 
-// 127.0.0.0/8 has room for more, the process's descriptors have not.
+// There are more addresses in 127.0.0.0/8, but not more open files for one process.
 constexpr int maxDemoDevices = 100000;
+
+QCommandLineOption option(const char *name, const QString &description, const char *value)
+{
+    return {QLatin1String(name), description, QLatin1String(value)};
+}
+
+struct KnownOptions
+{
+    QCommandLineOption demo = option("demo", ClientOptions::tr("Bring N simulated devices along."), "N");
+    QCommandLineOption inventory =
+        option("inventory", ClientOptions::tr("Connect to the devices of this inventory file."), "FILE");
+    QCommandLineOption faults =
+        option("faults", ClientOptions::tr("Faults of the simulated devices (with --demo)."), "FILE");
+    QCommandLineOption language = option(
+        "language", ClientOptions::tr("Language of the window, such as \"en\"; the system's when not given."), "CODE");
+    QCommandLineOption theme =
+        option("theme", ClientOptions::tr(R"("light" or "dark"; as the desktop is when not given.)"), "NAME");
+    QCommandLineOption run = option(
+        "run",
+        ClientOptions::tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
+        "FAMILY");
+    QCommandLineOption devices = option(
+        "devices", ClientOptions::tr("Devices to configure with --run: \"all\" (default) or ids with commas."), "IDS");
+    QCommandLineOption screenshots =
+        option("screenshots",
+               ClientOptions::tr("Save pictures of the pages, the run and its summary here (with --run)."), "DIR");
+};
+
+bool namesAllDevices(const QCommandLineParser &parser, const KnownOptions &known)
+{
+    return !parser.isSet(known.devices) || parser.value(known.devices) == QLatin1String("all");
+}
+
+/// What is wrong with the values or with their combination; empty when nothing is.
+QString mistakeIn(const ClientOptions &options, const QCommandLineParser &parser, const KnownOptions &known)
+{
+    const auto isSet = [&parser](const QCommandLineOption &option) { return parser.isSet(option); };
+    if (!parser.positionalArguments().isEmpty())
+        return ClientOptions::tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst());
+    if (isSet(known.demo) && (options.demoDevices < 1 || options.demoDevices > maxDemoDevices)) {
+        return ClientOptions::tr("--demo takes a number of devices from 1 to %1, not \"%2\"")
+            .arg(QString::number(maxDemoDevices), parser.value(known.demo));
+    }
+    if (isSet(known.inventory) && options.inventoryFile.isEmpty())
+        return ClientOptions::tr("--inventory takes a file");
+    if (isSet(known.demo) && isSet(known.inventory))
+        return ClientOptions::tr("--demo and --inventory exclude each other");
+    if (isSet(known.faults) && !isSet(known.demo))
+        return ClientOptions::tr("--faults needs --demo: only simulated devices have faults to order");
+    if (isSet(known.theme) && options.theme != QLatin1String("light") && options.theme != QLatin1String("dark"))
+        return ClientOptions::tr("--theme takes light or dark, not \"%1\"").arg(options.theme);
+    if (isSet(known.run) && !findFamily(options.family))
+        return ClientOptions::tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family);
+    if (isSet(known.run) && !isSet(known.demo) && !isSet(known.inventory))
+        return ClientOptions::tr("--run needs devices: --demo N or --inventory FILE");
+    if (!isSet(known.run) && (isSet(known.devices) || isSet(known.screenshots)))
+        return ClientOptions::tr("--devices and --screenshots need --run");
+    if (!namesAllDevices(parser, known) && options.deviceIds.isEmpty())
+        return ClientOptions::tr("--devices takes \"all\" or device ids with commas between them");
+    if (isSet(known.screenshots) && !QDir().mkpath(options.screenshotsDir))
+        return ClientOptions::tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir);
+    return {};
+}
 
 } // namespace
 
 QString requestedLanguage(const QStringList &arguments)
 {
-    const QCommandLineOption language(QStringLiteral("language"), {}, QStringLiteral("CODE"));
+    const QCommandLineOption language = option("language", {}, "CODE");
     QCommandLineParser parser;
     parser.addOption(language);
-    parser.parse(arguments); // whatever else is there
+    parser.parse(arguments); // mistakes in the other options are found by parseOptions()
     return parser.value(language);
 }
 
 ClientOptions parseOptions(const QStringList &arguments)
 {
+    const KnownOptions known;
     QCommandLineParser parser;
     parser.setApplicationDescription(ClientOptions::tr(
         "Configures many online cameras and recorders at once.\n\n"
         "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device, "
         "5 nothing configured because the record is in use, 6 the record of the run is missing or not whole."));
-    const QCommandLineOption demo(QStringLiteral("demo"), ClientOptions::tr("Bring N simulated devices along."),
-                                  QStringLiteral("N"));
-    const QCommandLineOption inventory(QStringLiteral("inventory"),
-                                       ClientOptions::tr("Connect to the devices of this inventory file."),
-                                       QStringLiteral("FILE"));
-    const QCommandLineOption faults(QStringLiteral("faults"),
-                                    ClientOptions::tr("Faults of the simulated devices (with --demo)."),
-                                    QStringLiteral("FILE"));
-    const QCommandLineOption language(
-        QStringLiteral("language"),
-        ClientOptions::tr("Language of the window, such as \"en\"; the system's when not given."),
-        QStringLiteral("CODE"));
-    const QCommandLineOption theme(QStringLiteral("theme"),
-                                   ClientOptions::tr(R"("light" or "dark"; as the desktop is when not given.)"),
-                                   QStringLiteral("NAME"));
-    const QCommandLineOption run(
-        QStringLiteral("run"),
-        ClientOptions::tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
-        QStringLiteral("FAMILY"));
-    const QCommandLineOption devices(
-        QStringLiteral("devices"),
-        ClientOptions::tr("Devices to configure with --run: \"all\" (default) or ids with commas."),
-        QStringLiteral("IDS"));
-    const QCommandLineOption screenshots(
-        QStringLiteral("screenshots"),
-        ClientOptions::tr("Save pictures of the pages, the run and its summary here (with --run)."),
-        QStringLiteral("DIR"));
-    parser.addOptions({demo, inventory, faults, language, theme, run, devices, screenshots});
+    parser.addOptions({known.demo, known.inventory, known.faults, known.language, known.theme, known.run, known.devices,
+                       known.screenshots});
 
     ClientOptions options;
-    options.error = device_fleet::parseCommandLine(parser, arguments);
+    options.error = orda_programs::parseCommandLine(parser, arguments);
     if (!options.error.isEmpty())
         return options;
-
-    options.inventoryFile = parser.value(inventory);
-    options.faultsFile = parser.value(faults);
-    options.family = parser.value(run);
-    options.screenshotsDir = parser.value(screenshots);
-    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all"))
-        options.deviceIds = idsIn(parser.value(devices));
-
-    const auto fail = [&options](const QString &why) {
-        options.error = why;
-        return options;
-    };
-    if (!parser.positionalArguments().isEmpty())
-        return fail(ClientOptions::tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
-    if (parser.isSet(demo)) {
-        bool isNumber = false;
-        options.demoDevices = parser.value(demo).toInt(&isNumber);
-        if (!isNumber || options.demoDevices < 1 || options.demoDevices > maxDemoDevices) {
-            return fail(ClientOptions::tr("--demo takes a number of devices from 1 to %1, not \"%2\"")
-                            .arg(QString::number(maxDemoDevices), parser.value(demo)));
-        }
-    }
-    if (parser.isSet(inventory) && options.inventoryFile.isEmpty())
-        return fail(ClientOptions::tr("--inventory takes a file"));
-    if (parser.isSet(demo) && parser.isSet(inventory))
-        return fail(ClientOptions::tr("--demo and --inventory exclude each other"));
-    if (parser.isSet(faults) && !parser.isSet(demo))
-        return fail(ClientOptions::tr("--faults needs --demo: only simulated devices have faults to order"));
-    options.theme = parser.value(theme);
-    if (parser.isSet(theme) && options.theme != QLatin1String("light") && options.theme != QLatin1String("dark"))
-        return fail(ClientOptions::tr("--theme takes light or dark, not \"%1\"").arg(options.theme));
-    if (parser.isSet(run) && !findFamily(options.family))
-        return fail(ClientOptions::tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family));
-    if (parser.isSet(run) && !parser.isSet(demo) && !parser.isSet(inventory))
-        return fail(ClientOptions::tr("--run needs devices: --demo N or --inventory FILE"));
-    if (!parser.isSet(run) && (parser.isSet(devices) || parser.isSet(screenshots)))
-        return fail(ClientOptions::tr("--devices and --screenshots need --run"));
-    if (parser.isSet(devices) && parser.value(devices) != QLatin1String("all") && options.deviceIds.isEmpty())
-        return fail(ClientOptions::tr("--devices takes \"all\" or device ids with commas between them"));
-    if (parser.isSet(screenshots) && !QDir().mkpath(options.screenshotsDir))
-        return fail(ClientOptions::tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir));
+    options.demoDevices = parser.value(known.demo).toInt(); // 0 when it is no number
+    options.inventoryFile = parser.value(known.inventory);
+    options.faultsFile = parser.value(known.faults);
+    options.theme = parser.value(known.theme);
+    options.family = parser.value(known.run);
+    options.screenshotsDir = parser.value(known.screenshots);
+    if (!namesAllDevices(parser, known))
+        options.deviceIds = idsIn(parser.value(known.devices));
+    options.error = mistakeIn(options, parser, known);
     return options;
 }
+
+} // namespace orda_client

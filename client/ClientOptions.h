@@ -4,22 +4,12 @@
 #include <QString>
 #include <QStringList>
 
-/// Exit codes of orda_client.
-enum ExitCode
-{
-    ExitOk = 0,
-    ExitSomeFailed = 1,
-    ExitUsage = 2,
-    ExitInput = 3,
-    ExitNoDevice = 4,
-    ExitRecordInUse = 5, ///< nothing was configured: another client's run has the record
-    ExitNoRecord = 6 ///< the run took place, but its record is missing or not whole
-};
+namespace orda_client {
 
 /// What the command line asks for.
 struct ClientOptions
 {
-    Q_DECLARE_TR_FUNCTIONS(ClientOptions)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::ClientOptions)
 
 public:
     int demoDevices = 0; ///< 0: no embedded fleet
@@ -33,8 +23,10 @@ public:
     QString error; ///< not empty: the command line is wrong; the text names what and what would be right
 };
 
-/// The value of --language; empty when it is not given. It is asked for first: mistakes are said in that language.
+/// The value of --language; empty when it is not given. Needed first, because mistakes are told in that language.
 QString requestedLanguage(const QStringList &arguments);
 
 /// @param arguments the application's, program name first. --help and --version print and end the program here.
 ClientOptions parseOptions(const QStringList &arguments);
+
+} // namespace orda_client

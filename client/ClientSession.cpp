@@ -1,12 +1,14 @@
-#include "ClientSession.h"
+#include "client/ClientSession.h"
+#include "fleet/EmbeddedFleet.h"
+#include "fleet/FaultPlan.h"
 
-#include <EmbeddedFleet.h>
-#include <FaultPlan.h>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/WebSocketTransport.h>
+
+namespace orda_client {
 
 ClientSession::ClientSession(QObject *parent)
     : QObject(parent)
@@ -81,3 +83,5 @@ void ClientSession::connectAgain()
 {
     m_transport->connectAgain();
 }
+
+} // namespace orda_client

@@ -14,6 +14,8 @@ struct DevInfo;
 class WebSocketTransport;
 } // namespace vms_sdk
 
+namespace orda_client {
+
 /// Brings devices into the client: fills the store from an inventory or from an embedded fleet, and keeps the SDK
 /// connected to what the store holds.
 class ClientSession : public QObject
@@ -44,3 +46,5 @@ private:
     std::unique_ptr<device_fleet::EmbeddedFleet> m_fleet;
     QPointer<vms_sdk::WebSocketTransport> m_transport; // the SDK owns it
 };
+
+} // namespace orda_client

@@ -1,22 +1,22 @@
-#include "ClientWindow.h"
+#include "client/ClientWindow.h"
 
-#include "ClientSession.h"
-#include "CloseQuestion.h"
-#include "FailedDevices.h"
-#include "Families.h"
-#include "LastRunWindow.h"
-#include "OpeningSize.h"
-#include "PageRecord.h"
-#include "RecordFile.h"
-#include "RecordViewer.h"
+#include "client/ClientSession.h"
+#include "client/CloseQuestion.h"
+#include "client/FailedDevices.h"
+#include "client/Families.h"
+#include "client/LastRunWindow.h"
+#include "client/OpeningSize.h"
+#include "client/PageRecord.h"
+#include "client/RecordFile.h"
+#include "client/RecordViewer.h"
 
 #include <orda_base/BaseForm.h>
 #include <orda_base/BaseTools.h>
+#include <orda_base/DelayedCall.h>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/EventConfirmInfo.h>
-#include <orda_worker/EventDialog.h>
 #include <orda_worker/SystemAssistant.h>
 #include <shell/BatchCfgInit.h>
 #include <vms_client_sdk/ForeignText.h>
@@ -31,6 +31,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTextDocument>
@@ -40,11 +41,16 @@
 
 #include <chrono>
 
+namespace orda_client {
+
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr QSize wantedSize(1500, 850);
+
+// Thousands of devices come online in one go: the bar is brought up to date at most ten times a second.
+constexpr auto statusBarDelay = 100ms;
 
 QString statusText(vms_sdk::DevStatus status)
 {
@@ -79,9 +85,11 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     , m_last(new QLabel(this))
     , m_showLastRun(new QAction(tr("&Last run"), this))
     , m_viewer(new RecordViewer(this))
+    , m_statusBarUpdate(new orda_base::DelayedCall(
+          statusBarDelay, [this] { updateStatusBar(); }, this))
 {
     setWindowTitle(tr("Batch Configuration"));
-    auto *area = new QScrollArea(this); // on a screen that is too small for the form
+    auto *area = new QScrollArea(this); // for screens that are too small for the form
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
     area->setWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
@@ -97,7 +105,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) { showLast(text); });
     connect(&assistant, &orda_worker::AssistantSignals::signalEventConfirmRaised, this, &ClientWindow::showSummary);
-    QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module gives bare paths
+    QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module opens paths without a scheme
     connect(m_viewer, &RecordViewer::signalNoViewer, this, [this](const QString &path) {
         for (const Family &family : families())
             if (path == RecordFile(family.recordFile).path())
@@ -107,7 +115,7 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
 
 ClientWindow::~ClientWindow()
 {
-    disconnect(qApp, nullptr, this, nullptr); // the focus changes once more when the window is half gone
+    disconnect(qApp, nullptr, this, nullptr); // the focus changes once more while the window is being destroyed
 }
 
 QSize ClientWindow::sizeHint() const
@@ -132,7 +140,7 @@ void ClientWindow::buildMenu()
     QAction *quit = devices->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
-    leaveMenuBar(devices);
+    returnFocusFrom(devices);
 
     QMenu *run = menuBar()->addMenu(tr("&Run"));
     m_showLastRun->setObjectName(QStringLiteral("showLastRun"));
@@ -140,12 +148,12 @@ void ClientWindow::buildMenu()
     m_showLastRun->setStatusTip(tr("Lists the outcome of each device, and ticks the failed ones again"));
     connect(m_showLastRun, &QAction::triggered, this, &ClientWindow::showLastRun);
     run->addAction(m_showLastRun);
-    leaveMenuBar(run);
+    returnFocusFrom(run);
 }
 
-void ClientWindow::leaveMenuBar(const QMenu *menu)
+void ClientWindow::returnFocusFrom(const QMenu *menu)
 {
-    // A menu that is left by Esc leaves the focus in the menu bar, where the form's shortcuts are not heard.
+    // Esc closes a menu and leaves the focus in the menu bar, where the form's shortcuts do not work.
     connect(menu, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0ms, this, [this] {
             if (menuBar()->hasFocus() && !QApplication::activePopupWidget() && m_focusBeforeMenu)
@@ -174,7 +182,7 @@ void ClientWindow::askBeforeClosing(QWidget *overlay)
         m_closesInRun = true;
         close();
     });
-    // The run's summary may have come meanwhile: it gets the keys, not the window below it.
+    // The run's summary may have opened meanwhile: then it must get the keys, not the window below it.
     connect(m_closeQuestion, &QObject::destroyed, this, [] {
         if (QWidget *dialog = QApplication::activeModalWidget())
             dialog->activateWindow();
@@ -187,7 +195,7 @@ void ClientWindow::buildStatusBar()
     m_last->setTextFormat(Qt::PlainText); // devices' names
     m_last->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(m_last, 1);
-    // From the first run on; the summary keeps the focus.
+    // Hidden until the first run is over.
     m_lastRunBt = new QToolButton(this);
     m_showLastRun->setIconText(tr("Last run")); // on the button, without the menu's mnemonic
     m_lastRunBt->setDefaultAction(m_showLastRun);
@@ -195,23 +203,20 @@ void ClientWindow::buildStatusBar()
     m_lastRunBt->hide();
     statusBar()->addPermanentWidget(m_lastRunBt);
     statusBar()->addPermanentWidget(m_onlineCount);
+    followDevices();
+    updateStatusBar();
+}
 
-    // Thousands of devices come online in one go: the bar is brought up to date at most ten times a second.
-    auto *countSoon = new QTimer(this);
-    countSoon->setSingleShot(true);
-    countSoon->setInterval(100ms);
-    connect(countSoon, &QTimer::timeout, this, &ClientWindow::updateStatusBar);
-    const auto scheduleCount = [countSoon] {
-        if (!countSoon->isActive())
-            countSoon->start();
-    };
+void ClientWindow::followDevices()
+{
     const auto &changes = orda_data::DataSignals::instance();
-    connect(&changes, &orda_data::DataSignals::signalUpdateDevs, countSoon, scheduleCount);
-    connect(&changes, &orda_data::DataSignals::signalDeleteDevs, countSoon, scheduleCount);
-    connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, countSoon,
-            [this, scheduleCount](const QString &devId, vms_sdk::DevStatus status) {
-                scheduleCount();
-                // A device that stays away is dialled again and again, which is no news.
+    connect(&changes, &orda_data::DataSignals::signalUpdateDevs, m_statusBarUpdate, &orda_base::DelayedCall::request);
+    connect(&changes, &orda_data::DataSignals::signalDeleteDevs, m_statusBarUpdate, &orda_base::DelayedCall::request);
+    connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, m_statusBarUpdate,
+            &orda_base::DelayedCall::request);
+    connect(&changes, &orda_data::DataSignals::signalDevStatusChanged, this,
+            [this](const QString &devId, vms_sdk::DevStatus status) {
+                // A device that stays offline is dialled again and again, which is not worth a message.
                 if (status != vms_sdk::DevConnecting && m_known.value(devId, vms_sdk::DevOffline) != status) {
                     m_known.insert(devId, status);
                     m_lastChanged = devId;
@@ -221,7 +226,6 @@ void ClientWindow::buildStatusBar()
         for (const QString &devId : devIds)
             m_known.remove(devId);
     });
-    updateStatusBar();
 }
 
 void ClientWindow::openInventory()
@@ -262,14 +266,14 @@ void ClientWindow::showSummary(const orda_worker::EventConfirmInfo &info)
     const Family *family = shownFamily(centralWidget());
     const QString complaint = family ? PageRecord::of(centralWidget(), *family).complaint() : QString();
     showLast(complaint.isEmpty() ? info.text : info.text + QStringLiteral(" – ") + complaint);
-    m_lastRunBt->show(); // what is asked is always a run's summary
+    m_lastRunBt->show(); // the module asks nothing but to confirm a run's summary
     if (complaint.isEmpty())
         return;
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        auto *summary = qobject_cast<orda_worker::EventDialog *>(window);
-        if (summary && summary->accessibleDescription() == info.text)
-            summary->addText(complaint);
+        auto *summary = qobject_cast<QMessageBox *>(window);
+        if (summary && summary->informativeText() == info.text)
+            summary->setInformativeText(info.text + QLatin1Char('\n') + complaint);
     }
 }
 
@@ -279,8 +283,8 @@ void ClientWindow::openRecord(const QUrl &url)
         const RecordFile file(family.recordFile);
         if (url != QUrl(file.path()))
             continue;
-        const RecordFile::State state = file.look();
-        // A viewer would show what this run did not write, or what another user has put there.
+        const RecordFile::State state = file.state();
+        // A viewer would also show what an earlier run has written, or what another user has put there.
         const bool isOwn = PageRecord::of(centralWidget(), family).error.isEmpty();
         if (isOwn && state.exists && state.refusal.isEmpty())
             m_viewer->open(file.path());
@@ -288,7 +292,7 @@ void ClientWindow::openRecord(const QUrl &url)
             showLastRunOf(family);
         return;
     }
-    QDesktopServices::openUrl(url); // of something else; it does not come here again
+    QDesktopServices::openUrl(url); // not a record; Qt does not call this handler again for it
 }
 
 void ClientWindow::showLastRunOf(const Family &family)
@@ -331,3 +335,5 @@ void ClientWindow::showRemoteConfig(const QString &devId)
     form->addRow(buttons);
     dialog->open();
 }
+
+} // namespace orda_client

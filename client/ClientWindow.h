@@ -11,9 +11,15 @@ class QLabel;
 class QToolButton;
 QT_END_NAMESPACE
 
+namespace orda_base {
+class DelayedCall;
+}
 namespace orda_worker {
 struct EventConfirmInfo;
 }
+
+namespace orda_client {
+
 class ClientSession;
 class CloseQuestion;
 class LastRunWindow;
@@ -43,8 +49,9 @@ private slots:
 
 private:
     void buildMenu();
-    void leaveMenuBar(const QMenu *menu);
+    void returnFocusFrom(const QMenu *menu);
     void buildStatusBar();
+    void followDevices();
     void openInventory();
     void updateStatusBar();
     void showLast(const QString &text);
@@ -61,9 +68,12 @@ private:
     QToolButton *m_lastRunBt = nullptr;
     QPointer<LastRunWindow> m_lastRun;
     RecordViewer *m_viewer;
-    QString m_lastChanged; // id of a device whose state has changed and is to be shown
-    QHash<QString, vms_sdk::DevStatus> m_known; // by device id, without the attempts to connect between two states
+    orda_base::DelayedCall *m_statusBarUpdate;
+    QString m_lastChanged; // id of the device whose change of state the status bar is to show
+    QHash<QString, vms_sdk::DevStatus> m_known; // by device id; attempts to connect are left out
     QPointer<QWidget> m_focusBeforeMenu;
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
 };
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "CloseQuestion.h"
+#include "client/CloseQuestion.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,6 +8,8 @@
 #include <QVariant>
 
 #include <chrono>
+
+namespace orda_client {
 
 namespace {
 
@@ -34,7 +36,7 @@ CloseQuestion::CloseQuestion(QWidget *overlay, QWidget *parent)
     close->setAutoDefault(false);
     auto *wait = new QPushButton(tr("Keep waiting"), this);
     wait->setProperty("common_bt_style1", true);
-    wait->setDefault(true); // a key that was pressed by accident ends no run
+    wait->setDefault(true); // so that Return pressed by accident does not end the run
     wait->setFocus();
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     connect(wait, &QPushButton::clicked, this, &QDialog::reject);
@@ -51,16 +53,16 @@ CloseQuestion::CloseQuestion(QWidget *overlay, QWidget *parent)
     layout->addSpacing(margin / 2);
     layout->addLayout(row);
 
-    auto *again = new QTimer(this);
-    connect(again, &QTimer::timeout, this, &CloseQuestion::follow);
-    again->start(followInterval);
+    auto *timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, &CloseQuestion::follow);
+    timer->start(followInterval);
     follow();
 }
 
 void CloseQuestion::follow()
 {
     if (!m_overlay || m_overlay->isHidden()) {
-        reject(); // its summary says how the run has ended
+        reject(); // the run is over, and its summary is shown
         return;
     }
     const int total = m_overlay->property("total").toInt();
@@ -68,3 +70,5 @@ void CloseQuestion::follow()
     m_count->setText(tr("%1 of %n device(s) have not answered", nullptr, total).arg(missing));
     setAccessibleDescription(m_count->text());
 }
+
+} // namespace orda_client

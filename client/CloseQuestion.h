@@ -7,6 +7,8 @@ QT_BEGIN_NAMESPACE
 class QLabel;
 QT_END_NAMESPACE
 
+namespace orda_client {
+
 /// Asks whether the window is to be closed in mid-run, says how many devices have not answered yet, and goes away by
 /// itself when the run ends. Accepted: close. Deletes itself.
 class CloseQuestion : public QDialog
@@ -23,3 +25,5 @@ private:
     QPointer<QWidget> m_overlay;
     QLabel *m_count;
 };
+
+} // namespace orda_client

@@ -1,16 +1,19 @@
-#include "CsvFile.h"
+#include "client/CsvFile.h"
+
+#include <vms_client_sdk/WholeFile.h>
 
 #include <QAbstractItemModel>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <functional>
+
+namespace orda_client {
 
 namespace {
 
 QString cell(QString text)
 {
-    // Nothing that a device calls itself becomes a formula, also where a spreadsheet splits cells in another way.
+    // No text of a device may become a formula, not even in spreadsheets that split cells at other characters.
     static const QRegularExpression formula(
         QStringLiteral("(^|[;|\\t\\r\\n])(?=[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
     text.replace(formula, QStringLiteral("\\1'"));
@@ -42,9 +45,8 @@ QString CsvFile::text(const QAbstractItemModel &table)
 
 QString CsvFile::write(const QString &path, const QString &text)
 {
-    QSaveFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return tr("cannot write the file %1: %2").arg(path, file.errorString());
-    return {};
+    const QString why = vms_sdk::writeWholeFile(path, text.toUtf8(), vms_sdk::Readers::Usual);
+    return why.isEmpty() ? QString() : tr("cannot write the file %1: %2").arg(path, why);
 }
+
+} // namespace orda_client

@@ -7,10 +7,12 @@ QT_BEGIN_NAMESPACE
 class QAbstractItemModel;
 QT_END_NAMESPACE
 
+namespace orda_client {
+
 /// Tables for spreadsheets: comma-separated values as in RFC 4180, in UTF-8 with a mark by which spreadsheets know it.
 class CsvFile
 {
-    Q_DECLARE_TR_FUNCTIONS(CsvFile)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::CsvFile)
 
 public:
     /// A table with its column titles, row by row as it stands (Qt::EditRole). What a spreadsheet would take for a
@@ -20,3 +22,5 @@ public:
     /// @return an error for the user, empty when the file is written
     static QString write(const QString &path, const QString &text);
 };
+
+} // namespace orda_client

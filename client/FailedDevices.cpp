@@ -1,4 +1,4 @@
-#include "FailedDevices.h"
+#include "client/FailedDevices.h"
 
 #include <orda_base/DisabledWaitingWt.h>
 
@@ -9,12 +9,14 @@
 
 #include <algorithm>
 
+namespace orda_client {
+
 namespace {
 
 constexpr int checkColumn = 0;
 constexpr int serialNumberColumn = 2;
 
-// The rows of a serial number; one number is another's when both have it.
+// Two devices may have the same serial number.
 QHash<QString, QList<int>> rowsBySerialNumber(const QTableWidget *table)
 {
     QHash<QString, QList<int>> rows;
@@ -73,7 +75,7 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
     int first = table->rowCount();
     bool isOneHidden = false;
     {
-        // Told of each row on its own, the list would look at all rows each time.
+        // One signal for all rows at the end: at each signal the list looks at all its rows.
         const QSignalBlocker blocker(table->model());
         for (int row = 0; row < table->rowCount(); ++row)
             table->item(row, checkColumn)->setCheckState(Qt::Unchecked);
@@ -82,7 +84,7 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
                 continue;
             const QString why = doubt(entry);
             if (!why.isEmpty()) {
-                result.left.append(tr("%1: %2").arg(deviceText(entry), why));
+                result.notTicked.append(tr("%1: %2").arg(deviceText(entry), why));
                 continue;
             }
             const int row = rows.value(entry.serialNumber).constFirst();
@@ -105,3 +107,5 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
         table->scrollToItem(table->item(first, checkColumn));
     return result;
 }
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "FailureGroupList.h"
+#include "client/FailureGroupList.h"
 
 #include <vms_client_sdk/ForeignText.h>
 
@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QSignalBlocker>
 #include <QTextDocument>
+
+namespace orda_client {
 
 FailureGroupList::FailureGroupList(QWidget *parent)
     : orda_base::TableWidget(parent)
@@ -15,10 +17,10 @@ FailureGroupList::FailureGroupList(QWidget *parent)
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
     setShowGrid(false);
-    setTextElideMode(Qt::ElideMiddle); // messages differ in the code at their end
+    setTextElideMode(Qt::ElideMiddle); // the error code is at the end of a message
     horizontalHeader()->hide();
     verticalHeader()->hide();
-    // The message gives way, the number is always seen.
+    // A long message is shortened, so that the number is always seen.
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     connect(this, &QTableWidget::itemSelectionChanged, this, &FailureGroupList::signalGroupChosen);
@@ -64,3 +66,5 @@ void FailureGroupList::addRow(const QString &recorded, int count)
     setItem(row, 0, message);
     setItem(row, 1, number);
 }
+
+} // namespace orda_client

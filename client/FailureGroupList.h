@@ -1,10 +1,12 @@
 #pragma once
 
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <orda_base/TableWidget.h>
 
 #include <optional>
+
+namespace orda_client {
 
 /// The failures of a run by their message, each with how many devices it has; above them the run as a whole.
 class FailureGroupList : public orda_base::TableWidget
@@ -29,3 +31,5 @@ private:
 
     QVector<FailureGroup> m_groups; // below the first row
 };
+
+} // namespace orda_client

@@ -1,32 +1,24 @@
-#include "Families.h"
+#include "client/Families.h"
+
+#include <families/Families.h>
 
 #include <QStackedWidget>
 
 #include <algorithm>
 
-namespace {
-
-Family family(const QString &name, const QString &navigationKey, const QString &pageName)
-{
-    return {name, navigationKey, pageName, QStringLiteral("vms_%1_params_batch_cfg_record.txt").arg(name)};
-}
-
-} // namespace
+namespace orda_client {
 
 const QList<Family> &families()
 {
-    static const QList<Family> all{
-        family(QStringLiteral("audio"), QStringLiteral("audio_param"), QStringLiteral("audioParametersPage")),
-        family(QStringLiteral("video"), QStringLiteral("video_param"), QStringLiteral("videoParametersPage")),
-        family(QStringLiteral("image"), QStringLiteral("image_param"), QStringLiteral("imageParametersPage")),
-        family(QStringLiteral("platform"), QStringLiteral("cloud_service_param"),
-               QStringLiteral("platformParametersPage")),
-        family(QStringLiteral("platform_9100"), QStringLiteral("9100_param"),
-               QStringLiteral("platform9100ParametersPage")),
-        family(QStringLiteral("network"), QStringLiteral("network_param"), QStringLiteral("networkParamsCfgPage")),
-        family(QStringLiteral("osd"), QStringLiteral("osd_param"), QStringLiteral("osdParamsCfgPage")),
-    };
-    return all;
+    static const QList<Family> offered = [] {
+        QList<Family> all;
+        for (const orda_batchCfg::FamilyEntry &entry : orda_batchCfg::Families::all())
+            if (entry.key)
+                all.append({entry.family.name, QLatin1String(entry.key), QLatin1String(entry.pageName),
+                            entry.family.recordFile()});
+        return all;
+    }();
+    return offered;
 }
 
 const Family *findFamily(const QString &name)
@@ -52,3 +44,5 @@ const Family *shownFamily(const QWidget *form)
                                     [&page](const Family &candidate) { return candidate.pageName == page; });
     return found == families().end() ? nullptr : &*found;
 }
+
+} // namespace orda_client

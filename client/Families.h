@@ -7,6 +7,8 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
+namespace orda_client {
+
 /// A parameter family as a program meets it from outside: where its page is, and where its record lies.
 struct Family
 {
@@ -24,3 +26,5 @@ QStringList familyNames();
 /// The family whose page the form shows. A run covers the form, so in a run, and when its summary comes, it is the
 /// run's.
 const Family *shownFamily(const QWidget *form);
+
+} // namespace orda_client

@@ -1,29 +1,28 @@
-#include "LastRunWindow.h"
+#include "client/LastRunWindow.h"
 
-#include "CsvFile.h"
-#include "FailedDevices.h"
-#include "FailureGroupList.h"
-#include "Families.h"
-#include "OpeningSize.h"
-#include "RunRecordFilter.h"
-#include "RunRecordModel.h"
-#include "RunRecordView.h"
-#include "TickReport.h"
+#include "client/CsvFile.h"
+#include "client/FailedDevices.h"
+#include "client/FailureGroupList.h"
+#include "client/Families.h"
+#include "client/OpeningSize.h"
+#include "client/RunRecordFilter.h"
+#include "client/RunRecordModel.h"
+#include "client/RunRecordView.h"
+#include "client/RunSummary.h"
+#include "client/TickReport.h"
 
+#include <orda_base/ReturnPressesButton.h>
 #include <orda_base/SearchBox.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/SystemAssistant.h>
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QDate>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
@@ -34,13 +33,15 @@
 #include <algorithm>
 #include <chrono>
 
+namespace orda_client {
+
 namespace {
 
 using namespace std::chrono_literals;
 
-// Files that are emptied, written thousands of times a second, replaced or gone: looking now and then sees it all.
-constexpr auto lookInterval = 500ms;
-constexpr int restPerWork = 20; // reading a large record leaves the run its time
+// The files are not watched: a run writes thousands of times a second, and each time would be reported.
+constexpr auto refreshInterval = 500ms;
+constexpr int pauseFactor = 20; // reading a large record takes a twentieth of the time, the run gets the rest
 
 constexpr QSize windowSize(1320, 660);
 constexpr int groupsWidth = 320;
@@ -88,11 +89,11 @@ LastRunWindow::LastRunWindow(QWidget *form, QWidget *parent)
     layout->addWidget(m_report);
     layout->addWidget(buildButtons());
     setCentralWidget(central);
-    setKeys();
+    addShortcuts();
     resize(openingSize(this, windowSize));
 
-    m_lookAgain.setSingleShot(true);
-    connect(&m_lookAgain, &QTimer::timeout, this, &LastRunWindow::lookAndFollow);
+    m_refreshTimer.setSingleShot(true);
+    connect(&m_refreshTimer, &QTimer::timeout, this, &LastRunWindow::refreshAndContinue);
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmRaised, this,
             [this] { turnTo(shownFamily(m_form)); }); // a run has ended
 }
@@ -111,7 +112,7 @@ QWidget *LastRunWindow::buildTop()
     m_outcomes->addItems({tr("All"), tr("Failed only")});
     connect(m_outcomes, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int index) {
         m_filter->setFailedOnly(index > 0);
-        showOthers();
+        showOtherRows();
     });
     m_search = new orda_base::SearchBox;
     m_search->setObjectName(QStringLiteral("recordSearch"));
@@ -119,7 +120,7 @@ QWidget *LastRunWindow::buildTop()
                              .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
-        showOthers();
+        showOtherRows();
     });
 
     auto *choices = new QHBoxLayout;
@@ -145,7 +146,7 @@ QWidget *LastRunWindow::buildGroups()
     m_groups->setAccessibleName(tr("Failures by message"));
     connect(m_groups, &FailureGroupList::signalGroupChosen, this, [this] {
         m_filter->setGroup(m_groups->group());
-        showOthers();
+        showOtherRows();
     });
 
     auto *groups = new QWidget;
@@ -196,59 +197,51 @@ QWidget *LastRunWindow::buildButtons()
     return buttons;
 }
 
-void LastRunWindow::setKeys()
+void LastRunWindow::addShortcuts()
 {
     auto *escape = new QShortcut(QKeySequence::Cancel, this);
     connect(escape, &QShortcut::activated, this, &QWidget::close);
     auto *find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, m_search, [this] { m_search->setFocus(Qt::ShortcutFocusReason); });
+    new orda_base::ReturnPressesButton(this); // as in the form
     m_table->setFocus();
-}
-
-void LastRunWindow::keyPressEvent(QKeyEvent *event)
-{
-    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
-    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
-        button->click(); // as in the form
-    else
-        QMainWindow::keyPressEvent(event);
 }
 
 void LastRunWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    if (!m_lookAgain.isActive()) {
-        look(true);
-        m_lookAgain.start(lookInterval);
+    if (!m_refreshTimer.isActive()) {
+        refresh(true);
+        m_refreshTimer.start(refreshInterval);
     }
 }
 
 void LastRunWindow::hideEvent(QHideEvent *event)
 {
-    m_lookAgain.stop();
+    m_refreshTimer.stop();
     QMainWindow::hideEvent(event);
 }
 
-void LastRunWindow::lookAndFollow()
+void LastRunWindow::refreshAndContinue()
 {
-    QElapsedTimer work;
-    work.start();
-    look(false);
-    m_lookAgain.start(std::max(lookInterval, restPerWork * std::chrono::milliseconds(work.elapsed())));
+    QElapsedTimer reading;
+    reading.start();
+    refresh(false);
+    m_refreshTimer.start(std::max(refreshInterval, pauseFactor * std::chrono::milliseconds(reading.elapsed())));
 }
 
 void LastRunWindow::turnTo(const Family *family)
 {
     m_family = family;
     m_report->hide();
-    look(false);
+    refresh(false);
 }
 
-void LastRunWindow::look(bool turnToNewest)
+void LastRunWindow::refresh(bool turnToNewest)
 {
     m_records = familyRecords(m_form, m_family);
     if (!m_records.isEmpty() && (turnToNewest || !m_family)) {
-        // A run that left no record is not told by the files.
+        // A run that left no record cannot be known from the files, only from its page.
         const Family *family = shownFamily(m_form);
         const bool isShownLost = family && !PageRecord::of(m_form, *family).error.isEmpty();
         m_family = isShownLost ? family : m_records.constFirst().family;
@@ -300,35 +293,26 @@ void LastRunWindow::load()
     updateView();
 }
 
-void LastRunWindow::showOthers()
+void LastRunWindow::showOtherRows()
 {
     updateView();
-    m_table->scrollToTop(); // where the failures are
+    m_table->scrollToTop(); // failures are sorted first
 }
 
 void LastRunWindow::updateView()
 {
     const bool isUnderWay = FailedDevices::isRunUnderWay(m_form);
     const QVector<RunEntry> &entries = m_model->entries();
-    int counts[RunEntry::Succeeded + 1] = {};
-    for (const RunEntry &entry : entries)
-        ++counts[entry.outcome];
-    const QLocale locale;
-    QStringList texts{timeText(), tr("Devices: %1").arg(locale.toString(entries.size())),
-                      tr("Succeeded: %1").arg(locale.toString(counts[RunEntry::Succeeded])),
-                      tr("Failed: %1").arg(locale.toString(counts[RunEntry::Failed]))};
-    if (counts[RunEntry::Unreadable] > 0)
-        texts.append(tr("Unreadable: %1").arg(locale.toString(counts[RunEntry::Unreadable])));
-    if (isUnderWay)
-        texts.append(tr("The run is still going on."));
-    m_summary->setText(texts.join(QStringLiteral("   ")));
+    m_summary->setText(RunSummary::text(entries, isUnderWay));
     m_summary->setVisible(!entries.isEmpty());
     m_complaint->setText(m_loaded ? m_loaded->page.complaint() : QString());
     m_complaint->setVisible(!entries.isEmpty() && !m_complaint->text().isEmpty());
     m_empty->setText(emptyText());
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_export->setEnabled(m_filter->rowCount() > 0);
-    m_tickAgain->setEnabled(counts[RunEntry::Succeeded] < entries.size() && !isUnderWay);
+    const bool hasFailed = std::any_of(entries.begin(), entries.end(),
+                                       [](const RunEntry &entry) { return entry.outcome != RunEntry::Succeeded; });
+    m_tickAgain->setEnabled(hasFailed && !isUnderWay);
 }
 
 QString LastRunWindow::emptyText() const
@@ -348,19 +332,6 @@ QString LastRunWindow::emptyText() const
     if (m_outcomes->currentIndex() > 0 && m_search->text().isEmpty() && !m_groups->group())
         return tr("No device failed.");
     return tr("No device of this run fits the search and the choice beside it.");
-}
-
-QString LastRunWindow::timeText() const
-{
-    QString begin, end;
-    for (const RunEntry &entry : m_model->entries()) {
-        if (entry.time.isEmpty())
-            continue;
-        if (begin.isEmpty() || entry.time < begin)
-            begin = entry.time;
-        end = std::max(end, entry.time);
-    }
-    return begin == end ? begin : tr("%1 to %2").arg(begin, end);
 }
 
 QString LastRunWindow::familyTitle(const Family &family) const
@@ -397,3 +368,5 @@ void LastRunWindow::exportCsv()
     });
     dialog->open();
 }
+
+} // namespace orda_client

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PageRecord.h"
+#include "client/PageRecord.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -17,6 +17,9 @@ QT_END_NAMESPACE
 namespace orda_base {
 class SearchBox;
 }
+
+namespace orda_client {
+
 class FailureGroupList;
 class RunRecordFilter;
 class RunRecordModel;
@@ -39,7 +42,6 @@ public:
     void turnTo(const Family *family);
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -48,17 +50,16 @@ private:
     QWidget *buildGroups();
     QWidget *buildTable();
     QWidget *buildButtons();
-    void setKeys();
+    void addShortcuts();
 
-    void lookAndFollow();
-    void look(bool turnToNewest);
+    void refreshAndContinue();
+    void refresh(bool turnToNewest);
     void listFamilies();
     void showFamily(int index);
     void load();
-    void showOthers(); ///< rows than before
+    void showOtherRows(); ///< after the search or a choice has changed
     void updateView();
     QString emptyText() const;
-    QString timeText() const;
     QString familyTitle(const Family &family) const;
 
     void tickFailedAgain();
@@ -67,11 +68,11 @@ private:
     QWidget *m_form;
     RunRecordModel *m_model;
     RunRecordFilter *m_filter;
-    QTimer m_lookAgain;
+    QTimer m_refreshTimer;
     QVector<FamilyRecord> m_records;
     const Family *m_family = nullptr; // which is shown
-    std::optional<FamilyRecord> m_loaded; // the record that the model has, or has not for an error
-    QString m_error; // why the record is not there
+    std::optional<FamilyRecord> m_loaded; // the record that was read into the model, or could not be for m_error
+    QString m_error; // why the record is not shown
 
     QComboBox *m_families;
     QLabel *m_summary;
@@ -86,3 +87,5 @@ private:
     QPushButton *m_tickAgain;
     QPushButton *m_export;
 };
+
+} // namespace orda_client

@@ -1,11 +1,13 @@
-#include "PageRecord.h"
+#include "client/PageRecord.h"
 
-#include "Families.h"
+#include "client/Families.h"
 
 #include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
+
+namespace orda_client {
 
 PageRecord PageRecord::of(const QWidget *form, const Family &family)
 {
@@ -47,7 +49,7 @@ QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also)
 {
     QVector<FamilyRecord> records;
     for (const Family &family : families()) {
-        const RecordFile::State state = RecordFile(family.recordFile).look();
+        const RecordFile::State state = RecordFile(family.recordFile).state();
         const PageRecord page = PageRecord::of(form, family);
         if (state.exists || !page.error.isEmpty() || &family == also)
             records.append({&family, state, page});
@@ -59,3 +61,5 @@ QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also)
     });
     return records;
 }
+
+} // namespace orda_client

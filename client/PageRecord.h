@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RecordFile.h"
-#include "RunRecord.h"
+#include "client/RecordFile.h"
+#include "client/RunRecord.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -11,22 +11,24 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
+namespace orda_client {
+
 struct Family;
 
-/// What a page of the form says of the record of its last run, in this process.
+/// What a page of the form tells about the record of its last run in this process.
 struct PageRecord
 {
-    Q_DECLARE_TR_FUNCTIONS(PageRecord)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::PageRecord)
 
 public:
-    QString inUse; ///< who had the record when Configure was pressed last and so did nothing; else empty
+    QString inUse; ///< who was using the record when Configure was pressed last, so that nothing was done; else empty
     QString error; ///< why the record is missing or not whole; empty when it is whole, and when there was no run
-    QVector<int> entryEnds; ///< where each entry ends in the file, in bytes; empty also while a run goes on
+    QVector<int> entryEnds; ///< where each entry ends in the file, in bytes; empty while a run goes on
 
     /// @param form the batch-configuration form, or a window that has it
     static PageRecord of(const QWidget *form, const Family &family);
 
-    /// Nothing of what is in the file comes from the run.
+    /// The run has written nothing: what is in the file is older.
     bool isMissing() const { return !error.isEmpty() && entryEnds.isEmpty(); }
     /// The error as a sentence for the user; empty without one.
     QString complaint() const;
@@ -34,7 +36,7 @@ public:
     bool operator==(const PageRecord &other) const;
 };
 
-/// A family's record: what is on the disk, and what the page says of it.
+/// A family's record: what is on the disk, and what the page tells about it.
 struct FamilyRecord
 {
     const Family *family;
@@ -46,6 +48,8 @@ struct FamilyRecord
     bool operator!=(const FamilyRecord &other) const;
 };
 
-/// The records that are there or should be: those that may be read first, then the newest first.
-/// @param also a family that is in it in any case; may be null
+/// The records that exist or should exist. Those that may be read come first, and among them the newest.
+/// @param also a family that is listed in any case; may be null
 QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also);
+
+} // namespace orda_client

@@ -3,7 +3,10 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-/// How long the event loop of this thread did not turn: the lateness of a 5 ms timer. A window stands still as long.
+namespace orda_client {
+
+/// Measures how long the event loop of this thread was blocked, by how late a 5 ms timer fires. A window does not react
+/// for as long.
 class PauseMeter
 {
 public:
@@ -40,3 +43,5 @@ private:
     QElapsedTimer m_sinceTick;
     double m_longest = 0;
 };
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "RecordFile.h"
+#include "client/RecordFile.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -10,6 +10,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace orda_client {
+
 namespace {
 
 // A hundred times the record of ten thousand devices.
@@ -20,7 +22,7 @@ QString temporaryDirectory()
     return QStandardPaths::writableLocation(QStandardPaths::TempLocation);
 }
 
-// Qt makes the root directory of one that is missing, and the working directory's of a relative one.
+// Qt would replace a missing directory by the root directory, and take a relative one from the working directory.
 bool hasDirectory()
 {
     const QByteArray given = qgetenv("TMPDIR");
@@ -62,18 +64,18 @@ RecordFile::RecordFile(const QString &name)
 {
 }
 
-RecordFile::State RecordFile::look() const
+RecordFile::State RecordFile::state() const
 {
-    State state;
+    State found;
     struct stat info = {};
     if (hasDirectory() && ::lstat(QFile::encodeName(m_path).constData(), &info) == 0) {
-        state.exists = true;
-        state.refusal = refusalOf(info);
-        state.changed = qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;
-        state.size = info.st_size;
-        state.inode = info.st_ino;
+        found.exists = true;
+        found.refusal = refusalOf(info);
+        found.changed = qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;
+        found.size = info.st_size;
+        found.inode = info.st_ino;
     }
-    return state;
+    return found;
 }
 
 RecordFile::Content RecordFile::read() const
@@ -81,7 +83,7 @@ RecordFile::Content RecordFile::read() const
     const auto fail = [](const QString &why) { return Content{{}, why}; };
     if (!hasDirectory())
         return fail(tr("there is no temporary directory"));
-    // Not waiting: the name may be a pipe's.
+    // O_NONBLOCK: opening a pipe of that name would wait for a writer.
     const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0)
         return fail(errno == ELOOP ? tr("it is a symbolic link") : qt_error_string(errno));
@@ -97,3 +99,5 @@ RecordFile::Content RecordFile::read() const
         return fail(file.errorString());
     return {bytes, {}};
 }
+
+} // namespace orda_client

@@ -3,14 +3,16 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// A record on the disk. It lies in a directory that all users of the machine may share, so only a regular file of the
-/// user's own is ever read.
+namespace orda_client {
+
+/// A record on the disk. All users of the machine may share its directory, so only a regular file that belongs to this
+/// user is ever read.
 class RecordFile
 {
-    Q_DECLARE_TR_FUNCTIONS(RecordFile)
+    Q_DECLARE_TR_FUNCTIONS(orda_client::RecordFile)
 
 public:
-    /// What is there, told without reading. Two looks that are equal saw the same record.
+    /// What the file system tells about the file. While it stays equal the content has not changed.
     struct State
     {
         bool exists = false;
@@ -19,7 +21,8 @@ public:
         qint64 size = 0;
         quint64 inode = 0;
 
-        /// The local time that no entry is later than, with a day for a change of the time zone since.
+        /// A local time that no entry can be later than. It is a day after the last change of the file, because the
+        /// time zone may have changed since.
         QString lastTime() const;
 
         bool operator==(const State &other) const;
@@ -34,11 +37,13 @@ public:
     /// @param name without a directory
     explicit RecordFile(const QString &name);
 
-    /// As the module's pages have it.
+    /// The same as the module's pages use.
     QString path() const { return m_path; }
-    State look() const;
+    State state() const;
     Content read() const;
 
 private:
     QString m_path;
 };
+
+} // namespace orda_client

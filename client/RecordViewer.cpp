@@ -1,11 +1,13 @@
-#include "RecordViewer.h"
+#include "client/RecordViewer.h"
 
 #include <QProcess>
 
+namespace orda_client {
+
 void RecordViewer::open(const QString &path)
 {
-    // Not QDesktopServices::openUrl(): it succeeds already when the desktop's opener was started, which may find no
-    // viewer. Without a parent: the opener may be the viewer itself, and goes on when this program ends.
+    // Not QDesktopServices::openUrl(): it succeeds as soon as the desktop's opener has started, even when that finds no
+    // viewer. Without a parent: the opener may be the viewer itself, which stays when this program ends.
     auto *opener = new QProcess;
     opener->setProcessChannelMode(QProcess::ForwardedChannels);
     opener->setStandardInputFile(QProcess::nullDevice());
@@ -25,3 +27,5 @@ void RecordViewer::open(const QString &path)
     });
     opener->start(QStringLiteral("xdg-open"), {path});
 }
+
+} // namespace orda_client

@@ -2,7 +2,9 @@
 
 #include <QObject>
 
-/// Opens files with the desktop's viewer, and tells when there is none.
+namespace orda_client {
+
+/// Opens files with the desktop's viewer, and reports when there is none.
 class RecordViewer : public QObject
 {
     Q_OBJECT
@@ -16,3 +18,5 @@ public:
 signals:
     void signalNoViewer(const QString &path);
 };
+
+} // namespace orda_client

@@ -1,9 +1,10 @@
-#include "RunDriver.h"
+#include "client/RunDriver.h"
 
-#include "Families.h"
-#include "LastRunWindow.h"
-#include "PageRecord.h"
-#include "RecordFile.h"
+#include "client/Families.h"
+#include "client/LastRunWindow.h"
+#include "client/PageRecord.h"
+#include "client/RecordFile.h"
+#include "programs/Complaint.h"
 
 #include <orda_base/DisabledWaitingWt.h>
 #include <orda_data/DataSignals.h>
@@ -27,11 +28,15 @@
 
 #include <chrono>
 
+namespace orda_client {
+
+using namespace orda_programs;
+
 namespace {
 
 using namespace std::chrono_literals;
 
-// Longer than the SDK's limit for one connection attempt, and than 32 attempts at a time take for many silent devices.
+// Longer than the SDK takes to dial each of many silent devices once, 32 at a time.
 constexpr auto settleLimit = 60s;
 // A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
 constexpr auto settlePause = 150ms;
@@ -42,11 +47,6 @@ QTextStream &out()
 {
     static QTextStream stream(stdout);
     return stream;
-}
-
-void printError(const QString &text)
-{
-    QTextStream(stderr) << "orda_client: " << vms_sdk::escaped(text) << Qt::endl;
 }
 
 } // namespace
@@ -65,10 +65,10 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
     connect(&sdk, &vms_sdk::ClientSignals::signalRequestTimeout, this, heard);
     window->installEventFilter(this);
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
-        window->resize(window->sizeHint()); // the screen in memory is small and bounds nothing
+        window->resize(window->sizeHint()); // the offscreen platform has a small screen that does not matter
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) {
-                printError(text);
+                complain(text);
                 end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? ExitNoDevice : ExitRecordInUse);
             });
 }
@@ -82,7 +82,7 @@ void RunDriver::start()
             m_unsettled.insert(dev.id);
     for (const QString &id : qAsConst(m_options.deviceIds)) {
         if (!m_unsettled.contains(id)) {
-            printError(tr("--devices: there is no device \"%1\"").arg(id));
+            complain(tr("--devices: there is no device \"%1\"").arg(id));
             end(ExitUsage);
             return;
         }
@@ -104,7 +104,7 @@ bool RunDriver::eventFilter(QObject *watched, QEvent *event)
 void RunDriver::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)
 {
     if (status != vms_sdk::DevConnecting && m_unsettled.remove(devId) && m_unsettled.isEmpty()) {
-        // The list hears of the same change; it goes first.
+        // Later: the list must handle the same signal first.
         QTimer::singleShot(0ms, this, &RunDriver::whenSettled);
     }
 }
@@ -118,10 +118,10 @@ void RunDriver::whenSettled()
     if (m_options.screenshotsDir.isEmpty())
         tickAndConfigure();
     else
-        picturePages(0);
+        savePageScreenshots(0);
 }
 
-void RunDriver::picturePages(int from)
+void RunDriver::savePageScreenshots(int from)
 {
     if (from == families().size()) {
         tickAndConfigure();
@@ -129,8 +129,8 @@ void RunDriver::picturePages(int from)
     }
     openPage(families().at(from));
     QTimer::singleShot(settlePause, this, [this, from] {
-        picture(m_window, QStringLiteral("page-") + families().at(from).name);
-        picturePages(from + 1);
+        saveScreenshot(m_window, QStringLiteral("page-") + families().at(from).name);
+        savePageScreenshots(from + 1);
     });
 }
 
@@ -141,7 +141,7 @@ void RunDriver::tickAndConfigure()
     out() << tr("%n device(s) ticked", nullptr, ticked) << Qt::endl;
     const int missing = m_options.deviceIds.size() - ticked;
     if (missing > 0)
-        printError(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
+        complain(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
 }
 
@@ -176,16 +176,16 @@ void RunDriver::configure()
     m_duration.start();
     m_pauses.start();
     const QWidget *page = m_window->findChild<QWidget *>(m_family->pageName);
-    page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click(); // comes back when the run is over
+    page->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click(); // returns when the run is over
     progress->stop();
-    QCoreApplication::processEvents(); // the summary is drawn
-    if (m_hasSummary) { // else the application is quitting
+    QCoreApplication::processEvents(); // so that the summary is drawn
+    if (m_hasSummary) { // there is none when the application quits
         out() << "run: " << m_lastHeard << " ms to the last answer, " << m_duration.elapsed() << " ms in all"
               << Qt::endl;
         out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
         printRecord();
         answerSummary();
-        pictureLastRun();
+        saveLastRunScreenshot();
         const bool hasRecord = PageRecord::of(m_window, *m_family).error.isEmpty();
         end(!hasRecord ? ExitNoRecord : m_isAllDone ? ExitOk : ExitSomeFailed);
     }
@@ -197,7 +197,7 @@ void RunDriver::followProgress()
     if (!overlay || overlay->description() == m_lastProgress)
         return;
     if (m_lastProgress.isEmpty())
-        picture(m_window, QStringLiteral("run"));
+        saveScreenshot(m_window, QStringLiteral("run"));
     m_lastProgress = overlay->description();
     out() << m_lastProgress << Qt::endl;
 }
@@ -206,7 +206,7 @@ void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
 {
     out() << info.title << Qt::endl << info.text << Qt::endl;
 
-    // Total, success, failure, in every language.
+    // The numbers are total, success and failure, in this order in every language.
     QList<int> counts;
     auto numbers = QRegularExpression(QStringLiteral("\\d+")).globalMatch(info.text);
     while (numbers.hasNext())
@@ -220,21 +220,21 @@ void RunDriver::answerSummary()
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *widget : windows) {
         if (auto *dialog = qobject_cast<QDialog *>(widget); dialog && dialog->isVisible()) {
-            picture(m_window, QStringLiteral("page-after-run"));
-            picture(dialog, QStringLiteral("summary"));
+            saveScreenshot(m_window, QStringLiteral("page-after-run"));
+            saveScreenshot(dialog, QStringLiteral("summary"));
             dialog->reject();
         }
     }
 }
 
-void RunDriver::pictureLastRun() const
+void RunDriver::saveLastRunScreenshot() const
 {
     if (m_options.screenshotsDir.isEmpty())
         return;
     m_window->findChild<QAction *>(QStringLiteral("showLastRun"))->trigger();
-    QCoreApplication::processEvents(); // it is laid out
+    QCoreApplication::processEvents(); // so that it is laid out
     auto *lastRun = m_window->findChild<LastRunWindow *>();
-    picture(lastRun, QStringLiteral("last-run"));
+    saveScreenshot(lastRun, QStringLiteral("last-run"));
     lastRun->close();
 }
 
@@ -242,27 +242,29 @@ void RunDriver::printRecord() const
 {
     const PageRecord page = PageRecord::of(m_window, *m_family);
     if (!page.error.isEmpty())
-        printError(page.complaint());
+        complain(page.complaint());
     if (page.isMissing())
-        return; // what the file holds is of another run
+        return; // what is in the file is from another run
     const RecordFile file(m_family->recordFile);
     out() << "record: " << file.path() << Qt::endl;
     const RecordFile::Content content = file.read();
     out() << vms_sdk::escaped(QString::fromLocal8Bit(content.bytes), QStringLiteral("\n")) << Qt::flush;
     if (!content.error.isEmpty())
-        printError(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
+        complain(tr("cannot read the record file %1: %2").arg(file.path(), content.error));
 }
 
-void RunDriver::picture(QWidget *widget, const QString &name) const
+void RunDriver::saveScreenshot(QWidget *widget, const QString &name) const
 {
     if (m_options.screenshotsDir.isEmpty())
         return;
     const QString path = QDir(m_options.screenshotsDir).filePath(name + QStringLiteral(".png"));
     if (!widget->grab().save(path))
-        printError(tr("cannot write the picture %1").arg(path));
+        complain(tr("cannot write the picture %1").arg(path));
 }
 
 void RunDriver::end(ExitCode code)
 {
     QCoreApplication::exit(code);
 }
+
+} // namespace orda_client

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "ClientOptions.h"
-#include "PauseMeter.h"
+#include "client/ClientOptions.h"
+#include "client/PauseMeter.h"
+#include "programs/ExitCode.h"
 
 #include <vms_client_sdk/DevInfo.h>
 
@@ -16,6 +17,9 @@ QT_END_NAMESPACE
 namespace orda_worker {
 struct EventConfirmInfo;
 }
+
+namespace orda_client {
+
 struct Family;
 
 /// Drives the form as an operator would, without one: waits until the devices have come online, opens the family's
@@ -36,7 +40,7 @@ private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void handleDevStatus(const QString &devId, vms_sdk::DevStatus status);
     void whenSettled();
-    void picturePages(int from);
+    void savePageScreenshots(int from);
     void tickAndConfigure();
     void openPage(const Family &family);
     int tickDevices();
@@ -44,10 +48,10 @@ private:
     void followProgress();
     void handleSummary(const orda_worker::EventConfirmInfo &info);
     void answerSummary();
-    void pictureLastRun() const;
+    void saveLastRunScreenshot() const;
     void printRecord() const;
-    void picture(QWidget *widget, const QString &name) const;
-    static void end(ExitCode code);
+    void saveScreenshot(QWidget *widget, const QString &name) const;
+    static void end(orda_programs::ExitCode code);
 
     ClientOptions m_options;
     const Family *m_family;
@@ -57,7 +61,9 @@ private:
     bool m_hasSummary = false;
     bool m_isAllDone = false;
     QElapsedTimer m_duration; // since the press
-    qint64 m_lastHeard = 0; // of m_duration: the last answer or time-out
+    qint64 m_lastHeard = 0; // by m_duration: when the last answer or time-out came
     PauseMeter m_pauses;
     QString m_lastProgress;
 };
+
+} // namespace orda_client

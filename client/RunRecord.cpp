@@ -1,4 +1,4 @@
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <orda_base/SortOrder.h>
 
@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <optional>
 
+namespace orda_client {
+
 namespace {
 
 constexpr int timeWidth = 19;
@@ -19,7 +21,7 @@ constexpr int gapWidth = 4;
 constexpr int ipWidth = 16;
 constexpr int wideGapWidth = 16;
 
-// Where the module keeps its text for a device that was configured.
+// Context and source of the module's text for a device that was configured.
 constexpr char successContext[] = "orda_batchCfg::ParamsCfgTask";
 constexpr char successText[] = "success";
 
@@ -35,7 +37,7 @@ int endOfBlanks(const QString &text, int from)
     return from;
 }
 
-// The address in the column that begins at this place; empty for an empty column, nothing when no column begins there.
+// The address in the column that begins at this place. It is empty in an empty column; nothing: no column begins there.
 std::optional<QString> addressAt(const QString &text, int place, bool anyWord)
 {
     const QString word = text.mid(place, text.indexOf(QLatin1Char(' '), place) - place);
@@ -57,7 +59,7 @@ std::optional<RunEntry> parseAround(const QString &text, bool anyWord)
             continue;
         int message = end + gapWidth + std::max(ipWidth, ip->size()) + gapWidth;
         if (ip->isEmpty()) {
-            // Serial numbers may end with blanks, messages do not begin with any.
+            // Blanks here belong to the serial number, because no message begins with one.
             const int surplus = endOfBlanks(text, message) - message;
             if (surplus < wideGapWidth) {
                 end += surplus;
@@ -79,7 +81,7 @@ std::optional<RunEntry> parseAround(const QString &text, bool anyWord)
     return {};
 }
 
-// Whether a time and a gap begin at this place; a regular expression would look at the whole record each time.
+// Whether a time and a gap begin at this place. A regular expression would go through the whole record each time.
 bool isTimeAt(const QString &text, int place)
 {
     const QLatin1String pattern("0000-00-00 00:00:00    ");
@@ -110,7 +112,7 @@ bool hasOtherTime(const QString &text)
     return false;
 }
 
-// An empty line alone ends no entry, a name may have one; the next entry's time must follow.
+// An entry ends with an empty line that a time follows: a name may contain empty lines too.
 int endOfEntry(const QString &text, int from)
 {
     const QLatin1String emptyLine("\n\n");
@@ -119,7 +121,7 @@ int endOfEntry(const QString &text, int from)
         if (isRealTimeAt(text, next))
             return next;
     }
-    // The last entry too ends with an empty line; what lies behind it was cut off.
+    // The last entry ends with an empty line too; what follows it is the beginning of an entry that was cut off.
     const int last = text.endsWith(emptyLine) ? -1 : text.lastIndexOf(emptyLine);
     return last > from ? last + emptyLine.size() : text.size();
 }
@@ -143,10 +145,10 @@ bool isCertain(const RunEntry &entry)
 RunEntry parseEntry(const QString &text)
 {
     RunEntry unreadable = unreadableEntry(text);
-    // A second time inside is another entry: the end of the first was never written.
+    // A second time inside belongs to another entry: the end of the first one was never written.
     if (!isRealTimeAt(text, 0) || hasOtherTime(text))
         return unreadable;
-    // Addresses of other kinds, such as host names, are not told from serial numbers with gaps in them as safely.
+    // IPv4 addresses first: others, such as host names, are hard to tell from parts of a serial number.
     const std::optional<RunEntry> entry = parseAround(text, false);
     return entry ? *entry : parseAround(text, true).value_or(unreadable);
 }
@@ -190,14 +192,14 @@ QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &success
 {
     QVector<RunEntry> entries;
     QString before; // the text of the entry before this one
-    QString latest; // time
+    QString latest; // the latest time so far
     for (int from = 0; from < text.size();) {
         const int end = endOfEntry(text, from);
         const QString own = withoutEmptyLine(text.mid(from, end - from));
         entries.append(judgedEntry(own, successTexts));
         const QString time = isRealTimeAt(own, 0) ? own.left(timeWidth) : latest;
         if (time < latest || (!lastTime.isEmpty() && time > lastTime)) {
-            // Results are written as they come: this time stands in a field, and no entry begins or ends here.
+            // Entries are written in the order of time, so this time is part of a field: no entry begins or ends here.
             doubt(&entries.last(), own);
             if (entries.size() > 1)
                 doubt(&entries[entries.size() - 2], before);
@@ -254,3 +256,5 @@ QVector<FailureGroup> groupFailures(const QVector<RunEntry> &entries)
                      [](const FailureGroup &group, const FailureGroup &other) { return group.count > other.count; });
     return groups;
 }
+
+} // namespace orda_client

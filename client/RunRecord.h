@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVector>
 
+namespace orda_client {
+
 /// The outcome of one device, as a run's record has it.
 struct RunEntry
 {
@@ -33,23 +35,25 @@ struct FailureGroup
     bool has(const RunEntry &entry) const;
 };
 
-/// Reads a record: one entry a device, in the order of the text. An entry is the time, the serial number, the IP
-/// address (16 characters wide, or wider when it is longer), the result and the device's name, with 4 blanks in between
-/// but 16 before the name, and ends with an empty line. The fields are free texts that may look like gaps themselves;
-/// the address, or the empty column where a device has none, tells where the others begin and end. What makes no sense
-/// is an unreadable entry: no text is dropped. So is a success that could be read in another way, because a field looks
-/// like a part of an entry, or like an entry of another time.
+/// Reads a record: one entry for each device, in the order of the text. An entry is the time, the serial number, the IP
+/// address (in a column of 16 characters, wider only where it is longer), the result and the device's name, with 4
+/// blanks in between but 16 before the name, and ends with an empty line. The fields are free texts, which may contain
+/// such gaps themselves; the address, or the empty column of a device without one, tells where the others begin and
+/// end. No text is dropped: what cannot be read becomes an unreadable entry. A success becomes one too when it could
+/// also be read in another way, because a field looks like a part of an entry or like an entry of another time.
 /// @param successTexts results of devices that were configured; any other is a failure
-/// @param lastTime no entry is from later; empty when that is not known
+/// @param lastTime no entry is later; empty when that is not known
 QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &successTexts, const QString &lastTime = {});
-/// The same where the writer has told the entries' ends, in bytes: then no field that looks like an entry is taken for
-/// one, whatever its time. Ends that are not this record's are left alone.
+/// The same for a record whose writer has told where the entries end, in bytes: then no field is taken for an entry,
+/// whatever it contains. Ends that do not fit this record are ignored.
 QVector<RunEntry> parseRunRecord(const QByteArray &record, const QVector<int> &ends, const QStringList &successTexts,
                                  const QString &lastTime = {});
 
-/// The module's text for a device that was configured, in all its languages: the record may be from before the window's
-/// was changed.
+/// The module's text for a device that was configured, in all its languages: the record may have been written before
+/// the language was changed.
 QStringList successTexts();
 
 /// The largest group first, equal ones by their message.
 QVector<FailureGroup> groupFailures(const QVector<RunEntry> &entries);
+
+} // namespace orda_client

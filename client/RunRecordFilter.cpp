@@ -1,6 +1,8 @@
-#include "RunRecordFilter.h"
+#include "client/RunRecordFilter.h"
 
-#include "RunRecordModel.h"
+#include "client/RunRecordModel.h"
+
+namespace orda_client {
 
 RunRecordFilter::RunRecordFilter(RunRecordModel *model, QObject *parent)
     : QSortFilterProxyModel(parent)
@@ -41,3 +43,5 @@ bool RunRecordFilter::lessThan(const QModelIndex &left, const QModelIndex &right
 {
     return m_model->isBefore(RunRecordModel::Column(left.column()), left.row(), right.row());
 }
+
+} // namespace orda_client

@@ -1,14 +1,16 @@
 #pragma once
 
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <QSortFilterProxyModel>
 
 #include <optional>
 
+namespace orda_client {
+
 class RunRecordModel;
 
-/// The rows of a record that are looked at, in the order that is asked for.
+/// The rows of a record that are shown, filtered and sorted.
 class RunRecordFilter : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -17,7 +19,7 @@ public:
     /// @param model must outlive the filter
     explicit RunRecordFilter(RunRecordModel *model, QObject *parent = nullptr);
 
-    /// What is left out: devices that were configured.
+    /// True: leaves out the devices that were configured.
     void setFailedOnly(bool failedOnly);
     /// Only the failures of this group; nothing: whatever the message.
     void setGroup(const std::optional<FailureGroup> &group);
@@ -34,3 +36,5 @@ private:
     std::optional<FailureGroup> m_group;
     QString m_keyword;
 };
+
+} // namespace orda_client

@@ -1,4 +1,4 @@
-#include "RunRecordModel.h"
+#include "client/RunRecordModel.h"
 
 #include <orda_base/SortOrder.h>
 #include <vms_client_sdk/ForeignText.h>
@@ -9,9 +9,11 @@
 #include <algorithm>
 #include <tuple>
 
+namespace orda_client {
+
 namespace {
 
-constexpr int maxShown = 2000; // characters; what cannot be read may be of any length
+constexpr int maxShown = 2000; // characters; an unreadable entry may have any length
 
 } // namespace
 
@@ -130,7 +132,7 @@ QVariant RunRecordModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return text(entry, index.column());
     case Qt::ToolTipRole: {
-        // A name may look like mark-up, which a tool tip would take it for.
+        // A tool tip would interpret a name that looks like HTML.
         const QString shown = vms_sdk::displayText(text(entry, index.column()).left(maxShown), QStringLiteral("\n"));
         return shown.isEmpty() ? QString() : Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal);
     }
@@ -169,3 +171,5 @@ QVariant RunRecordModel::headerData(int section, Qt::Orientation orientation, in
         return tr("Message");
     }
 }
+
+} // namespace orda_client

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "RunRecord.h"
+#include "client/RunRecord.h"
 
 #include <QAbstractTableModel>
 #include <QCollatorSortKey>
 
 #include <optional>
 #include <vector>
+
+namespace orda_client {
 
 /// A run's record as a table, a row an entry in the order of the record.
 class RunRecordModel : public QAbstractTableModel
@@ -55,5 +57,7 @@ private:
     static QString text(const RunEntry &entry, int column);
 
     QVector<RunEntry> m_entries;
-    std::vector<Keys> m_keys; // by row; comparing texts anew each time would be most of a sort
+    std::vector<Keys> m_keys; // by row; comparing the texts each time would take most of the time of sorting
 };
+
+} // namespace orda_client

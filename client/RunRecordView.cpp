@@ -1,6 +1,6 @@
-#include "RunRecordView.h"
+#include "client/RunRecordView.h"
 
-#include "RunRecordModel.h"
+#include "client/RunRecordModel.h"
 
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -8,13 +8,15 @@
 #include <algorithm>
 #include <utility>
 
+namespace orda_client {
+
 namespace {
 
 constexpr int rowPixels = 28;
 
 constexpr int cellPadding = 16;
 
-// Room for a column, in digits; the outcome has what its texts take, the message what is left.
+// Widths in digits. The column of the outcome is as wide as its texts, the message takes the rest.
 constexpr std::pair<RunRecordModel::Column, int> widths[]{{RunRecordModel::Name, 19},
                                                           {RunRecordModel::SerialNumber, 17},
                                                           {RunRecordModel::Ip, 16},
@@ -31,7 +33,7 @@ RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
     setVerticalScrollMode(ScrollPerPixel);
     setAlternatingRowColors(true);
     setShowGrid(false);
-    setTextElideMode(Qt::ElideMiddle); // messages differ in the code at their end
+    setTextElideMode(Qt::ElideMiddle); // the error code is at the end of a message
     setWordWrap(false);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
@@ -43,7 +45,7 @@ RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStyleSheet(QStringLiteral("QHeaderView::section { padding-left: 6px; }"));
-    ensurePolished(); // with the font that it will have
+    ensurePolished(); // so that the font is the one that will be used
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const auto &[column, digits] : widths)
         horizontalHeader()->resizeSection(column, digits * digit);
@@ -56,3 +58,5 @@ RunRecordView::RunRecordView(QAbstractItemModel *record, QWidget *parent)
     }
     horizontalHeader()->resizeSection(RunRecordModel::Outcome, outcomeWidth);
 }
+
+} // namespace orda_client

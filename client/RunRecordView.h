@@ -2,7 +2,9 @@
 
 #include <QTableView>
 
-/// The table in which a record is looked at, sorted by a click on a title.
+namespace orda_client {
+
+/// The table that shows a record, sorted by a click on a title.
 class RunRecordView : public QTableView
 {
     Q_OBJECT
@@ -11,3 +13,5 @@ public:
     /// @param record has the columns of RunRecordModel, and must outlive the view
     explicit RunRecordView(QAbstractItemModel *record, QWidget *parent = nullptr);
 };
+
+} // namespace orda_client

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FailedDevices.h"
+#include "client/FailedDevices.h"
 
 #include <QWidget>
 
@@ -9,7 +9,9 @@ class QLabel;
 class QPlainTextEdit;
 QT_END_NAMESPACE
 
-/// What has become of the failed devices that were to be ticked again: how many were, and which were not, with why.
+namespace orda_client {
+
+/// Tells how many failed devices were ticked again, and which were not and why.
 class TickReport : public QWidget
 {
     Q_OBJECT
@@ -21,5 +23,7 @@ public:
 
 private:
     QLabel *m_text;
-    QPlainTextEdit *m_left;
+    QPlainTextEdit *m_notTicked;
 };
+
+} // namespace orda_client

@@ -1,9 +1,11 @@
-#include "Translations.h"
+#include "client/Translations.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
+
+namespace orda_client {
 
 namespace {
 
@@ -48,8 +50,8 @@ bool Translations::install(const QString &language)
         return false;
     const QLocale locale(code);
     if (locale.language() != QLocale::system().language())
-        QLocale::setDefault(locale); // its numbers too
-    // Qt's own texts, of its file dialog for one, where they are installed.
+        QLocale::setDefault(locale); // numbers are written as in this language too
+    // Qt's own texts, such as those of its file dialog, where they are installed.
     load(QLibraryInfo::location(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_%1").arg(code));
     const QStringList files = filesOf(code);
     for (const QString &file : files)
@@ -65,3 +67,5 @@ void Translations::load(const QString &file)
         m_translators.push_back(std::move(translator));
     }
 }
+
+} // namespace orda_client

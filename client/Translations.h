@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+namespace orda_client {
+
 /// The languages of the window. Each but English, in which the texts are written, is a set of compiled translations in
 /// the resource ":/translations", named <part>_<language>.qm.
 class Translations
@@ -27,3 +29,5 @@ private:
 
     std::vector<std::unique_ptr<QTranslator>> m_translators;
 };
+
+} // namespace orda_client

@@ -1,33 +1,24 @@
-#include "ClientOptions.h"
-#include "ClientSession.h"
-#include "ClientWindow.h"
-#include "RunDriver.h"
-#include "Translations.h"
+#include "client/ClientOptions.h"
+#include "client/ClientSession.h"
+#include "client/ClientWindow.h"
+#include "client/RunDriver.h"
+#include "client/Translations.h"
+#include "programs/Complaint.h"
 
 #include <orda_base/Theme.h>
-#include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/OpenFiles.h>
 
 #include <QApplication>
 #include <QIcon>
-#include <QTextStream>
 #include <QTimer>
 
 #include <chrono>
 #include <memory>
 
+using namespace orda_client;
+using namespace orda_programs;
+
 namespace {
-
-void complain(const QString &text)
-{
-    QTextStream(stderr) << "orda_client: " << vms_sdk::escaped(text) << Qt::endl;
-}
-
-int fail(const QString &error, ExitCode code)
-{
-    complain(error);
-    return code;
-}
 
 /// Without any display the window is drawn in memory only, which is enough for --run, --help and mistakes.
 /// @return whether that is so
@@ -38,7 +29,7 @@ bool chooseScreen()
         isBlind = isBlind && qEnvironmentVariableIsEmpty(variable);
     if (isBlind)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The screen in memory claims 100 dots per inch, which would be a scale of 1.04.
+    // The offscreen platform reports 100 dots per inch, which would scale the window by 1.04.
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen" && !qEnvironmentVariableIsSet("QT_FONT_DPI"))
         qputenv("QT_FONT_DPI", "96");
     return isBlind;
@@ -48,11 +39,11 @@ bool chooseScreen()
 
 int main(int argc, char *argv[])
 {
-    // GLib's dispatcher looks at every socket on every wake-up, which thousands of devices turn into seconds.
+    // GLib's dispatcher checks every socket on every wake-up, which takes seconds with thousands of devices.
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // A screen at 1.5 shows everything at 1.5, not at 2.
+    // Without this a scale of 1.5 would be rounded to 2.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const bool isBlind = chooseScreen();
     QApplication app(argc, argv);
@@ -63,7 +54,7 @@ int main(int argc, char *argv[])
     vms_sdk::raiseOpenFileLimit();
 
     const QString language = requestedLanguage(QCoreApplication::arguments());
-    Translations translations; // first: what the command line gets wrong is said in it too
+    Translations translations; // first: mistakes of the command line are told in this language too
     if (!translations.install(language)) {
         return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
                         .arg(Translations::languages().join(QStringLiteral(", ")), language),
@@ -94,7 +85,7 @@ int main(int argc, char *argv[])
     if (!error.isEmpty())
         return fail(error, ExitInput);
 
-    std::unique_ptr<RunDriver> driver; // it ends the program at an alert: only where no person could answer that
+    std::unique_ptr<RunDriver> driver; // only without a person at the window: it ends the program at an alert
     if (!options.family.isEmpty()) {
         driver = std::make_unique<RunDriver>(options, &window);
         QTimer::singleShot(std::chrono::milliseconds(0), driver.get(), &RunDriver::start);

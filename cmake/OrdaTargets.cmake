@@ -51,18 +51,35 @@ function(orda_install_package name)
   install(EXPORT ${name} FILE ${name}Targets.cmake NAMESPACE orda:: DESTINATION "${place}" COMPONENT development)
 endfunction()
 
-# orda_client_library(<name> LINKS <targets> SOURCES <files> [INTERNAL <files>]): one of the six client libraries, with clientlibs/ as
-# its include root. The headers among SOURCES are its users', those among INTERNAL are not installed.
+# orda_hide_symbols(<library>): only what is marked for it can be seen from outside, and nothing may be left for whoever loads it to find.
+function(orda_hide_symbols name)
+  set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+  get_target_property(type ${name} TYPE)
+  if(type STREQUAL "SHARED_LIBRARY" AND NOT ORDA_SANITIZE) # clang puts what its sanitizers call into the program
+    target_link_options(${name} PRIVATE LINKER:-z,defs)
+  endif()
+endfunction()
+
+# The directory of what CMake generates for the client libraries: <library>/Export.h with the mark <LIBRARY>_EXPORT.
+set(ORDA_EXPORT_HEADERS "${PROJECT_BINARY_DIR}/clientlibs/include")
+
+# orda_client_library(<name> LINKS <targets> [PRIVATE_LINKS <targets>] SOURCES <files> [INTERNAL <files>]): one of the six client
+# libraries, with clientlibs/ as its include root. The headers among SOURCES are its users'; those among INTERNAL are not installed,
+# and what they mark as exported is for the programs and tests of this tree.
 function(orda_client_library name)
   cmake_parse_arguments(arg "" "" "LINKS;PRIVATE_LINKS;SOURCES;INTERNAL" ${ARGN})
   add_library(${name} SHARED ${arg_SOURCES} ${arg_INTERNAL})
   add_library(orda::${name} ALIAS ${name})
   orda_target(${name})
+  orda_hide_symbols(${name})
+  generate_export_header(${name} EXPORT_FILE_NAME "${ORDA_EXPORT_HEADERS}/${name}/Export.h")
   # Nobody replaces single functions of these: calls within a file are direct.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
   set(headers ${arg_SOURCES})
   list(FILTER headers INCLUDE REGEX "\\.h$")
-  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/clientlibs" FILES ${headers})
+  target_sources(${name} PUBLIC FILE_SET HEADERS
+    BASE_DIRS "${PROJECT_SOURCE_DIR}/clientlibs" "${ORDA_EXPORT_HEADERS}"
+    FILES ${headers} "${ORDA_EXPORT_HEADERS}/${name}/Export.h")
   target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
   orda_install(${name} clientlibs orda_clientlibs "${CMAKE_INSTALL_INCLUDEDIR}")
 endfunction()

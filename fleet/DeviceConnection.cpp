@@ -1,6 +1,6 @@
-#include "DeviceConnection.h"
+#include "fleet/DeviceConnection.h"
 
-#include "Logging.h"
+#include "fleet/Logging.h"
 
 #include <vms_client_sdk/SignOn.h>
 #include <vms_client_sdk/websocket/AnswerCheck.h>
@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::chrono::seconds signOnLimit{10}; // as long as a client waits
 constexpr std::chrono::seconds closeLimit{2}; // what a client may take to close before it is cut
-// A client that asks and does not read: room for one answer, which may be the fault of a huge one.
+// For a client that does not read its answers. There is room for one, which may be the huge one of a fault.
 constexpr qint64 maxUnsentBytes = 2 << 20;
 
 } // namespace
@@ -87,7 +87,7 @@ void DeviceConnection::signOn(const QJsonObject &auth)
 
     m_isSignedOn = true;
     m_connection->setMaxMessageBytes(vms_sdk::maxFrameBytes);
-    m_signOnTimer.stop(); // and not left to run out: Qt looks through all timers for each one that is stopped
+    m_signOnTimer.stop(); // now, so that few timers are active: stopping one takes Qt a search through all of them
     sendJson(QStringLiteral("welcome"),
              {{QStringLiteral("state"), int(m_state)},
               {QStringLiteral("proof"), QString::fromLatin1(proofOf(vms_sdk::SignOnSide::Device))}});

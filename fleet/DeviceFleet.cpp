@@ -1,11 +1,11 @@
-#include "DeviceFleet.h"
+#include "fleet/DeviceFleet.h"
 
-#include "DeviceConnection.h"
-#include "DeviceListener.h"
-#include "Logging.h"
-#include "Reaction.h"
-#include "SimulatedDevice.h"
-#include "Site.h"
+#include "fleet/DeviceConnection.h"
+#include "fleet/DeviceListener.h"
+#include "fleet/Logging.h"
+#include "fleet/Reaction.h"
+#include "fleet/SimulatedDevice.h"
+#include "fleet/Site.h"
 
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
@@ -20,9 +20,9 @@ namespace device_fleet {
 
 namespace {
 
-// Windows and scripts that use a site at once. A client that dials again has lost the connection before.
+// So many windows and scripts may use a site at a time. Older connections are those that their clients have lost.
 constexpr int maxClients = 4;
-constexpr int maxWaitingAnswers = 256; // of one connection; a task has one request under way
+constexpr int maxWaitingAnswers = 256; // of one connection; a task waits for one at a time
 
 bool hasOwnAddresses(const FleetOptions &options)
 {
@@ -146,7 +146,7 @@ void DeviceFleet::setOnline(const QString &deviceId, bool online)
     device->isOnline = online;
     if (online)
         return;
-    const QList<DeviceConnection *> connections = device->connections; // each leaves the list as it is cut
+    const QList<DeviceConnection *> connections = device->connections; // a copy: cutting one removes it from the list
     for (DeviceConnection *connection : connections)
         connection->cut();
 }
@@ -186,7 +186,7 @@ void DeviceFleet::takeOver(Device &device, DeviceConnection *connection)
     device.connections.append(connection);
     if (device.connections.size() > maxClients)
         device.connections.constFirst()->cut();
-    if (!device.isOnline) // since the handshake
+    if (!device.isOnline) // it went offline after the handshake
         connection->cut();
 }
 
@@ -220,7 +220,7 @@ void DeviceFleet::handleRequest(Device &device, DeviceConnection &connection, co
         connection.cut();
         return;
     }
-    // A child, so that a connection that is gone takes its answers along; QTimer::singleShot() would leave them behind.
+    // A child, so that waiting answers are deleted with their connection, which QTimer::singleShot() would not do.
     auto *timer = new QTimer(&connection);
     timer->setObjectName(QStringLiteral("answer"));
     timer->setSingleShot(true);

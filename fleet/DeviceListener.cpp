@@ -1,8 +1,8 @@
-#include "DeviceListener.h"
+#include "fleet/DeviceListener.h"
 
-#include "FleetOptions.h"
-#include "Logging.h"
-#include "TlsIdentity.h"
+#include "fleet/FleetOptions.h"
+#include "fleet/Logging.h"
+#include "fleet/TlsIdentity.h"
 
 #include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
@@ -50,7 +50,7 @@ QString DeviceListener::start(const FleetOptions &options)
             return error;
     }
 
-    // A socket that answers on all of 127.0.0.0/8 is bound to every address; who comes from elsewhere is turned away.
+    // To answer on all of 127.0.0.0/8 a socket must be bound to every address. Other machines are then refused.
     m_isLoopbackOnly = options.listenAddress.isNull();
     const QHostAddress address = m_isLoopbackOnly ? QHostAddress(QHostAddress::AnyIPv4) : options.listenAddress;
     if (!listen(address, options.port) || ::listen(int(socketDescriptor()), backlog) != 0)
@@ -104,7 +104,7 @@ void DeviceListener::readHead(QTcpSocket *socket, vms_sdk::HttpHead *head)
         socket->abort();
         break;
     case vms_sdk::HttpHead::State::Complete:
-        admit(socket, vms_sdk::HttpHead(*head)); // a copy: the connections that hold it end there
+        admit(socket, vms_sdk::HttpHead(*head)); // a copy: admit() removes what owns it
         break;
     }
 }

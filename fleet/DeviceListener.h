@@ -24,8 +24,8 @@ enum class Admission
     Unknown
 };
 
-/// The server socket of all devices. Looks at the path before the WebSocket handshake, so that a device that is off
-/// line answers nothing at all and an unknown path is refused as HTTP does it.
+/// The server socket of all devices. Reads the path before the WebSocket handshake, so that a device that is offline
+/// does not answer at all and an unknown path gets the HTTP error for it.
 class DeviceListener : public QTcpServer
 {
     Q_OBJECT

@@ -1,6 +1,6 @@
-#include "EmbeddedFleet.h"
+#include "fleet/EmbeddedFleet.h"
 
-#include "DeviceFleet.h"
+#include "fleet/DeviceFleet.h"
 
 #include <vms_client_sdk/OpenFiles.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FaultPlan.h"
-#include "FleetOptions.h"
+#include "fleet/FaultPlan.h"
+#include "fleet/FleetOptions.h"
 
 #include <vms_client_sdk/DevInfo.h>
 

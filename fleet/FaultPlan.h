@@ -42,7 +42,7 @@ struct FaultRule
     ReturnWith returnWith = ReturnWith::NewSettings; ///< for DropAndReturn
 };
 
-/// Which device does what wrong, and with which method. As a file:
+/// Which faults the devices have, and with which methods. As a file:
 ///
 ///     {"faults": [{"devices": ["dev-0001", "dev-0007"], "methods": ["ai_set_param"], "fault": "late-answer",
 ///     "delayMs": 500},
@@ -59,9 +59,12 @@ class FaultPlan
 {
 public:
     /// @param error set to a text for the user: file, entry, field and what would be right; empty on success
-    /// @param warnings get what was read over: unknown keys
+    /// @param warnings is appended the keys that are not used
     /// @return the plan, without any fault on an error
     static FaultPlan read(const QString &path, QString *error, QStringList *warnings);
+
+    /// All names that "fault" takes, for a user to choose from.
+    static QStringList faultNames();
 
     /// Stands for every device or every method.
     static QString any() { return QStringLiteral("*"); }

@@ -1,4 +1,4 @@
-#include "Logging.h"
+#include "fleet/Logging.h"
 
 namespace device_fleet {
 

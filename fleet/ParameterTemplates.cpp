@@ -1,4 +1,4 @@
-#include "ParameterTemplates.h"
+#include "fleet/ParameterTemplates.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -14,19 +14,16 @@ namespace device_fleet {
 
 namespace {
 
-const QJsonObject &templates()
+QJsonObject parseResource()
 {
-    static const QJsonObject loaded = [] {
-        loadResource();
-        QFile file(QStringLiteral(":/device_fleet/parameters.json"));
-        QJsonParseError error;
-        const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        QJsonObject parsed = QJsonDocument::fromJson(text, &error).object();
-        if (error.error != QJsonParseError::NoError)
-            qFatal("parameters.json: %s at byte %d", qPrintable(error.errorString()), error.offset);
-        return parsed;
-    }();
-    return loaded;
+    loadResource();
+    QFile file(QStringLiteral(":/device_fleet/parameters.json"));
+    QJsonParseError error;
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QJsonObject parsed = QJsonDocument::fromJson(text, &error).object();
+    if (error.error != QJsonParseError::NoError)
+        qFatal("parameters.json: %s at byte %d", qPrintable(error.errorString()), error.offset);
+    return parsed;
 }
 
 /// Replaces the choices in a template, depth first.
@@ -39,7 +36,7 @@ public:
     {
     }
 
-    /// Undefined for a member that this device has not.
+    /// Undefined for a member that this device does not have.
     QJsonValue draw(const QJsonValue &part);
 
 private:
@@ -108,9 +105,29 @@ QString Drawing::deviceText(const QString &key) const
 
 } // namespace
 
+const QVector<ParameterObject> &parameterObjects()
+{
+    static const QVector<ParameterObject> objects = [] {
+        QVector<ParameterObject> all;
+        const QJsonObject parsed = parseResource();
+        for (auto it = parsed.begin(); it != parsed.end(); ++it) {
+            const QJsonObject object = it->toObject();
+            const auto text = [&object](const char *key) { return object.value(QLatin1String(key)).toString(); };
+            all.append({it.key(), text("read"), text("write"), text("writtenUnder"), text("writtenPart"),
+                        object.value(QLatin1String("members")).toObject()});
+        }
+        return all;
+    }();
+    return objects;
+}
+
 QJsonObject drawParameters(const vms_sdk::DevInfo &device, QRandomGenerator &random)
 {
-    return Drawing(device, random).draw(templates()).toObject();
+    Drawing drawing(device, random);
+    QJsonObject drawn;
+    for (const ParameterObject &object : parameterObjects())
+        drawn.insert(object.name, drawing.draw(object.members));
+    return drawn;
 }
 
 } // namespace device_fleet

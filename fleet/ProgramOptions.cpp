@@ -1,12 +1,14 @@
-#include "ProgramOptions.h"
+#include "fleet/ProgramOptions.h"
 
-#include <CommandLine.h>
-#include <FaultPlanReader.h>
+#include "fleet/FaultPlan.h"
+#include "programs/CommandLine.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
 #include <limits>
+
+namespace device_fleet {
 
 namespace {
 
@@ -32,7 +34,7 @@ QString description()
               "  faults: %1\n"
               "  returnWith, for drop-and-return: new-settings, old-settings, missing-member\n\n"
               "Exit codes: 0 ended by a signal, 2 wrong usage, 3 a file or the port cannot be used.")
-        .arg(device_fleet::FaultPlanReader::faultNames().join(QStringLiteral(", ")));
+        .arg(FaultPlan::faultNames().join(QStringLiteral(", ")));
 }
 
 constexpr int maxDevices = 1000000;
@@ -75,7 +77,7 @@ ProgramOptions parseOptions(const QStringList &arguments)
                                      QStringLiteral("MS"), QStringLiteral("0"));
     const QCommandLineOption faults(QStringLiteral("faults"), tr("Faults to simulate, see above."),
                                     QStringLiteral("FILE"));
-    // The parser knows options with one value only: the key's file is left over as an argument.
+    // Options of Qt's parser have one value: the file of the key is left as a positional argument.
     const QCommandLineOption tls(QStringLiteral("tls"), tr("Speak TLS with this certificate and key (PEM files)."),
                                  QStringLiteral("CERT> <KEY"));
     const QCommandLineOption listen(
@@ -95,7 +97,7 @@ ProgramOptions parseOptions(const QStringList &arguments)
     parser.addOptions({devices, seed, port, latency, faults, tls, listen, inventory, dump});
 
     ProgramOptions options;
-    options.error = device_fleet::parseCommandLine(parser, arguments);
+    options.error = orda_programs::parseCommandLine(parser, arguments);
     if (!options.error.isEmpty())
         return options;
 
@@ -124,3 +126,5 @@ ProgramOptions parseOptions(const QStringList &arguments)
         options.error = tr("--dump and --inventory name the same file \"%1\"").arg(options.dumpFile);
     return options;
 }
+
+} // namespace device_fleet

@@ -1,21 +1,15 @@
 #pragma once
 
-#include "FleetOptions.h"
+#include "fleet/FleetOptions.h"
 
 #include <QStringList>
 
-/// Exit codes of orda_fleet.
-enum ExitCode
-{
-    ExitOk = 0,
-    ExitUsage = 2,
-    ExitInput = 3
-};
+namespace device_fleet {
 
 /// What the command line asks for.
 struct ProgramOptions
 {
-    device_fleet::FleetOptions fleet;
+    FleetOptions fleet;
     QString faultsFile; ///< empty: no faults
     QString inventoryFile;
     QString dumpFile; ///< empty: no dump
@@ -25,3 +19,5 @@ struct ProgramOptions
 
 /// @param arguments the application's, program name first. --help and --version print and end the program here.
 ProgramOptions parseOptions(const QStringList &arguments);
+
+} // namespace device_fleet

@@ -1,6 +1,6 @@
-#include "Reaction.h"
+#include "fleet/Reaction.h"
 
-#include "SimulatedDevice.h"
+#include "fleet/SimulatedDevice.h"
 
 #include <QJsonDocument>
 

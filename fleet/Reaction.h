@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FaultPlan.h"
+#include "fleet/FaultPlan.h"
 
 #include <vms_client_sdk/DeviceProtocol.h>
 
@@ -21,7 +21,7 @@ struct Reaction
     std::chrono::milliseconds offLineFor{0}; ///< and cannot be dialled for so long
 };
 
-/// Lets the device deal with a request, the way that the fault says.
+/// Lets the device handle a request, and spoils the outcome as the fault says.
 Reaction reactTo(const QString &requestId, const QJsonObject &request, SimulatedDevice &device,
                  const std::optional<FaultRule> &fault);
 

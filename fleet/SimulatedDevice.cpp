@@ -1,47 +1,22 @@
-#include "SimulatedDevice.h"
+#include "fleet/SimulatedDevice.h"
+
+#include "fleet/ParameterTemplates.h"
 
 #include <QJsonArray>
 
 #include <algorithm>
-#include <iterator>
 
 namespace device_fleet {
 
 namespace {
 
-/// One parameter object and its two methods.
-struct Family
+const ParameterObject *findObject(const QString &method)
 {
-    const char *readMethod, *writeMethod, *object;
-    const char *attributes = ""; ///< the member of a write's "param" that holds what is written; empty: "param" itself
-    const char *part = ""; ///< the member of the object that is written to; empty: the object itself
-};
-
-constexpr Family families[] = {
-    {"ai_get_param", "ai_set_param", "audioIn", "audioAttr"},
-    {"ao_get_param", "ao_set_param", "audioOut", "audioAttr"},
-    {"stream_get_params", "stream_set_params", "video"},
-    {"image_get_adjust_param", "image_set_adjust_param", "imageAdjust", "attr"},
-    {"image_get_expertsetting_param", "image_set_expertsetting_param", "imageExpert", "attr"},
-    {"image_get_dncut_param", "image_set_dncut_param", "imageDayNight", "attr"},
-    {"chnosd_get_param", "chnosd_set_param", "osd", "attr"},
-    {"netservice_onvif_get_discoveryinfo", "netservice_onvif_set_discoveryinfo", "onvifDiscovery"},
-    {"ifconfig_get_inet", "ifconfig_eth_set", "inet", "", "eth"},
-    {"ifconfig_qbcloud_get_param", "ifconfig_qbcloud_set_param", "qbcloud"},
-    {"alarmservice_get_cfg", "alarmservice_set_cfg", "alarmService"},
-};
-
-QLatin1String name(const char *latin1)
-{
-    return QLatin1String(latin1);
-}
-
-const Family *findFamily(const QString &method)
-{
-    const auto found = std::find_if(std::begin(families), std::end(families), [&method](const Family &family) {
-        return method == name(family.readMethod) || method == name(family.writeMethod);
+    const auto &objects = parameterObjects();
+    const auto found = std::find_if(objects.begin(), objects.end(), [&method](const ParameterObject &object) {
+        return method == object.readMethod || method == object.writeMethod;
     });
-    return found == std::end(families) ? nullptr : found;
+    return found == objects.end() ? nullptr : &*found;
 }
 
 QString methodOf(const QJsonObject &request)
@@ -50,11 +25,11 @@ QString methodOf(const QJsonObject &request)
 }
 
 /// What a write request names, without what only steers the request; nothing when "param" does not suit the method.
-std::optional<QJsonObject> writtenMembers(const Family &family, const QJsonObject &request)
+std::optional<QJsonObject> writtenMembers(const ParameterObject &described, const QJsonObject &request)
 {
     const QJsonValue param = request.value(QLatin1String("param"));
     const QJsonValue written =
-        name(family.attributes).isEmpty() ? param : param.toObject().value(name(family.attributes));
+        described.writtenUnder.isEmpty() ? param : param.toObject().value(described.writtenUnder);
     if (!written.isObject())
         return std::nullopt;
     QJsonObject members = written.toObject();
@@ -65,7 +40,7 @@ std::optional<QJsonObject> writtenMembers(const Family &family, const QJsonObjec
 
 void merge(QJsonObject &target, const QJsonObject &members)
 {
-    // Into a fresh object: one that is written to again and again keeps every text that it ever held.
+    // Into a new object: a QJsonObject that is changed often keeps the texts that it has lost.
     QJsonObject merged;
     for (auto it = target.constBegin(); it != target.constEnd(); ++it)
         merged.insert(it.key(), members.contains(it.key()) ? members.value(it.key()) : it.value());
@@ -96,7 +71,7 @@ bool mergeStreams(QJsonArray &streams, const QJsonArray &written)
 }
 
 /// @return false, and nothing changed, when the device cannot take the members
-bool write(const Family &family, QJsonObject &object, QJsonObject members)
+bool write(const ParameterObject &described, QJsonObject &object, QJsonObject members)
 {
     const QLatin1String streamsKey("streams");
     if (members.value(streamsKey).isArray()) {
@@ -105,12 +80,12 @@ bool write(const Family &family, QJsonObject &object, QJsonObject members)
             return false;
         members.insert(streamsKey, streams);
     }
-    if (name(family.part).isEmpty()) {
+    if (described.writtenPart.isEmpty()) {
         merge(object, members);
     } else if (!members.isEmpty()) {
-        QJsonObject part = object.value(name(family.part)).toObject();
+        QJsonObject part = object.value(described.writtenPart).toObject();
         merge(part, members);
-        object.insert(name(family.part), part);
+        object.insert(described.writtenPart, part);
     }
     return true;
 }
@@ -128,49 +103,49 @@ QJsonObject SimulatedDevice::answer(const QJsonObject &request)
     const QString method = methodOf(request);
     if (method.isEmpty())
         return errorAnswer(method, DeviceBadRequest);
-    const Family *family = findFamily(method);
-    if (!family)
+    const ParameterObject *described = findObject(method);
+    if (!described)
         return errorAnswer(method, DeviceUnknownMethod);
 
-    QJsonObject object = m_parameters.value(name(family->object)).toObject();
+    QJsonObject object = m_parameters.value(described->name).toObject();
     QJsonObject answer = errorAnswer(method, DeviceOk);
-    if (method == name(family->readMethod)) {
+    if (method == described->readMethod) {
         answer.insert(QStringLiteral("result"), object);
         return answer;
     }
-    const auto members = writtenMembers(*family, request);
-    if (!members || !write(*family, object, *members))
+    const auto members = writtenMembers(*described, request);
+    if (!members || !write(*described, object, *members))
         return errorAnswer(method, DeviceBadParameter);
-    m_parameters.insert(name(family->object), object);
+    m_parameters.insert(described->name, object);
     return answer;
 }
 
 void SimulatedDevice::loseMember(const QJsonObject &request)
 {
     const QString method = methodOf(request);
-    const Family *family = findFamily(method);
-    if (!family || method != name(family->writeMethod))
+    const ParameterObject *described = findObject(method);
+    if (!described || method != described->writeMethod)
         return;
-    const auto members = writtenMembers(*family, request);
+    const auto members = writtenMembers(*described, request);
     if (!members || members->isEmpty())
         return;
     const QString lost = members->constBegin().key();
-    QJsonObject object = m_parameters.value(name(family->object)).toObject();
-    if (name(family->part).isEmpty()) {
+    QJsonObject object = m_parameters.value(described->name).toObject();
+    if (described->writtenPart.isEmpty()) {
         object.remove(lost);
     } else {
-        QJsonObject part = object.value(name(family->part)).toObject();
+        QJsonObject part = object.value(described->writtenPart).toObject();
         part.remove(lost);
-        object.insert(name(family->part), part);
+        object.insert(described->writtenPart, part);
     }
-    m_parameters.insert(name(family->object), object);
+    m_parameters.insert(described->name, object);
 }
 
 QStringList SimulatedDevice::methods()
 {
     QStringList names;
-    for (const Family &family : families)
-        names << name(family.readMethod) << name(family.writeMethod);
+    for (const ParameterObject &object : parameterObjects())
+        names << object.readMethod << object.writeMethod;
     return names;
 }
 

@@ -17,7 +17,7 @@ enum DeviceError
     DeviceBadParameter = -3, ///< "param" does not suit the method, or names a stream that the device does not have
 };
 
-/// The parameters of one device and the methods that read and write them. Plain data without sockets, of whatever
+/// The parameters of one device and the methods that read and write them. Plain data without sockets, bound to no
 /// thread.
 ///
 /// Parameters are kept as objects ("audioIn", "video", …), each of them being the whole "result" of its reading method.

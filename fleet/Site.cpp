@@ -1,6 +1,6 @@
-#include "Site.h"
+#include "fleet/Site.h"
 
-#include "ParameterTemplates.h"
+#include "fleet/ParameterTemplates.h"
 
 #include <QHostAddress>
 #include <QRandomGenerator>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr int camera = 1;
 constexpr int recorder = 6;
-constexpr int decoder = 3; // stands for all other kinds
+constexpr int decoder = 3; // an example of the other kinds
 constexpr int reachedDirectly = 1;
 constexpr int reachedThroughOthers = 2;
 

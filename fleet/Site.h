@@ -16,7 +16,7 @@ struct SiteDevice
 };
 
 /// Device number @p index, from 0. The same seed and index give the same device: mostly cameras, some recorders, and a
-/// few of what a device list has to leave out or to cope with (offline, of other kinds, factory and weak passwords,
+/// few that a device list leaves out or that are unusual (offline, of other kinds, with factory and weak passwords,
 /// without an address).
 SiteDevice makeSiteDevice(quint32 seed, int index);
 

@@ -1,4 +1,4 @@
-#include "TlsIdentity.h"
+#include "fleet/TlsIdentity.h"
 
 #include <QCoreApplication>
 #include <QFile>

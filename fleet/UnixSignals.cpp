@@ -1,10 +1,12 @@
-#include "UnixSignals.h"
+#include "fleet/UnixSignals.h"
 
 #include <QSocketNotifier>
 
 #include <csignal>
 #include <sys/signalfd.h>
 #include <unistd.h>
+
+namespace device_fleet {
 
 namespace {
 
@@ -43,3 +45,5 @@ void UnixSignals::readSignal()
         else
             emit endRequested();
 }
+
+} // namespace device_fleet

@@ -6,6 +6,8 @@ QT_BEGIN_NAMESPACE
 class QSocketNotifier;
 QT_END_NAMESPACE
 
+namespace device_fleet {
+
 /// Turns SIGINT, SIGTERM and SIGUSR1 of this process into Qt signals, raised from the event loop. Made once, before any
 /// thread is started: the threads inherit that the signals are blocked.
 class UnixSignals : public QObject
@@ -26,3 +28,5 @@ private:
     int m_descriptor;
     QSocketNotifier *m_notifier;
 };
+
+} // namespace device_fleet

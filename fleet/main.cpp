@@ -1,43 +1,29 @@
-#include "ProgramOptions.h"
-#include "UnixSignals.h"
+#include "fleet/DeviceFleet.h"
+#include "fleet/FaultPlan.h"
+#include "fleet/ProgramOptions.h"
+#include "fleet/UnixSignals.h"
+#include "programs/Complaint.h"
 
-#include <DeviceFleet.h>
-#include <FaultPlan.h>
-
-#include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
+#include <vms_client_sdk/WholeFile.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <QTextStream>
+
+using namespace device_fleet;
+using namespace orda_programs;
 
 namespace {
 
 constexpr qint64 otherFiles = 64; // libraries, the server socket, input and output files
 
-void complain(const QString &text)
-{
-    QTextStream(stderr) << "orda_fleet: " << vms_sdk::escaped(text) << Qt::endl;
-}
-
-int fail(const QString &error, ExitCode code)
-{
-    complain(error);
-    return code;
-}
-
 /// @return a text for the user, empty on success
 QString writeDump(const QString &path, const QJsonObject &dump)
 {
-    QSaveFile file(path);
-    const QByteArray content = QJsonDocument(dump).toJson();
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
-                        && file.write(content) == content.size() && file.commit();
-    return isWritten ? QString()
-                     : QCoreApplication::translate("main", "%1: cannot be written: %2").arg(path, file.errorString());
+    const QString why = vms_sdk::writeWholeFile(path, QJsonDocument(dump).toJson(), vms_sdk::Readers::OwnerOnly);
+    return why.isEmpty() ? QString() : QCoreApplication::translate("main", "%1: cannot be written: %2").arg(path, why);
 }
 
 QString openFilesError(int devices)
@@ -53,12 +39,12 @@ QString openFilesError(int devices)
         .arg(limit);
 }
 
-device_fleet::FaultPlan readFaults(const QString &path, QString *error)
+FaultPlan readFaults(const QString &path, QString *error)
 {
     if (path.isEmpty())
         return {};
     QStringList warnings;
-    device_fleet::FaultPlan plan = device_fleet::FaultPlan::read(path, error, &warnings);
+    FaultPlan plan = FaultPlan::read(path, error, &warnings);
     for (const QString &warning : qAsConst(warnings))
         complain(warning);
     return plan;
@@ -68,7 +54,7 @@ device_fleet::FaultPlan readFaults(const QString &path, QString *error)
 
 int main(int argc, char *argv[])
 {
-    // GLib's dispatcher looks at every socket on every wake-up, which thousands of devices turn into seconds.
+    // GLib's dispatcher checks every socket on every wake-up, which takes seconds with thousands of devices.
     qputenv("QT_NO_GLIB", "1");
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orda_fleet"));
@@ -79,13 +65,12 @@ int main(int argc, char *argv[])
         return fail(options.error + QStringLiteral(" (see orda_fleet --help)"), ExitUsage);
 
     QString error = openFilesError(options.fleet.devices);
-    const device_fleet::FaultPlan faults =
-        error.isEmpty() ? readFaults(options.faultsFile, &error) : device_fleet::FaultPlan();
+    const FaultPlan faults = error.isEmpty() ? readFaults(options.faultsFile, &error) : FaultPlan();
     if (!error.isEmpty())
         return fail(error, ExitInput);
 
     const UnixSignals signalsOfProcess;
-    device_fleet::DeviceFleet fleet(options.fleet, faults);
+    DeviceFleet fleet(options.fleet, faults);
     error = fleet.start();
     if (error.isEmpty())
         error = vms_sdk::writeInventory(options.inventoryFile, fleet.inventory());

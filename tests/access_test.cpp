@@ -204,6 +204,30 @@ private slots:
         press(Qt::Key_Space);
         QCOMPARE(f.column(2).at(2), QStringLiteral("SN10")); // before SN2
     }
+
+    void assistiveTechnologyTogglesBoxes()
+    {
+        const FormFixture f(3, silent);
+        f.page("audio_param")->setFocus();
+        press(Qt::Key_Return);
+        const QWidget *page = f.page("audioParametersPage");
+        const auto toggle = [](QAccessibleInterface *control) {
+            control->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        };
+        const auto box = [page](const char *name) { return page->findChild<QCheckBox *>(QLatin1String(name)); };
+        const auto *configure = page->findChild<QPushButton *>(QStringLiteral("okBt"));
+        toggle(QAccessible::queryAccessibleInterface(box("allParams")));
+        QVERIFY(!box("audioEnable")->isChecked() && !configure->isEnabled());
+        toggle(QAccessible::queryAccessibleInterface(box("audioEnable")));
+        QVERIFY(configure->isEnabled());
+        QCOMPARE(box("allParams")->checkState(), Qt::PartiallyChecked);
+
+        toggle(QAccessible::queryAccessibleInterface(f.box("selAll")));
+        QCOMPARE(f.form->checkedDevIds().size(), 3);
+        toggle(QAccessible::queryAccessibleInterface(f.table())->tableInterface()->cellAt(1, 0));
+        QCOMPARE(f.form->checkedDevIds(), (QStringList{QStringLiteral("dev0"), QStringLiteral("dev2")}));
+        QCOMPARE(f.box("selAll")->checkState(), Qt::PartiallyChecked);
+    }
 };
 
 ORDA_TEST_MAIN(AccessTest)

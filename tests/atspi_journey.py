@@ -7,17 +7,17 @@ missing.
 
 import sys
 
-from support.journey import (Atspi, act, descendants, find, has, set_state, start_on_own_display_and_bus, travel,
+from support.journey import (Atspi, act, dialogs, find, has, set_state, start_on_own_display_and_bus, travel,
                              wait_for)
 
 DEVICES = 12
 
 
 def answer(client, title, text, button):
-    dialog = find(client, "dialog", title)
+    dialog = find(client, "alert", title)
     find(dialog, "label", text)
     act(find(dialog, "push button", button), "Press")
-    wait_for("answered dialog", lambda: not any(child.get_role_name() == "dialog" for child in descendants(client)))
+    wait_for("answered dialog", lambda: not dialogs(client))
 
 
 def configure_audio(client):
@@ -54,7 +54,7 @@ def configure_audio(client):
     wait_for("tick at All", lambda: has(every, "CHECKED"))
     for row in range(2, rows):
         set_state(table.get_accessible_at(row, 0), "CHECKED", False)
-    wait_for("untick at All", lambda: not has(every, "CHECKED"))
+    wait_for("partial tick at All", lambda: has(every, "INDETERMINATE"))
 
     act(configure, "Press")
     answer(client, "Audio Parameters Configuration Result",

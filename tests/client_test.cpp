@@ -1,8 +1,9 @@
 #include "support/OrdaTest.h"
 
-#include <ClientSession.h>
-#include <ClientWindow.h>
-#include <FailedDevices.h>
+#include "client/ClientSession.h"
+#include "client/ClientWindow.h"
+#include "client/FailedDevices.h"
+
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
@@ -18,6 +19,7 @@
 #include <QStatusBar>
 #include <QTableWidget>
 
+using namespace orda_client;
 using namespace std::chrono_literals;
 
 namespace {
@@ -46,8 +48,8 @@ private slots:
         ClientSession session;
         ClientWindow window(&session);
         window.show();
-        const QSize screen = window.screen()->availableSize();
-        QVERIFY2(window.width() < screen.width() && window.height() < screen.height(), "there is no room for a frame");
+        const QRect screen = window.screen()->availableGeometry();
+        QVERIFY(screen.adjusted(0, 0, -1, -1).contains({screen.topLeft(), window.size()})); // with room for a frame
         const auto *area = qobject_cast<QScrollArea *>(window.centralWidget());
         const QWidget *form = area->widget();
         QTRY_VERIFY(area->horizontalScrollBar()->maximum() > 0);
@@ -72,7 +74,7 @@ private slots:
         emit orda_worker::AssistantSignals::instance().signalEventConfirmRaised({{}, {}, "The summary", {}});
         QTRY_VERIFY_WITH_TIMEOUT(attempts.count() >= 6, 20'000); // connecting, offline, three times
         QTest::qWait(150); // the bar is brought up to date every 100 ms
-        QVERIFY2(said(window.statusBar()).contains("The summary"), qPrintable(said(window.statusBar())));
+        QVERIFY(said(window.statusBar()).contains("The summary"));
 
         store.setDevStatus(dev.id, vms_sdk::DevOnline);
         QTRY_VERIFY(said(window.statusBar()).contains("Cam 0: online"));

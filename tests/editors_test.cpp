@@ -3,9 +3,11 @@
 #include <audio/AudioParamsCfgPage.h>
 #include <platform/Platform9100ParamsCfgPage.h>
 #include <platform/PlatformParamsCfgPage.h>
+#include <run/SwitchImages.h>
 #include <video/VideoParamsPanel.h>
 
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -81,6 +83,24 @@ private slots:
             QCOMPARE(panel.getParams().value("bitRate").toInt(), sent);
             QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
         }
+    }
+
+    void switchesNeedNoImagesOfTheClient()
+    {
+        AudioParamsCfgPage page;
+        auto *button = page.findChild<QPushButton *>(QStringLiteral("audioSwitch"));
+        const auto states = [button] {
+            button->setChecked(false);
+            const QImage off = button->grab().toImage();
+            button->setChecked(true);
+            return qMakePair(off, button->grab().toImage());
+        };
+        const auto withImages = states(); // of orda_base, which the module's own equal
+        const QString nowhere = QStringLiteral(":/nowhere/");
+        button->setStyleSheet(button->styleSheet().replace(QStringLiteral(":/images/images/"), nowhere));
+        QVERIFY(states() != withImages);
+        completeSwitchImages(&page, nowhere);
+        QVERIFY(states() == withImages);
     }
 
     void addressLinesFollowTheWindow()

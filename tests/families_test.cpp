@@ -7,22 +7,13 @@
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/EventConfirmInfo.h>
 
-#include <QApplication>
 #include <QComboBox>
-#include <QFile>
-#include <QSignalSpy>
 #include <QStackedWidget>
-#include <QTimer>
 
 using namespace std::chrono_literals;
 using Request = ScriptedTransport::Request;
 
 namespace {
-
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
 
 /// A device's objects by read method; some lack keys that others have.
 QJsonObject ordinaryDevice()
@@ -73,11 +64,10 @@ public:
     /// Leaves only these parameters ticked, and these streams where the page has any.
     void select(const QString &boxes) const
     {
-        const QStringList wanted = boxes.split(QLatin1Char(' '));
+        const QStringList wanted = boxes.split(' ');
         const auto all = theirPage()->findChildren<QCheckBox *>();
         for (QCheckBox *box : all)
-            if (!box->objectName().startsWith(QLatin1String("all"))
-                && wanted.contains(box->objectName()) != box->isChecked())
+            if (!box->objectName().startsWith("all") && wanted.contains(box->objectName()) != box->isChecked())
                 box->click();
     }
 
@@ -88,7 +78,7 @@ public:
         if (!m_family.navigationKey.isEmpty())
             configure(m_family.navigationKey, m_family.pageName);
         else
-            theirPage()->findChild<QAbstractButton *>(QStringLiteral("okBt"))->click();
+            theirPage()->findChild<QAbstractButton *>("okBt")->click();
         return summaries.value(0).value(0).value<orda_worker::EventConfirmInfo>();
     }
 
@@ -99,7 +89,7 @@ private:
 template <typename Editor>
 Editor *editor(const QWidget *page, const char *name)
 {
-    return page->findChild<Editor *>(QLatin1String(name));
+    return page->findChild<Editor *>(name);
 }
 
 } // namespace
@@ -112,14 +102,14 @@ void nothing(QWidget *) { }
 
 Prepare settingText(const char *name, const char *value)
 {
-    return [=](QWidget *page) { editor<QLineEdit>(page, name)->setText(latin1(value)); };
+    return [=](QWidget *page) { editor<QLineEdit>(page, name)->setText(value); };
 }
 
 /// @p requests method and "param"
 void addRow(const char *rowName, const char *name, const char *boxes, const QByteArrayList &requests,
             const Prepare &prepare = nothing, const QJsonObject &device = ordinaryDevice())
 {
-    QTest::addRow("%s, %s", name, rowName) << latin1(name) << latin1(boxes) << prepare << requests << device;
+    QTest::addRow("%s, %s", name, rowName) << QString(name) << QString(boxes) << prepare << requests << device;
 }
 
 void addAudioRows()
@@ -157,7 +147,7 @@ void addVideoRows()
            [](QWidget *page) {
                for (const char *name : {"encodingFormat", "resolution", "bitRate", "frameRate"})
                    editor<QCheckBox>(page, name)->click();
-               page->findChildren<QComboBox *>(QStringLiteral("frameRate")).constFirst()->setCurrentIndex(8);
+               page->findChildren<QComboBox *>("frameRate").constFirst()->setCurrentIndex(8);
                editor<QComboBox>(page, "smartEncodingCtrl")->setCurrentIndex(2);
            });
     addRow("nothing there", "video", "HDStream frameRate", {streams, R"(stream_set_params {"streams": []})"}, nothing,
@@ -195,7 +185,7 @@ void addOsdRows()
             "timeFormat": "DD/MM/YYYY hh:mm:ss", "timePos": "hide", "channelName": "a name of at most 32 characters ",
             "colour": 3}})"},
            [](QWidget *page) {
-               editor<QLineEdit>(page, "nameParam")->setText(latin1("a name of at most 32 characters  and more"));
+               editor<QLineEdit>(page, "nameParam")->setText("a name of at most 32 characters  and more");
                editor<QComboBox>(page, "timeFormatParam")->setCurrentIndex(2);
                editor<QComboBox>(page, "timePositionParam")->setCurrentIndex(4);
            });
@@ -259,9 +249,9 @@ void addPlatform9100Rows()
             "bManualcfgbussiness": true, "onlineserverip": "o.example", "onlineserverport": 15030,
             "businessserverip": "b.example", "businessserverport": 0})"},
            [](QWidget *page) {
-               editor<QLineEdit>(page, "onlineUrl")->setText(QStringLiteral(" o.example "));
-               editor<QLineEdit>(page, "bussinessUrl")->setText(QStringLiteral("b.example"));
-               QTest::keyClicks(editor<QLineEdit>(page, "onlinePort"), QStringLiteral("x"));
+               editor<QLineEdit>(page, "onlineUrl")->setText(" o.example ");
+               editor<QLineEdit>(page, "bussinessUrl")->setText("b.example");
+               QTest::keyClicks(editor<QLineEdit>(page, "onlinePort"), "x");
                editor<QLineEdit>(page, "bussinessPort")->clear();
            });
     addRow("everything", "onvif", "compatibleEnable",
@@ -281,11 +271,8 @@ class FamiliesTest : public OrdaTest
 private slots:
     void writesWhatWasSelected_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("boxes");
-        QTest::addColumn<Prepare>("prepare");
-        QTest::addColumn<QByteArrayList>("requests");
-        QTest::addColumn<QJsonObject>("device");
+        columns<QString, QString, Prepare, QByteArrayList, QJsonObject>(
+            {"name", "boxes", "prepare", "requests", "device"});
         for (const auto addRows : {addAudioRows, addVideoRows, addImageRows, addOsdRows, addNetworkRows,
                                    addPlatformRows, addPlatform9100Rows})
             addRows();
@@ -301,35 +288,71 @@ private slots:
         const PageFixture f(familyRow(name), 1, [&device](const Request &request) { return answers(device, request); });
         prepare(f.theirPage());
         f.select(boxes);
-        QCOMPARE(f.run().text, QStringLiteral("A total of 1 devices have been configured, success:1, failure:0"));
+        QCOMPARE(f.run().text, "A total of 1 devices have been configured, success:1, failure:0");
 
-        QCOMPARE(f.transport->methods().join(QLatin1Char('\n')), [&requests] {
+        QCOMPARE(f.transport->methods().join('\n'), [&requests] {
             QStringList methods;
             for (const QByteArray &request : requests)
-                methods.append(latin1(request.split(' ').constFirst()));
-            return methods.join(QLatin1Char('\n'));
+                methods.append(request.split(' ').constFirst());
+            return methods.join('\n');
         }());
         for (int i = 0; i < requests.size(); ++i) {
             const QJsonObject sent = f.transport->requests.at(i).json();
-            const QByteArray param = requests.at(i).mid(sent.value(QLatin1String("method")).toString().size());
-            QJsonObject expected{{QStringLiteral("method"), sent.value(QLatin1String("method"))},
-                                 {QStringLiteral("level"), QStringLiteral("Operator")}};
+            const QByteArray param = requests.at(i).mid(sent.value("method").toString().size());
+            QJsonObject expected{{"method", sent.value("method")}, {"level", "Operator"}};
             if (!param.isEmpty()) {
                 QJsonParseError error{};
-                expected.insert(QStringLiteral("param"), QJsonDocument::fromJson(param, &error).object());
-                QCOMPARE(error.errorString(), QStringLiteral("no error occurred"));
+                expected.insert("param", QJsonDocument::fromJson(param, &error).object());
+                QCOMPARE(error.errorString(), "no error occurred");
             }
             QCOMPARE(QJsonDocument(sent).toJson(), QJsonDocument(expected).toJson());
         }
     }
 
+    void isNamedAsItsUsersKnowIt_data()
+    {
+        columns<QString, QString, QString, QString>({"title", "timeout", "methods", "things"}); // in the failure texts
+        row("audio", "Audio", "audio", "ai_get_param ai_set_param ao_get_param ao_set_param", "audio in,audio out");
+        row("video", "Video", "stream", "stream_get_params stream_set_params", "stream");
+        row("image", "Image", "image",
+            "image_get_adjust_param image_set_adjust_param image_get_dncut_param image_set_dncut_param "
+            "image_get_expertsetting_param image_set_expertsetting_param",
+            "image adjust,image day-night,image expert");
+        row("osd", "OSD", "osd", "chnosd_get_param chnosd_set_param", "osd");
+        row("network", "Network", "network",
+            "netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo ifconfig_get_inet ifconfig_eth_set",
+            "onvif discovery,ip");
+        row("platform", "Platform", "platform", "ifconfig_qbcloud_get_param ifconfig_qbcloud_set_param", "platform");
+        row("platform_9100", "Platform 9100", "platform 9100", "alarmservice_get_cfg alarmservice_set_cfg",
+            "platform 9100");
+        row("onvif", "Onvif", "onvif discovery",
+            "netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo", "onvif discovery");
+    }
+
+    void isNamedAsItsUsersKnowIt()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, timeout);
+        QFETCH(QString, things);
+        const QString name = QTest::currentDataTag();
+        const FamilyRow &family = familyRow(name);
+        QCOMPARE(family.title, title + " Parameters Configuration Result");
+        QCOMPARE(family.recordFile, "vms_" + name + "_params_batch_cfg_record.txt");
+        QCOMPARE(family.timeoutText, "set " + timeout + " parameters time out");
+        QTEST(family.methods.join(' '), "methods");
+        QStringList failures;
+        for (const QString &thing : things.split(','))
+            for (const char *step : {"get", "set"})
+                failures.append(QString("Failed to ") + step + ' ' + thing + " parameters(%1)");
+        QCOMPARE(family.failures, failures);
+    }
+
     void saysWhichStepFailed_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("step");
+        columns<QString, int>({"name", "step"});
         for (const FamilyRow &f : familyTable())
             for (int step = 0; step < f.methods.size(); ++step)
-                QTest::addRow("%s", qPrintable(f.name + QStringLiteral(": ") + f.methods.at(step))) << f.name << step;
+                QTest::addRow("%s", qPrintable(f.name + ": " + f.methods.at(step))) << f.name << step;
     }
 
     void saysWhichStepFailed()
@@ -341,74 +364,69 @@ private slots:
         const PageFixture f(
             theirs, 4,
             [&faulty](const Request &request) -> QStringList {
-                if (request.method() != faulty || request.devId == QLatin1String("dev0"))
+                if (request.method() != faulty || request.devId == "dev0")
                     return answers(ordinaryDevice(), request);
-                if (request.devId == QLatin1String("dev1"))
+                if (request.devId == "dev1")
                     return {answer(faulty, {}, -7)};
-                return request.devId == QLatin1String("dev2") ? QStringList(QStringLiteral("{")) : QStringList();
+                return request.devId == "dev2" ? QStringList("{") : QStringList();
             },
             100ms);
         const orda_worker::EventConfirmInfo summary = f.run();
         QCOMPARE(summary.title, theirs.title);
-        QCOMPARE(summary.text, QStringLiteral("A total of 4 devices have been configured, success:1, failure:3"));
-        const QMap<QString, QString> expected{{QStringLiteral("SN0"), QStringLiteral("success")},
-                                              {QStringLiteral("SN1"), theirs.failures.at(step).arg(-7)},
-                                              {QStringLiteral("SN2"), QStringLiteral("Failed to parse json data")},
-                                              {QStringLiteral("SN3"), theirs.timeoutText}};
+        QCOMPARE(summary.text, "A total of 4 devices have been configured, success:1, failure:3");
+        const QMap<QString, QString> expected{{"SN0", "success"},
+                                              {"SN1", theirs.failures.at(step).arg(-7)},
+                                              {"SN2", "Failed to parse json data"},
+                                              {"SN3", theirs.timeoutText}};
         QCOMPARE(recordedMessages(theirs), expected);
         for (const char *id : {"dev0", "dev1", "dev2", "dev3"}) {
             QStringList methods;
             for (const Request &request : qAsConst(f.transport->requests))
-                if (request.devId == QLatin1String(id))
+                if (request.devId == id)
                     methods.append(request.method());
-            QCOMPARE(methods, theirs.methods.mid(0, latin1(id) == QLatin1String("dev0") ? -1 : step + 1));
+            QCOMPARE(methods, theirs.methods.mid(0, qstrcmp(id, "dev0") == 0 ? -1 : step + 1));
         }
     }
 
     void cloudSettingsAreCheckedWhenTheDeviceIsBack_data()
     {
-        QTest::addColumn<QByteArray>("device"); // when it is read again
-        QTest::addColumn<QString>("message");
-        const QString failed = QStringLiteral("Failed to set platform parameters(-1)");
-        QTest::newRow("new settings") << QByteArray(
-            R"({"qbcloud_en": false, "qbcloud_addr": "new", "qbcloud_type": "public",
-                                                "more": 1})")
-                                      << QStringLiteral("success");
-        QTest::newRow("old settings") << QByteArray(R"({"qbcloud_en": true, "qbcloud_addr": "old"})") << failed;
-        QTest::newRow("one is missing") << QByteArray(R"({"qbcloud_en": false, "qbcloud_addr": "new"})") << failed;
-        QTest::newRow("a number for a switch")
-            << QByteArray(R"({"qbcloud_en": 0, "qbcloud_addr": "new", "qbcloud_type": "public"})") << failed;
+        columns<QString, QString>({"device", "message"}); // when it is read again
+        const char *const failed = "Failed to set platform parameters(-1)";
+        const char *const same = R"({"qbcloud_en": false, "qbcloud_addr": "new", "qbcloud_type": "public", "more": 1})";
+        row("new settings", same, "success");
+        row("old settings", R"({"qbcloud_en": true, "qbcloud_addr": "old"})", failed);
+        row("one is missing", R"({"qbcloud_en": false, "qbcloud_addr": "new"})", failed);
+        row("a number for a switch", R"({"qbcloud_en": 0, "qbcloud_addr": "new", "qbcloud_type": "public"})", failed);
     }
 
     void cloudSettingsAreCheckedWhenTheDeviceIsBack()
     {
-        QFETCH(QByteArray, device);
+        QFETCH(QString, device);
         QFETCH(QString, message);
         auto &store = orda_data::DevsMgrData::instance();
-        const QString set = QStringLiteral("ifconfig_qbcloud_set_param");
+        const QString set = "ifconfig_qbcloud_set_param";
         const auto blink = [&store](const QString &id) {
             store.setDevStatus(id, vms_sdk::DevOffline);
             store.setDevStatus(id, vms_sdk::DevLocked);
         };
         int reads = 0;
-        const PageFixture f(familyRow(QStringLiteral("platform")), 2, [&](const Request &request) -> QStringList {
-            if (request.devId == QLatin1String("dev1"))
+        const PageFixture f(familyRow("platform"), 2, [&](const Request &request) -> QStringList {
+            if (request.devId == "dev1")
                 return answers(ordinaryDevice(), request);
             if (request.method() == set) { // applies it and drops out, before it can answer
                 QTimer::singleShot(0ms, &store, [blink, id = request.devId] { blink(id); });
                 return {};
             }
             if (++reads > 1)
-                return {answer(request.method(), QJsonDocument::fromJson(device).object())};
-            QTimer::singleShot(0ms, &store, [blink] { blink(QStringLiteral("dev1")); }); // somebody else, and too early
+                return {answer(request.method(), QJsonDocument::fromJson(device.toUtf8()).object())};
+            QTimer::singleShot(0ms, &store, [blink] { blink("dev1"); }); // somebody else, and too early
             return answers(ordinaryDevice(), request);
         });
-        editor<QLineEdit>(f.theirPage(), "serviceAddressParam")->setText(QStringLiteral("new"));
+        editor<QLineEdit>(f.theirPage(), "serviceAddressParam")->setText("new");
         f.run();
         QCOMPARE(reads, 2);
-        QCOMPARE(recordedMessages(familyRow(QStringLiteral("platform"))).value(QStringLiteral("SN0")), message);
-        QCOMPARE(recordedMessages(familyRow(QStringLiteral("platform"))).value(QStringLiteral("SN1")),
-                 QStringLiteral("success"));
+        QCOMPARE(recordedMessages(familyRow("platform")).value("SN0"), message);
+        QCOMPARE(recordedMessages(familyRow("platform")).value("SN1"), "success");
         QCOMPARE(f.transport->requests.size(), 5);
     }
 };

@@ -177,10 +177,10 @@ private:
     static void addFamilies(const QStringList &languages)
     {
         columns<FamilyRow, QString>({"family", "language"});
-        for (const FamilyRow &family : familyTable())
+        const QList<FamilyRow> families = offeredFamilies();
+        for (const FamilyRow &family : families)
             for (const QString &language : languages)
-                if (!family.navigationKey.isEmpty())
-                    row(qPrintable(family.name + ", " + language), family, language);
+                row(qPrintable(family.name + ", " + language), family, language);
     }
 
     void install(const QString &language)

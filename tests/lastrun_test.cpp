@@ -2,11 +2,12 @@
 #include "support/RecordEntry.h"
 #include "support/Store.h"
 
-#include <ClientSession.h>
-#include <ClientWindow.h>
-#include <EmbeddedFleet.h>
-#include <Families.h>
-#include <LastRunWindow.h>
+#include "client/ClientSession.h"
+#include "client/ClientWindow.h"
+#include "client/Families.h"
+#include "client/LastRunWindow.h"
+#include "fleet/EmbeddedFleet.h"
+
 #include <vms_client_sdk/ClientSignals.h>
 
 #include <QAbstractButton>
@@ -17,6 +18,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QTableWidget>
@@ -24,6 +26,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace orda_client;
 using device_fleet::EmbeddedFleet;
 using device_fleet::Fault;
 
@@ -346,8 +349,8 @@ private slots:
         child<QCheckBox>(site.window, "selAll")->click();
         expectWarning("it is a symbolic link");
         site.press("okBt");
-        auto *summary = child<QDialog>(site.window, "eventConfirmDialog");
-        QVERIFY(summary->accessibleDescription().contains("failure:5\nThe last run left no record"));
+        auto *summary = child<QMessageBox>(site.window, "eventConfirmDialog");
+        QVERIFY(summary->informativeText().contains("failure:5\nThe last run left no record"));
         const auto labels = summary->findChildren<QLabel *>();
         for (const QLabel *label : labels) // the dialog has grown
             QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));

@@ -6,28 +6,14 @@ using namespace device_fleet;
 
 namespace {
 
-struct NamedFault
+QList<FaultRule> faults()
 {
-    QString name;
-    FaultRule rule;
-};
-
-QList<NamedFault> faults()
-{
-    const auto away = 300ms;
-    return {{"error-code", {Fault::ErrorCode, -5}},
-            {"garbage", {Fault::Garbage}},
-            {"no-answer", {Fault::NoAnswer}},
-            {"late-answer", {Fault::LateAnswer, 0, 500ms}},
-            {"answer-twice", {Fault::AnswerTwice}},
-            {"foreign-id", {Fault::ForeignId}},
-            {"foreign-method", {Fault::ForeignMethod}},
-            {"no-result", {Fault::NoResult}},
-            {"huge-answer", {Fault::HugeAnswer}},
-            {"drop-connection", {Fault::DropConnection}},
-            {"returns with new settings", {Fault::DropAndReturn, 0, away}},
-            {"returns with old settings", {Fault::DropAndReturn, 0, away, ReturnWith::OldSettings}},
-            {"returns, one missing", {Fault::DropAndReturn, 0, away, ReturnWith::MissingMember}}};
+    QList<FaultRule> all;
+    for (int fault = 0; fault < int(Fault::DropAndReturn); ++fault)
+        all.append({Fault(fault), -5, Fault(fault) == Fault::LateAnswer ? 500ms : 0ms});
+    for (const ReturnWith returnWith : {ReturnWith::NewSettings, ReturnWith::OldSettings, ReturnWith::MissingMember})
+        all.append({Fault::DropAndReturn, 0, 300ms, returnWith});
+    return all;
 }
 
 /// What the operator reads of a device that has the fault at one request of a run.
@@ -87,14 +73,15 @@ private slots:
         QTRY_VERIFY(client.table()->rowCount() >= cells);
 
         QMap<QString, std::pair<QString, QString>> expected; // name and message of each cell, by serial number
-        const QList<NamedFault> all = faults();
-        for (const NamedFault &fault : all) {
+        const QList<FaultRule> all = faults();
+        for (const FaultRule &fault : all) {
             for (int step = 0; step < family.methods.size(); ++step) {
                 const int row = expected.size();
                 client.table()->item(row, 0)->setCheckState(Qt::Checked);
-                site.fleet.setFault(client.idInRow(row), family.methods.at(step), fault.rule);
-                expected.insert(client.table()->item(row, 2)->text(),
-                                {fault.name + " at " + family.methods.at(step), outcome(family, step, fault.rule)});
+                const QString &method = family.methods.at(step);
+                site.fleet.setFault(client.idInRow(row), method, fault);
+                const QString name = QString("fault %1 (%2) at ").arg(int(fault.fault)).arg(int(fault.returnWith));
+                expected.insert(client.table()->item(row, 2)->text(), {name + method, outcome(family, step, fault)});
             }
         }
         QCOMPARE(expected.size(), cells);

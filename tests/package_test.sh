@@ -14,8 +14,9 @@ for package in "$packages"/*.deb; do
   dpkg-deb --extract "$package" "$work/root"
 done
 cmake -S "$here/consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$work/root/usr" >"$work/consumer.log" &&
-  cmake --build "$work/consumer" >>"$work/consumer.log" || fail "no client can be built: $(cat "$work/consumer.log")"
-QT_QPA_PLATFORM=offscreen TMPDIR=$work "$work/consumer/consumer" || fail "the run of the client that was built failed"
+  cmake --build "$work/consumer" >>"$work/consumer.log" &&
+  cmake --install "$work/consumer" --prefix "$work/client" >>"$work/consumer.log" || fail "no client can be built: $(cat "$work/consumer.log")"
+QT_QPA_PLATFORM=offscreen TMPDIR=$work "$work/client/bin/consumer" || fail "the run of the client that was built and installed failed"
 
 [ "$(id -u)" -eq 0 ] || skip "a bare Debian is made by root only"
 command -v mmdebstrap >/dev/null || skip "mmdebstrap is not installed"

@@ -1,7 +1,9 @@
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
 
-#include <RunRecord.h>
+#include "client/RunRecord.h"
+
+using namespace orda_client;
 
 /// What a record's text is taken for.
 class RunRecordTest : public OrdaTest

@@ -7,6 +7,7 @@
 #include <vms_client_sdk/DeviceTransport.h>
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
+#include <vms_client_sdk/PendingRequests.h>
 #include <vms_client_sdk/Requests.h>
 #include <vms_client_sdk/SignOn.h>
 

@@ -1,7 +1,7 @@
 #include "support/OrdaTest.h"
 #include "support/SiteClient.h"
 
-#include <EmbeddedFleet.h>
+#include "fleet/EmbeddedFleet.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -41,6 +41,7 @@ class SoakTest : public OrdaTest
 private slots:
     void runsLeaveNothingBehind()
     {
+        const QList<FamilyRow> families = offeredFamilies();
         const int runs = qMax(100, qEnvironmentVariableIntValue("ORDA_SOAK_RUNS"));
         device_fleet::FleetOptions options;
         options.devices = 100;
@@ -60,7 +61,7 @@ private slots:
         for (int run = 0; run < runs; ++run) {
             if (run == 50)
                 start = usage();
-            const FamilyRow &family = familyTable().at(run % 7);
+            const FamilyRow &family = families.at(run % families.size());
             QVERIFY2(client.configure(family).endsWith(QLatin1String("failure:0")), qPrintable(family.name));
             dismissDialogs();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

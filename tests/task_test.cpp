@@ -8,10 +8,6 @@
 #include <vms_client_sdk/ClientSignals.h>
 #include <vms_client_sdk/Requests.h>
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QSignalSpy>
-
 using orda_batchCfg::AudioParamsCfgTask;
 using Request = ScriptedTransport::Request;
 
@@ -21,16 +17,14 @@ constexpr std::chrono::milliseconds waitingTime{100};
 
 QJsonObject values()
 {
-    return {{QStringLiteral("encType"), QStringLiteral("g711a")},
-            {QStringLiteral("aoGain"), 7},
-            {QStringLiteral("unknownHere"), true}};
+    return {{"encType", "g711a"}, {"aoGain", 7}, {"unknownHere", true}};
 }
 
 QJsonObject deviceAudio(const Request &request)
 {
-    QJsonObject audio{{QStringLiteral("encType"), QStringLiteral("g711u")}, {QStringLiteral("mask"), 3}};
-    if (request.method() == QLatin1String("ao_get_param"))
-        audio.insert(QStringLiteral("aoGain"), 50);
+    QJsonObject audio{{"encType", "g711u"}, {"mask", 3}};
+    if (request.method() == "ao_get_param")
+        audio.insert("aoGain", 50);
     return audio;
 }
 
@@ -45,10 +39,10 @@ ScriptedTransport::Script except(const QString &method, const QStringList &answe
     return [=](const Request &request) { return request.method() == method ? answers : healthy(request); };
 }
 
-const QString aiGet = QStringLiteral("ai_get_param");
-const QString aiSet = QStringLiteral("ai_set_param");
-const QString aoGet = QStringLiteral("ao_get_param");
-const QString aoSet = QStringLiteral("ao_set_param");
+const QString aiGet = "ai_get_param";
+const QString aiSet = "ai_set_param";
+const QString aoGet = "ao_get_param";
+const QString aoSet = "ao_set_param";
 
 } // namespace
 
@@ -62,32 +56,25 @@ class TaskTest : public OrdaTest
 private slots:
     void endsOnceAsTheDeviceAnswers_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<ScriptedTransport::Script>("script");
-        QTest::addColumn<QStringList>("methods");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<int>("code");
-
+        columns<int, ScriptedTransport::Script, QStringList, QString, int>(
+            {"flags", "script", "methods", "message", "code"});
         const auto row = [](const char *name, int flags, const ScriptedTransport::Script &script,
-                            const QStringList &methods, const char *message, int code) {
-            QTest::newRow(name) << flags << script << methods << QString::fromLatin1(message) << code;
-        };
+                            const QStringList &methods, const char *message,
+                            int code) { ::row(name, flags, script, methods, message, code); };
         const QStringList allFour{aiGet, aiSet, aoGet, aoSet};
         row("both", 3, healthy, allFour, "success", 0);
-        row("no error member is success", 1, except(aiGet, {QStringLiteral(R"({"method": "ai_get_param"})")}),
-            {aiGet, aiSet}, "success", 0);
+        row("no error member is success", 1, except(aiGet, {R"({"method": "ai_get_param"})"}), {aiGet, aiSet},
+            "success", 0);
         for (const char *error :
              {R"({"errorcode": "7"})", R"({"errorcode": 1.5})", R"({"errorcode": 4294967296})", "7"}) {
-            const QString text = QStringLiteral(R"({"method": "ai_set_param", "error": %1})").arg(QLatin1String(error));
+            const QString text = QStringLiteral(R"({"method": "ai_set_param", "error": %1})").arg(error);
             row(qPrintable(text), 1, except(aiSet, {text}), {aiGet, aiSet}, "success", 0);
         }
         row("a whole error code", 1, except(aiSet, {answer(aiSet, {}, -7)}), {aiGet, aiSet},
             "Failed to set audio in parameters(-7)", -7);
         row("an empty text", 1, except(aiGet, {QString()}), {aiGet}, "Failed to parse json data", -61003);
-        row("an empty object is no answer", 1, except(aiGet, {QStringLiteral("{}")}), {aiGet},
-            "set audio parameters time out", -61004);
-        row("an array is no answer", 1, except(aiGet, {QStringLiteral("[]")}), {aiGet}, "set audio parameters time out",
-            -61004);
+        row("an empty object is no answer", 1, except(aiGet, {"{}"}), {aiGet}, "set audio parameters time out", -61004);
+        row("an array is no answer", 1, except(aiGet, {"[]"}), {aiGet}, "set audio parameters time out", -61004);
         row(
             "each answer twice", 3, [](const Request &request) { return healthy(request) + healthy(request); }, allFour,
             "success", 0);
@@ -104,11 +91,11 @@ private slots:
         QFETCH(int, code);
 
         const ScriptedTransport *transport = use(script);
-        AudioParamsCfgTask task(QStringLiteral("cam"), values(), flags, nullptr);
+        AudioParamsCfgTask task("cam", values(), flags, nullptr);
         QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
         QTRY_COMPARE(results.count(), 1);
         const QVariantList &result = results.constFirst();
-        QCOMPARE(result.at(0).toString(), QStringLiteral("cam"));
+        QCOMPARE(result.at(0).toString(), "cam");
         QCOMPARE(result.at(1).toString(), message);
         QCOMPARE(result.at(2).toInt(), code);
         QCOMPARE(transport->methods(), methods);
@@ -124,20 +111,19 @@ private slots:
     void sendsTheWholeObjectWithTheChosenMembers()
     {
         const ScriptedTransport *transport = use(healthy);
-        AudioParamsCfgTask task(QStringLiteral("cam"), values(),
-                                AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut, nullptr);
+        AudioParamsCfgTask task("cam", values(), AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut, nullptr);
         QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
         QTRY_COMPARE(results.count(), 1);
 
-        QCOMPARE(transport->requests.at(0).text, QStringLiteral(R"({
+        QCOMPARE(transport->requests.at(0).text, R"({
     "level": "Operator",
     "method": "ai_get_param",
     "param": {
         "channelid": 0
     }
 }
-)"));
-        QCOMPARE(transport->requests.at(1).text, QStringLiteral(R"({
+)");
+        QCOMPARE(transport->requests.at(1).text, R"({
     "level": "Operator",
     "method": "ai_set_param",
     "param": {
@@ -148,10 +134,10 @@ private slots:
         "channelid": 0
     }
 }
-)"));
+)");
         // The output has a gain as well, and what was read of the input is not written to it.
         QCOMPARE(
-            transport->requests.at(3).json().value(QLatin1String("param")).toObject(),
+            transport->requests.at(3).json().value("param").toObject(),
             QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"encType": "g711a", "mask": 3, "aoGain": 7}})")
                 .object());
     }
@@ -159,7 +145,7 @@ private slots:
     void pausesBetweenAnAnswerAndTheNextRequest()
     {
         const ScriptedTransport *transport = use(healthy);
-        AudioParamsCfgTask task(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask task("cam", values(), AudioParamsCfgTask::AudioIn, nullptr);
         QElapsedTimer sinceAnswer;
         connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, &task, [&] {
             if (transport->requests.size() == 1)
@@ -172,14 +158,14 @@ private slots:
     void hearsOnlyItsOwnAnswersAndTimeOuts()
     {
         use(silent);
-        AudioParamsCfgTask first(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
-        AudioParamsCfgTask second(QStringLiteral("cam"), values(), AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask first("cam", values(), AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask second("cam", values(), AudioParamsCfgTask::AudioIn, nullptr);
         QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
         QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);
 
         auto &sdk = vms_sdk::ClientSignals::instance();
-        emit sdk.signalCommonRes(first.requestId().toUpper() + QLatin1Char('x'), answer(aiGet, {}, 1));
-        emit sdk.signalRequestTimeout(QStringLiteral("of a foreign request"), {});
+        emit sdk.signalCommonRes(first.requestId().toUpper() + 'x', answer(aiGet, {}, 1));
+        emit sdk.signalRequestTimeout("of a foreign request", {});
         QCOMPARE(firstResults.count() + secondResults.count(), 0);
         emit sdk.signalRequestTimeout(second.requestId(), {});
         QCOMPARE(firstResults.count(), 0);
@@ -191,12 +177,12 @@ private slots:
         // It answers its first read only; another device's results renew its waiting time, as a page does it.
         constexpr std::chrono::milliseconds limit{400};
         int reads = 0;
-        const QString get = QStringLiteral("ifconfig_qbcloud_get_param");
+        const QString get = "ifconfig_qbcloud_get_param";
         use([&](const Request &request) {
             const bool isFirst = request.method() == get && ++reads == 1;
             return isFirst ? QStringList{answer(get)} : QStringList();
         });
-        orda_batchCfg::PlatformParamsCfgTask task(QStringLiteral("cam"), {}, nullptr, limit);
+        orda_batchCfg::PlatformParamsCfgTask task("cam", {}, nullptr, limit);
         const QSignalSpy results(&task, &orda_batchCfg::ParamsCfgTask::signalCfgResult);
         QElapsedTimer sinceFirstReadAgain;
         QTimer flapping;
@@ -212,7 +198,7 @@ private slots:
         QVERIFY2(sinceFirstReadAgain.elapsed() >= limit.count() - 1,
                  qPrintable(QString::number(sinceFirstReadAgain.elapsed())));
         QVERIFY(reads > 5);
-        QCOMPARE(results.at(0).at(1).toString(), QStringLiteral("set platform parameters time out"));
+        QCOMPARE(results.at(0).at(1).toString(), "set platform parameters time out");
         QCOMPARE(results.at(0).at(2).toInt(), -61004);
         const int readsAtEnd = reads;
         QTest::qWait(30); // it goes on coming and going; nobody asks it any more

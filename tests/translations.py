@@ -31,7 +31,7 @@ def update(part, files):
     for file in files:
         only_plurals = ["-pluralonly"] if file.stem.endswith("_en") else []
         # It complains about digits grouped by apostrophes, which hold no text.
-        subprocess.run(["lupdate", "-silent", "-locations", "none", "-no-obsolete", *only_plurals, part, "-ts", str(file)],
+        subprocess.run(["lupdate", "-silent", "-locations", "none", "-no-obsolete", "-I", ".", *only_plurals, part, "-ts", str(file)],
                        cwd=ROOT, check=True, stderr=subprocess.DEVNULL)
 
 

@@ -158,7 +158,6 @@ private slots:
         QTest::addColumn<QList<int>>("answers");
         const auto row = [](const char *name, const std::function<void(QDialog *)> &operate,
                             const QList<int> &answers) { QTest::newRow(name) << operate << answers; };
-        row("first button", [](QDialog *d) { d->findChildren<QPushButton *>().at(0)->click(); }, {0});
         row("second button twice",
             [](QDialog *d) {
                 auto *button = d->findChildren<QPushButton *>().at(1);
@@ -217,8 +216,10 @@ private slots:
         orda_worker::SystemAssistant::instance().messageAlert(QStringLiteral("Title"), text);
         auto *dialog = window.findChild<QDialog *>(QStringLiteral("messageAlertDialog"));
         const auto labels = dialog->findChildren<QLabel *>();
-        for (const QLabel *label : labels)
+        for (const QLabel *label : labels) {
+            QCOMPARE(label->textFormat(), Qt::PlainText); // file names may look like mark-up
             QVERIFY2(label->height() < 2 * label->fontMetrics().height(), qPrintable(label->text()));
+        }
         dialog->reject();
     }
 

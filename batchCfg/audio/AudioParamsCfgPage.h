@@ -21,9 +21,6 @@ public:
     explicit AudioParamsCfgPage(QWidget *parent = nullptr);
     ~AudioParamsCfgPage() override;
 
-protected:
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
-
 private:
     void pairVolume(QSlider *slider, QLineEdit *edit);
 

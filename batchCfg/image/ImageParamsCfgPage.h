@@ -16,9 +16,6 @@ public:
     explicit ImageParamsCfgPage(QWidget *parent = nullptr);
     ~ImageParamsCfgPage() override;
 
-protected:
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
-
 private:
     std::unique_ptr<Ui::ImageParamsCfgPage> m_ui;
 };

@@ -2,21 +2,59 @@
 
 namespace orda_batchCfg {
 
-ImageParamsCfgTask::ImageParamsCfgTask(const QString &devId, const QJsonObject &values, int flags, QObject *parent)
-    : ParamsCfgTask(
-        devId, values,
-        {{QStringLiteral("image_get_adjust_param"), QStringLiteral("image_set_adjust_param"), channelZero(),
-          mergedUnder(QStringLiteral("attr")), tr("Failed to get image adjust parameters(%1)"),
-          tr("Failed to set image adjust parameters(%1)"), Adjust},
-         {QStringLiteral("image_get_dncut_param"), QStringLiteral("image_set_dncut_param"), channelZero(),
-          mergedUnder(QStringLiteral("attr")), tr("Failed to get image day-night parameters(%1)"),
-          tr("Failed to set image day-night parameters(%1)"), DayNight},
-         {QStringLiteral("image_get_expertsetting_param"), QStringLiteral("image_set_expertsetting_param"),
-          channelZero(), mergedUnder(QStringLiteral("attr")), tr("Failed to get image expert parameters(%1)"),
-          tr("Failed to set image expert parameters(%1)"), Expert}},
-        tr("set image parameters time out"), parent, flags)
+const CfgFamily &ImageParamsCfgTask::family()
 {
-    start();
+    static const CfgFamily image{
+        QStringLiteral("image"),
+        &staticMetaObject,
+        QT_TR_NOOP("Image Parameters Configuration Result"),
+        QT_TR_NOOP("set image parameters time out"),
+        {
+            CfgExchange("image_get_adjust_param", "image_set_adjust_param", mergedUnder("attr"))
+                .reading(channelZero())
+                .failing(QT_TR_NOOP("Failed to get image adjust parameters(%1)"),
+                         QT_TR_NOOP("Failed to set image adjust parameters(%1)"))
+                .onlyWith(Adjust),
+            CfgExchange("image_get_dncut_param", "image_set_dncut_param", mergedUnder("attr"))
+                .reading(channelZero())
+                .failing(QT_TR_NOOP("Failed to get image day-night parameters(%1)"),
+                         QT_TR_NOOP("Failed to set image day-night parameters(%1)"))
+                .onlyWith(DayNight),
+            CfgExchange("image_get_expertsetting_param", "image_set_expertsetting_param", mergedUnder("attr"))
+                .reading(channelZero())
+                .failing(QT_TR_NOOP("Failed to get image expert parameters(%1)"),
+                         QT_TR_NOOP("Failed to set image expert parameters(%1)"))
+                .onlyWith(Expert),
+        },
+        {
+            CfgKey::choice("flip",
+                           {{"off", QT_TR_NOOP("Off")},
+                            {"horizontal", QT_TR_NOOP("Horizontal")},
+                            {"vertical", QT_TR_NOOP("Vertical")},
+                            {"both", QT_TR_NOOP("Rotate 180")}},
+                           Adjust),
+            CfgKey::choice("expertmode",
+                           {{"auto", QT_TR_NOOP("Auto")},
+                            {"indoor", QT_TR_NOOP("Indoor")},
+                            {"outdoor", QT_TR_NOOP("Outdoor")},
+                            {"backlight", QT_TR_NOOP("Backlight")}},
+                           Expert),
+            CfgKey::choice("lightmode",
+                           {{"ir", QT_TR_NOOP("Infrared")},
+                            {"white", QT_TR_NOOP("White Light")},
+                            {"smart", QT_TR_NOOP("Smart Dual Light")},
+                            {"off", QT_TR_NOOP("Off")}},
+                           DayNight),
+        },
+        [](const QString &devId, const QJsonObject &values, int flags, QObject *parent) -> ParamsCfgTask * {
+            return new ImageParamsCfgTask(devId, values, flags, parent);
+        }};
+    return image;
+}
+
+ImageParamsCfgTask::ImageParamsCfgTask(const QString &devId, const QJsonObject &values, int flags, QObject *parent)
+    : ParamsCfgTask(family(), devId, values, flags, parent)
+{
 }
 
 } // namespace orda_batchCfg

@@ -10,6 +10,7 @@ class ImageParamsCfgTask : public ParamsCfgTask
     Q_OBJECT
 
 public:
+    /// What a task may do, one exchange each.
     enum Flag
     {
         Adjust = 1,
@@ -17,8 +18,10 @@ public:
         Expert = 4
     };
 
+    static const CfgFamily &family();
+
     /// @param values "flip", "lightmode", "expertmode"; what the device does not report is left out
-    /// @param flags the Flags of the objects to touch
+    /// @param flags the Flags of the exchanges to run
     ImageParamsCfgTask(const QString &devId, const QJsonObject &values, int flags, QObject *parent);
 };
 

@@ -16,9 +16,6 @@ public:
     explicit NetworkParamsCfgPage(QWidget *parent = nullptr);
     ~NetworkParamsCfgPage() override;
 
-protected:
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
-
 private:
     std::unique_ptr<Ui::NetworkParamsCfgPage> m_ui;
 };

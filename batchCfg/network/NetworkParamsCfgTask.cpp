@@ -21,19 +21,38 @@ QJsonObject interfaceParam(const QJsonObject &values, const QJsonObject &device)
 
 } // namespace
 
+const CfgFamily &NetworkParamsCfgTask::family()
+{
+    static const CfgFamily network{
+        QStringLiteral("network"),
+        &staticMetaObject,
+        QT_TR_NOOP("Network Parameters Configuration Result"),
+        QT_TR_NOOP("set network parameters time out"),
+        {
+            CfgExchange("netservice_onvif_get_discoveryinfo", "netservice_onvif_set_discoveryinfo", discoveryParam)
+                .failing(QT_TR_NOOP("Failed to get onvif discovery parameters(%1)"),
+                         QT_TR_NOOP("Failed to set onvif discovery parameters(%1)"))
+                .onlyWith(Discovery),
+            CfgExchange("ifconfig_get_inet", "ifconfig_eth_set", interfaceParam)
+                .failing(QT_TR_NOOP("Failed to get ip parameters(%1)"), QT_TR_NOOP("Failed to set ip parameters(%1)"))
+                .foundIn("eth")
+                .onlyWith(IpInterface),
+        },
+        {
+            CfgKey::numberSwitch("discoveryflag", Discovery),
+            CfgKey::switchOf("bIPLock", IpInterface),
+            CfgKey::switchOf("bSmartOnline", IpInterface),
+        },
+        [](const QString &devId, const QJsonObject &values, int flags, QObject *parent) -> ParamsCfgTask * {
+            return new NetworkParamsCfgTask(devId, values, unsigned(flags), parent);
+        }};
+    return network;
+}
+
 NetworkParamsCfgTask::NetworkParamsCfgTask(const QString &devId, const QJsonObject &values, unsigned flags,
                                            QObject *parent)
-    : ParamsCfgTask(
-        devId, values,
-        {{QStringLiteral("netservice_onvif_get_discoveryinfo"), QStringLiteral("netservice_onvif_set_discoveryinfo"),
-          std::nullopt, discoveryParam, tr("Failed to get onvif discovery parameters(%1)"),
-          tr("Failed to set onvif discovery parameters(%1)"), Discovery},
-         {QStringLiteral("ifconfig_get_inet"), QStringLiteral("ifconfig_eth_set"), std::nullopt, interfaceParam,
-          tr("Failed to get ip parameters(%1)"), tr("Failed to set ip parameters(%1)"), IpInterface,
-          QStringLiteral("eth")}},
-        tr("set network parameters time out"), parent, int(flags))
+    : ParamsCfgTask(family(), devId, values, int(flags), parent)
 {
-    start();
 }
 
 } // namespace orda_batchCfg

@@ -10,15 +10,18 @@ class NetworkParamsCfgTask : public ParamsCfgTask
     Q_OBJECT
 
 public:
+    /// What a task may do, one exchange each.
     enum Flag
     {
         Discovery = 1,
         IpInterface = 2
     };
 
+    static const CfgFamily &family();
+
     /// @param values "discoveryflag" (1 or 0), "bIPLock" and "bSmartOnline" (booleans); what the device does not report
     /// is left out
-    /// @param flags the Flags of the objects to touch
+    /// @param flags the Flags of the exchanges to run
     NetworkParamsCfgTask(const QString &devId, const QJsonObject &values, unsigned flags, QObject *parent);
 };
 

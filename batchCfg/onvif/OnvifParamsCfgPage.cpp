@@ -15,8 +15,7 @@ enum ParamBit
 } // namespace
 
 OnvifParamsCfgPage::OnvifParamsCfgPage(QWidget *parent)
-    : ParamsCfgPage(tr("Onvif Parameters Configuration Result"),
-                    QStringLiteral("vms_onvif_params_batch_cfg_record.txt"), parent)
+    : ParamsCfgPage(OnvifParamsCfgTask::family(), parent)
     , m_ui(std::make_unique<Ui::OnvifParamsCfgPage>())
 {
     m_ui->setupUi(this);
@@ -25,15 +24,10 @@ OnvifParamsCfgPage::OnvifParamsCfgPage(QWidget *parent)
          m_ui->compatibleEnable,
          {m_ui->compatibleEnablePanel},
          "discoveryflag",
-         switchNumber(m_ui->compatibleEnableSwitch)},
+         m_ui->compatibleEnableSwitch},
     });
 }
 
 OnvifParamsCfgPage::~OnvifParamsCfgPage() = default;
-
-ParamsCfgTask *OnvifParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)
-{
-    return new OnvifParamsCfgTask(devId, values, this);
-}
 
 } // namespace orda_batchCfg

@@ -16,9 +16,6 @@ public:
     explicit OnvifParamsCfgPage(QWidget *parent = nullptr);
     ~OnvifParamsCfgPage() override;
 
-protected:
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
-
 private:
     std::unique_ptr<Ui::OnvifParamsCfgPage> m_ui;
 };

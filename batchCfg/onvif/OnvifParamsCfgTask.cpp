@@ -4,24 +4,38 @@ namespace orda_batchCfg {
 
 namespace {
 
-QJsonObject writeParam(QJsonObject &values, const QJsonObject &device)
+QJsonObject writeParam(const QJsonObject &values, const QJsonObject &device)
 {
-    values = completeFrom(values, device, {QStringLiteral("discoveryflag")});
-    values = completeFrom(values, {{QStringLiteral("bdefault"), false}}, {QStringLiteral("bdefault")});
-    return values;
+    const QString byDefault = QStringLiteral("bdefault");
+    const QJsonObject completed = completeFrom(values, device, {QStringLiteral("discoveryflag")});
+    return completeFrom(completed, {{byDefault, false}}, {byDefault});
 }
 
 } // namespace
 
-OnvifParamsCfgTask::OnvifParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent)
-    : ParamsCfgTask(
-        devId, values,
-        {{QStringLiteral("netservice_onvif_get_discoveryinfo"), QStringLiteral("netservice_onvif_set_discoveryinfo"),
-          QJsonObject(), writeParam, tr("Failed to get onvif discovery parameters(%1)"),
-          tr("Failed to set onvif discovery parameters(%1)")}},
-        tr("set onvif discovery parameters time out"), parent)
+const CfgFamily &OnvifParamsCfgTask::family()
 {
-    start();
+    static const CfgFamily onvif{
+        QStringLiteral("onvif"),
+        &staticMetaObject,
+        QT_TR_NOOP("Onvif Parameters Configuration Result"),
+        QT_TR_NOOP("set onvif discovery parameters time out"),
+        {
+            CfgExchange("netservice_onvif_get_discoveryinfo", "netservice_onvif_set_discoveryinfo", writeParam)
+                .reading([](const QJsonObject &) { return QJsonObject(); })
+                .failing(QT_TR_NOOP("Failed to get onvif discovery parameters(%1)"),
+                         QT_TR_NOOP("Failed to set onvif discovery parameters(%1)")),
+        },
+        {CfgKey::numberSwitch("discoveryflag")},
+        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
+            return new OnvifParamsCfgTask(devId, values, parent);
+        }};
+    return onvif;
+}
+
+OnvifParamsCfgTask::OnvifParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent)
+    : ParamsCfgTask(family(), devId, values, 0, parent)
+{
 }
 
 } // namespace orda_batchCfg

@@ -10,6 +10,8 @@ class OnvifParamsCfgTask : public ParamsCfgTask
     Q_OBJECT
 
 public:
+    static const CfgFamily &family();
+
     /// @param values "discoveryflag" (1 or 0); without it the device keeps its own
     OnvifParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent);
 };

@@ -16,9 +16,6 @@ public:
     explicit OSDParamsCfgPage(QWidget *parent = nullptr);
     ~OSDParamsCfgPage() override;
 
-protected:
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
-
 private:
     std::unique_ptr<Ui::OSDParamsCfgPage> m_ui;
 };

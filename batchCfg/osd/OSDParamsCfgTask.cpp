@@ -2,14 +2,44 @@
 
 namespace orda_batchCfg {
 
-OSDParamsCfgTask::OSDParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent)
-    : ParamsCfgTask(devId, values,
-                    {{QStringLiteral("chnosd_get_param"), QStringLiteral("chnosd_set_param"), channelZero(),
-                      mergedUnder(QStringLiteral("attr")), tr("Failed to get osd parameters(%1)"),
-                      tr("Failed to set osd parameters(%1)")}},
-                    tr("set osd parameters time out"), parent)
+const CfgFamily &OSDParamsCfgTask::family()
 {
-    start();
+    static const QVector<CfgChoice> positions{{"left_top", QT_TR_NOOP("Top Left")},
+                                              {"left_bottom", QT_TR_NOOP("Bottom Left")},
+                                              {"right_top", QT_TR_NOOP("Top Right")},
+                                              {"right_bottom", QT_TR_NOOP("Bottom Right")},
+                                              {"hide", QT_TR_NOOP("Hide")}};
+    static const CfgFamily osd{
+        QStringLiteral("osd"),
+        &staticMetaObject,
+        QT_TR_NOOP("OSD Parameters Configuration Result"),
+        QT_TR_NOOP("set osd parameters time out"),
+        {
+            CfgExchange("chnosd_get_param", "chnosd_set_param", mergedUnder("attr"))
+                .reading(channelZero())
+                .failing(QT_TR_NOOP("Failed to get osd parameters(%1)"),
+                         QT_TR_NOOP("Failed to set osd parameters(%1)")),
+        },
+        {
+            CfgKey::switchOf("bShowOSD"),
+            // Devices read the date as it is shown, so it is not translated.
+            CfgKey::choice("timeFormat", {{"YYYY-MM-DD hh:mm:ss", "YYYY-MM-DD"},
+                                          {"MM/DD/YYYY hh:mm:ss", "MM/DD/YYYY"},
+                                          {"DD/MM/YYYY hh:mm:ss", "DD/MM/YYYY"}}),
+            CfgKey::choice("timePos", positions),
+            CfgKey::text("channelName", 32),
+            CfgKey::choice("position", positions),
+            CfgKey::switchOf("bLargeOSD"),
+        },
+        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
+            return new OSDParamsCfgTask(devId, values, parent);
+        }};
+    return osd;
+}
+
+OSDParamsCfgTask::OSDParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent)
+    : ParamsCfgTask(family(), devId, values, 0, parent)
+{
 }
 
 } // namespace orda_batchCfg

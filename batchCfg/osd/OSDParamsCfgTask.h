@@ -10,6 +10,8 @@ class OSDParamsCfgTask : public ParamsCfgTask
     Q_OBJECT
 
 public:
+    static const CfgFamily &family();
+
     /// @param values "bShowOSD", "timeFormat", "timePos", "channelName", "position", "bLargeOSD"; what the device does
     /// not report is left out
     OSDParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent);

@@ -16,13 +16,13 @@ enum ParamBit
 } // namespace
 
 Platform9100ParamsCfgPage::Platform9100ParamsCfgPage(QWidget *parent)
-    : ParamsCfgPage(tr("Platform 9100 Parameters Configuration Result"),
-                    QStringLiteral("vms_platform_9100_params_batch_cfg_record.txt"), parent)
+    : ParamsCfgPage(Platform9100ParamsCfgTask::family(), parent)
     , m_ui(std::make_unique<Ui::Platform9100ParamsCfgPage>())
 {
     m_ui->setupUi(this);
 
     // A server without an address is not configured by hand, and then neither address nor port are sent.
+    using Value = std::function<QJsonValue()>;
     const auto isGiven = [](const QLineEdit *url) -> Value {
         return [url] { return !url->text().trimmed().isEmpty(); };
     };
@@ -39,25 +39,31 @@ Platform9100ParamsCfgPage::Platform9100ParamsCfgPage(QWidget *parent)
         };
     };
     setParams({
-        {ServiceEnable, m_ui->serviceEnable, {m_ui->serviceEnablePanel}, "bEnable", switchState(m_ui->serviceSwitch)},
+        {ServiceEnable, m_ui->serviceEnable, {m_ui->serviceEnablePanel}, "bEnable", m_ui->serviceSwitch},
         {ServiceAddress,
          m_ui->serviceAddress,
          {m_ui->onlineServicePanel, m_ui->bussinessServicePanel},
          "bManualcfgonline",
+         nullptr,
          isGiven(m_ui->onlineUrl)},
-        {ServiceAddress, m_ui->serviceAddress, {}, "onlineserverip", address(m_ui->onlineUrl)},
-        {ServiceAddress, m_ui->serviceAddress, {}, "onlineserverport", port(m_ui->onlineUrl, m_ui->onlinePort)},
-        {ServiceAddress, m_ui->serviceAddress, {}, "bManualcfgbussiness", isGiven(m_ui->bussinessUrl)},
-        {ServiceAddress, m_ui->serviceAddress, {}, "businessserverip", address(m_ui->bussinessUrl)},
-        {ServiceAddress, m_ui->serviceAddress, {}, "businessserverport", port(m_ui->bussinessUrl, m_ui->bussinessPort)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "onlineserverip", nullptr, address(m_ui->onlineUrl)},
+        {ServiceAddress,
+         m_ui->serviceAddress,
+         {},
+         "onlineserverport",
+         nullptr,
+         port(m_ui->onlineUrl, m_ui->onlinePort)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "bManualcfgbussiness", nullptr, isGiven(m_ui->bussinessUrl)},
+        {ServiceAddress, m_ui->serviceAddress, {}, "businessserverip", nullptr, address(m_ui->bussinessUrl)},
+        {ServiceAddress,
+         m_ui->serviceAddress,
+         {},
+         "businessserverport",
+         nullptr,
+         port(m_ui->bussinessUrl, m_ui->bussinessPort)},
     });
 }
 
 Platform9100ParamsCfgPage::~Platform9100ParamsCfgPage() = default;
-
-ParamsCfgTask *Platform9100ParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)
-{
-    return new Platform9100ParamsCfgTask(devId, values, this);
-}
 
 } // namespace orda_batchCfg

@@ -16,9 +16,6 @@ public:
     explicit Platform9100ParamsCfgPage(QWidget *parent = nullptr);
     ~Platform9100ParamsCfgPage() override;
 
-protected:
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
-
 private:
     std::unique_ptr<Ui::Platform9100ParamsCfgPage> m_ui;
 };

@@ -4,26 +4,50 @@ namespace orda_batchCfg {
 
 namespace {
 
+constexpr int highestPort = 65535;
+
 // The two manual flags are never taken from the device: they are sent when the operator gave them.
-QJsonObject writeParam(QJsonObject &values, const QJsonObject &device)
+QJsonObject writeParam(const QJsonObject &values, const QJsonObject &device)
 {
-    values =
-        completeFrom(values, device,
-                     {QStringLiteral("bEnable"), QStringLiteral("onlineserverip"), QStringLiteral("onlineserverport"),
-                      QStringLiteral("businessserverip"), QStringLiteral("businessserverport")});
-    return values;
+    return completeFrom(values, device,
+                        {QStringLiteral("bEnable"), QStringLiteral("onlineserverip"),
+                         QStringLiteral("onlineserverport"), QStringLiteral("businessserverip"),
+                         QStringLiteral("businessserverport")});
 }
 
 } // namespace
 
-Platform9100ParamsCfgTask::Platform9100ParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent)
-    : ParamsCfgTask(
-        devId, values,
-        {{QStringLiteral("alarmservice_get_cfg"), QStringLiteral("alarmservice_set_cfg"), QJsonObject(), writeParam,
-          tr("Failed to get platform 9100 parameters(%1)"), tr("Failed to set platform 9100 parameters(%1)")}},
-        tr("set platform 9100 parameters time out"), parent)
+const CfgFamily &Platform9100ParamsCfgTask::family()
 {
-    start();
+    static const CfgFamily platform9100{
+        QStringLiteral("platform_9100"),
+        &staticMetaObject,
+        QT_TR_NOOP("Platform 9100 Parameters Configuration Result"),
+        QT_TR_NOOP("set platform 9100 parameters time out"),
+        {
+            CfgExchange("alarmservice_get_cfg", "alarmservice_set_cfg", writeParam)
+                .reading([](const QJsonObject &) { return QJsonObject(); })
+                .failing(QT_TR_NOOP("Failed to get platform 9100 parameters(%1)"),
+                         QT_TR_NOOP("Failed to set platform 9100 parameters(%1)")),
+        },
+        {
+            CfgKey::switchOf("bEnable"),
+            CfgKey::switchOf("bManualcfgonline"),
+            CfgKey::text("onlineserverip"),
+            CfgKey::number("onlineserverport", 0, highestPort, 15030),
+            CfgKey::switchOf("bManualcfgbussiness"),
+            CfgKey::text("businessserverip"),
+            CfgKey::number("businessserverport", 0, highestPort, 8081),
+        },
+        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
+            return new Platform9100ParamsCfgTask(devId, values, parent);
+        }};
+    return platform9100;
+}
+
+Platform9100ParamsCfgTask::Platform9100ParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent)
+    : ParamsCfgTask(family(), devId, values, 0, parent)
+{
 }
 
 } // namespace orda_batchCfg

@@ -16,38 +16,19 @@ enum ParamBit
 } // namespace
 
 PlatformParamsCfgPage::PlatformParamsCfgPage(QWidget *parent)
-    : ParamsCfgPage(tr("Platform Parameters Configuration Result"),
-                    QStringLiteral("vms_platform_params_batch_cfg_record.txt"), parent)
+    : ParamsCfgPage(PlatformParamsCfgTask::family(), parent)
     , m_ui(std::make_unique<Ui::PlatformParamsCfgPage>())
 {
     m_ui->setupUi(this);
     m_ui->serviceAddressParam->setCursorPosition(0); // where the line is too short, its beginning is seen
-    m_ui->serviceType->setItemsData({QStringLiteral("public"), QStringLiteral("private")});
     setParams({
-        {ServiceEnable,
-         m_ui->serviceEnable,
-         {m_ui->serviceEnablePanel},
-         "qbcloud_en",
-         switchState(m_ui->serviceSwitch)},
-        {ServiceAddress,
-         m_ui->serviceAddress,
-         {m_ui->serviceAddressPanel},
-         "qbcloud_addr",
-         editedText(m_ui->serviceAddressParam)},
+        {ServiceEnable, m_ui->serviceEnable, {m_ui->serviceEnablePanel}, "qbcloud_en", m_ui->serviceSwitch},
+        {ServiceAddress, m_ui->serviceAddress, {m_ui->serviceAddressPanel}, "qbcloud_addr", m_ui->serviceAddressParam},
         // The type has no box of its own: it goes with either.
-        {ServiceEnable | ServiceAddress,
-         nullptr,
-         {m_ui->serviceTypePanel},
-         "qbcloud_type",
-         itemData(m_ui->serviceType)},
+        {ServiceEnable | ServiceAddress, nullptr, {m_ui->serviceTypePanel}, "qbcloud_type", m_ui->serviceType},
     });
 }
 
 PlatformParamsCfgPage::~PlatformParamsCfgPage() = default;
-
-ParamsCfgTask *PlatformParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)
-{
-    return new PlatformParamsCfgTask(devId, values, this);
-}
 
 } // namespace orda_batchCfg

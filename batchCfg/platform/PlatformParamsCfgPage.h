@@ -16,9 +16,6 @@ public:
     explicit PlatformParamsCfgPage(QWidget *parent = nullptr);
     ~PlatformParamsCfgPage() override;
 
-protected:
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
-
 private:
     std::unique_ptr<Ui::PlatformParamsCfgPage> m_ui;
 };

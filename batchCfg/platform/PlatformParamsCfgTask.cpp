@@ -10,23 +10,44 @@ QJsonObject readParam(const QJsonObject &values)
     return {{type, values.value(type).toString()}, {QStringLiteral("bdefault"), false}};
 }
 
-QJsonObject writeParam(QJsonObject &values, const QJsonObject &device)
+QJsonObject writeParam(const QJsonObject &values, const QJsonObject &device)
 {
-    values = completeFrom(values, device, {QStringLiteral("qbcloud_en"), QStringLiteral("qbcloud_addr")});
-    return values;
+    return completeFrom(values, device, {QStringLiteral("qbcloud_en"), QStringLiteral("qbcloud_addr")});
 }
 
 } // namespace
 
+const CfgFamily &PlatformParamsCfgTask::family()
+{
+    static const CfgFamily platform{
+        QStringLiteral("platform"),
+        &staticMetaObject,
+        QT_TR_NOOP("Platform Parameters Configuration Result"),
+        QT_TR_NOOP("set platform parameters time out"),
+        {
+            CfgExchange("ifconfig_qbcloud_get_param", "ifconfig_qbcloud_set_param", writeParam)
+                .reading(readParam)
+                .failing(QT_TR_NOOP("Failed to get platform parameters(%1)"),
+                         QT_TR_NOOP("Failed to set platform parameters(%1)"))
+                .checkedWhenBack(cloudCheckLimit),
+        },
+        {
+            CfgKey::switchOf("qbcloud_en"),
+            CfgKey::text("qbcloud_addr"),
+            CfgKey::choice("qbcloud_type",
+                           {{"public", QT_TR_NOOP("Public Cloud")}, {"private", QT_TR_NOOP("Private Cloud")}}),
+        },
+        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
+            return new PlatformParamsCfgTask(devId, values, parent);
+        }};
+    return platform;
+}
+
 PlatformParamsCfgTask::PlatformParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent,
                                              std::chrono::milliseconds checkLimit)
-    : ParamsCfgTask(devId, values,
-                    {{QStringLiteral("ifconfig_qbcloud_get_param"), QStringLiteral("ifconfig_qbcloud_set_param"),
-                      readParam(values), writeParam, tr("Failed to get platform parameters(%1)"),
-                      tr("Failed to set platform parameters(%1)"), 0, QString(), true, checkLimit}},
-                    tr("set platform parameters time out"), parent)
+    : ParamsCfgTask(family(), devId, values, 0, parent)
 {
-    start();
+    setCheckLimit(checkLimit);
 }
 
 } // namespace orda_batchCfg

@@ -17,6 +17,8 @@ class PlatformParamsCfgTask : public ParamsCfgTask
     Q_OBJECT
 
 public:
+    static const CfgFamily &family();
+
     /// @param values "qbcloud_type" always, "qbcloud_en" and "qbcloud_addr" where they are to change
     /// @param checkLimit how long after the first reading again the device may take to hold still
     PlatformParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent,

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+
 namespace orda_batchCfg {
 
 class BatchCfgForm;
@@ -18,18 +20,27 @@ public:
     static BatchCfgContact &instance();
 
     /// The last form wins. The contact does not own it and forgets it when it is deleted.
-    void setForm(BatchCfgForm *form);
+    /// @tparam Form BatchCfgForm, which only its own room knows as a class
+    template <typename Form>
+    void setForm(Form *form)
+    {
+        m_form = form;
+        m_widget = form;
+        m_listCheckedDevIds = [form] { return form->checkedDevIds(); };
+    }
     /// The registered form, or null.
-    BatchCfgForm *form() const;
+    BatchCfgForm *form() const { return m_widget ? m_form : nullptr; }
     /// form() for those who only cover it with something.
-    QWidget *formWidget() const { return m_form; }
+    QWidget *formWidget() const { return m_widget; }
     /// Ids of the devices that are ticked and can be seen, top to bottom; empty without a form.
-    QStringList checkedDevIds() const;
+    QStringList checkedDevIds() const { return m_widget ? m_listCheckedDevIds() : QStringList(); }
 
 private:
     BatchCfgContact() = default;
 
-    QPointer<QWidget> m_form; // always a BatchCfgForm
+    BatchCfgForm *m_form = nullptr; // dangles once m_widget is null
+    QPointer<QWidget> m_widget;
+    std::function<QStringList()> m_listCheckedDevIds;
 };
 
 } // namespace orda_batchCfg

@@ -1,11 +1,61 @@
 #include "run/CfgExchange.h"
 
+#include <utility>
+
 namespace orda_batchCfg {
 
-QJsonObject channelZero()
+namespace {
+
+const QJsonObject &channelZeroParam()
 {
-    static const QJsonObject zero{{QStringLiteral("channelid"), 0}};
-    return zero;
+    static const QJsonObject param{{QStringLiteral("channelid"), 0}};
+    return param;
+}
+
+} // namespace
+
+CfgExchange::CfgExchange(const char *get, const char *set, SetParam buildSetParam)
+    : getMethod(QLatin1String(get))
+    , setMethod(QLatin1String(set))
+    , setParam(std::move(buildSetParam))
+{
+}
+
+CfgExchange CfgExchange::reading(GetParam param) &&
+{
+    getParam = std::move(param);
+    return std::move(*this);
+}
+
+CfgExchange CfgExchange::failing(const char *getText, const char *setText) &&
+{
+    getFailure = getText;
+    setFailure = setText;
+    return std::move(*this);
+}
+
+CfgExchange CfgExchange::onlyWith(int bit) &&
+{
+    flag = bit;
+    return std::move(*this);
+}
+
+CfgExchange CfgExchange::foundIn(const char *member) &&
+{
+    resultMember = QLatin1String(member);
+    return std::move(*this);
+}
+
+CfgExchange CfgExchange::checkedWhenBack(std::chrono::milliseconds limit) &&
+{
+    checkWhenBack = true;
+    checkLimit = limit;
+    return std::move(*this);
+}
+
+CfgExchange::GetParam channelZero()
+{
+    return [](const QJsonObject &) { return channelZeroParam(); };
 }
 
 QJsonObject mergeKnownKeys(QJsonObject device, const QJsonObject &values)
@@ -26,11 +76,11 @@ QJsonObject completeFrom(QJsonObject values, const QJsonObject &device, const QS
     return values;
 }
 
-CfgExchange::BuildSetParam mergedUnder(const QString &attributeKey)
+CfgExchange::SetParam mergedUnder(const char *attribute)
 {
-    return [attributeKey](const QJsonObject &values, QJsonObject device) {
-        QJsonObject param = channelZero();
-        param.insert(attributeKey, mergeKnownKeys(std::move(device), values));
+    return [attribute = QString(QLatin1String(attribute))](const QJsonObject &values, QJsonObject device) {
+        QJsonObject param = channelZeroParam();
+        param.insert(attribute, mergeKnownKeys(std::move(device), values));
         return param;
     };
 }

@@ -28,7 +28,8 @@ QString temporaryDirectory()
     return QStandardPaths::writableLocation(QStandardPaths::TempLocation);
 }
 
-// Qt makes the root directory of one that is missing, and the working directory's of a relative one: neither is meant.
+// Qt takes the root directory in place of one that is missing, and looks for a relative one in the working directory. The
+// record must go to neither of them.
 QString refusalOfDirectory()
 {
     const QByteArray given = qgetenv("TMPDIR");
@@ -64,9 +65,9 @@ struct flock lockFrom(pid_t place)
     return lock; // to the end of the file, however long it gets
 }
 
-// The lock belongs to this descriptor: a window of the same process may open and close the file without giving it up.
-// Such a lock does not tell its process, so it begins at the byte whose number is the process's id; locks that begin
-// at different bytes still exclude each other, for all of them reach to the end.
+// Locks through this descriptor only, so that the lock stays when a window of the same process opens and closes the
+// file. The system does not say which process has such a lock. To make it known, the lock begins at the byte whose
+// number is the id of the process; it reaches to the end of the file, so any two of these locks exclude each other.
 // @return the process that has the file locked, 0 when it was locked here, -1 when the process is not known
 pid_t takeLock(int fd)
 {
@@ -134,8 +135,8 @@ bool CfgResultsRecorder::open()
     return m_file->isOpen();
 }
 
-// A descriptor of the file, locked for this run, with its content as it was; -1 with the reason, and with the holder
-// when the reason is another run.
+// Opens and locks the file for this run and leaves its content as it is.
+// @return the descriptor; -1 when that failed, with the reason in @p why, and in @p holder when another run has the file
 int CfgResultsRecorder::openLocked(QString *why, QString *holder) const
 {
     *why = m_noDirectory;
@@ -172,7 +173,7 @@ void CfgResultsRecorder::record(const QString &devId, const QString &msg)
         fail(tr("cannot write the record file %1: %2").arg(m_filePath, qt_error_string(errno)));
 }
 
-// Straight to the system, which names the cause of a failure; QFile does not name it when a part could be written.
+// Calls the system's write() because it names the cause of a failure; QFile does not when a part could be written.
 // @return false with errno set, and nothing of the entry in the file
 bool CfgResultsRecorder::write(const QByteArray &entry)
 {
@@ -185,7 +186,7 @@ bool CfgResultsRecorder::write(const QByteArray &entry)
             continue;
         if (written <= 0) {
             const int cause = errno;
-            // Half an entry would run into the next one.
+            // A part of an entry would be read as the beginning of the next one.
             const auto half = off_t(next - entry.constData());
             if (half > 0 && ::ftruncate(fd, ::lseek(fd, 0, SEEK_END) - half) != 0)
                 qCDebug(logRecord) << "the record keeps a part of an entry";
@@ -224,7 +225,7 @@ void CfgResultsRecorder::close()
             m_entryEnds.clear();
             fail(tr("the record file %1 was removed or replaced during the run").arg(m_filePath));
         }
-        m_file->close(); // a network drive may tell only now that it is full
+        m_file->close(); // some network drives report only here that they are full
         if (m_file->error() != QFileDevice::NoError)
             fail(tr("cannot write the record file %1: %2").arg(m_filePath, m_file->errorString()));
     }
@@ -233,7 +234,7 @@ void CfgResultsRecorder::close()
     m_file = nullptr;
 }
 
-// The first failure is told, once.
+// Keeps and logs the first failure of a run only: the later ones follow from it.
 void CfgResultsRecorder::fail(const QString &what)
 {
     if (m_error.isEmpty()) {

@@ -21,8 +21,8 @@ public:
 
     /// Takes the record for a run that is about to begin; what is in it stays until open(). Two clients of one user
     /// have the same record, and only one of them may have it at a time, until close() or the end of its process.
-    /// @return who has it, in words for the user; empty when it was taken, and when it cannot be had for another
-    ///         reason, which open() then tells
+    /// @return the process that has it, in words for the user; empty when the record was taken, and also when it cannot
+    ///         be opened for another reason: open() then fails and error() names the reason
     QString reserve();
     /// Starts a new record, which empties that of the run before. The path is known to everybody on the machine, so it
     /// is never followed through a link and must be the user's own regular file.
@@ -34,11 +34,11 @@ public:
     void close();
 
     QString filePath() const { return m_filePath; }
-    /// Of the record that was opened last: why it is missing or not whole, in words for the user; empty when all is
-    /// well. Final after close().
+    /// Why the record that was opened last is missing or not complete, in words for the user; empty when it is complete.
+    /// Does not change after close().
     QString error() const { return m_error; }
-    /// Where each entry of that record ends in the file, in bytes. Only this tells entries from texts that look like
-    /// entries.
+    /// Where each entry of that record ends in the file, in bytes. A reader needs this because a device's message may
+    /// look like an entry.
     QVector<int> entryEnds() const { return m_entryEnds; }
 
 private:

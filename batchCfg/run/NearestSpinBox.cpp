@@ -8,7 +8,7 @@ QValidator::State NearestSpinBox::validate(QString &input, int &pos) const
 {
     const QValidator::State state = QSpinBox::validate(input, pos);
     static const QRegularExpression number(QStringLiteral("^\\d+$"));
-    // The base refuses the digit that makes a number too large, and so would take 9999 where 99999 was typed.
+    // QSpinBox refuses the digit that makes a number too large: of 99999 it would keep 9999.
     const bool isTooLarge = state == QValidator::Invalid && number.match(digits(input)).hasMatch();
     return isTooLarge ? QValidator::Intermediate : state;
 }
@@ -18,7 +18,7 @@ void NearestSpinBox::fixup(QString &input) const
     const QString typed = digits(input);
     bool isInt = false;
     const int number = typed.isEmpty() ? minimum() : locale().toInt(typed, &isInt);
-    // Digits that are no int are too many.
+    // A number that is too large for an int is above the maximum.
     input = textFromValue(typed.isEmpty() || isInt ? qBound(minimum(), number, maximum()) : maximum());
 }
 

@@ -4,8 +4,8 @@
 
 namespace orda_batchCfg {
 
-/// A spin box in which any number can be typed: one beyond a bound becomes that bound, and an empty line the minimum,
-/// when the editor is left or interpretText() is called.
+/// A spin box in which any number can be typed. When the editor is left or interpretText() is called, a number outside
+/// the range becomes the nearest one inside it, and an empty line becomes the minimum.
 class NearestSpinBox : public QSpinBox
 {
     Q_OBJECT

@@ -1,10 +1,13 @@
 #include "run/ParamsCfgPage.h"
 
 #include "run/BatchCfgContact.h"
+#include "run/CfgFamily.h"
 #include "run/CfgResultsRecorder.h"
-#include "run/CheckBoxAccess.h"
+#include "run/CfgRun.h"
+#include "run/KeyEditor.h"
 #include "run/Logging.h"
 #include "run/ParamsCfgTask.h"
+#include "run/SwitchImages.h"
 #include "run/WheelGuard.h"
 
 #include <XCOMMON/XLabel.h>
@@ -13,14 +16,11 @@
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/DictDef.h>
 #include <orda_worker/SystemAssistant.h>
-#include <vms_client_sdk/Requests.h>
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -33,65 +33,32 @@ namespace orda_batchCfg {
 
 namespace {
 
-// One run at a time in the whole process: all runs wait in nested event loops on one stack, where an older one could
-// only end after the younger ones.
-class RunLock
-{
-public:
-    RunLock() { s_running = true; }
-    ~RunLock() { s_running = false; }
-    Q_DISABLE_COPY_MOVE(RunLock)
-
-    static bool isHeld() { return s_running; }
-
-private:
-    static bool s_running;
-};
-
-bool RunLock::s_running = false;
-
 void alert(const QString &text)
 {
     orda_worker::SystemAssistant::instance().messageAlert(orda_worker::DictDef::instance().alertTitle(), text);
 }
 
-// A running task: its place in the run and its request id. All of them are gone through after each result, so they
-// stand side by side in memory; a pair of these is moved as bytes.
-using Waiting = QPair<int, QString>;
-
 } // namespace
 
-// All that the handlers of a run share. It outlives the page when the page is deleted in mid-run.
-struct ParamsCfgPage::Run
+// A run and how it is shown. It outlives the page when the page is deleted in mid-run.
+struct ParamsCfgPage::ShownRun
 {
-    int total = 0;
-    int success = 0;
-    int failure = 0;
-    QVector<Waiting> waiting; // by place
+    explicit ShownRun(int devices)
+        : run(devices)
+    {
+    }
+
+    CfgRun run;
     QPointer<orda_base::DisabledWaitingWt> overlay;
     QUuid overlayId;
     QEventLoop loop;
-
-    int finished() const { return success + failure; }
-    /// @return false when it was gone already
-    bool remove(int place)
-    {
-        const auto found =
-            std::lower_bound(waiting.begin(), waiting.end(), place,
-                             [](const Waiting &candidate, int wanted) { return candidate.first < wanted; });
-        if (found == waiting.end() || found->first != place)
-            return false;
-        waiting.erase(found);
-        return true;
-    }
 };
 
-ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QWidget *parent)
+ParamsCfgPage::ParamsCfgPage(const CfgFamily &family, QWidget *parent)
     : QWidget(parent)
-    , m_title(title)
-    , m_recorder(new CfgResultsRecorder(recordFile, this))
+    , m_family(family)
+    , m_recorder(new CfgResultsRecorder(family.recordFile(), this))
 {
-    installCheckBoxAccess();
     connect(&orda_worker::AssistantSignals::instance(), &orda_worker::AssistantSignals::signalEventConfirmOperBtClicked,
             this, [this](const QString &uuid, int button) {
                 if (m_confirmUuid.isEmpty())
@@ -103,9 +70,9 @@ ParamsCfgPage::ParamsCfgPage(const QString &title, const QString &recordFile, QW
 
 ParamsCfgPage::~ParamsCfgPage()
 {
-    if (const std::shared_ptr<Run> run = m_run.lock()) {
-        orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(run->overlayId);
-        run->loop.quit();
+    if (const std::shared_ptr<ShownRun> shown = m_run.lock()) {
+        orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(shown->overlayId);
+        shown->loop.quit();
     }
 }
 
@@ -116,8 +83,10 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
     for (const Param &param : params) {
         if (param.box && !boxes.contains(param.box)) {
             boxes.append(param.box);
-            connect(param.box, &QCheckBox::clicked, this, &ParamsCfgPage::slotSelectedParamsChanged);
+            connect(param.box, &QCheckBox::toggled, this, &ParamsCfgPage::slotSelectedParamsChanged);
         }
+        if (param.key)
+            fillEditor(param.editor, m_family, param.key);
     }
     auto *all = findChild<QCheckBox *>(QStringLiteral("allParams"));
     all->setAccessibleName(tr("All parameters"));
@@ -132,6 +101,7 @@ void ParamsCfgPage::setParams(const QVector<Param> &params)
     for (QPushButton *button : buttons)
         button->setAutoDefault(false);
     new WheelGuard(this);
+    completeSwitchImages(this);
     connect(m_okBt, &QPushButton::clicked, this, &ParamsCfgPage::configure);
     connect(m_reportBt, &QPushButton::clicked, this, &ParamsCfgPage::openReport);
 }
@@ -141,11 +111,20 @@ void ParamsCfgPage::addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes
     m_selections.append({all, boxes, noneAlert});
     for (QCheckBox *box : boxes)
         box->setAccessibleName(tr("Configure %1").arg(box->text())); // the editor of the value has the name itself
-    connect(all, &QCheckBox::clicked, this, [this, all, boxes](bool checked) {
+    const auto tickAll = [this, all, boxes](bool checked) {
+        m_isTickingAll = true;
         all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         for (QCheckBox *box : boxes)
             box->setChecked(checked);
+        m_isTickingAll = false;
         refresh();
+    };
+    connect(all, &QCheckBox::clicked, this, tickAll);
+    // Assistive technology toggles the box without a click. A change that comes from the boxes ticks nothing: then the
+    // box is partly checked, or all boxes are as it says.
+    connect(all, &QCheckBox::toggled, this, [this, all, tickAll](bool checked) {
+        if (!m_isTickingAll && all->checkState() != Qt::PartiallyChecked)
+            tickAll(checked);
     });
 }
 
@@ -157,7 +136,7 @@ void ParamsCfgPage::slotSelectedParamsChanged()
 void ParamsCfgPage::updateSelection(const QCheckBox *all)
 {
     for (const Selection &selection : qAsConst(m_selections)) {
-        if (selection.all == all) {
+        if (selection.all == all && !m_isTickingAll) {
             const auto ticked = std::count_if(selection.boxes.begin(), selection.boxes.end(),
                                               [](const QCheckBox *box) { return box->isChecked(); });
             const bool isWhole = ticked == selection.boxes.size();
@@ -165,26 +144,6 @@ void ParamsCfgPage::updateSelection(const QCheckBox *all)
         }
     }
     refresh();
-}
-
-ParamsCfgPage::Value ParamsCfgPage::switchState(const QAbstractButton *button)
-{
-    return [button] { return button->isChecked(); };
-}
-
-ParamsCfgPage::Value ParamsCfgPage::switchNumber(const QAbstractButton *button)
-{
-    return [button] { return button->isChecked() ? 1 : 0; };
-}
-
-ParamsCfgPage::Value ParamsCfgPage::editedText(const QLineEdit *edit)
-{
-    return [edit] { return edit->text(); };
-}
-
-ParamsCfgPage::Value ParamsCfgPage::itemData(const QComboBox *combo)
-{
-    return [combo] { return QJsonValue::fromVariant(combo->currentData()); };
 }
 
 void ParamsCfgPage::updateFlags()
@@ -255,8 +214,8 @@ QJsonObject ParamsCfgPage::values() const
 {
     QJsonObject object;
     for (const Param &param : m_params) {
-        if ((m_flags & param.bit) != 0) {
-            const QJsonValue value = param.value();
+        if ((m_flags & param.bit) != 0 && param.key) {
+            const QJsonValue value = param.value ? param.value() : editedValue(param.editor, m_family, param.key);
             if (!value.isUndefined())
                 object.insert(QLatin1String(param.key), value);
         }
@@ -264,9 +223,18 @@ QJsonObject ParamsCfgPage::values() const
     return object;
 }
 
+int ParamsCfgPage::taskFlags() const
+{
+    int taskFlags = 0;
+    for (const Param &param : m_params)
+        if ((m_flags & param.bit) != 0 && param.key)
+            taskFlags |= m_family.findKey(QLatin1String(param.key))->flag;
+    return taskFlags;
+}
+
 void ParamsCfgPage::configure()
 {
-    if (RunLock::isHeld()) {
+    if (CfgRun::isUnderWay()) {
         alert(tr("A configuration is under way. Please wait until it has ended."));
         return;
     }
@@ -283,20 +251,18 @@ void ParamsCfgPage::configure()
     if (!takeRecord())
         return;
 
-    qCDebug(logRun) << m_title << "begins:" << devIds.size() << "devices";
-    const RunLock lock;
-    const auto run = std::make_shared<Run>();
-    m_run = run;
-    run->total = devIds.size();
-    startTasks(run, devIds);
+    qCDebug(logRun) << m_family.name << "begins:" << devIds.size() << "devices";
+    const auto shown = std::make_shared<ShownRun>(devIds.size());
+    m_run = shown;
+    startRun(*shown, devIds);
 
     const QPointer<ParamsCfgPage> self(this); // the form may be deleted while the loop turns
-    run->loop.exec();
+    shown->loop.exec();
     if (!self)
         return; // nothing of ours is left to touch
-    if (run->finished() < run->total)
+    if (!shown->run.isOver())
         abandonRun(); // the application is quitting
-    orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(run->overlayId);
+    orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(shown->overlayId);
 }
 
 bool ParamsCfgPage::takeRecord()
@@ -313,53 +279,38 @@ bool ParamsCfgPage::takeRecord()
     return true;
 }
 
-void ParamsCfgPage::startTasks(const std::shared_ptr<Run> &run, const QStringList &devIds)
+void ParamsCfgPage::startRun(ShownRun &shown, const QStringList &devIds)
 {
-    const QJsonObject runValues = values();
-    run->overlay = new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));
-    run->overlayId = run->overlay->getUuid();
-    run->overlay->setProperty("total", run->total);
-    tellProgress(*run);
-    run->overlay->show();
+    const auto makeTask = [this, runValues = values(), flags = taskFlags()](const QString &devId) {
+        return m_family.createTask(devId, runValues, flags, this);
+    };
+    shown.overlay = new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));
+    shown.overlayId = shown.overlay->getUuid();
+    // For the client, in numbers: the description is in the operator's language.
+    shown.overlay->setProperty("total", shown.run.total());
+    shown.overlay->setProperty("finished", 0);
+    shown.overlay->show();
     m_recorder->open();
 
-    for (int place = 0; place < devIds.size(); ++place) {
-        ParamsCfgTask *task = createTask(devIds.at(place), runValues);
-        run->waiting.push_back({place, task->requestId()});
-        connect(task, &ParamsCfgTask::signalCfgResult, this,
-                [this, run, place, task](const QString &devId, const QString &msg, int errorCode) {
-                    if (run->remove(place)) {
-                        task->deleteLater();
-                        handleResult(*run, devId, msg, errorCode);
-                    }
-                });
-    }
+    connect(&shown.run, &CfgRun::signalResult, this,
+            [this, &shown](const QString &devId, const QString &msg) { handleResult(shown, devId, msg); });
+    shown.run.start(devIds, makeTask);
 }
 
-void ParamsCfgPage::handleResult(Run &run, const QString &devId, const QString &msg, int errorCode)
+void ParamsCfgPage::handleResult(ShownRun &shown, const QString &devId, const QString &msg)
 {
-    // A device that answers shows that the line is working: all the others get their whole waiting time again.
-    for (const Waiting &task : qAsConst(run.waiting))
-        vms_sdk::renewal_request_id(task.second);
     m_recorder->record(devId, msg);
-    ++(errorCode == ParamsCfgTask::Success ? run.success : run.failure);
-    if (run.finished() >= run.total) {
-        run.loop.quit();
-        finishRun(run);
+    if (shown.run.isOver()) {
+        shown.loop.quit();
+        finishRun(shown);
     }
-    if (run.overlay) {
-        run.overlay->updateDescription(tr("Configuring(%1/%2)...").arg(run.finished()).arg(run.total));
-        tellProgress(run);
+    if (shown.overlay) {
+        shown.overlay->updateDescription(tr("Configuring(%1/%2)...").arg(shown.run.finished()).arg(shown.run.total()));
+        shown.overlay->setProperty("finished", shown.run.finished());
     }
 }
 
-void ParamsCfgPage::tellProgress(const Run &run)
-{
-    // For the client, in numbers: the description is in the operator's language.
-    run.overlay->setProperty("finished", run.finished());
-}
-
-void ParamsCfgPage::finishRun(const Run &run)
+void ParamsCfgPage::finishRun(const ShownRun &shown)
 {
     m_recorder->close();
     setProperty("recordError", m_recorder->error());
@@ -367,15 +318,16 @@ void ParamsCfgPage::finishRun(const Run &run)
     m_reportBt->show();
     m_confirmUuid = QUuid::createUuid().toString();
     const QString text = tr("A total of %1 devices have been configured, success:%2, failure:%3")
-                             .arg(run.total)
-                             .arg(run.success)
-                             .arg(run.failure);
-    orda_worker::SystemAssistant::instance().eventConfirm({m_confirmUuid, m_title, text, {tr("Detail"), tr("Cancel")}});
+                             .arg(shown.run.total())
+                             .arg(shown.run.success())
+                             .arg(shown.run.failure());
+    orda_worker::SystemAssistant::instance().eventConfirm(
+        {m_confirmUuid, m_family.translated(m_family.title), text, {tr("Detail"), tr("Cancel")}});
 }
 
 void ParamsCfgPage::abandonRun()
 {
-    qDeleteAll(findChildren<ParamsCfgTask *>());
+    qDeleteAll(findChildren<ParamsCfgTask *>(QString(), Qt::FindDirectChildrenOnly));
     m_recorder->close();
 }
 

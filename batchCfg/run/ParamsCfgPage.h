@@ -9,25 +9,22 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
-class QAbstractButton;
 class QCheckBox;
-class QComboBox;
-class QLineEdit;
 class QPushButton;
 QT_END_NAMESPACE
 
 namespace orda_batchCfg {
 
 class CfgResultsRecorder;
-class ParamsCfgTask;
+struct CfgFamily;
 
-/// What all parameter pages share: selection of parameters, and the run over the ticked devices with its overlay, its
-/// counting, its record and its summary. A family's page states its widgets, its table of parameters and its task.
+/// What all parameter pages share: selection of parameters and their values, and how a run over the ticked devices is
+/// shown: its overlay, its record and its summary. A family's page states its widgets and its table of parameters.
 ///
 /// The page's form has the check box "allParams" and the buttons "okBt" and "reportBt".
 ///
 /// What the module itself does not show is in dynamic properties for clients that do: "recordInUse", "recordError" and
-/// "recordEntryEnds" (docs/integration.md).
+/// "recordEntryEnds" (docs/scripting.md).
 class ParamsCfgPage : public QWidget
 {
     Q_OBJECT
@@ -41,35 +38,26 @@ public slots:
     void slotSelectedParamsChanged();
 
 protected:
-    /// Reads an editor when a run starts; undefined leaves the key out.
-    using Value = std::function<QJsonValue()>;
-
-    /// One row of a family's table: while @c flags() has one of the bits of @c bit, the panels are shown and the key is
+    /// One row of a page's table: while @c flags() has one of the bits of @c bit, the panels are shown and the key is
     /// sent.
     struct Param
     {
         int bit;
         QCheckBox *box; ///< sets the bits when ticked; null: the row follows the bits of others
         QList<QWidget *> panels;
-        const char *key; ///< of the values object, Latin-1
-        Value value;
+        const char *key; ///< of the family, Latin-1; null: the page makes the value itself, in values()
+        QWidget *editor; ///< of the key's value
+        /// Makes the value in place of the editor when a run starts; undefined leaves the key out.
+        std::function<QJsonValue()> value = {};
     };
 
-    /// @param title the summary's
-    /// @param recordFile file name of the page's record, without a directory
-    ParamsCfgPage(const QString &title, const QString &recordFile, QWidget *parent);
+    ParamsCfgPage(const CfgFamily &family, QWidget *parent);
 
-    /// The table of parameters. Called once, after the form has been built.
+    /// The table of parameters. Called once, after the form has been built: fills the editors with what their keys say.
     void setParams(const QVector<Param> &params);
     /// A selection besides that of the parameters, looked at before it: an "All" box with its boxes, and the alert when
     /// none is ticked. Called before setParams().
     void addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes, const QString &noneAlert);
-
-    /// The usual values: a switch as a boolean or as the number 1 or 0, a text as typed, a combo box's item data.
-    static Value switchState(const QAbstractButton *button);
-    static Value switchNumber(const QAbstractButton *button);
-    static Value editedText(const QLineEdit *edit);
-    static Value itemData(const QComboBox *combo);
 
     /// Brings the "All" box of a selection in line with its boxes, then refreshes.
     void updateSelection(const QCheckBox *all);
@@ -86,11 +74,9 @@ protected:
     /// Return presses the button that has the focus, and nothing else.
     void keyPressEvent(QKeyEvent *event) override;
     bool focusNextPrevChild(bool next) override;
-    /// A task for one device; the page owns it. It has sent its first request when it is returned.
-    virtual ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) = 0;
 
 private:
-    struct Run;
+    struct ShownRun;
     struct Selection
     {
         QCheckBox *all;
@@ -100,24 +86,25 @@ private:
 
     void updateFlags();
     bool isSelectionComplete(QString *alertText) const;
+    int taskFlags() const;
     void configure();
     bool takeRecord();
-    void startTasks(const std::shared_ptr<Run> &run, const QStringList &devIds);
-    void handleResult(Run &run, const QString &devId, const QString &msg, int errorCode);
-    static void tellProgress(const Run &run);
-    void finishRun(const Run &run);
+    void startRun(ShownRun &shown, const QStringList &devIds);
+    void handleResult(ShownRun &shown, const QString &devId, const QString &msg);
+    void finishRun(const ShownRun &shown);
     void abandonRun();
     void openReport();
 
-    QString m_title;
+    const CfgFamily &m_family; // constant, and never deleted
     CfgResultsRecorder *m_recorder;
     QPushButton *m_okBt = nullptr;
     QPushButton *m_reportBt = nullptr;
     QList<Selection> m_selections; // the parameters' is the last
     QVector<Param> m_params;
     int m_flags = 0;
+    bool m_isTickingAll = false; // an "All" box sets its boxes, which do not set it meanwhile
     QString m_confirmUuid;
-    std::weak_ptr<Run> m_run; // lives as long as configure() waits
+    std::weak_ptr<ShownRun> m_run; // lives as long as configure() waits
 };
 
 } // namespace orda_batchCfg

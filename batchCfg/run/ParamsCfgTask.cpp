@@ -15,11 +15,20 @@
 namespace orda_batchCfg {
 
 namespace {
-QString requestText(const QString &method, const std::optional<QJsonObject> &param)
+QJsonObject requestOf(const QString &method)
 {
-    QJsonObject request{{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
-    if (param)
-        request.insert(QStringLiteral("param"), *param);
+    return {{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
+}
+
+QJsonObject requestOf(const QString &method, const QJsonObject &param)
+{
+    QJsonObject request = requestOf(method);
+    request.insert(QStringLiteral("param"), param);
+    return request;
+}
+
+QString textOf(const QJsonObject &request)
+{
     return QString::fromUtf8(QJsonDocument(request).toJson());
 }
 
@@ -31,16 +40,18 @@ int errorCodeOf(const QJsonObject &answer)
 
 } // namespace
 
-ParamsCfgTask::ParamsCfgTask(const QString &devId, const QJsonObject &values, const QVector<CfgExchange> &exchanges,
-                             const QString &timeoutText, QObject *parent, int flags)
+ParamsCfgTask::ParamsCfgTask(const CfgFamily &family, const QString &devId, const QJsonObject &values, int flags,
+                             QObject *parent)
     : QObject(parent)
+    , m_family(family)
     , m_requestId(QUuid::createUuid().toString())
     , m_devId(devId)
     , m_flags(flags)
     , m_values(values)
-    , m_exchanges(exchanges)
-    , m_timeoutText(timeoutText)
 {
+    const int first = selectedFrom(0);
+    sendRead(first >= 0 ? first : m_family.exchanges.size() - 1);
+    TaskRouter::instance().add(this);
 }
 
 ParamsCfgTask::~ParamsCfgTask()
@@ -49,17 +60,10 @@ ParamsCfgTask::~ParamsCfgTask()
         TaskRouter::instance().remove(this);
 }
 
-void ParamsCfgTask::start()
-{
-    const int first = selectedFrom(0);
-    sendRead(first >= 0 ? first : m_exchanges.size() - 1);
-    TaskRouter::instance().add(this);
-}
-
 int ParamsCfgTask::selectedFrom(int from) const
 {
-    for (int i = from; i < m_exchanges.size(); ++i) {
-        const int flag = m_exchanges.at(i).flag;
+    for (int i = from; i < m_family.exchanges.size(); ++i) {
+        const int flag = m_family.exchanges.at(i).flag;
         if (flag == 0 || (m_flags & flag) != 0)
             return i;
     }
@@ -69,14 +73,14 @@ int ParamsCfgTask::selectedFrom(int from) const
 void ParamsCfgTask::sendRead(int exchange)
 {
     m_answered &= ~answeredBit(exchange, true);
+    const CfgExchange &e = m_family.exchanges.at(exchange);
+    const QJsonObject request = e.getParam ? requestOf(e.getMethod, e.getParam(m_values)) : requestOf(e.getMethod);
     // All devices of a run are asked the same: the text is made for the first of them.
-    static QString method, text;
-    static std::optional<QJsonObject> param;
-    const CfgExchange &e = m_exchanges.at(exchange);
-    if (method != e.getMethod || param != e.getParam) {
-        method = e.getMethod;
-        param = e.getParam;
-        text = requestText(method, param);
+    static QJsonObject lastRequest;
+    static QString text;
+    if (lastRequest != request) {
+        lastRequest = request;
+        text = textOf(request);
     }
     send(e.getMethod, text);
 }
@@ -85,8 +89,11 @@ void ParamsCfgTask::sendWrite(int exchange)
 {
     m_written = exchange;
     m_answered &= ~answeredBit(exchange, false);
-    const CfgExchange &e = m_exchanges.at(exchange);
-    send(e.setMethod, requestText(e.setMethod, e.setParam(m_values, std::exchange(m_devParams, {}))));
+    const CfgExchange &e = m_family.exchanges.at(exchange);
+    const QJsonObject param = e.setParam(m_values, std::exchange(m_devParams, {}));
+    if (e.checkWhenBack)
+        m_checked = param;
+    send(e.setMethod, textOf(requestOf(e.setMethod, param)));
 }
 
 void ParamsCfgTask::send(const QString &method, const QString &text)
@@ -106,8 +113,8 @@ void ParamsCfgTask::handleAnswer(const QString &text)
     const QString method = answer.value(QLatin1String("method")).toString();
     const int errorCode = errorCodeOf(answer);
 
-    for (int i = 0; i < m_exchanges.size(); ++i) {
-        const CfgExchange &exchange = m_exchanges.at(i);
+    for (int i = 0; i < m_family.exchanges.size(); ++i) {
+        const CfgExchange &exchange = m_family.exchanges.at(i);
         const bool isRead = method == exchange.getMethod;
         if (!isRead && method != exchange.setMethod)
             continue;
@@ -129,12 +136,12 @@ void ParamsCfgTask::handleAnswer(const QString &text)
 
 void ParamsCfgTask::handleRead(int exchange, const QJsonObject &result, int errorCode)
 {
-    const CfgExchange &e = m_exchanges.at(exchange);
+    const CfgExchange &e = m_family.exchanges.at(exchange);
     if (errorCode != 0) {
-        finish(e.getFailure.arg(errorCode), errorCode);
+        finish(m_family.translated(e.getFailure).arg(errorCode), errorCode);
         return;
     }
-    m_devParams = e.resultKey.isEmpty() ? result : result.value(e.resultKey).toObject();
+    m_devParams = e.resultMember.isEmpty() ? result : result.value(e.resultMember).toObject();
     if (e.checkWhenBack && m_written == exchange)
         checkSettings(exchange);
     else
@@ -144,7 +151,7 @@ void ParamsCfgTask::handleRead(int exchange, const QJsonObject &result, int erro
 void ParamsCfgTask::handleWritten(int exchange, int errorCode)
 {
     if (errorCode != 0) {
-        finish(m_exchanges.at(exchange).setFailure.arg(errorCode), errorCode);
+        finish(m_family.translated(m_family.exchanges.at(exchange).setFailure).arg(errorCode), errorCode);
         return;
     }
     const int next = selectedFrom(exchange + 1);
@@ -156,9 +163,9 @@ void ParamsCfgTask::handleWritten(int exchange, int errorCode)
 
 void ParamsCfgTask::checkSettings(int exchange)
 {
-    for (auto it = m_values.constBegin(); it != m_values.constEnd(); ++it) {
+    for (auto it = m_checked.constBegin(); it != m_checked.constEnd(); ++it) {
         if (it.value() != m_devParams.value(it.key())) {
-            finish(m_exchanges.at(exchange).setFailure.arg(int(NotVerified)), NotVerified);
+            finish(m_family.translated(m_family.exchanges.at(exchange).setFailure).arg(int(NotVerified)), NotVerified);
             return;
         }
     }
@@ -167,21 +174,21 @@ void ParamsCfgTask::checkSettings(int exchange)
 
 void ParamsCfgTask::handleTimeout()
 {
-    finish(m_timeoutText, TimedOut);
+    finish(m_family.translated(m_family.timeoutText), TimedOut);
 }
 
 void ParamsCfgTask::handleDevStatus(vms_sdk::DevStatus status)
 {
-    if (m_written >= 0 && m_exchanges.at(m_written).checkWhenBack
+    if (m_written >= 0 && m_family.exchanges.at(m_written).checkWhenBack
         && orda_base::BaseTools::instance().isDevOnline(status))
         readAgain();
 }
 
 void ParamsCfgTask::readAgain()
 {
-    const bool isLimited = m_exchanges.at(m_written).checkLimit.count() > 0;
-    if (!std::exchange(m_readAgain, true) && isLimited)
-        QTimer::singleShot(m_exchanges.at(m_written).checkLimit, this, &ParamsCfgTask::handleTimeout);
+    const auto limit = m_checkLimit.count() > 0 ? m_checkLimit : m_family.exchanges.at(m_written).checkLimit;
+    if (!std::exchange(m_readAgain, true))
+        QTimer::singleShot(limit, this, &ParamsCfgTask::handleTimeout);
     sendRead(m_written);
 }
 

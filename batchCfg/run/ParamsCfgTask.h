@@ -1,11 +1,12 @@
 #pragma once
 
-#include "run/CfgExchange.h"
+#include "run/CfgFamily.h"
 
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QObject>
-#include <QVector>
+
+#include <chrono>
 
 namespace orda_batchCfg {
 
@@ -37,14 +38,13 @@ signals:
     void signalCfgResult(const QString &devId, const QString &msg, int errorCode);
 
 protected:
+    /// Sends the first read request, then begins to listen.
     /// @param values the parameters to set, by the device's own keys
-    /// @param exchanges the family's exchanges in their order; those run whose flag is in @p flags, the last one when
-    /// none is
-    ParamsCfgTask(const QString &devId, const QJsonObject &values, const QVector<CfgExchange> &exchanges,
-                  const QString &timeoutText, QObject *parent, int flags = 0);
+    /// @param flags those exchanges of the family run whose flag is among them; the last one when none is
+    ParamsCfgTask(const CfgFamily &family, const QString &devId, const QJsonObject &values, int flags, QObject *parent);
 
-    /// Sends the first read request, then begins to listen. The last line of a family's constructor.
-    void start();
+    /// In place of the limit of the family's exchanges.
+    void setCheckLimit(std::chrono::milliseconds limit) { m_checkLimit = limit; }
 
 private:
     friend class TaskRouter;
@@ -64,13 +64,14 @@ private:
     void checkSettings(int exchange);
     void finish(const QString &msg, int errorCode);
 
+    const CfgFamily &m_family; // constant, and never deleted
     QString m_requestId;
     QString m_devId;
     int m_flags;
     QJsonObject m_values;
     QJsonObject m_devParams; // from the read to the write
-    QVector<CfgExchange> m_exchanges;
-    QString m_timeoutText;
+    QJsonObject m_checked; // the "param" that was written, where the device is to be read again
+    std::chrono::milliseconds m_checkLimit{0}; // 0: the exchange's
     quint32 m_answered = 0; // bits of the requests answered since they were last sent: answeredBit()
     int m_written = -1; // the exchange whose write was sent last
     bool m_readAgain = false; // the limit of the check is running

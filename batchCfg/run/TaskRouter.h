@@ -13,9 +13,9 @@ namespace orda_batchCfg {
 
 class ParamsCfgTask;
 
-/// The one listener of the SDK's answers and time-outs and of the store's status changes, and the one timer of the
-/// pauses between a task's steps. It hands each to the task that it concerns, so that 10,000 tasks do not each look at
-/// every answer, and Qt not through 10,000 timers to stop one. User-interface thread only.
+/// Listens to the SDK's answers and time-outs and to the store's status changes, and passes each on to the task that it
+/// concerns. It also has the one timer for the pauses between the steps of tasks. Otherwise each of 10,000 tasks would
+/// look at every answer, and Qt would search 10,000 timers to stop one of them. User-interface thread only.
 class TaskRouter : public QObject
 {
     Q_OBJECT
@@ -23,9 +23,9 @@ class TaskRouter : public QObject
 public:
     static TaskRouter &instance();
 
-    /// From here on @p task hears what concerns its request id and its device. The router does not own it.
+    /// From now on @p task gets what concerns its request id and its device. The router does not own it.
     void add(ParamsCfgTask *task);
-    /// @p task hears nothing more; one that is not listed is fine.
+    /// @p task gets nothing more. It need not have been added.
     void remove(ParamsCfgTask *task);
 
     using Step = void (ParamsCfgTask::*)(int exchange);
@@ -50,9 +50,9 @@ private:
 
     QHash<QString, ParamsCfgTask *> m_taskByRequestId;
     QMultiHash<QString, ParamsCfgTask *> m_tasksByDevId;
-    std::deque<Pause> m_pauses; // in the order of their ends
+    std::deque<Pause> m_pauses; // sorted by their ends
     QElapsedTimer m_clock;
-    QTimer m_timer; // for the first of them
+    QTimer m_timer; // until the end of the first pause
 };
 
 } // namespace orda_batchCfg

@@ -8,14 +8,14 @@ QT_END_NAMESPACE
 
 namespace orda_batchCfg {
 
-/// Keeps the wheel from changing a page's editors by accident: what it stands over reacts only when it was clicked or
-/// tabbed to before, and otherwise leaves the wheel to the page, which scrolls.
+/// Keeps the mouse wheel from changing a page's editors by accident: an editor reacts to the wheel only when it has the
+/// focus. Otherwise the page scrolls.
 class WheelGuard : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param page guarded with all the editors that it has now
+    /// @param page all editors that it has now are guarded
     explicit WheelGuard(QWidget *page);
 
 protected:

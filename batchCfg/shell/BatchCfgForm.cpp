@@ -1,7 +1,7 @@
 #include "shell/BatchCfgForm.h"
 
+#include "families/Families.h"
 #include "run/BatchCfgContact.h"
-#include "run/CheckBoxAccess.h"
 #include "shell/EmptyListHint.h"
 #include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
@@ -72,7 +72,6 @@ BatchCfgForm::BatchCfgForm(QWidget *parent)
     , m_ui(std::make_unique<Ui::BatchCfgForm>())
     , m_tableOperStyle(new orda_base::TableOperWtStyle(this))
 {
-    installCheckBoxAccess();
     m_ui->setupUi(this);
     BatchCfgContact::instance().setForm(this);
     initContextMenu();
@@ -118,32 +117,31 @@ void BatchCfgForm::initNavigation()
         m_ui->navigationWt->addNavigationBar(icon.arg(bar.key, QStringLiteral("n")),
                                              icon.arg(bar.key, QStringLiteral("h")), bar, entries, this);
     };
-    const NavigationActionInfo audio{tr("Audio Parameters"), QStringLiteral("audio_param")};
-    const NavigationActionInfo video{tr("Video Parameters"), QStringLiteral("video_param")};
-    const NavigationActionInfo image{tr("Image Parameters"), QStringLiteral("image_param")};
-    const NavigationActionInfo cloud{tr("Cloud Service Parameters"), QStringLiteral("cloud_service_param")};
-    const NavigationActionInfo platform9100{tr("Platform 9100 Parameters"), QStringLiteral("9100_param")};
-    const NavigationActionInfo network{tr("Network Parameters"), QStringLiteral("network_param")};
-    const NavigationActionInfo osd{tr("OSD Parameters"), QStringLiteral("osd_param")};
-    addBar({tr("Audio-Video Parameters"), QStringLiteral("audio_video_param")}, {audio, video});
-    addBar(image, {});
-    addBar({tr("Platform Parameters"), QStringLiteral("platform_param")}, {cloud, platform9100});
-    addBar(network, {});
-    addBar(osd, {});
-
-    const auto addPage = [this](const NavigationActionInfo &entry, QWidget *page) {
-        page->setAccessibleName(entry.title);
-        m_pageIndexByKey.insert(entry.key, m_ui->stackedWidget->indexOf(page));
+    const auto info = [](const char *title, const char *key) {
+        return NavigationActionInfo{Families::tr(title), QLatin1String(key)};
     };
-    addPage(audio, m_ui->audioParametersPage);
-    addPage(video, m_ui->videoParametersPage);
-    addPage(image, m_ui->imageParametersPage);
-    addPage(cloud, m_ui->platformParametersPage);
-    addPage(platform9100, m_ui->platform9100ParametersPage);
-    addPage(network, m_ui->networkParamsCfgPage);
-    addPage(osd, m_ui->osdParamsCfgPage);
-
-    showPage(m_ui->navigationWt->setDefaultAction(video.key));
+    const NavigationBar *bar = nullptr; // whose entries are being collected
+    QList<NavigationActionInfo> entries;
+    const auto endBar = [&] {
+        if (bar)
+            addBar(info(bar->title, bar->key), entries);
+        bar = nullptr;
+        entries.clear();
+    };
+    for (const FamilyEntry &entry : Families::all()) {
+        if (entry.bar != bar)
+            endBar();
+        if (!entry.key)
+            continue;
+        m_pageIndexByKey.insert(QLatin1String(entry.key), m_pageIndexByKey.size());
+        bar = entry.bar;
+        if (bar)
+            entries.append(info(entry.title, entry.key));
+        else
+            addBar(info(entry.title, entry.key), {});
+    }
+    endBar();
+    showPage(m_ui->navigationWt->setDefaultAction(QStringLiteral("video_param")));
 }
 
 void BatchCfgForm::showPage(const QString &key)

@@ -13,8 +13,8 @@ class SearchBox;
 
 namespace orda_batchCfg {
 
-/// Says in the middle of the device list, and to assistive technology, why no row of it can be seen; hidden while one
-/// can.
+/// A text in the middle of the device list, and for assistive technology, that says why the list shows no row. Hidden
+/// while the list shows one.
 class EmptyListHint : public QLabel
 {
     Q_OBJECT
@@ -33,8 +33,8 @@ private:
 
     QTableWidget *m_table;
     const orda_base::SearchBox *m_searchBox;
-    QString m_description; // the table's, for assistive technology, while it has rows
-    QTimer m_soon; // devices come and go by the thousand
+    QString m_description; // the table's own, for assistive technology
+    QTimer m_soon; // one look at the list for thousands of devices that change at a time
 };
 
 } // namespace orda_batchCfg

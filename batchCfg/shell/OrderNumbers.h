@@ -10,9 +10,9 @@ QT_END_NAMESPACE
 
 namespace orda_batchCfg {
 
-/// The order numbers of a list: rows that can be seen, from 1, top to bottom. They are worked out when they are read:
-/// with thousands of devices coming and going, writing the numbers of all rows below into their cells would take the
-/// time of all else together. Tables with the property "computedOrderNumbers" need no renumbering.
+/// The order numbers of a list: its visible rows count from 1, top to bottom. A number is computed when it is read,
+/// because writing new numbers into the cells of thousands of rows for each device that comes or goes takes too long.
+/// The table gets the property "computedOrderNumbers", which says that nobody has to number its rows.
 class OrderNumbers : public QObject
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ public:
     /// @param table owns this object and must have its columns
     explicit OrderNumbers(QTableWidget *table);
 
-    /// A cell whose text is the order number of the row that it is in; assistive technology is told the text of the
-    /// cell beside it too. The table that it is put into owns it.
+    /// A cell whose text is the order number of its row; for assistive technology the text of the next cell follows. The
+    /// table that it is put into owns it.
     QTableWidgetItem *makeItem();
 
 private:
@@ -31,7 +31,7 @@ private:
     QString rowText(const QTableWidgetItem *item);
 
     QTableWidget *m_table;
-    QVector<int> m_numbers; // by row; empty when they have to be counted anew
+    QVector<int> m_numbers; // by row; empty when they have to be counted again
 };
 
 } // namespace orda_batchCfg

@@ -52,10 +52,6 @@
         <translation>Bericht</translation>
     </message>
     <message>
-        <source>Audio Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Audio-Parameter</translation>
-    </message>
-    <message>
         <source>Audio In Volume, number</source>
         <translation>Lautstärke Audioeingang, Zahl</translation>
     </message>
@@ -66,22 +62,6 @@
     <message>
         <source>AudioParamsCfgPage</source>
         <translation>AudioParamsCfgPage</translation>
-    </message>
-    <message>
-        <source>G711U</source>
-        <translation>G711U</translation>
-    </message>
-    <message>
-        <source>G711A</source>
-        <translation>G711A</translation>
-    </message>
-    <message>
-        <source>8000</source>
-        <translation>8000</translation>
-    </message>
-    <message>
-        <source>16bit</source>
-        <translation>16bit</translation>
     </message>
 </context>
 <context>
@@ -105,6 +85,22 @@
     <message>
         <source>set audio parameters time out</source>
         <translation>Zeitüberschreitung beim Setzen der Audioparameter</translation>
+    </message>
+    <message>
+        <source>Audio Parameters Configuration Result</source>
+        <translation>Ergebnis der Konfiguration: Audio-Parameter</translation>
+    </message>
+    <message>
+        <source>G711U</source>
+        <translation>G711U</translation>
+    </message>
+    <message>
+        <source>G711A</source>
+        <translation>G711A</translation>
+    </message>
+    <message>
+        <source>16bit</source>
+        <translation>16bit</translation>
     </message>
 </context>
 <context>
@@ -132,42 +128,6 @@
     <message>
         <source>Remote Set</source>
         <translation>Gerät einrichten</translation>
-    </message>
-    <message>
-        <source>Audio-Video Parameters</source>
-        <translation>Audio- und Videoparameter</translation>
-    </message>
-    <message>
-        <source>Audio Parameters</source>
-        <translation>Audio-Parameter</translation>
-    </message>
-    <message>
-        <source>Video Parameters</source>
-        <translation>Video-Parameter</translation>
-    </message>
-    <message>
-        <source>Image Parameters</source>
-        <translation>Bild-Parameter</translation>
-    </message>
-    <message>
-        <source>Platform Parameters</source>
-        <translation>Plattform-Parameter</translation>
-    </message>
-    <message>
-        <source>Cloud Service Parameters</source>
-        <translation>Cloud-Dienst-Parameter</translation>
-    </message>
-    <message>
-        <source>Platform 9100 Parameters</source>
-        <translation>Plattform-9100-Parameter</translation>
-    </message>
-    <message>
-        <source>Network Parameters</source>
-        <translation>Netzwerk-Parameter</translation>
-    </message>
-    <message>
-        <source>OSD Parameters</source>
-        <translation>OSD-Parameter</translation>
     </message>
     <message>
         <source>All devices</source>
@@ -261,6 +221,45 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::Families</name>
+    <message>
+        <source>Audio-Video Parameters</source>
+        <translation>Audio- und Videoparameter</translation>
+    </message>
+    <message>
+        <source>Platform Parameters</source>
+        <translation>Plattform-Parameter</translation>
+    </message>
+    <message>
+        <source>Audio Parameters</source>
+        <translation>Audio-Parameter</translation>
+    </message>
+    <message>
+        <source>Video Parameters</source>
+        <translation>Video-Parameter</translation>
+    </message>
+    <message>
+        <source>Image Parameters</source>
+        <translation>Bild-Parameter</translation>
+    </message>
+    <message>
+        <source>Cloud Service Parameters</source>
+        <translation>Cloud-Dienst-Parameter</translation>
+    </message>
+    <message>
+        <source>Platform 9100 Parameters</source>
+        <translation>Plattform-9100-Parameter</translation>
+    </message>
+    <message>
+        <source>Network Parameters</source>
+        <translation>Netzwerk-Parameter</translation>
+    </message>
+    <message>
+        <source>OSD Parameters</source>
+        <translation>OSD-Parameter</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::ImageParamsCfgPage</name>
     <message>
         <source>Please select the parameters to be configured</source>
@@ -285,6 +284,53 @@
     <message>
         <source>The selected parameters to be configured</source>
         <translation>Die ausgewählten Parameter</translation>
+    </message>
+    <message>
+        <source>Configure</source>
+        <translation>Konfigurieren</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>ImageParamsCfgPage</source>
+        <translation>ImageParamsCfgPage</translation>
+    </message>
+</context>
+<context>
+    <name>orda_batchCfg::ImageParamsCfgTask</name>
+    <message>
+        <source>Failed to get image adjust parameters(%1)</source>
+        <translation>Parameter der Bildanpassung konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Failed to set image adjust parameters(%1)</source>
+        <translation>Parameter der Bildanpassung konnten nicht gesetzt werden (%1)</translation>
+    </message>
+    <message>
+        <source>Failed to get image day-night parameters(%1)</source>
+        <translation>Parameter der Tag-Nacht-Umschaltung konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Failed to set image day-night parameters(%1)</source>
+        <translation>Parameter der Tag-Nacht-Umschaltung konnten nicht gesetzt werden (%1)</translation>
+    </message>
+    <message>
+        <source>Failed to get image expert parameters(%1)</source>
+        <translation>Parameter des Expertenmodus konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Failed to set image expert parameters(%1)</source>
+        <translation>Parameter des Expertenmodus konnten nicht gesetzt werden (%1)</translation>
+    </message>
+    <message>
+        <source>set image parameters time out</source>
+        <translation>Zeitüberschreitung beim Setzen der Bildparameter</translation>
+    </message>
+    <message>
+        <source>Image Parameters Configuration Result</source>
+        <translation>Ergebnis der Konfiguration: Bild-Parameter</translation>
     </message>
     <message>
         <source>Off</source>
@@ -330,53 +376,6 @@
         <source>Smart Dual Light</source>
         <translation>Intelligentes Doppellicht</translation>
     </message>
-    <message>
-        <source>Configure</source>
-        <translation>Konfigurieren</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Bericht</translation>
-    </message>
-    <message>
-        <source>Image Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Bild-Parameter</translation>
-    </message>
-    <message>
-        <source>ImageParamsCfgPage</source>
-        <translation>ImageParamsCfgPage</translation>
-    </message>
-</context>
-<context>
-    <name>orda_batchCfg::ImageParamsCfgTask</name>
-    <message>
-        <source>Failed to get image adjust parameters(%1)</source>
-        <translation>Parameter der Bildanpassung konnten nicht gelesen werden (%1)</translation>
-    </message>
-    <message>
-        <source>Failed to set image adjust parameters(%1)</source>
-        <translation>Parameter der Bildanpassung konnten nicht gesetzt werden (%1)</translation>
-    </message>
-    <message>
-        <source>Failed to get image day-night parameters(%1)</source>
-        <translation>Parameter der Tag-Nacht-Umschaltung konnten nicht gelesen werden (%1)</translation>
-    </message>
-    <message>
-        <source>Failed to set image day-night parameters(%1)</source>
-        <translation>Parameter der Tag-Nacht-Umschaltung konnten nicht gesetzt werden (%1)</translation>
-    </message>
-    <message>
-        <source>Failed to get image expert parameters(%1)</source>
-        <translation>Parameter des Expertenmodus konnten nicht gelesen werden (%1)</translation>
-    </message>
-    <message>
-        <source>Failed to set image expert parameters(%1)</source>
-        <translation>Parameter des Expertenmodus konnten nicht gesetzt werden (%1)</translation>
-    </message>
-    <message>
-        <source>set image parameters time out</source>
-        <translation>Zeitüberschreitung beim Setzen der Bildparameter</translation>
-    </message>
 </context>
 <context>
     <name>orda_batchCfg::NetworkParamsCfgPage</name>
@@ -413,10 +412,6 @@
         <translation>Bericht</translation>
     </message>
     <message>
-        <source>Network Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Netzwerk-Parameter</translation>
-    </message>
-    <message>
         <source>NetworkParamsCfgPage</source>
         <translation>NetworkParamsCfgPage</translation>
     </message>
@@ -442,6 +437,10 @@
     <message>
         <source>set network parameters time out</source>
         <translation>Zeitüberschreitung beim Setzen der Netzwerkparameter</translation>
+    </message>
+    <message>
+        <source>Network Parameters Configuration Result</source>
+        <translation>Ergebnis der Konfiguration: Netzwerk-Parameter</translation>
     </message>
 </context>
 <context>
@@ -483,6 +482,37 @@
         <translation>Die ausgewählten Parameter</translation>
     </message>
     <message>
+        <source>HD IPC</source>
+        <translation>HD IPC</translation>
+    </message>
+    <message>
+        <source>Configure</source>
+        <translation>Konfigurieren</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>OSDParamsCfgPage</source>
+        <translation>OSDParamsCfgPage</translation>
+    </message>
+</context>
+<context>
+    <name>orda_batchCfg::OSDParamsCfgTask</name>
+    <message>
+        <source>Failed to get osd parameters(%1)</source>
+        <translation>Parameter des OSD konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Failed to set osd parameters(%1)</source>
+        <translation>Parameter des OSD konnten nicht gesetzt werden (%1)</translation>
+    </message>
+    <message>
+        <source>set osd parameters time out</source>
+        <translation>Zeitüberschreitung beim Setzen der OSD-Parameter</translation>
+    </message>
+    <message>
         <source>Top Left</source>
         <translation>Oben links</translation>
     </message>
@@ -503,51 +533,8 @@
         <translation>Ausblenden</translation>
     </message>
     <message>
-        <source>HD IPC</source>
-        <translation>HD IPC</translation>
-    </message>
-    <message>
-        <source>Configure</source>
-        <translation>Konfigurieren</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Bericht</translation>
-    </message>
-    <message>
         <source>OSD Parameters Configuration Result</source>
         <translation>Ergebnis der Konfiguration: OSD-Parameter</translation>
-    </message>
-    <message>
-        <source>OSDParamsCfgPage</source>
-        <translation>OSDParamsCfgPage</translation>
-    </message>
-    <message>
-        <source>YYYY-MM-DD</source>
-        <translation>YYYY-MM-DD</translation>
-    </message>
-    <message>
-        <source>MM/DD/YYYY</source>
-        <translation>MM/DD/YYYY</translation>
-    </message>
-    <message>
-        <source>DD/MM/YYYY</source>
-        <translation>DD/MM/YYYY</translation>
-    </message>
-</context>
-<context>
-    <name>orda_batchCfg::OSDParamsCfgTask</name>
-    <message>
-        <source>Failed to get osd parameters(%1)</source>
-        <translation>Parameter des OSD konnten nicht gelesen werden (%1)</translation>
-    </message>
-    <message>
-        <source>Failed to set osd parameters(%1)</source>
-        <translation>Parameter des OSD konnten nicht gesetzt werden (%1)</translation>
-    </message>
-    <message>
-        <source>set osd parameters time out</source>
-        <translation>Zeitüberschreitung beim Setzen der OSD-Parameter</translation>
     </message>
 </context>
 <context>
@@ -577,10 +564,6 @@
         <translation>Bericht</translation>
     </message>
     <message>
-        <source>Onvif Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Onvif-Parameter</translation>
-    </message>
-    <message>
         <source>OnvifParamsCfgPage</source>
         <translation>OnvifParamsCfgPage</translation>
     </message>
@@ -598,6 +581,10 @@
     <message>
         <source>set onvif discovery parameters time out</source>
         <translation>Zeitüberschreitung beim Setzen der ONVIF-Erkennung</translation>
+    </message>
+    <message>
+        <source>Onvif Parameters Configuration Result</source>
+        <translation>Ergebnis der Konfiguration: Onvif-Parameter</translation>
     </message>
 </context>
 <context>
@@ -705,10 +692,6 @@
         <translation>Bericht</translation>
     </message>
     <message>
-        <source>Platform 9100 Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Plattform-9100-Parameter</translation>
-    </message>
-    <message>
         <source>Platform9100ParamsCfgPage</source>
         <translation>Platform9100ParamsCfgPage</translation>
     </message>
@@ -734,6 +717,10 @@
     <message>
         <source>set platform 9100 parameters time out</source>
         <translation>Zeitüberschreitung beim Setzen der Parameter der Plattform 9100</translation>
+    </message>
+    <message>
+        <source>Platform 9100 Parameters Configuration Result</source>
+        <translation>Ergebnis der Konfiguration: Plattform-9100-Parameter</translation>
     </message>
 </context>
 <context>
@@ -763,24 +750,12 @@
         <translation>Diensttyp</translation>
     </message>
     <message>
-        <source>Public Cloud</source>
-        <translation>Öffentliche Cloud</translation>
-    </message>
-    <message>
-        <source>Private Cloud</source>
-        <translation>Private Cloud</translation>
-    </message>
-    <message>
         <source>Configure</source>
         <translation>Konfigurieren</translation>
     </message>
     <message>
         <source>Report</source>
         <translation>Bericht</translation>
-    </message>
-    <message>
-        <source>Platform Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Plattform-Parameter</translation>
     </message>
     <message>
         <source>PlatformParamsCfgPage</source>
@@ -804,6 +779,18 @@
     <message>
         <source>set platform parameters time out</source>
         <translation>Zeitüberschreitung beim Setzen der Plattformparameter</translation>
+    </message>
+    <message>
+        <source>Platform Parameters Configuration Result</source>
+        <translation>Ergebnis der Konfiguration: Plattform-Parameter</translation>
+    </message>
+    <message>
+        <source>Public Cloud</source>
+        <translation>Öffentliche Cloud</translation>
+    </message>
+    <message>
+        <source>Private Cloud</source>
+        <translation>Private Cloud</translation>
     </message>
 </context>
 <context>
@@ -853,28 +840,12 @@
         <translation>Die ausgewählten Parameter</translation>
     </message>
     <message>
-        <source>Open</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>Auto</source>
-        <translation>Automatisch</translation>
-    </message>
-    <message>
         <source>Configure</source>
         <translation>Konfigurieren</translation>
     </message>
     <message>
         <source>Report</source>
         <translation>Bericht</translation>
-    </message>
-    <message>
-        <source>Video Parameters Configuration Result</source>
-        <translation>Ergebnis der Konfiguration: Video-Parameter</translation>
     </message>
     <message>
         <source>All streams</source>
@@ -898,6 +869,58 @@
     <message>
         <source>set stream parameters time out</source>
         <translation>Zeitüberschreitung beim Setzen der Streamparameter</translation>
+    </message>
+    <message>
+        <source>Video Parameters Configuration Result</source>
+        <translation>Ergebnis der Konfiguration: Video-Parameter</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>H264</source>
+        <translation>H264</translation>
+    </message>
+    <message>
+        <source>H265</source>
+        <translation>H265</translation>
+    </message>
+    <message>
+        <source>Variable Bitrate</source>
+        <translation>Variable Bitrate</translation>
+    </message>
+    <message>
+        <source>Fixed Bitrate</source>
+        <translation>Feste Bitrate</translation>
+    </message>
+    <message>
+        <source>Best Image Quality</source>
+        <translation>Beste Bildqualität</translation>
+    </message>
+    <message>
+        <source>Image Quality Priority</source>
+        <translation>Bildqualität bevorzugt</translation>
+    </message>
+    <message>
+        <source>Balance Mode</source>
+        <translation>Ausgewogen</translation>
+    </message>
+    <message>
+        <source>Storage Priority</source>
+        <translation>Speicher bevorzugt</translation>
+    </message>
+    <message>
+        <source>Optimal Storage</source>
+        <translation>Geringster Speicherbedarf</translation>
     </message>
 </context>
 <context>
@@ -923,36 +946,8 @@
         <translation>Bitratenmodus</translation>
     </message>
     <message>
-        <source>Variable Bitrate</source>
-        <translation>Variable Bitrate</translation>
-    </message>
-    <message>
-        <source>Fixed Bitrate</source>
-        <translation>Feste Bitrate</translation>
-    </message>
-    <message>
         <source>Bit Rate Strategy</source>
         <translation>Bitratenstrategie</translation>
-    </message>
-    <message>
-        <source>Best Image Quality</source>
-        <translation>Beste Bildqualität</translation>
-    </message>
-    <message>
-        <source>Image Quality Priority</source>
-        <translation>Bildqualität bevorzugt</translation>
-    </message>
-    <message>
-        <source>Balance Mode</source>
-        <translation>Ausgewogen</translation>
-    </message>
-    <message>
-        <source>Storage Priority</source>
-        <translation>Speicher bevorzugt</translation>
-    </message>
-    <message>
-        <source>Optimal Storage</source>
-        <translation>Geringster Speicherbedarf</translation>
     </message>
     <message>
         <source>Video Quality</source>
@@ -966,102 +961,6 @@
         <source>%1, %2</source>
         <comment>stream, parameter</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>H264</source>
-        <translation>H264</translation>
-    </message>
-    <message>
-        <source>H265</source>
-        <translation>H265</translation>
-    </message>
-    <message>
-        <source>2560*1440</source>
-        <translation>2560*1440</translation>
-    </message>
-    <message>
-        <source>2304*1296</source>
-        <translation>2304*1296</translation>
-    </message>
-    <message>
-        <source>1920*1080</source>
-        <translation>1920*1080</translation>
-    </message>
-    <message>
-        <source>1280*960</source>
-        <translation>1280*960</translation>
-    </message>
-    <message>
-        <source>1280*720</source>
-        <translation>1280*720</translation>
-    </message>
-    <message>
-        <source>960*540</source>
-        <translation>960*540</translation>
-    </message>
-    <message>
-        <source>768*432</source>
-        <translation>768*432</translation>
-    </message>
-    <message>
-        <source>720*576</source>
-        <translation>720*576</translation>
-    </message>
-    <message>
-        <source>720*480</source>
-        <translation>720*480</translation>
-    </message>
-    <message>
-        <source>704*576</source>
-        <translation>704*576</translation>
-    </message>
-    <message>
-        <source>640*480</source>
-        <translation>640*480</translation>
-    </message>
-    <message>
-        <source>352*288</source>
-        <translation>352*288</translation>
-    </message>
-    <message>
-        <source>368*208</source>
-        <translation>368*208</translation>
-    </message>
-    <message>
-        <source>10</source>
-        <translation>10</translation>
-    </message>
-    <message>
-        <source>15</source>
-        <translation>15</translation>
-    </message>
-    <message>
-        <source>20</source>
-        <translation>20</translation>
-    </message>
-    <message>
-        <source>21</source>
-        <translation>21</translation>
-    </message>
-    <message>
-        <source>22</source>
-        <translation>22</translation>
-    </message>
-    <message>
-        <source>23</source>
-        <translation>23</translation>
-    </message>
-    <message>
-        <source>24</source>
-        <translation>24</translation>
-    </message>
-    <message>
-        <source>25</source>
-        <translation>25</translation>
-    </message>
-    <message>
-        <source>30</source>
-        <translation>30</translation>
     </message>
     <message>
         <source> kbps</source>

@@ -52,10 +52,6 @@
         <translation>报告</translation>
     </message>
     <message>
-        <source>Audio Parameters Configuration Result</source>
-        <translation>音频参数配置结果</translation>
-    </message>
-    <message>
         <source>Audio In Volume, number</source>
         <translation>音频输入音量，数值</translation>
     </message>
@@ -66,22 +62,6 @@
     <message>
         <source>AudioParamsCfgPage</source>
         <translation>AudioParamsCfgPage</translation>
-    </message>
-    <message>
-        <source>G711U</source>
-        <translation>G711U</translation>
-    </message>
-    <message>
-        <source>G711A</source>
-        <translation>G711A</translation>
-    </message>
-    <message>
-        <source>8000</source>
-        <translation>8000</translation>
-    </message>
-    <message>
-        <source>16bit</source>
-        <translation>16bit</translation>
     </message>
 </context>
 <context>
@@ -105,6 +85,22 @@
     <message>
         <source>set audio parameters time out</source>
         <translation>设置音频参数超时</translation>
+    </message>
+    <message>
+        <source>Audio Parameters Configuration Result</source>
+        <translation>音频参数配置结果</translation>
+    </message>
+    <message>
+        <source>G711U</source>
+        <translation>G711U</translation>
+    </message>
+    <message>
+        <source>G711A</source>
+        <translation>G711A</translation>
+    </message>
+    <message>
+        <source>16bit</source>
+        <translation>16bit</translation>
     </message>
 </context>
 <context>
@@ -132,42 +128,6 @@
     <message>
         <source>Remote Set</source>
         <translation>远程设置</translation>
-    </message>
-    <message>
-        <source>Audio-Video Parameters</source>
-        <translation>音视频参数</translation>
-    </message>
-    <message>
-        <source>Audio Parameters</source>
-        <translation>音频参数</translation>
-    </message>
-    <message>
-        <source>Video Parameters</source>
-        <translation>视频参数</translation>
-    </message>
-    <message>
-        <source>Image Parameters</source>
-        <translation>图像参数</translation>
-    </message>
-    <message>
-        <source>Platform Parameters</source>
-        <translation>平台参数</translation>
-    </message>
-    <message>
-        <source>Cloud Service Parameters</source>
-        <translation>云服务参数</translation>
-    </message>
-    <message>
-        <source>Platform 9100 Parameters</source>
-        <translation>9100 平台参数</translation>
-    </message>
-    <message>
-        <source>Network Parameters</source>
-        <translation>网络参数</translation>
-    </message>
-    <message>
-        <source>OSD Parameters</source>
-        <translation>OSD 参数</translation>
     </message>
     <message>
         <source>All devices</source>
@@ -261,6 +221,45 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::Families</name>
+    <message>
+        <source>Audio-Video Parameters</source>
+        <translation>音视频参数</translation>
+    </message>
+    <message>
+        <source>Platform Parameters</source>
+        <translation>平台参数</translation>
+    </message>
+    <message>
+        <source>Audio Parameters</source>
+        <translation>音频参数</translation>
+    </message>
+    <message>
+        <source>Video Parameters</source>
+        <translation>视频参数</translation>
+    </message>
+    <message>
+        <source>Image Parameters</source>
+        <translation>图像参数</translation>
+    </message>
+    <message>
+        <source>Cloud Service Parameters</source>
+        <translation>云服务参数</translation>
+    </message>
+    <message>
+        <source>Platform 9100 Parameters</source>
+        <translation>9100 平台参数</translation>
+    </message>
+    <message>
+        <source>Network Parameters</source>
+        <translation>网络参数</translation>
+    </message>
+    <message>
+        <source>OSD Parameters</source>
+        <translation>OSD 参数</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::ImageParamsCfgPage</name>
     <message>
         <source>Please select the parameters to be configured</source>
@@ -285,6 +284,53 @@
     <message>
         <source>The selected parameters to be configured</source>
         <translation>所选的待配置参数</translation>
+    </message>
+    <message>
+        <source>Configure</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>ImageParamsCfgPage</source>
+        <translation>ImageParamsCfgPage</translation>
+    </message>
+</context>
+<context>
+    <name>orda_batchCfg::ImageParamsCfgTask</name>
+    <message>
+        <source>Failed to get image adjust parameters(%1)</source>
+        <translation>获取图像调节参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>Failed to set image adjust parameters(%1)</source>
+        <translation>设置图像调节参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>Failed to get image day-night parameters(%1)</source>
+        <translation>获取图像日夜转换参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>Failed to set image day-night parameters(%1)</source>
+        <translation>设置图像日夜转换参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>Failed to get image expert parameters(%1)</source>
+        <translation>获取图像专家模式参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>Failed to set image expert parameters(%1)</source>
+        <translation>设置图像专家模式参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>set image parameters time out</source>
+        <translation>设置图像参数超时</translation>
+    </message>
+    <message>
+        <source>Image Parameters Configuration Result</source>
+        <translation>图像参数配置结果</translation>
     </message>
     <message>
         <source>Off</source>
@@ -330,53 +376,6 @@
         <source>Smart Dual Light</source>
         <translation>智能双光</translation>
     </message>
-    <message>
-        <source>Configure</source>
-        <translation>配置</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>报告</translation>
-    </message>
-    <message>
-        <source>Image Parameters Configuration Result</source>
-        <translation>图像参数配置结果</translation>
-    </message>
-    <message>
-        <source>ImageParamsCfgPage</source>
-        <translation>ImageParamsCfgPage</translation>
-    </message>
-</context>
-<context>
-    <name>orda_batchCfg::ImageParamsCfgTask</name>
-    <message>
-        <source>Failed to get image adjust parameters(%1)</source>
-        <translation>获取图像调节参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>Failed to set image adjust parameters(%1)</source>
-        <translation>设置图像调节参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>Failed to get image day-night parameters(%1)</source>
-        <translation>获取图像日夜转换参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>Failed to set image day-night parameters(%1)</source>
-        <translation>设置图像日夜转换参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>Failed to get image expert parameters(%1)</source>
-        <translation>获取图像专家模式参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>Failed to set image expert parameters(%1)</source>
-        <translation>设置图像专家模式参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>set image parameters time out</source>
-        <translation>设置图像参数超时</translation>
-    </message>
 </context>
 <context>
     <name>orda_batchCfg::NetworkParamsCfgPage</name>
@@ -413,10 +412,6 @@
         <translation>报告</translation>
     </message>
     <message>
-        <source>Network Parameters Configuration Result</source>
-        <translation>网络参数配置结果</translation>
-    </message>
-    <message>
         <source>NetworkParamsCfgPage</source>
         <translation>NetworkParamsCfgPage</translation>
     </message>
@@ -442,6 +437,10 @@
     <message>
         <source>set network parameters time out</source>
         <translation>设置网络参数超时</translation>
+    </message>
+    <message>
+        <source>Network Parameters Configuration Result</source>
+        <translation>网络参数配置结果</translation>
     </message>
 </context>
 <context>
@@ -483,6 +482,37 @@
         <translation>所选的待配置参数</translation>
     </message>
     <message>
+        <source>HD IPC</source>
+        <translation>高清 IPC</translation>
+    </message>
+    <message>
+        <source>Configure</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>OSDParamsCfgPage</source>
+        <translation>OSDParamsCfgPage</translation>
+    </message>
+</context>
+<context>
+    <name>orda_batchCfg::OSDParamsCfgTask</name>
+    <message>
+        <source>Failed to get osd parameters(%1)</source>
+        <translation>获取 OSD 参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>Failed to set osd parameters(%1)</source>
+        <translation>设置 OSD 参数失败（%1）</translation>
+    </message>
+    <message>
+        <source>set osd parameters time out</source>
+        <translation>设置 OSD 参数超时</translation>
+    </message>
+    <message>
         <source>Top Left</source>
         <translation>左上</translation>
     </message>
@@ -503,51 +533,8 @@
         <translation>隐藏</translation>
     </message>
     <message>
-        <source>HD IPC</source>
-        <translation>高清 IPC</translation>
-    </message>
-    <message>
-        <source>Configure</source>
-        <translation>配置</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>报告</translation>
-    </message>
-    <message>
         <source>OSD Parameters Configuration Result</source>
         <translation>OSD 参数配置结果</translation>
-    </message>
-    <message>
-        <source>OSDParamsCfgPage</source>
-        <translation>OSDParamsCfgPage</translation>
-    </message>
-    <message>
-        <source>YYYY-MM-DD</source>
-        <translation>YYYY-MM-DD</translation>
-    </message>
-    <message>
-        <source>MM/DD/YYYY</source>
-        <translation>MM/DD/YYYY</translation>
-    </message>
-    <message>
-        <source>DD/MM/YYYY</source>
-        <translation>DD/MM/YYYY</translation>
-    </message>
-</context>
-<context>
-    <name>orda_batchCfg::OSDParamsCfgTask</name>
-    <message>
-        <source>Failed to get osd parameters(%1)</source>
-        <translation>获取 OSD 参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>Failed to set osd parameters(%1)</source>
-        <translation>设置 OSD 参数失败（%1）</translation>
-    </message>
-    <message>
-        <source>set osd parameters time out</source>
-        <translation>设置 OSD 参数超时</translation>
     </message>
 </context>
 <context>
@@ -577,10 +564,6 @@
         <translation>报告</translation>
     </message>
     <message>
-        <source>Onvif Parameters Configuration Result</source>
-        <translation>Onvif 参数配置结果</translation>
-    </message>
-    <message>
         <source>OnvifParamsCfgPage</source>
         <translation>OnvifParamsCfgPage</translation>
     </message>
@@ -598,6 +581,10 @@
     <message>
         <source>set onvif discovery parameters time out</source>
         <translation>设置 ONVIF 发现参数超时</translation>
+    </message>
+    <message>
+        <source>Onvif Parameters Configuration Result</source>
+        <translation>Onvif 参数配置结果</translation>
     </message>
 </context>
 <context>
@@ -705,10 +692,6 @@
         <translation>报告</translation>
     </message>
     <message>
-        <source>Platform 9100 Parameters Configuration Result</source>
-        <translation>9100 平台参数配置结果</translation>
-    </message>
-    <message>
         <source>Platform9100ParamsCfgPage</source>
         <translation>Platform9100ParamsCfgPage</translation>
     </message>
@@ -734,6 +717,10 @@
     <message>
         <source>set platform 9100 parameters time out</source>
         <translation>设置 9100 平台参数超时</translation>
+    </message>
+    <message>
+        <source>Platform 9100 Parameters Configuration Result</source>
+        <translation>9100 平台参数配置结果</translation>
     </message>
 </context>
 <context>
@@ -763,24 +750,12 @@
         <translation>服务类型</translation>
     </message>
     <message>
-        <source>Public Cloud</source>
-        <translation>公有云</translation>
-    </message>
-    <message>
-        <source>Private Cloud</source>
-        <translation>私有云</translation>
-    </message>
-    <message>
         <source>Configure</source>
         <translation>配置</translation>
     </message>
     <message>
         <source>Report</source>
         <translation>报告</translation>
-    </message>
-    <message>
-        <source>Platform Parameters Configuration Result</source>
-        <translation>平台参数配置结果</translation>
     </message>
     <message>
         <source>PlatformParamsCfgPage</source>
@@ -804,6 +779,18 @@
     <message>
         <source>set platform parameters time out</source>
         <translation>设置平台参数超时</translation>
+    </message>
+    <message>
+        <source>Platform Parameters Configuration Result</source>
+        <translation>平台参数配置结果</translation>
+    </message>
+    <message>
+        <source>Public Cloud</source>
+        <translation>公有云</translation>
+    </message>
+    <message>
+        <source>Private Cloud</source>
+        <translation>私有云</translation>
     </message>
 </context>
 <context>
@@ -853,28 +840,12 @@
         <translation>所选的待配置参数</translation>
     </message>
     <message>
-        <source>Open</source>
-        <translation>开启</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Auto</source>
-        <translation>自动</translation>
-    </message>
-    <message>
         <source>Configure</source>
         <translation>配置</translation>
     </message>
     <message>
         <source>Report</source>
         <translation>报告</translation>
-    </message>
-    <message>
-        <source>Video Parameters Configuration Result</source>
-        <translation>视频参数配置结果</translation>
     </message>
     <message>
         <source>All streams</source>
@@ -898,6 +869,58 @@
     <message>
         <source>set stream parameters time out</source>
         <translation>设置码流参数超时</translation>
+    </message>
+    <message>
+        <source>Video Parameters Configuration Result</source>
+        <translation>视频参数配置结果</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>开启</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>H264</source>
+        <translation>H264</translation>
+    </message>
+    <message>
+        <source>H265</source>
+        <translation>H265</translation>
+    </message>
+    <message>
+        <source>Variable Bitrate</source>
+        <translation>可变码率</translation>
+    </message>
+    <message>
+        <source>Fixed Bitrate</source>
+        <translation>固定码率</translation>
+    </message>
+    <message>
+        <source>Best Image Quality</source>
+        <translation>最佳画质</translation>
+    </message>
+    <message>
+        <source>Image Quality Priority</source>
+        <translation>画质优先</translation>
+    </message>
+    <message>
+        <source>Balance Mode</source>
+        <translation>均衡模式</translation>
+    </message>
+    <message>
+        <source>Storage Priority</source>
+        <translation>存储优先</translation>
+    </message>
+    <message>
+        <source>Optimal Storage</source>
+        <translation>最优存储</translation>
     </message>
 </context>
 <context>
@@ -923,36 +946,8 @@
         <translation>码率模式</translation>
     </message>
     <message>
-        <source>Variable Bitrate</source>
-        <translation>可变码率</translation>
-    </message>
-    <message>
-        <source>Fixed Bitrate</source>
-        <translation>固定码率</translation>
-    </message>
-    <message>
         <source>Bit Rate Strategy</source>
         <translation>码率策略</translation>
-    </message>
-    <message>
-        <source>Best Image Quality</source>
-        <translation>最佳画质</translation>
-    </message>
-    <message>
-        <source>Image Quality Priority</source>
-        <translation>画质优先</translation>
-    </message>
-    <message>
-        <source>Balance Mode</source>
-        <translation>均衡模式</translation>
-    </message>
-    <message>
-        <source>Storage Priority</source>
-        <translation>存储优先</translation>
-    </message>
-    <message>
-        <source>Optimal Storage</source>
-        <translation>最优存储</translation>
     </message>
     <message>
         <source>Video Quality</source>
@@ -966,102 +961,6 @@
         <source>%1, %2</source>
         <comment>stream, parameter</comment>
         <translation>%1，%2</translation>
-    </message>
-    <message>
-        <source>H264</source>
-        <translation>H264</translation>
-    </message>
-    <message>
-        <source>H265</source>
-        <translation>H265</translation>
-    </message>
-    <message>
-        <source>2560*1440</source>
-        <translation>2560*1440</translation>
-    </message>
-    <message>
-        <source>2304*1296</source>
-        <translation>2304*1296</translation>
-    </message>
-    <message>
-        <source>1920*1080</source>
-        <translation>1920*1080</translation>
-    </message>
-    <message>
-        <source>1280*960</source>
-        <translation>1280*960</translation>
-    </message>
-    <message>
-        <source>1280*720</source>
-        <translation>1280*720</translation>
-    </message>
-    <message>
-        <source>960*540</source>
-        <translation>960*540</translation>
-    </message>
-    <message>
-        <source>768*432</source>
-        <translation>768*432</translation>
-    </message>
-    <message>
-        <source>720*576</source>
-        <translation>720*576</translation>
-    </message>
-    <message>
-        <source>720*480</source>
-        <translation>720*480</translation>
-    </message>
-    <message>
-        <source>704*576</source>
-        <translation>704*576</translation>
-    </message>
-    <message>
-        <source>640*480</source>
-        <translation>640*480</translation>
-    </message>
-    <message>
-        <source>352*288</source>
-        <translation>352*288</translation>
-    </message>
-    <message>
-        <source>368*208</source>
-        <translation>368*208</translation>
-    </message>
-    <message>
-        <source>10</source>
-        <translation>10</translation>
-    </message>
-    <message>
-        <source>15</source>
-        <translation>15</translation>
-    </message>
-    <message>
-        <source>20</source>
-        <translation>20</translation>
-    </message>
-    <message>
-        <source>21</source>
-        <translation>21</translation>
-    </message>
-    <message>
-        <source>22</source>
-        <translation>22</translation>
-    </message>
-    <message>
-        <source>23</source>
-        <translation>23</translation>
-    </message>
-    <message>
-        <source>24</source>
-        <translation>24</translation>
-    </message>
-    <message>
-        <source>25</source>
-        <translation>25</translation>
-    </message>
-    <message>
-        <source>30</source>
-        <translation>30</translation>
     </message>
     <message>
         <source> kbps</source>

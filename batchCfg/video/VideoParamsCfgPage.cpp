@@ -1,5 +1,6 @@
 #include "video/VideoParamsCfgPage.h"
 
+#include "run/KeyEditor.h"
 #include "ui_VideoParamsCfgPage.h"
 #include "video/VideoParamsCfgTask.h"
 #include "video/VideoParamsPanel.h"
@@ -10,13 +11,11 @@
 namespace orda_batchCfg {
 
 VideoParamsCfgPage::VideoParamsCfgPage(QWidget *parent)
-    : ParamsCfgPage(tr("Video Parameters Configuration Result"),
-                    QStringLiteral("vms_video_params_batch_cfg_record.txt"), parent)
+    : ParamsCfgPage(VideoParamsCfgTask::family(), parent)
     , m_ui(std::make_unique<Ui::VideoParamsCfgPage>())
 {
     m_ui->setupUi(this);
-    m_ui->smartEncodingCtrl->setItemsData(
-        {QStringLiteral("open"), QStringLiteral("close"), QStringLiteral("autoopen")});
+    fillEditor(m_ui->smartEncodingCtrl, VideoParamsCfgTask::family(), "smartencode");
     m_hdPanel = addPanel(VideoParamsPanel::MainStream);
     m_sdPanel = addPanel(VideoParamsPanel::SubStream);
     // The panels were made after the buttons, which stand below them.
@@ -25,15 +24,15 @@ VideoParamsCfgPage::VideoParamsCfgPage(QWidget *parent)
     connect(m_hdPanel, &VideoParamsPanel::signalAlignmentGlobalPosX, this, &VideoParamsCfgPage::alignSmartEncoding);
 
     for (const QCheckBox *stream : {m_ui->HDStream, m_ui->SDStream})
-        connect(stream, &QCheckBox::clicked, this, &VideoParamsCfgPage::slotSelectedStreamsChanged);
+        connect(stream, &QCheckBox::toggled, this, &VideoParamsCfgPage::slotSelectedStreamsChanged);
     addSelection(m_ui->allStreams, {m_ui->HDStream, m_ui->SDStream}, tr("Please select the streams to be configured"));
     // The panels have the values, so the table has only the boxes and what they mean to the panels.
     setParams({
-        {0, m_ui->smartEncoding, {}, {}, {}},
-        {VideoParamsPanel::EncodingFormat, m_ui->encodingFormat, {}, {}, {}},
-        {VideoParamsPanel::Resolution, m_ui->resolution, {}, {}, {}},
-        {VideoParamsPanel::FrameRate, m_ui->frameRate, {}, {}, {}},
-        {VideoParamsPanel::BitRate, m_ui->bitRate, {}, {}, {}},
+        {0, m_ui->smartEncoding, {}, nullptr, nullptr},
+        {VideoParamsPanel::EncodingFormat, m_ui->encodingFormat, {}, nullptr, nullptr},
+        {VideoParamsPanel::Resolution, m_ui->resolution, {}, nullptr, nullptr},
+        {VideoParamsPanel::FrameRate, m_ui->frameRate, {}, nullptr, nullptr},
+        {VideoParamsPanel::BitRate, m_ui->bitRate, {}, nullptr, nullptr},
     });
 }
 
@@ -84,17 +83,13 @@ QJsonObject VideoParamsCfgPage::values() const
     if (m_ui->HDStream->isChecked()) {
         QJsonObject stream = m_hdPanel->getParams();
         if (m_ui->smartEncoding->isChecked())
-            stream.insert(QStringLiteral("smartencode"), m_ui->smartEncodingCtrl->currentData().toString());
+            stream.insert(QStringLiteral("smartencode"),
+                          editedValue(m_ui->smartEncodingCtrl, VideoParamsCfgTask::family(), "smartencode"));
         add(stream, VideoParamsPanel::MainStream);
     }
     if (m_ui->SDStream->isChecked())
         add(m_sdPanel->getParams(), VideoParamsPanel::SubStream);
     return {{QStringLiteral("streams"), streams}};
-}
-
-ParamsCfgTask *VideoParamsCfgPage::createTask(const QString &devId, const QJsonObject &values)
-{
-    return new VideoParamsCfgTask(devId, values, this);
 }
 
 } // namespace orda_batchCfg

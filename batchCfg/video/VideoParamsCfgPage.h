@@ -26,7 +26,6 @@ public slots:
 protected:
     void refresh() override;
     QJsonObject values() const override;
-    ParamsCfgTask *createTask(const QString &devId, const QJsonObject &values) override;
 
 private:
     VideoParamsPanel *addPanel(int streamType);

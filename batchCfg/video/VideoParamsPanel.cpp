@@ -1,6 +1,8 @@
 #include "video/VideoParamsPanel.h"
 
+#include "run/KeyEditor.h"
 #include "ui_VideoParamsPanel.h"
+#include "video/VideoParamsCfgTask.h"
 
 #include <QTimer>
 
@@ -14,9 +16,14 @@ constexpr int columns = 2;
 // The layout settles in the turn of the event loop after a change.
 constexpr std::chrono::milliseconds settlePause{10};
 
-// What a sub-stream cannot carry: the first resolutions of the list. The choice then falls on 704*576.
-constexpr int mainStreamOnlyResolutions = 3;
+// The resolutions that are chosen at first, indexes among those of the stream: 1920*1080 and 704*576.
+constexpr int mainStreamResolution = 2;
 constexpr int subStreamResolution = 6;
+
+QJsonValue valueOf(const QWidget *editor, const char *key)
+{
+    return editedValue(editor, VideoParamsCfgTask::family(), key);
+}
 
 } // namespace
 
@@ -26,15 +33,9 @@ VideoParamsPanel::VideoParamsPanel(int streamType, QWidget *parent)
     , m_streamType(streamType)
 {
     m_ui->setupUi(this);
-    m_ui->encodingFormat->setItemsData({QStringLiteral("h264"), QStringLiteral("h265")});
-    m_ui->bitRateMode->setItemsData({QStringLiteral("vbr"), QStringLiteral("cbr")});
-    m_ui->bitRateStrategy->setItemsData({100, 80, 60, 40, 20});
-    if (m_streamType == SubStream) {
+    fillEditors();
+    if (m_streamType == SubStream)
         m_ui->title->setText(tr("SD Stream"));
-        for (int i = 0; i < mainStreamOnlyResolutions; ++i)
-            m_ui->resolution->removeItem(0);
-        m_ui->resolution->setCurrentIndex(subStreamResolution);
-    }
     // There are two of these panels: each editor is named with its stream. Where an editor has a caption, some systems
     // take the caption's name and others the editor's own.
     const auto captions = findChildren<XCOMMON::XLabel *>();
@@ -48,6 +49,20 @@ VideoParamsPanel::VideoParamsPanel(int streamType, QWidget *parent)
 }
 
 VideoParamsPanel::~VideoParamsPanel() = default;
+
+void VideoParamsPanel::fillEditors()
+{
+    const CfgFamily &family = VideoParamsCfgTask::family();
+    fillEditor(m_ui->encodingFormat, family, "venctype");
+    fillEditor(m_ui->frameRate, family, "frameRate");
+    fillEditor(m_ui->bitRateMode, family, "rcMode");
+    fillEditor(m_ui->bitRateStrategy, family, "quality");
+    fillEditor(m_ui->videoQuality, family, "bitRate");
+    const bool isSubStream = m_streamType == SubStream;
+    for (const QSize &resolution : videoResolutions(isSubStream))
+        m_ui->resolution->addItem(QStringLiteral("%1*%2").arg(resolution.width()).arg(resolution.height()));
+    m_ui->resolution->setCurrentIndex(isSubStream ? subStreamResolution : mainStreamResolution);
+}
 
 void VideoParamsPanel::setParamsMask(int mask)
 {
@@ -75,19 +90,19 @@ QJsonObject VideoParamsPanel::getParams() const
 {
     QJsonObject params;
     if ((m_paramsMask & EncodingFormat) != 0)
-        params.insert(QStringLiteral("venctype"), m_ui->encodingFormat->currentData().toString());
+        params.insert(QStringLiteral("venctype"), valueOf(m_ui->encodingFormat, "venctype"));
     if ((m_paramsMask & Resolution) != 0) {
         const QStringList sides = m_ui->resolution->currentText().split(QLatin1Char('*'));
         params.insert(QStringLiteral("width"), sides.constFirst().toInt());
         params.insert(QStringLiteral("height"), sides.constLast().toInt());
     }
     if ((m_paramsMask & FrameRate) != 0)
-        params.insert(QStringLiteral("frameRate"), m_ui->frameRate->currentText().toInt());
+        params.insert(QStringLiteral("frameRate"), valueOf(m_ui->frameRate, "frameRate"));
     if ((m_paramsMask & BitRate) != 0) {
-        params.insert(QStringLiteral("rcMode"), m_ui->bitRateMode->currentData().toString());
-        params.insert(QStringLiteral("quality"), m_ui->bitRateStrategy->currentData().toInt());
+        params.insert(QStringLiteral("rcMode"), valueOf(m_ui->bitRateMode, "rcMode"));
+        params.insert(QStringLiteral("quality"), valueOf(m_ui->bitRateStrategy, "quality"));
         m_ui->videoQuality->interpretText(); // what is being typed counts, and is shown as it is sent
-        params.insert(QStringLiteral("bitRate"), m_ui->videoQuality->value());
+        params.insert(QStringLiteral("bitRate"), valueOf(m_ui->videoQuality, "bitRate"));
     }
     return params;
 }

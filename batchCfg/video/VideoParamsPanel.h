@@ -56,6 +56,7 @@ private:
         QWidget *widget;
     };
 
+    void fillEditors();
     void packFields();
     void reportAlignmentLater() const;
     void reportAlignment();

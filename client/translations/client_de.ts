@@ -2,7 +2,22 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
-    <name>ClientOptions</name>
+    <name>main</name>
+    <message>
+        <source>there is no display to show the window on; --run needs none</source>
+        <translation>Es gibt keine Anzeige für das Fenster; --run braucht keine</translation>
+    </message>
+    <message>
+        <source>--language takes one of %1, not &quot;%2&quot;</source>
+        <translation>--language nimmt eine von %1, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>%1 (see orda_client --help)</source>
+        <translation>%1 (siehe orda_client --help)</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::ClientOptions</name>
     <message>
         <source>Bring N simulated devices along.</source>
         <translation>N simulierte Geräte mitbringen.</translation>
@@ -89,7 +104,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>ClientWindow</name>
+    <name>orda_client::ClientWindow</name>
     <message>
         <source>offline</source>
         <translation>offline</translation>
@@ -195,7 +210,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>CloseQuestion</name>
+    <name>orda_client::CloseQuestion</name>
     <message>
         <source>A run is going on</source>
         <translation>Ein Lauf ist im Gange</translation>
@@ -221,14 +236,14 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>CsvFile</name>
+    <name>orda_client::CsvFile</name>
     <message>
         <source>cannot write the file %1: %2</source>
         <translation>Datei %1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
-    <name>FailedDevices</name>
+    <name>orda_client::FailedDevices</name>
     <message>
         <source>its entry in the record cannot be read</source>
         <translation>sein Eintrag im Protokoll ist nicht lesbar</translation>
@@ -259,7 +274,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>FailureGroupList</name>
+    <name>orda_client::FailureGroupList</name>
     <message>
         <source>All devices</source>
         <translation>Alle Geräte</translation>
@@ -270,7 +285,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>LastRunWindow</name>
+    <name>orda_client::LastRunWindow</name>
     <message>
         <source>Last run</source>
         <translation>Letzter Lauf</translation>
@@ -328,22 +343,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>&amp;Schließen</translation>
     </message>
     <message>
-        <source>Devices: %1</source>
-        <translation>Geräte: %1</translation>
-    </message>
-    <message>
-        <source>Succeeded: %1</source>
-        <translation>Erfolgreich: %1</translation>
-    </message>
-    <message>
-        <source>Failed: %1</source>
-        <translation>Fehlgeschlagen: %1</translation>
-    </message>
-    <message>
-        <source>Unreadable: %1</source>
-        <translation>Unlesbar: %1</translation>
-    </message>
-    <message>
         <source>No run yet. Tick devices and parameters in the form and press Configure; the outcome of each device is then listed here.</source>
         <translation>Noch kein Lauf. Wählen Sie im Formular Geräte und Parameter und drücken Sie Konfigurieren; das Ergebnis jedes Geräts steht dann hier.</translation>
     </message>
@@ -368,10 +367,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Kein Gerät dieses Laufs passt zur Suche und zur Auswahl daneben.</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>%1 bis %2</translation>
-    </message>
-    <message>
         <source>Export CSV</source>
         <translation>CSV exportieren</translation>
     </message>
@@ -379,13 +374,9 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>Kommagetrennte Werte (*.csv);;Alle Dateien (*)</translation>
     </message>
-    <message>
-        <source>The run is still going on.</source>
-        <translation>Der Lauf ist noch im Gange.</translation>
-    </message>
 </context>
 <context>
-    <name>PageRecord</name>
+    <name>orda_client::PageRecord</name>
     <message>
         <source>The last run left no record: %1.</source>
         <translation>Der letzte Lauf hat kein Protokoll hinterlassen: %1.</translation>
@@ -399,7 +390,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>RecordFile</name>
+    <name>orda_client::RecordFile</name>
     <message>
         <source>it is a symbolic link</source>
         <translation>es ist ein symbolischer Link</translation>
@@ -426,7 +417,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>RunDriver</name>
+    <name>orda_client::RunDriver</name>
     <message>
         <source>--devices: there is no device &quot;%1&quot;</source>
         <translation>--devices: Es gibt kein Gerät „%1“</translation>
@@ -466,7 +457,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>RunRecordModel</name>
+    <name>orda_client::RunRecordModel</name>
     <message>
         <source>Failed</source>
         <translation>Fehlgeschlagen</translation>
@@ -505,7 +496,34 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
-    <name>TickReport</name>
+    <name>orda_client::RunSummary</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Devices: %1</source>
+        <translation>Geräte: %1</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1</source>
+        <translation>Erfolgreich: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Unreadable: %1</source>
+        <translation>Unlesbar: %1</translation>
+    </message>
+    <message>
+        <source>The run is still going on.</source>
+        <translation>Der Lauf ist noch im Gange.</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::TickReport</name>
     <message>
         <source>Failed devices that are not ticked</source>
         <translation>Fehlgeschlagene Geräte, die nicht ausgewählt sind</translation>
@@ -524,21 +542,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Not ticked:</source>
         <translation>Nicht ausgewählt:</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>there is no display to show the window on; --run needs none</source>
-        <translation>Es gibt keine Anzeige für das Fenster; --run braucht keine</translation>
-    </message>
-    <message>
-        <source>--language takes one of %1, not &quot;%2&quot;</source>
-        <translation>--language nimmt eine von %1, nicht „%2“</translation>
-    </message>
-    <message>
-        <source>%1 (see orda_client --help)</source>
-        <translation>%1 (siehe orda_client --help)</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
-    <name>ClientWindow</name>
+    <name>orda_client::ClientWindow</name>
     <message numerus="yes">
         <source>%1 of %n device(s) online</source>
         <translation>
@@ -12,7 +12,7 @@
     </message>
 </context>
 <context>
-    <name>CloseQuestion</name>
+    <name>orda_client::CloseQuestion</name>
     <message numerus="yes">
         <source>%1 of %n device(s) have not answered</source>
         <translation>
@@ -22,7 +22,7 @@
     </message>
 </context>
 <context>
-    <name>PageRecord</name>
+    <name>orda_client::PageRecord</name>
     <message numerus="yes">
         <source>The record has only %n result(s) of the last run: %1.</source>
         <translation>
@@ -32,7 +32,7 @@
     </message>
 </context>
 <context>
-    <name>RunDriver</name>
+    <name>orda_client::RunDriver</name>
     <message numerus="yes">
         <source>%1 of %n device(s) online</source>
         <translation>
@@ -56,7 +56,7 @@
     </message>
 </context>
 <context>
-    <name>TickReport</name>
+    <name>orda_client::TickReport</name>
     <message numerus="yes">
         <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
         <translation>

@@ -2,7 +2,22 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
-    <name>ClientOptions</name>
+    <name>main</name>
+    <message>
+        <source>there is no display to show the window on; --run needs none</source>
+        <translation>没有可显示窗口的显示器；--run 不需要显示器</translation>
+    </message>
+    <message>
+        <source>--language takes one of %1, not &quot;%2&quot;</source>
+        <translation>--language 只接受 %1 之一，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>%1 (see orda_client --help)</source>
+        <translation>%1（参见 orda_client --help）</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::ClientOptions</name>
     <message>
         <source>Bring N simulated devices along.</source>
         <translation>附带 N 台模拟设备。</translation>
@@ -89,7 +104,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>ClientWindow</name>
+    <name>orda_client::ClientWindow</name>
     <message>
         <source>offline</source>
         <translation>离线</translation>
@@ -194,7 +209,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>CloseQuestion</name>
+    <name>orda_client::CloseQuestion</name>
     <message>
         <source>A run is going on</source>
         <translation>运行正在进行</translation>
@@ -219,14 +234,14 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>CsvFile</name>
+    <name>orda_client::CsvFile</name>
     <message>
         <source>cannot write the file %1: %2</source>
         <translation>无法写入文件 %1：%2</translation>
     </message>
 </context>
 <context>
-    <name>FailedDevices</name>
+    <name>orda_client::FailedDevices</name>
     <message>
         <source>its entry in the record cannot be read</source>
         <translation>无法读取其在记录中的条目</translation>
@@ -257,7 +272,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>FailureGroupList</name>
+    <name>orda_client::FailureGroupList</name>
     <message>
         <source>All devices</source>
         <translation>所有设备</translation>
@@ -268,7 +283,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>LastRunWindow</name>
+    <name>orda_client::LastRunWindow</name>
     <message>
         <source>Last run</source>
         <translation>上次运行</translation>
@@ -326,22 +341,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>关闭(&amp;C)</translation>
     </message>
     <message>
-        <source>Devices: %1</source>
-        <translation>设备：%1</translation>
-    </message>
-    <message>
-        <source>Succeeded: %1</source>
-        <translation>成功：%1</translation>
-    </message>
-    <message>
-        <source>Failed: %1</source>
-        <translation>失败：%1</translation>
-    </message>
-    <message>
-        <source>Unreadable: %1</source>
-        <translation>无法读取：%1</translation>
-    </message>
-    <message>
         <source>No run yet. Tick devices and parameters in the form and press Configure; the outcome of each device is then listed here.</source>
         <translation>尚无运行。请在表单中勾选设备和参数并按“配置”；随后此处将列出每台设备的结果。</translation>
     </message>
@@ -366,10 +365,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>本次运行中没有符合搜索和筛选条件的设备。</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>%1 至 %2</translation>
-    </message>
-    <message>
         <source>Export CSV</source>
         <translation>导出 CSV</translation>
     </message>
@@ -377,13 +372,9 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>Comma-separated values (*.csv);;All files (*)</source>
         <translation>逗号分隔值 (*.csv);;所有文件 (*)</translation>
     </message>
-    <message>
-        <source>The run is still going on.</source>
-        <translation>运行仍在进行。</translation>
-    </message>
 </context>
 <context>
-    <name>PageRecord</name>
+    <name>orda_client::PageRecord</name>
     <message>
         <source>The last run left no record: %1.</source>
         <translation>上次运行没有留下记录：%1。</translation>
@@ -396,7 +387,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>RecordFile</name>
+    <name>orda_client::RecordFile</name>
     <message>
         <source>it is a symbolic link</source>
         <translation>它是符号链接</translation>
@@ -423,7 +414,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>RunDriver</name>
+    <name>orda_client::RunDriver</name>
     <message>
         <source>--devices: there is no device &quot;%1&quot;</source>
         <translation>--devices：没有设备“%1”</translation>
@@ -460,7 +451,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>RunRecordModel</name>
+    <name>orda_client::RunRecordModel</name>
     <message>
         <source>Failed</source>
         <translation>失败</translation>
@@ -499,7 +490,34 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
-    <name>TickReport</name>
+    <name>orda_client::RunSummary</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Devices: %1</source>
+        <translation>设备：%1</translation>
+    </message>
+    <message>
+        <source>Succeeded: %1</source>
+        <translation>成功：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>Unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>The run is still going on.</source>
+        <translation>运行仍在进行。</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::TickReport</name>
     <message>
         <source>Failed devices that are not ticked</source>
         <translation>未勾选的失败设备</translation>
@@ -517,21 +535,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Not ticked:</source>
         <translation>未勾选：</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>there is no display to show the window on; --run needs none</source>
-        <translation>没有可显示窗口的显示器；--run 不需要显示器</translation>
-    </message>
-    <message>
-        <source>--language takes one of %1, not &quot;%2&quot;</source>
-        <translation>--language 只接受 %1 之一，而不是“%2”</translation>
-    </message>
-    <message>
-        <source>%1 (see orda_client --help)</source>
-        <translation>%1（参见 orda_client --help）</translation>
     </message>
 </context>
 </TS>

@@ -6,7 +6,7 @@ namespace {
 
 constexpr int minLength = 8;
 
-int characterClasses(const QString &password)
+int characterKinds(const QString &password)
 {
     bool hasLower = false;
     bool hasUpper = false;
@@ -30,10 +30,10 @@ PwdStrength checkPwdStrength(const QString &password)
 {
     if (password.isEmpty())
         return PwdInvalid;
-    const int classes = characterClasses(password);
-    if (password.size() < minLength || classes == 1)
+    const int kinds = characterKinds(password);
+    if (password.size() < minLength || kinds == 1)
         return PwdWeak;
-    return classes >= 3 ? PwdStrong : PwdMedium;
+    return kinds >= 3 ? PwdStrong : PwdMedium;
 }
 
 } // namespace XCOMMON

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QString>
 
 namespace XCOMMON {
@@ -12,8 +14,8 @@ enum PwdStrength
     PwdStrong
 };
 
-/// Classes of characters are lower case, upper case, digits, and all others.
-/// Empty: invalid. Under 8 characters, or of one class only: weak. Three classes or more: strong. Else medium.
-PwdStrength checkPwdStrength(const QString &password);
+/// There are four kinds of characters: lower case, upper case, digits, and all others.
+/// Empty: invalid. Under 8 characters, or only one kind: weak. Two kinds: medium. Three kinds or more: strong.
+XCOMMON_EXPORT PwdStrength checkPwdStrength(const QString &password);
 
 } // namespace XCOMMON

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QLabel>
 
 namespace XCOMMON {
 
-/// The client's label, which the theme tells from other labels by its class.
-class XLabel : public QLabel
+/// The client's label. A style sheet can tell it from other labels by its class.
+class XCOMMON_EXPORT XLabel : public QLabel
 {
     Q_OBJECT
 

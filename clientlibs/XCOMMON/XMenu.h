@@ -1,11 +1,13 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QMenu>
 
 namespace XCOMMON {
 
-/// The client's context menu, which the theme tells from other menus by its class.
-class XMenu : public QMenu
+/// The client's context menu. A style sheet can tell it from other menus by its class.
+class XCOMMON_EXPORT XMenu : public QMenu
 {
     Q_OBJECT
 

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QTableWidget>
 
 namespace XCOMMON {
 
-/// The client's table. What it does is what QTableWidget does: a list that decides which devices are written to has no
-/// workings of its own.
-class XTableWidget : public QTableWidget
+/// The client's table. It adds nothing to QTableWidget: it shows which devices a run writes to, so it uses only what Qt
+/// itself tests.
+class XCOMMON_EXPORT XTableWidget : public QTableWidget
 {
     Q_OBJECT
 

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <XCOMMON/Export.h>
+
 #include <QWidget>
 
 namespace XCOMMON {
 
-/// Base of the client's widgets. Adds nothing to QWidget, so that a form's own operations come first.
-class XWidget : public QWidget
+/// Base of the client's widgets. It adds no virtual functions, so that those of BaseForm come first in the table of
+/// virtual functions, where modules expect them.
+class XCOMMON_EXPORT XWidget : public QWidget
 {
     Q_OBJECT
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <XCOMMON/XWidget.h>
+#include <orda_base/Export.h>
 
 namespace orda_base {
 
 /// Base of the screens that modules hand to the client.
-class BaseForm : public XCOMMON::XWidget
+class ORDA_BASE_EXPORT BaseForm : public XCOMMON::XWidget
 {
     Q_OBJECT
 
@@ -13,7 +14,8 @@ public:
     explicit BaseForm(QWidget *parent = nullptr);
     ~BaseForm() override;
 
-    /// Which of the client's forms this is; 0: none of the known ones. The first virtual operation that a form adds.
+    /// The client's number for this kind of form; 0 for a kind that the client does not know. This stays the first
+    /// virtual function, because modules are built against its place.
     virtual int formType() const;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QDateTime>
 #include <QObject>
 
@@ -10,7 +12,7 @@ class XTableWidget;
 namespace orda_base {
 
 /// Small services for all modules. GUI thread only.
-class BaseTools : public QObject
+class ORDA_BASE_EXPORT BaseTools : public QObject
 {
     Q_OBJECT
 
@@ -19,17 +21,17 @@ public:
 
     /// @param status a vms_sdk::DevStatus
     bool isDevOnline(int status);
-    /// "yyyy-MM-dd hh:mm:ss". @param withMilliseconds appends ".zzz" @param forFileName leaves out blanks and colons:
-    /// "yyyyMMdd-hhmmss"
+    /// The time as "yyyy-MM-dd hh:mm:ss". @param withMilliseconds appends ".zzz" @param forFileName true for
+    /// "yyyyMMdd-hhmmss", which has no blanks and colons
     QString strDatetime(const QDateTime &time, bool withMilliseconds, bool forFileName);
-    /// Numbers the rows of column 0 that can be seen from @p first on, top to bottom. Touches only cells whose text
-    /// changes. A table with the property "computedOrderNumbers" numbers itself and is only drawn anew.
+    /// Writes numbers from @p first on into column 0 of the rows that are not hidden, top to bottom. Sets only texts
+    /// that change. A table with the property "computedOrderNumbers" numbers its rows itself and is only repainted.
     void updateTableOrderNum(XCOMMON::XTableWidget *table, int first);
     /// Raises signalDevRemoteConfigOpened().
     void openDevRemoteConfig(const QString &devId);
 
-signals:
-    /// The client opens the device's remote-configuration screen.
+Q_SIGNALS:
+    /// Asks the client to open the remote configuration of the device.
     void signalDevRemoteConfigOpened(const QString &devId);
 
 private:

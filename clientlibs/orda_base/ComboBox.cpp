@@ -14,15 +14,15 @@ namespace {
 
 Q_LOGGING_CATEGORY(logUi, "orda.ui", QtWarningMsg)
 
-constexpr int mostItems = 16; // beyond these a list has a scroll bar
+constexpr int maxShownItems = 16; // a longer list gets a scroll bar
 
 } // namespace
 
 ComboBox::ComboBox(QWidget *parent)
     : QComboBox(parent)
 {
-    setMaxVisibleItems(mostItems);
-    setItemDelegate(new QStyledItemDelegate(this)); // the default one takes no heed of the theme's rows
+    setMaxVisibleItems(maxShownItems);
+    setItemDelegate(new QStyledItemDelegate(this)); // the default one ignores the row height of the theme
 }
 
 void ComboBox::setItemsData(const QList<QVariant> &values)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QComboBox>
 #include <QList>
 #include <QVariant>
@@ -7,22 +9,22 @@
 namespace orda_base {
 
 /// A combo box whose items carry values beside their texts.
-class ComboBox : public QComboBox
+class ORDA_BASE_EXPORT ComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
     explicit ComboBox(QWidget *parent = nullptr);
 
-    /// Gives the items their values (role Qt::UserRole), by index. Their number must be that of the items; a difference
-    /// is a mistake in the program: it is logged, and the values reach as far as they go.
+    /// Gives the items their values (role Qt::UserRole), by index. There must be one for each item: another number is a
+    /// mistake in the program, which is logged, and only the items that both have get values.
     void setItemsData(const QList<QVariant> &values);
 
-    /// The list that pops up is wide enough for all texts, however narrow the box is.
+    /// Opens a list that is wide enough for all texts, even when the box is narrower.
     void showPopup() override;
 
 protected:
-    /// A text that has no room stands as a whole in the tool tip.
+    /// Shows the whole text in the tool tip when the box is too narrow for it.
     bool event(QEvent *event) override;
 
 private:

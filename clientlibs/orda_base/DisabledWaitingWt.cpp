@@ -1,6 +1,5 @@
 #include "orda_base/DisabledWaitingWt.h"
 
-#include "orda_base/BusyIndicator.h"
 #include "orda_base/DisabledWaitingWtManager.h"
 
 #include <QAccessible>
@@ -8,6 +7,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QProgressBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -21,7 +21,7 @@ constexpr QColor veil(20, 30, 45, 90);
 constexpr int cardMinWidth = 260;
 constexpr int cardMargin = 24;
 constexpr std::chrono::milliseconds updateInterval{40};
-constexpr std::chrono::milliseconds announceInterval{2000}; // a voice needs that long for one text
+constexpr std::chrono::milliseconds announceInterval{2000}; // a screen reader needs that long for one text
 
 bool isInput(QEvent::Type type)
 {
@@ -71,10 +71,12 @@ DisabledWaitingWt::DisabledWaitingWt(QWidget *parent, const QString &description
     m_description->setTextFormat(Qt::PlainText);
     m_description->setAlignment(Qt::AlignCenter);
 
+    auto *busy = new QProgressBar(m_card);
+    busy->setRange(0, 0); // something goes on, nobody knows for how long
+    busy->setTextVisible(false);
     auto *cardLayout = new QVBoxLayout(m_card);
     cardLayout->setContentsMargins(cardMargin, cardMargin, cardMargin, cardMargin);
     cardLayout->setSpacing(cardMargin / 2);
-    cardLayout->addWidget(new BusyIndicator(m_card), 0, Qt::AlignHCenter);
     cardLayout->addWidget(m_description);
     if (!text.isEmpty()) {
         auto *hint = new QLabel(text, m_card);
@@ -82,6 +84,7 @@ DisabledWaitingWt::DisabledWaitingWt(QWidget *parent, const QString &description
         hint->setAlignment(Qt::AlignCenter);
         cardLayout->addWidget(hint);
     }
+    cardLayout->addWidget(busy);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_card, 0, Qt::AlignCenter);
 
@@ -95,6 +98,11 @@ DisabledWaitingWt::DisabledWaitingWt(QWidget *parent, const QString &description
 DisabledWaitingWt::~DisabledWaitingWt()
 {
     DisabledWaitingWtManager::instance().remove(m_uuid);
+}
+
+QUuid DisabledWaitingWt::getUuid() const
+{
+    return m_uuid;
 }
 
 void DisabledWaitingWt::updateDescription(const QString &description)
@@ -128,8 +136,8 @@ bool DisabledWaitingWt::eventFilter(QObject *watched, QEvent *event)
     } else if (event->type() == QEvent::Shortcut && coversShortcut(qobject_cast<QShortcut *>(watched))) {
         return true;
     } else if (covers(qobject_cast<QWidget *>(watched))) {
-        // What reaches the covered widgets past this one: a grabbed mouse, a button's mnemonic, a focus set by a
-        // program.
+        // Some events reach the covered widgets directly: of a grabbed mouse, of a button's mnemonic, and of a focus
+        // that a program has set.
         if (event->type() == QEvent::FocusIn) {
             setFocus();
         } else if (event->type() == QEvent::Shortcut || event->type() == QEvent::ShortcutOverride

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QPointer>
 #include <QTimer>
 #include <QUuid>
@@ -12,24 +14,24 @@ QT_END_NAMESPACE
 
 namespace orda_base {
 
-/// Covers a widget while something goes on: shows that it does, tells assistive technology how far it has got, and lets
-/// no mouse, key or shortcut through to it; the window around it keeps its menus and their shortcuts. Destroyed through
+/// Covers a widget while something goes on: shows that it does, reports the progress to assistive technology, and keeps
+/// mouse, keys and shortcuts from the widget. The menus of the window still work. Destroyed through
 /// DisabledWaitingWtManager, or with its parent. GUI thread only.
-class DisabledWaitingWt : public QWidget
+class ORDA_BASE_EXPORT DisabledWaitingWt : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @param parent covered wholly, also when it changes its size
-    /// @param description what goes on, updated as it does
-    /// @param text a second line that stays, such as a hint how long it may take
-    /// @param flag true: what is covered stays as bright as it is
+    /// @param parent is covered completely, also after it was resized
+    /// @param description what goes on; updateDescription() changes it
+    /// @param text a second line that does not change, such as a hint how long it may take
+    /// @param flag true: the covered widget is not darkened
     explicit DisabledWaitingWt(QWidget *parent, const QString &description, const QString &text = {},
                                bool flag = false);
     ~DisabledWaitingWt() override;
 
-    QUuid getUuid() const { return m_uuid; }
-    /// Seen within a few hundredths of a second: thousands of updates a second would be nothing but painting.
+    QUuid getUuid() const;
+    /// Shown after at most 40 ms: painting each of thousands of updates a second would take all the time there is.
     void updateDescription(const QString &description);
     QString description() const { return m_text; }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QHash>
 #include <QUuid>
 
@@ -7,14 +9,14 @@ namespace orda_base {
 
 class DisabledWaitingWt;
 
-/// Knows the overlays that live, so that they can be destroyed by whoever has only their id. GUI thread only.
-class DisabledWaitingWtManager
+/// Finds overlays by their ids, so that they can be destroyed without a pointer to them. GUI thread only.
+class ORDA_BASE_EXPORT DisabledWaitingWtManager
 {
 public:
     static DisabledWaitingWtManager &instance();
 
-    /// Hides the overlay at once and deletes it later; an id that is unknown, or of an overlay that died with its
-    /// parent, is fine.
+    /// Hides the overlay at once and deletes it later. Ignores an id that is unknown, or whose overlay was deleted with
+    /// its parent.
     void destroyDisabledWaitingWt(const QUuid &uuid);
 
 private:

@@ -1,17 +1,18 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QTableWidgetItem>
 
 namespace orda_base {
 
 /// A cell that sorts by the number of its IP address; cells without one come last.
-class IpTableItem : public QTableWidgetItem
+class ORDA_BASE_EXPORT IpTableItem : public QTableWidgetItem
 {
 public:
-    /// @param number the address in host byte order, for texts that are no IPv4 address; a text that is one has the
-    /// number of its own
-    ///        at all times, so that a changed address sorts right
-    /// @param type of the item, as QTableWidgetItem takes it
+    /// @param number the address in host byte order; used only while the text is no IPv4 address, so that a changed
+    /// text sorts by what it shows
+    /// @param type the item type of QTableWidgetItem
     IpTableItem(const QString &ip, quint32 number, int type);
 
     bool operator<(const QTableWidgetItem &other) const override;

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QObject>
 
 namespace orda_base {
 
-/// Base of the modules' entry classes. The operations are the client's calls in the life of a module; a module that
-/// needs none of them overrides none.
-class ModuleInitialization : public QObject
+/// Base of a module's entry class. The client calls these functions during the life of the module; a module overrides
+/// those that it needs.
+class ORDA_BASE_EXPORT ModuleInitialization : public QObject
 {
     Q_OBJECT
 
@@ -14,11 +16,11 @@ public:
     explicit ModuleInitialization(QObject *parent);
     ~ModuleInitialization() override;
 
-    /// Once, before the client's services run.
+    /// Called once, before the client's services run.
     virtual void init();
-    /// Once, when the client's services run.
+    /// Called once, when the client's services run.
     virtual void moduleInit();
-    /// At log-out: the module forgets what belongs to the operator.
+    /// Called at log-out: the module drops what belongs to the operator.
     virtual void recoveryToInitialState();
 };
 

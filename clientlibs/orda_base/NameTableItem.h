@@ -1,12 +1,13 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QTableWidgetItem>
 
 namespace orda_base {
 
-/// A cell that sorts as people read names: by the rules of the locale, numbers by their value ("cam 2" before "cam
-/// 10").
-class NameTableItem : public QTableWidgetItem
+/// A cell that sorts by nameCollator().
+class ORDA_BASE_EXPORT NameTableItem : public QTableWidgetItem
 {
 public:
     explicit NameTableItem(const QString &name);

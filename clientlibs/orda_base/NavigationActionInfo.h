@@ -7,8 +7,8 @@ namespace orda_base {
 /// A bar or an entry of the navigation.
 struct NavigationActionInfo
 {
-    QString title; ///< as the operator reads it
-    QString key; ///< by which programs know it; unique in a navigation
+    QString title; ///< shown to the operator
+    QString key; ///< for programs; unique in a navigation
 };
 
 } // namespace orda_base

@@ -1,5 +1,6 @@
 #include "orda_base/NavigationButton.h"
 
+#include "orda_base/ReturnPressesButton.h"
 #include "orda_base/Theme.h"
 
 #include <QAccessibleWidget>
@@ -14,14 +15,14 @@ constexpr int barHeight = 48;
 constexpr int entryHeight = 40;
 constexpr int iconPixels = 24;
 constexpr int iconLeft = 14;
-constexpr int textLeft = 48; // of bars and of their entries, so that they stand in line
+constexpr int textLeft = 48; // the same for bars and entries, so that their texts align
 constexpr int markWidth = 3;
 constexpr int textRight = 8;
 constexpr int arrowRight = 18;
 constexpr int arrowSize = 5;
 constexpr int textFlags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap; // a long text takes two lines
 
-// Modules draw their icons for light windows; on dark ones only their shape is of use.
+// The icons of modules are drawn for light windows, so on dark ones only their shape is kept.
 QPixmap inColour(QPixmap icon, const QColor &colour)
 {
     QPainter painter(&icon);
@@ -30,7 +31,7 @@ QPixmap inColour(QPixmap icon, const QColor &colour)
     return icon;
 }
 
-/// An entry is one of several pages, of which one is open; a folding bar is a button that shows and hides its entries.
+/// Tells which entry is open, as of the tabs of pages, and whether a folding bar shows its entries.
 class NavigationButtonAccess : public QAccessibleWidget
 {
 public:
@@ -96,6 +97,7 @@ NavigationButton::NavigationButton(Kind kind, const QString &title, QWidget *par
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
+    new ReturnPressesButton(this);
 }
 
 void NavigationButton::installAccess()
@@ -157,19 +159,10 @@ bool NavigationButton::event(QEvent *event)
 
 void NavigationButton::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
         moveFocus(event->key() == Qt::Key_Down);
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!event->isAutoRepeat())
-            click();
-        break;
-    default:
+    else
         QAbstractButton::keyPressEvent(event);
-    }
 }
 
 void NavigationButton::moveFocus(bool down) const

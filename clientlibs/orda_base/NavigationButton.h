@@ -1,13 +1,15 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QAbstractButton>
 #include <QIcon>
 
 namespace orda_base {
 
-/// A bar of the navigation, or an entry under one. The arrow keys go to the ones above and below, Space and Return
-/// press it; assistive technology learns whether it is current, or unfolded.
-class NavigationButton : public QAbstractButton
+/// A bar of the navigation, or an entry under a bar. The arrow keys move the focus to the button above or below; Space
+/// and Return press the button. Assistive technology is told which entry is open and which bars are unfolded.
+class ORDA_BASE_EXPORT NavigationButton : public QAbstractButton
 {
     Q_OBJECT
 
@@ -21,17 +23,17 @@ public:
 
     NavigationButton(Kind kind, const QString &title, QWidget *parent);
 
-    /// Makes assistive technology see navigations as such; to be called before their first name is set.
+    /// Describes navigations and their buttons to assistive technology. Call this before their first name is set.
     static void installAccess();
 
     void setIcons(const QIcon &normal, const QIcon &highlighted);
     Kind kind() const { return m_kind; }
     void setHighlighted(bool highlighted);
     bool isHighlighted() const { return m_isHighlighted; }
-    /// Of a folding bar: which way its arrow points.
+    /// For a folding bar: sets the direction of its arrow.
     void setUnfolded(bool unfolded);
     bool isUnfolded() const { return m_isUnfolded; }
-    /// Whether the text has room in one line or two; else it is elided, and the tool tip has the whole of it.
+    /// Whether the text fits in its one or two lines. If not, it is elided and the tool tip shows all of it.
     bool isTextWhole() const;
 
     QSize sizeHint() const override;

@@ -42,8 +42,8 @@ NavigationButton *NavigationWidget::addButton(int kind, const NavigationActionIn
     auto *button = new NavigationButton(NavigationButton::Kind(kind), info.title, this);
     button->setObjectName(info.key);
     m_layout->insertWidget(m_layout->count() - 1, button); // before the stretch
-    // Qt puts new widgets behind all others of the window; these belong where the navigation stands. It takes the focus
-    // only for setTabOrder(), which looks at that.
+    // Qt puts new widgets at the end of the window's tab order, but these belong where the navigation stands. The
+    // navigation takes the focus for a moment, because setTabOrder() ignores widgets that do not.
     const Qt::FocusPolicy policy = focusPolicy();
     setFocusPolicy(Qt::TabFocus);
     setTabOrder(m_lowest ? static_cast<QWidget *>(m_lowest) : this, button);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_base/Export.h>
 #include <orda_base/NavigationActionInfo.h>
 
 #include <QList>
@@ -14,37 +15,38 @@ namespace orda_base {
 
 class NavigationButton;
 
-/// A column of bars with icons. A bar either is an entry itself or opens and closes its entries. Every bar and entry is
-/// a QAbstractButton whose object name is its key; the Tab key goes through them from top to bottom. GUI thread only.
-class NavigationWidget : public QWidget
+/// A column of bars with icons. A bar either opens a page itself or shows and hides its entries, which open pages.
+/// Every bar and entry is a QAbstractButton whose object name is its key. The Tab key visits them from top to bottom.
+/// GUI thread only.
+class ORDA_BASE_EXPORT NavigationWidget : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit NavigationWidget(QWidget *parent = nullptr);
 
-    /// Adds a bar at the bottom, its entries shown.
-    /// @param normalIcon, highlightIcon paths of images; the second is for a bar that is current or has the current
-    /// entry
-    /// @param subActions the entries; none: the bar itself is one
-    /// @param owner for whom the navigation is; what the bar raises ends when it is deleted
+    /// Adds a bar at the bottom and shows its entries.
+    /// @param normalIcon, highlightIcon paths of images; the second is shown while the bar or one of its entries is
+    /// open
+    /// @param subActions the entries; when empty, the bar itself opens a page
+    /// @param owner whoever listens to this navigation; clicks are ignored once it is deleted
     void addNavigationBar(const QString &normalIcon, const QString &highlightIcon, const NavigationActionInfo &info,
                           const QList<NavigationActionInfo> &subActions, QWidget *owner);
-    /// Makes the entry current as a click would, but raises no signal. @return the key; empty when there is no such
-    /// entry
+    /// Highlights the entry as a click would, but raises no signal. @return the key, or an empty text when no entry has
+    /// it
     QString setDefaultAction(const QString &key);
-    /// The current entry's key; empty before there is one.
+    /// The key of the highlighted entry; empty while there is none.
     QString currentKey() const { return m_currentKey; }
 
-signals:
-    /// A bar or an entry was clicked. A bar that only opens its entries says so too, without becoming current.
+Q_SIGNALS:
+    /// A bar or an entry was clicked. Also raised for a bar that only shows or hides its entries.
     void signalCurAction(const QString &key);
 
 private:
     struct Entry
     {
         NavigationButton *button;
-        NavigationButton *bar; ///< the one that it stands under, or itself
+        NavigationButton *bar; ///< the bar above the entry; the same as button when the bar itself is the entry
     };
 
     NavigationButton *addButton(int kind, const NavigationActionInfo &info);

@@ -18,7 +18,7 @@ bool PlainTextDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, co
 {
     if (event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    // QToolTip reads everything as HTML that looks like it, so it is given HTML that shows the text as it stands.
+    // QToolTip takes any text for HTML that looks like it, so it gets HTML in which the text is escaped.
     QString tip = vms_sdk::displayText(index.data(Qt::ToolTipRole).toString());
     const bool hasTip = !tip.isEmpty();
     if (hasTip)

@@ -4,9 +4,8 @@
 
 namespace orda_base {
 
-/// Shows texts that others have chosen, such as the names of devices, as they stand: tool tips are never read as HTML,
-/// and characters that cannot be seen but change the order or the look of others are shown as a mark. The data of the
-/// cells stays as it is.
+/// Shows texts from outside, such as names of devices, safely: tool tips are never read as HTML, and invisible
+/// characters that could change how the others look are shown as a mark. The data of the cells does not change.
 class PlainTextDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -51,7 +51,7 @@ bool SearchBox::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::ShortcutOverride && !isPress)
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent *>(event)->key();
-    // An empty line leaves Esc to the window, which may be a dialog that closes on it.
+    // While the line is empty, Esc goes to the window, which may be a dialog that closes.
     if (key == Qt::Key_Escape && !m_edit->text().isEmpty()) {
         if (isPress)
             m_edit->clear();
@@ -60,7 +60,7 @@ bool SearchBox::eventFilter(QObject *watched, QEvent *event)
     }
     if (isPress && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
         emit signalSearchByKeyword(m_edit->text());
-        return true; // a dialog around it would press a button of its own
+        return true; // otherwise a dialog around it would press its default button
     }
     return QWidget::eventFilter(watched, event);
 }

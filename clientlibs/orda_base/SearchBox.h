@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -8,8 +10,9 @@ QT_END_NAMESPACE
 
 namespace orda_base {
 
-/// A line to search by: looks at every key stroke and at Return; Esc or its button clears it. GUI thread only.
-class SearchBox : public QWidget
+/// A line edit for a search. It searches at every change of the text and at Return; Esc or its button clears it. GUI
+/// thread only.
+class ORDA_BASE_EXPORT SearchBox : public QWidget
 {
     Q_OBJECT
 
@@ -18,15 +21,15 @@ public:
 
     QString text() const;
 
-signals:
-    /// @param keyword the text as it stands; empty when it was cleared
+Q_SIGNALS:
+    /// @param keyword the present text; empty when the line was cleared
     void signalSearchByKeyword(const QString &keyword);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void nameIcon(const QString &name); ///< the one that has just been added
+    void nameIcon(const QString &name); ///< names the icon that was added last
 
     QLineEdit *m_edit;
 };

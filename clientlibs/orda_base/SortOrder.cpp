@@ -5,11 +5,11 @@
 
 namespace orda_base {
 
-// Costly to make, so one for all.
+// One for all, because it is slow to make.
 const QCollator &nameCollator()
 {
     static const QCollator shared = [] {
-        // The C locale knows no numbers in texts.
+        // The C locale cannot compare numbers in texts.
         const QLocale locale;
         QCollator made(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
         made.setNumericMode(true);

@@ -45,7 +45,7 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
                 if (topLeft.column() == checkColumn && roles.contains(Qt::CheckStateRole) && !m_isTickingAll)
                     updateAllBox();
             });
-    // Not within each of these signals: it looks at every row, and thousands may change at a time.
+    // Later and once, because thousands of rows may change at a time and each update looks at all rows.
     const auto updateSoon = [this] {
         if (!m_updateSoon.isActive())
             m_updateSoon.start();
@@ -55,9 +55,16 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
     // A row that is hidden or shown again gets another height.
     connect(table->verticalHeader(), &QHeaderView::sectionResized, this, updateSoon);
     // A tri-state box would go to "partly" at every third click; a click on it means all or none.
-    connect(all, &QCheckBox::clicked, this, [this](bool checked) {
+    const auto tickAll = [this](bool checked) {
         m_all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         setVisibleRows(checked);
+    };
+    connect(all, &QCheckBox::clicked, this, tickAll);
+    // Assistive technology toggles the box without a click. A change that comes from the rows ticks nothing: then the
+    // box is partly checked, or all rows are as it says.
+    connect(all, &QCheckBox::toggled, this, [this, tickAll](bool checked) {
+        if (m_all->checkState() != Qt::PartiallyChecked)
+            tickAll(checked);
     });
     table->setAccessibleDescription(tr("Space ticks and unticks the selected rows"));
     table->installEventFilter(this);
@@ -93,7 +100,7 @@ void TableOperWtStyle::toggleSelectedRows()
     for (const QModelIndex &index : selected)
         add(index.row());
     if (items.isEmpty())
-        add(m_table->currentRow()); // the keys move without selecting, with Ctrl
+        add(m_table->currentRow()); // Ctrl and an arrow key move to a row without selecting it
     m_isTickingAll = true;
     for (QTableWidgetItem *item : qAsConst(items))
         item->setCheckState(areAllChecked ? Qt::Unchecked : Qt::Checked);
@@ -133,7 +140,7 @@ void TableOperWtStyle::alignHeader()
 
 bool TableOperWtStyle::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize) // the scroll bar comes and goes
+    if (event->type() == QEvent::Resize) // the scroll bar has come or gone
         alignHeader();
     if (event->type() == QEvent::KeyPress && watched == m_table) {
         const auto *key = static_cast<QKeyEvent *>(event);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -16,9 +18,9 @@ class XTableWidget;
 
 namespace orda_base {
 
-/// Ties an "All" check box and a header row of its own to a table with check marks in column 0, and lets the Space key
-/// tick the selected rows.
-class TableOperWtStyle : public QObject
+/// Connects a table that has check marks in column 0 with an "All" check box and a separate header row, and lets the
+/// Space key tick the selected rows.
+class ORDA_BASE_EXPORT TableOperWtStyle : public QObject
 {
     Q_OBJECT
 
@@ -26,12 +28,10 @@ public:
     explicit TableOperWtStyle(QObject *parent);
 
     /// Called once; none of the widgets is owned.
-    /// @param all ticks and unticks the rows that can be seen; its state speaks of these. Rows that are hidden are
-    /// never touched.
-    /// @param header lays out the header row; it keeps clear of the table's scroll bar, so that headers stand over
-    /// their columns.
-    ///        Null: the table has its own header.
-    /// @param hiddenColumns not shown, in the table and in the header row
+    /// @param all ticks and unticks the rows that are not hidden, and shows the state of these rows only
+    /// @param header the layout of the header row; its margins follow the table's scroll bar, so that headers stay over
+    /// their columns. Null when the table shows its own header.
+    /// @param hiddenColumns are hidden in the table and in the header row
     void setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLayout *header, const QList<int> &hiddenColumns);
 
 protected:
@@ -46,7 +46,7 @@ private:
     QPointer<QCheckBox> m_all;
     QPointer<XCOMMON::XTableWidget> m_table;
     QPointer<QLayout> m_header;
-    QTimer m_updateSoon; // brings the box up to date at the next turn of the event loop
+    QTimer m_updateSoon; // updates the "All" box once for many changes
     bool m_isTickingAll = false;
 };
 

@@ -17,16 +17,16 @@ constexpr int rowPixels = 32;
 TableWidget::TableWidget(QWidget *parent)
     : XCOMMON::XTableWidget(parent)
 {
-    TableAccess::install(this);
+    installTableAccess(this);
     setSelectionBehavior(SelectRows);
     setVerticalScrollMode(ScrollPerPixel);
     setAlternatingRowColors(true);
     setWordWrap(false);
     setItemDelegate(new PlainTextDelegate(this));
-    // Rows of one fixed height: measuring contents would look at every row.
+    // All rows have the same height, because measuring contents would look at every row.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(rowPixels);
-    setTabKeyNavigation(false); // Tab leaves the table; it would go through each of its cells first
+    setTabKeyNavigation(false); // so that Tab leaves the table at once
 }
 
 void TableWidget::focusInEvent(QFocusEvent *event)
@@ -34,7 +34,7 @@ void TableWidget::focusInEvent(QFocusEvent *event)
     XCOMMON::XTableWidget::focusInEvent(event);
     if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::PopupFocusReason)
         return;
-    // Else nothing would show where the keys go.
+    // Without a selected row nothing would show where the focus is.
     int row = qMax(0, currentRow());
     if (row < rowCount() && isRowHidden(row))
         for (row = 0; row < rowCount() && isRowHidden(row);)

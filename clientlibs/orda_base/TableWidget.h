@@ -1,13 +1,14 @@
 #pragma once
 
+#include <orda_base/Export.h>
 #include <XCOMMON/XTableWidget.h>
 
 namespace orda_base {
 
-/// The table of the client's lists: whole rows, smooth scrolling, no focus frame around single cells; one stop of the
-/// Tab key. Its check marks can be read and toggled by assistive technology. Texts and tool tips are shown as plain
-/// text, for they come from devices.
-class TableWidget : public XCOMMON::XTableWidget
+/// The table of the client's lists. It selects whole rows, scrolls smoothly, and is one stop of the Tab key. Assistive
+/// technology can read and toggle its check marks. Texts and tool tips are shown as plain text, because they come from
+/// devices.
+class ORDA_BASE_EXPORT TableWidget : public XCOMMON::XTableWidget
 {
     Q_OBJECT
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orda_base/Export.h>
+
 #include <QString>
 
 QT_BEGIN_NAMESPACE
@@ -9,15 +11,15 @@ QT_END_NAMESPACE
 
 namespace orda_base {
 
-/// The one look of all windows. What a module asks for by dynamic properties (their presence counts, not their value):
-/// "common_bt_style1" and "common_bt_style2" on a push button: the main action, and the one beside it;
-/// "page_caption" on a label: a heading; "page_card" on a widget: a framed area.
-class Theme
+/// The style of all windows. A module chooses some of it by dynamic properties, which count whatever their value is:
+/// "common_bt_style1" and "common_bt_style2" on a push button for the main and the second action; "page_caption" and
+/// "dialog_caption" on a label for headings; "page_card" on a widget for a framed area.
+class ORDA_BASE_EXPORT Theme
 {
 public:
     enum Scheme
     {
-        FollowPalette, ///< dark where the application's palette is: light text on dark windows
+        FollowPalette, ///< dark when the palette of the application is dark
         Light,
         Dark
     };
@@ -25,10 +27,10 @@ public:
     /// Called once, before the first window is made.
     static void apply(QApplication &app, Scheme scheme = FollowPalette);
 
-    /// Whether its texts are lighter than its windows.
+    /// Whether the texts of the palette are lighter than its windows.
     static bool isDark(const QPalette &palette);
 
-    /// Path of one of the theme's own images, such as "search", as the scheme has it.
+    /// The path of an image of the theme, such as "search", in the colours of the scheme.
     static QString image(const QString &name);
 };
 

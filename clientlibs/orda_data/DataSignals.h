@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_data/Export.h>
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QObject>
@@ -8,18 +9,18 @@
 namespace orda_data {
 
 /// Changes of the device store (DevsMgrData), raised on the GUI thread after the store has changed.
-class DataSignals : public QObject
+class ORDA_DATA_EXPORT DataSignals : public QObject
 {
     Q_OBJECT
 
 public:
     static DataSignals &instance();
 
-signals:
+Q_SIGNALS:
     void signalDevStatusChanged(const QString &devId, vms_sdk::DevStatus status);
-    /// Records were added or replaced. The store raises both flags set; listeners act on the first.
+    /// Records were added or replaced. The store sets both flags. Listeners need to look at the first one only.
     void signalUpdateDevs(const QList<vms_sdk::DevInfo> &devs, bool recordsChanged, bool listChanged);
-    /// Records were removed. The store raises the flag set.
+    /// Records were removed. The store always sets the flag.
     void signalDeleteDevs(const QStringList &devIds, bool recordsRemoved);
 
 private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orda_data/Export.h>
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QHash>
@@ -11,10 +12,10 @@ namespace orda_data {
 
 using vms_sdk::DevInfo;
 
-/// The device store: the records that the client knows, and their states, which follow the SDK's
-/// (ClientSignals::signalDevStatusChanged) from the first use on. GUI thread only. Changes are raised through
-/// DataSignals.
-class DevsMgrData : public QObject
+/// The device store: the records of all devices and their states. It takes the states from the SDK
+/// (ClientSignals::signalDevStatusChanged), from the first call of instance() on. It reports changes through
+/// DataSignals. GUI thread only.
+class ORDA_DATA_EXPORT DevsMgrData : public QObject
 {
     Q_OBJECT
 
@@ -23,20 +24,20 @@ public:
 
     /// In the order in which the records were first added.
     QList<DevInfo> getAllDevs(bool onlineOnly) const;
-    /// As many as getAllDevs() has, without copying them.
+    /// The number of records that getAllDevs() would return.
     int devCount(bool onlineOnly) const;
-    /// The record with an empty id when @p devId is unknown.
+    /// When @p devId is unknown, a record whose id is empty.
     DevInfo getDevInfoById(const QString &devId) const;
     /// DevOffline when @p devId is unknown.
     vms_sdk::DevStatus getDevStatus(const QString &devId) const;
 
-    /// Adds new records, offline, and replaces known ones, which keep their place and state. Raises
-    /// signalUpdateDevs(devs, true, true). Records go in here before they go to the transport: the state of an unknown
-    /// device is not kept.
+    /// Adds new records as offline and replaces known ones, which keep their place and state. Raises
+    /// signalUpdateDevs(devs, true, true). Call this before the transport gets the records, because the store ignores
+    /// the states of devices that it does not know.
     void updateDevs(const QList<DevInfo> &devs);
-    /// Forgets records and states; unknown ids are passed over. Raises signalDeleteDevs(devIds, true).
+    /// Removes records and states, and ignores unknown ids. Raises signalDeleteDevs(devIds, true).
     void deleteDevs(const QStringList &devIds);
-    /// Does nothing for an unknown id; raises signalDevStatusChanged on a change only.
+    /// Ignores unknown ids. Raises signalDevStatusChanged only when the state changes.
     void setDevStatus(const QString &devId, vms_sdk::DevStatus status);
 
 private:

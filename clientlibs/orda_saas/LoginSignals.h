@@ -1,22 +1,23 @@
 #pragma once
 
+#include <orda_saas/Export.h>
+
 #include <QObject>
 
 namespace orda_saas {
 
 /// What happens to the operator's login at the cloud service. Raised on the GUI thread.
-class LoginSignals : public QObject
+class ORDA_SAAS_EXPORT LoginSignals : public QObject
 {
     Q_OBJECT
 
 public:
     static LoginSignals &instance();
 
-signals:
-    /// The operator has logged out: rights that came with the login are gone.
+Q_SIGNALS:
+    /// The operator has logged out and has lost the rights that came with the login.
     void signalSaasLogoutSuccess();
-    /// The enterprise that the operator works for, and with it the rights, may have changed. @param status the
-    /// service's own code
+    /// The operator's enterprise may have changed, and so may the rights. @param status the code as the service sent it
     void signalEnterpriseStatus(int status);
 
 private:

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <orda_worker/Export.h>
+
 #include <QCoreApplication>
 #include <QString>
 
 namespace orda_worker {
 
-/// Texts that all modules share. GUI thread only.
-class DictDef
+/// Texts that all modules use. GUI thread only.
+class ORDA_WORKER_EXPORT DictDef
 {
     Q_DECLARE_TR_FUNCTIONS(DictDef)
 

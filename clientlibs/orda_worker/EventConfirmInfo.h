@@ -9,7 +9,7 @@ namespace orda_worker {
 /// A question to the operator. Esc, or closing the dialog, counts as its last button.
 struct EventConfirmInfo
 {
-    QString uuid; ///< by which the asker knows the answer
+    QString uuid; ///< comes back with the answer
     QString title;
     QString text;
     QStringList buttons; ///< texts, in the order of the buttons

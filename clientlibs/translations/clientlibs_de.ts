@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>CheckedJson</name>
+    <message>
+        <source>must be a text in quotes</source>
+        <translation>muss ein Text in Anführungszeichen sein</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>muss eine ganze Zahl von %1 bis %2 sein</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>muss true oder false sein</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>muss einer dieser Werte sein: %1</translation>
+    </message>
+    <message>
+        <source>field &quot;%1&quot;: %2</source>
+        <translation>Feld „%1“: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>is not JSON: %1 at byte %2</source>
+        <translation>ist kein JSON: %1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>unknown key &quot;%1&quot; is not used</source>
+        <translation>unbekannter Schlüssel „%1“ wird nicht verwendet</translation>
+    </message>
+    <message>
+        <source>must be a list of objects</source>
+        <translation>muss eine Liste von Objekten sein</translation>
+    </message>
+    <message>
+        <source>%1: must be an object</source>
+        <translation>%1: muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>%1: unknown key &quot;%2&quot; is not used</source>
+        <translation>%1: unbekannter Schlüssel „%2“ wird nicht verwendet</translation>
+    </message>
+</context>
+<context>
     <name>DictDef</name>
     <message>
         <source>Notice</source>
@@ -11,24 +62,8 @@
 <context>
     <name>Inventory</name>
     <message>
-        <source>field &quot;%1&quot;: %2</source>
-        <translation>Feld „%1“: %2</translation>
-    </message>
-    <message>
-        <source>must be a text in quotes</source>
-        <translation>muss ein Text in Anführungszeichen sein</translation>
-    </message>
-    <message>
         <source>must not hold line breaks, tabs or control characters</source>
         <translation>darf keine Zeilenumbrüche, Tabulatoren oder Steuerzeichen enthalten</translation>
-    </message>
-    <message>
-        <source>must be a whole number from %1 to %2</source>
-        <translation>muss eine ganze Zahl von %1 bis %2 sein</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>muss true oder false sein</translation>
     </message>
     <message>
         <source>must be an IPv4 address such as 192.168.1.20, or empty where &quot;url&quot; is given</source>
@@ -67,38 +102,6 @@
         <translation>ist ohne TLS nutzlos: tls auf true setzen oder eine wss:-Adresse angeben</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>kann nicht gelesen werden: %1</translation>
-    </message>
-    <message>
-        <source>is not JSON: %1 at byte %2</source>
-        <translation>ist kein JSON: %1 bei Byte %2</translation>
-    </message>
-    <message>
-        <source>must be an object with a list &quot;devices&quot;</source>
-        <translation>muss ein Objekt mit einer Liste „devices“ sein</translation>
-    </message>
-    <message>
-        <source>%1: unknown key &quot;%2&quot; is not used</source>
-        <translation>%1: unbekannter Schlüssel „%2“ wird nicht verwendet</translation>
-    </message>
-    <message>
-        <source>%1: field &quot;%2&quot;: must not be the same as in %3</source>
-        <translation>%1: Feld „%2“: darf nicht dasselbe sein wie in %3</translation>
-    </message>
-    <message>
-        <source>devices[%1] (id &quot;%2&quot;)</source>
-        <translation>devices[%1] (id „%2“)</translation>
-    </message>
-    <message>
-        <source>%1: must be an object</source>
-        <translation>%1: muss ein Objekt sein</translation>
-    </message>
-    <message>
         <source>%1: cannot be written: %2</source>
         <translation>%1: kann nicht geschrieben werden: %2</translation>
     </message>
@@ -111,8 +114,12 @@
         <translation>enthält Kennwörter und ist für andere lesbar oder veränderbar; bitte den Modus auf 0600 setzen (chmod 600)</translation>
     </message>
     <message>
-        <source>unknown key &quot;%1&quot; is not used</source>
-        <translation>unbekannter Schlüssel „%1“ wird nicht verwendet</translation>
+        <source>must not be the same as in %1</source>
+        <translation>darf nicht dasselbe sein wie in %1</translation>
+    </message>
+    <message>
+        <source>%1 (id &quot;%2&quot;)</source>
+        <translation>%1 (id „%2“)</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>CheckedJson</name>
+    <message>
+        <source>must be a text in quotes</source>
+        <translation>必须是带引号的文本</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>必须是 %1 到 %2 之间的整数</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>必须是以下之一：%1</translation>
+    </message>
+    <message>
+        <source>field &quot;%1&quot;: %2</source>
+        <translation>字段“%1”：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>is not JSON: %1 at byte %2</source>
+        <translation>不是 JSON：第 %2 字节处 %1</translation>
+    </message>
+    <message>
+        <source>unknown key &quot;%1&quot; is not used</source>
+        <translation>未知键“%1”未被使用</translation>
+    </message>
+    <message>
+        <source>must be a list of objects</source>
+        <translation>必须是对象列表</translation>
+    </message>
+    <message>
+        <source>%1: must be an object</source>
+        <translation>%1：必须是对象</translation>
+    </message>
+    <message>
+        <source>%1: unknown key &quot;%2&quot; is not used</source>
+        <translation>%1：未知键“%2”未被使用</translation>
+    </message>
+</context>
+<context>
     <name>DictDef</name>
     <message>
         <source>Notice</source>
@@ -11,24 +62,8 @@
 <context>
     <name>Inventory</name>
     <message>
-        <source>field &quot;%1&quot;: %2</source>
-        <translation>字段“%1”：%2</translation>
-    </message>
-    <message>
-        <source>must be a text in quotes</source>
-        <translation>必须是带引号的文本</translation>
-    </message>
-    <message>
         <source>must not hold line breaks, tabs or control characters</source>
         <translation>不得包含换行符、制表符或控制字符</translation>
-    </message>
-    <message>
-        <source>must be a whole number from %1 to %2</source>
-        <translation>必须是 %1 到 %2 之间的整数</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>必须是 true 或 false</translation>
     </message>
     <message>
         <source>must be an IPv4 address such as 192.168.1.20, or empty where &quot;url&quot; is given</source>
@@ -67,38 +102,6 @@
         <translation>没有 TLS 时无用：请将 tls 设为 true 或给出 wss: 地址</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>无法读取：%1</translation>
-    </message>
-    <message>
-        <source>is not JSON: %1 at byte %2</source>
-        <translation>不是 JSON：第 %2 字节处 %1</translation>
-    </message>
-    <message>
-        <source>must be an object with a list &quot;devices&quot;</source>
-        <translation>必须是包含“devices”列表的对象</translation>
-    </message>
-    <message>
-        <source>%1: unknown key &quot;%2&quot; is not used</source>
-        <translation>%1：未知键“%2”未被使用</translation>
-    </message>
-    <message>
-        <source>%1: field &quot;%2&quot;: must not be the same as in %3</source>
-        <translation>%1：字段“%2”：不得与 %3 相同</translation>
-    </message>
-    <message>
-        <source>devices[%1] (id &quot;%2&quot;)</source>
-        <translation>devices[%1]（id“%2”）</translation>
-    </message>
-    <message>
-        <source>%1: must be an object</source>
-        <translation>%1：必须是对象</translation>
-    </message>
-    <message>
         <source>%1: cannot be written: %2</source>
         <translation>%1：无法写入：%2</translation>
     </message>
@@ -111,8 +114,12 @@
         <translation>包含密码且其他用户可读取或修改；请将其权限设为 0600（chmod 600）</translation>
     </message>
     <message>
-        <source>unknown key &quot;%1&quot; is not used</source>
-        <translation>未知键“%1”未被使用</translation>
+        <source>must not be the same as in %1</source>
+        <translation>不得与 %1 相同</translation>
+    </message>
+    <message>
+        <source>%1 (id &quot;%2&quot;)</source>
+        <translation>%1（id“%2”）</translation>
     </message>
 </context>
 <context>

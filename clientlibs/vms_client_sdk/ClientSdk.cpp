@@ -1,10 +1,11 @@
-#include "ClientSdk.h"
+#include <vms_client_sdk/ClientSdk.h>
 
-#include "ClientSignals.h"
-#include "DeviceTransport.h"
-#include "Inbox.h"
-#include "Logging.h"
-#include "Requests.h"
+#include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/Inbox.h>
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/PendingRequests.h>
+#include <vms_client_sdk/Requests.h>
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -16,9 +17,10 @@ namespace vms_sdk {
 
 namespace {
 
-constexpr qint64 sliceMs = 8; // as the inbox's
+constexpr qint64 sliceMs = 8; // the same as the inbox has
 
-// So long a time-out waits for answers that came before it: devices that answer without end must not keep a run alive.
+// How long a time-out may wait for answers that arrived before it. Without a limit, devices that answer without end
+// would keep a run from ending.
 constexpr qint64 maxTimeoutDelayMs = 5'000;
 
 } // namespace
@@ -30,6 +32,7 @@ ClientSdk &ClientSdk::instance()
 }
 
 ClientSdk::ClientSdk()
+    : m_pending(std::make_unique<PendingRequests>())
 {
     m_clock.start();
     m_timer.setSingleShot(true);
@@ -46,7 +49,7 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
     m_transport.reset();
     m_inbox.reset();
     m_answersFirst = 0;
-    m_pending.clear();
+    m_pending->clear();
     m_timedOut.clear();
     m_timer.stop();
 
@@ -59,7 +62,7 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
         else if (const auto *change = std::get_if<Inbox::StatusChange>(&item))
             raise([=](ClientSignals &sdk) { emit sdk.signalDevStatusChanged(change->devId, change->status); });
     });
-    // On the thread that raises them: the inbox brings them over.
+    // Direct, on the thread that raises them: the inbox carries them to this thread.
     QObject::connect(
         m_transport.get(), &DeviceTransport::answered, m_inbox.get(),
         [inbox = m_inbox.get()](const QString &requestId, const QString &text) {
@@ -76,17 +79,17 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
 
 void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
 {
-    m_pending.advanceTo(m_clock.elapsed());
-    m_pending.setTimeout(timeout);
+    m_pending->advanceTo(m_clock.elapsed());
+    m_pending->setTimeout(timeout);
     if (m_timer.isActive())
-        startTimer(); // at the new pace
+        startTimer(); // the ticks are of another length now
 }
 
 void ClientSdk::send(const QString &requestId, const QString &devId, const QString &text)
 {
     Q_ASSERT(QThread::currentThread() == m_timer.thread());
-    m_pending.advanceTo(m_clock.elapsed());
-    m_pending.add(requestId);
+    m_pending->advanceTo(m_clock.elapsed());
+    m_pending->add(requestId);
     if (!m_timer.isActive())
         startTimer();
 
@@ -100,8 +103,8 @@ void ClientSdk::send(const QString &requestId, const QString &devId, const QStri
 void ClientSdk::renew(const QString &requestId)
 {
     if (!m_isClockFresh)
-        m_pending.advanceTo(m_clock.elapsed());
-    m_pending.renew(requestId);
+        m_pending->advanceTo(m_clock.elapsed());
+    m_pending->renew(requestId);
 }
 
 void ClientSdk::watchEventLoop()
@@ -119,7 +122,7 @@ template <typename Raise>
 void ClientSdk::raise(Raise signal)
 {
     watchEventLoop();
-    m_pending.advanceTo(m_clock.elapsed());
+    m_pending->advanceTo(m_clock.elapsed());
     m_isClockFresh = true;
     signal(ClientSignals::instance());
     m_isClockFresh = false;
@@ -134,7 +137,7 @@ void ClientSdk::passOnAnswer(const QString &requestId, const QString &text)
 
 void ClientSdk::checkTimeouts()
 {
-    // An answer that came in time, to a thread that was busy, goes before the time-out.
+    // An answer that arrived in time, while this thread was busy, is passed on before the time-out.
     if (m_inbox && m_timedOut.isEmpty()) {
         if (m_answersFirst == 0) {
             m_answersFirst = m_inbox->putCount();
@@ -146,17 +149,16 @@ void ClientSdk::checkTimeouts()
         }
         m_answersFirst = 0;
     }
-    m_pending.advanceTo(m_clock.elapsed());
-    m_timedOut += m_pending.takeDue();
-    // Before the signals: a listener may wait in an event loop of its own, and the others' time-outs must come all the
-    // same.
-    if (!m_pending.isEmpty() || !m_timedOut.isEmpty())
+    m_pending->advanceTo(m_clock.elapsed());
+    m_timedOut += m_pending->takeDue();
+    // Before the signals: a listener may run an event loop of its own, in which the other time-outs must still come.
+    if (!m_pending->isEmpty() || !m_timedOut.isEmpty())
         startTimer();
     QElapsedTimer slice;
     slice.start();
     while (!m_timedOut.isEmpty()) {
         if (slice.elapsed() >= sliceMs) {
-            m_timer.start(0); // the event loop has its turn
+            m_timer.start(0); // let the event loop handle other events first
             return;
         }
         raise([id = m_timedOut.takeFirst()](ClientSignals &sdk) { emit sdk.signalRequestTimeout(id, QVariant()); });
@@ -165,10 +167,11 @@ void ClientSdk::checkTimeouts()
 
 void ClientSdk::startTimer()
 {
-    m_timer.start(int(m_pending.untilNextTick()));
+    m_timer.start(int(m_pending->untilNextTick()));
 }
 
-// Requests.h: here, because a run of 10,000 devices calls the second 5 * 10^7 times.
+// The functions of Requests.h are in this file so that renew() can be inlined: a run over 10,000 devices calls it
+// 5 * 10^7 times.
 
 void common_req(const QString &requestId, const QString &devId, const QString &text)
 {

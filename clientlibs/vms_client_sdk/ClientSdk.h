@@ -1,11 +1,12 @@
 #pragma once
 
-#include <vms_client_sdk/DevInfo.h>
-#include <vms_client_sdk/PendingRequests.h>
+#include <vms_client_sdk/Export.h>
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QStringList>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 
 class QAbstractEventDispatcher;
@@ -14,10 +15,11 @@ namespace vms_sdk {
 
 class DeviceTransport;
 class Inbox;
+class PendingRequests;
 
 /// The SDK itself: hands requests to the transport, raises answers, states and time-outs (ClientSignals). GUI thread
 /// only.
-class ClientSdk
+class VMS_CLIENT_SDK_EXPORT ClientSdk
 {
 public:
     static ClientSdk &instance();
@@ -37,7 +39,7 @@ private:
     ClientSdk();
     ~ClientSdk();
 
-    /// Calls listeners. Their renewals, thousands for each answer, go by one reading of the clock.
+    /// Calls the listeners. Reads the clock once for all their renewals, which are thousands for each answer.
     template <typename Raise>
     void raise(Raise signal);
     void watchEventLoop();
@@ -46,14 +48,14 @@ private:
     void startTimer();
 
     std::unique_ptr<DeviceTransport> m_transport;
-    std::unique_ptr<Inbox> m_inbox; ///< of this transport: what it raised and was not passed on goes with it
-    PendingRequests m_pending;
+    std::unique_ptr<Inbox> m_inbox; ///< one for each transport: what is still in it is dropped with the transport
+    std::unique_ptr<PendingRequests> m_pending;
     QStringList m_timedOut; ///< taken out of m_pending, time-out not raised yet
-    quint64 m_answersFirst = 0; ///< number of answers that arrived before the deadline and must be passed on first
-    qint64 m_answersFirstSince = 0; ///< of m_clock: when they began to hold up the time-outs
+    quint64 m_answersFirst = 0; ///< the inbox must have passed on this many items before time-outs are raised
+    qint64 m_answersFirstSince = 0; ///< since when, by m_clock, the time-outs have waited for these items
     QElapsedTimer m_clock;
-    /// A signal is being raised, and no event loop has turned since the clock was read: a listener may wait in one of
-    /// its own, for as long as it likes.
+    /// True while a signal is being raised and the time read for it still holds. A listener may run an event loop of
+    /// its own, for any time: then the clock must be read again.
     bool m_isClockFresh = false;
     QPointer<QAbstractEventDispatcher> m_eventLoop;
     QTimer m_timer;

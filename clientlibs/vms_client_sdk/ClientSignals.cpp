@@ -1,10 +1,10 @@
-#include "ClientSignals.h"
+#include <vms_client_sdk/ClientSignals.h>
 
 namespace vms_sdk {
 
 ClientSignals::ClientSignals()
 {
-    // By name, for queued connections and whoever looks the types up as text.
+    // Queued connections and QMetaType::type() find these types by their names.
     qRegisterMetaType<DevStatus>("vms_sdk::DevStatus");
     qRegisterMetaType<DevInfo>("vms_sdk::DevInfo");
     qRegisterMetaType<QList<DevInfo>>("QList<vms_sdk::DevInfo>");

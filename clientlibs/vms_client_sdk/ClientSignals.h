@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/Export.h>
 
 #include <QObject>
 #include <QVariant>
@@ -8,14 +9,14 @@
 namespace vms_sdk {
 
 /// What the SDK has to tell. Every signal is raised on the GUI thread, from its event loop.
-class ClientSignals : public QObject
+class VMS_CLIENT_SDK_EXPORT ClientSignals : public QObject
 {
     Q_OBJECT
 
 public:
     static ClientSignals &instance();
 
-signals:
+Q_SIGNALS:
     /// A device's answer, verbatim. Comes for every answer, those to ids that nobody awaits included, and as often as
     /// the device answers.
     void signalCommonRes(const QString &requestId, const QString &text);

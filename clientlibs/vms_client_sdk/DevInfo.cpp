@@ -1,4 +1,4 @@
-#include "DevInfo.h"
+#include <vms_client_sdk/DevInfo.h>
 
 #include <tuple>
 

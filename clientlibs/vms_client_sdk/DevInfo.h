@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/Export.h>
+
 #include <QList>
 #include <QMetaType>
 #include <QString>
@@ -13,13 +15,13 @@ enum DevStatus
     DevOffline = 0,
     DevOnline = 1,
     DevConnecting = 2, ///< being dialled or signing on
-    DevRefused = 3, ///< the sign-on failed; not tried again until the record changes or the operator asks
+    DevRefused = 3, ///< the sign-on failed; not tried again until the record changes or the operator asks for it
     DevDefaultPassword = 5, ///< online, still with its factory password
     DevLocked = 6 ///< online, locked against changes of its password
 };
 
 /// True for the three online states.
-bool isOnlineStatus(DevStatus status);
+VMS_CLIENT_SDK_EXPORT bool isOnlineStatus(DevStatus status);
 
 /// One device of the site. Plain data; an unknown device is the record with an empty id.
 struct DevInfo
@@ -41,7 +43,7 @@ struct DevInfo
         fingerprint; ///< SHA-256 of the device's certificate, hexadecimal with or without colons; empty: the CAs decide
 };
 
-bool operator==(const DevInfo &a, const DevInfo &b);
+VMS_CLIENT_SDK_EXPORT bool operator==(const DevInfo &a, const DevInfo &b);
 inline bool operator!=(const DevInfo &a, const DevInfo &b)
 {
     return !(a == b);

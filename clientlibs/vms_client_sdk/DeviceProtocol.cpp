@@ -1,4 +1,4 @@
-#include "DeviceProtocol.h"
+#include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QRegularExpression>
 

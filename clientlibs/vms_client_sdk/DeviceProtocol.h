@@ -22,7 +22,7 @@ inline constexpr int goingAwayCloseCode = 1001;
 /// Largest message in bytes, either way; a larger one ends the connection.
 inline constexpr qint64 maxFrameBytes = 1'048'576;
 
-/// Largest message of the sign-on: whoever has not signed on yet is a stranger, and needs less than a hundredth of it.
+/// Largest message of the sign-on. Nobody knows yet who sends it, and a real one takes less than a hundredth of this.
 inline constexpr int maxSignOnBytes = 16'384;
 
 /// A message after the sign-on: `<request id>\n<text>`. An empty request id marks a notice of the device.

@@ -1,4 +1,4 @@
-#include "DeviceTransport.h"
+#include <vms_client_sdk/DeviceTransport.h>
 
 namespace vms_sdk {
 

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/Export.h>
 
 #include <QObject>
 
 namespace vms_sdk {
 
 /// Carries texts to devices and back. The SDK owns the transport that it is given (ClientSdk::setTransport).
-class DeviceTransport : public QObject
+class VMS_CLIENT_SDK_EXPORT DeviceTransport : public QObject
 {
     Q_OBJECT
 
@@ -18,11 +19,11 @@ public:
     /// Called on the GUI thread. Must not block. A text that cannot be delivered is dropped: the request then ends by
     /// its time-out.
     virtual void send(const QString &requestId, const QString &devId, const QString &text) = 0;
-    /// Called on the GUI thread when an answer that this transport raised is about to reach the listeners: it no longer
-    /// waits for them. A transport that bounds what waits counts by this; the default does nothing.
+    /// Called on the GUI thread when an answer that this transport raised is about to reach the listeners. A transport
+    /// that limits how many answers may wait for the GUI thread counts them with this; the default does nothing.
     virtual void passedOn(const QString &requestId, const QString &text);
 
-signals:
+Q_SIGNALS:
     // May be raised on any thread, from inside send() too: the SDK always queues them.
     void answered(const QString &requestId, const QString &text);
     void devStatusChanged(const QString &devId, vms_sdk::DevStatus status);

@@ -1,4 +1,4 @@
-#include "ForeignText.h"
+#include <vms_client_sdk/ForeignText.h>
 
 namespace vms_sdk {
 

@@ -1,4 +1,4 @@
-#include "Inbox.h"
+#include <vms_client_sdk/Inbox.h>
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -9,7 +9,7 @@ namespace {
 
 // About half a frame of a 60 Hz display.
 constexpr qint64 sliceMs = 8;
-constexpr int companyMs = 10;
+constexpr int statusDelayMs = 10; // how long a status change waits for others
 
 } // namespace
 
@@ -27,7 +27,7 @@ void Inbox::put(Item item)
     m_arrived.push_back(std::move(item));
     ++m_put;
     if (m_arrived.size() > 1 && (m_isUrgent || !isUrgent))
-        return; // the GUI thread knows
+        return; // the GUI thread has been told already
     m_isUrgent = isUrgent;
     QMetaObject::invokeMethod(this, &Inbox::noticeArrived, Qt::QueuedConnection);
 }
@@ -43,7 +43,7 @@ void Inbox::noticeArrived()
 void Inbox::wakeUp(bool isUrgent)
 {
     if (!m_next.isActive() || (isUrgent && m_next.interval() > 0))
-        m_next.start(isUrgent ? 0 : companyMs);
+        m_next.start(isUrgent ? 0 : statusDelayMs);
 }
 
 quint64 Inbox::putCount()
@@ -66,7 +66,7 @@ void Inbox::passOn()
     QElapsedTimer slice;
     slice.start();
     while (!m_items.empty() || takeArrived()) {
-        wakeUp(true); // before the consumer, which may not come back for a while
+        wakeUp(true); // before the consumer, which may run an event loop of its own
         if (slice.elapsed() >= sliceMs)
             return;
         const Item item = std::move(m_items.front());

@@ -11,10 +11,10 @@
 
 namespace vms_sdk {
 
-/// What a transport raises, on its way to the GUI thread, in its order. Thousands of answers that come at once are
-/// passed on in slices of a few milliseconds: between them the event loop serves timers, input and painting. Status
-/// changes wait for company: nobody notices 10 ms, and a site that comes online does not wake the GUI thread for each
-/// device.
+/// Carries what a transport raises to the GUI thread, in the same order. Thousands of answers that arrive at once are
+/// passed on in slices of a few milliseconds, so that the event loop handles timers, input and painting in between. A
+/// status change waits 10 ms for others, which nobody notices: when a site comes online, the GUI thread is not woken
+/// for each device.
 class Inbox : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     explicit Inbox(std::function<void(const Item &)> consumer);
 
     void put(Item item); ///< from any thread
-    // How many have been put and passed on since the beginning.
+    // How many items have been put in, and passed on, since the beginning.
     quint64 putCount();
     quint64 passedOnCount() const { return m_passedOn; }
 
@@ -53,7 +53,7 @@ private:
     bool m_isUrgent = false; ///< under the mutex: there is an answer among them
     std::deque<Item> m_items; ///< taken over from m_arrived
     quint64 m_passedOn = 0;
-    QTimer m_next; ///< the next slice: a timer, for posted events go on until there are none
+    QTimer m_next; ///< starts the next slice; posted events would leave the event loop no time for anything else
 };
 
 } // namespace vms_sdk

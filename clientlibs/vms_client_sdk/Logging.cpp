@@ -1,4 +1,4 @@
-#include "Logging.h"
+#include <vms_client_sdk/Logging.h>
 
 namespace vms_sdk {
 

@@ -1,6 +1,6 @@
-#include "OpenFiles.h"
+#include <vms_client_sdk/OpenFiles.h>
 
-#include "Logging.h"
+#include <vms_client_sdk/Logging.h>
 
 #include <sys/resource.h>
 

@@ -1,4 +1,4 @@
-#include "PendingRequests.h"
+#include <vms_client_sdk/PendingRequests.h>
 
 #include <algorithm>
 
@@ -26,12 +26,12 @@ void PendingRequests::add(const QString &id)
     }
     const std::size_t position = m_entries.size();
     if (position > 0)
-        m_entries.back().next = position; // most likely
+        m_entries.back().next = position; // which is most likely renewed next
     m_index.insert(id, position);
     m_entries.push_back({id, m_newDeadline, 0});
 }
 
-bool PendingRequests::findAside(const QString &id, std::size_t *position)
+bool PendingRequests::findOutOfOrder(const QString &id, std::size_t *position)
 {
     const auto known = m_index.constFind(id);
     if (known == m_index.constEnd())

@@ -7,13 +7,13 @@
 
 namespace vms_sdk {
 
-/// The ids that are waiting, and until when. Knows no clock: the owner passes the time in, milliseconds on any steady
-/// scale.
+/// The ids that are waiting, and until when. Has no clock: the owner passes the time in, in milliseconds since any
+/// fixed moment.
 ///
 /// Deadlines are rounded up to a tick, a tenth of the waiting time, so that ids sent together end together.
-/// A run renews all its ids after each result, 5 * 10^7 renewals for 10,000 devices. So the deadline that a renewal
-/// sets is worked out once per advanceTo(), and each id remembers which one was renewed after it the last time: the
-/// hash is asked when an id has left the round, not for each renewal.
+/// A run renews all its ids after each result, which is 5 * 10^7 renewals for 10,000 devices, always in the same order.
+/// So the new deadline is computed once per advanceTo(), and each id remembers which one was renewed after it: the hash
+/// is needed only when the order has changed, because an id has ended.
 class PendingRequests
 {
 public:
@@ -39,8 +39,8 @@ private:
         std::size_t next; ///< position of the id that was renewed after this one
     };
 
-    /// Looks an id up that is not the next one of the round. @return false when it is not pending
-    bool findAside(const QString &id, std::size_t *position);
+    /// Finds an id that is renewed out of order. @return false when it is not pending
+    bool findOutOfOrder(const QString &id, std::size_t *position);
 
     qint64 m_timeout = 15'000;
     qint64 m_tick = 1'500;
@@ -56,8 +56,8 @@ void PendingRequests::renew(const QString &id)
     if (m_entries.empty())
         return;
     std::size_t position = m_entries[m_last].next;
-    // Copies of one id share their text, which a glance at the pointers tells.
-    if (m_entries[position].id.constData() != id.constData() && !findAside(id, &position))
+    // Copies of one id share their text, so that comparing the pointers is enough.
+    if (m_entries[position].id.constData() != id.constData() && !findOutOfOrder(id, &position))
         return;
     m_entries[position].deadline = m_newDeadline;
     m_last = position;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/Export.h>
+
 #include <QString>
 
 namespace vms_sdk {
@@ -9,10 +11,10 @@ namespace vms_sdk {
 /// from the event loop, never from inside this call. A request that cannot be sent ends by its time-out like one that
 /// is not answered.
 /// @p requestId must be free of line breaks and not empty.
-void common_req(const QString &requestId, const QString &devId, const QString &text);
+VMS_CLIENT_SDK_EXPORT void common_req(const QString &requestId, const QString &devId, const QString &text);
 
 /// Restarts the waiting time of a pending id; an unknown id, or one whose time-out is due, is left alone. GUI thread
 /// only.
-void renewal_request_id(const QString &requestId);
+VMS_CLIENT_SDK_EXPORT void renewal_request_id(const QString &requestId);
 
 } // namespace vms_sdk

@@ -1,4 +1,4 @@
-#include "SignOn.h"
+#include <vms_client_sdk/SignOn.h>
 
 #include <QMessageAuthenticationCode>
 #include <QRandomGenerator>

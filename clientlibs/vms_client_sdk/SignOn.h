@@ -5,7 +5,7 @@
 
 namespace vms_sdk {
 
-// The sign-on's arithmetic, for both sides (docs/device-protocol.md, "Sign-on"). Nonces and proofs are base64 texts
+// What both sides of a sign-on compute (docs/device-protocol.md, "Sign-on"). Nonces and proofs are base64 texts
 // throughout.
 
 enum class SignOnSide

@@ -9,12 +9,13 @@ struct WebSocketOptions
 {
     std::chrono::milliseconds connectLimit{5'000}; ///< for TCP and, where the device has it, TLS
     std::chrono::milliseconds setUpLimit{10'000}; ///< for the handshake and the sign-on after that
-    std::chrono::milliseconds placeLimit{1'000}; ///< a device that is silent so long lets others be dialled meanwhile
+    std::chrono::milliseconds placeLimit{
+        1'000}; ///< after this silence of a device, others are dialled while it is waited for
     std::chrono::milliseconds firstBackOff{500}; ///< the shortest pause before a lost connection is dialled again
     std::chrono::milliseconds lastBackOff{30'000}; ///< the longest
     std::chrono::milliseconds pingInterval{10'000}; ///< two pings without an answer: the connection is lost
     std::chrono::milliseconds closeLimit{2'000}; ///< what a connection may take to close before it is cut
-    int maxSettingUp = 32; ///< more at once make devices and switches drop handshakes
+    int maxSettingUp = 32; ///< with more at a time, devices and switches drop handshakes
     int maxWaiting = 512; ///< connections that are up and wait for the device; each is an open file
 };
 

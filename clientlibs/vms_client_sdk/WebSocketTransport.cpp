@@ -1,7 +1,7 @@
-#include "WebSocketTransport.h"
+#include <vms_client_sdk/WebSocketTransport.h>
 
-#include "Logging.h"
-#include "websocket/NetworkWorker.h"
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/websocket/NetworkWorker.h>
 
 #include <QCoreApplication>
 
@@ -13,7 +13,7 @@ WebSocketTransport::WebSocketTransport(QObject *parent, const WebSocketOptions &
 {
     m_worker->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
-    // Direct: whoever listens to a transport queues its signals, one hop is enough.
+    // Direct: whoever listens to a transport queues its signals anyway, and once is enough.
     connect(m_worker, &NetworkWorker::answered, this, &DeviceTransport::answered, Qt::DirectConnection);
     connect(m_worker, &NetworkWorker::devStatusChanged, this, &DeviceTransport::devStatusChanged, Qt::DirectConnection);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &WebSocketTransport::shutdown);

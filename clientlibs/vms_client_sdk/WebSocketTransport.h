@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vms_client_sdk/DeviceTransport.h>
+#include <vms_client_sdk/Export.h>
 #include <vms_client_sdk/WebSocketOptions.h>
 
 #include <QThread>
@@ -11,8 +12,8 @@ class NetworkWorker;
 
 /// One WebSocket per device, kept up in a network thread of its own (docs/device-protocol.md). The public functions are
 /// called on the GUI thread and do not block; the signals come from the network thread. The programs set QT_NO_GLIB=1
-/// before the application object: GLib's dispatcher looks at every socket on every wake-up.
-class WebSocketTransport final : public DeviceTransport
+/// before the application object: GLib's dispatcher checks every socket on every wake-up.
+class VMS_CLIENT_SDK_EXPORT WebSocketTransport final : public DeviceTransport
 {
     Q_OBJECT
 

@@ -1,11 +1,5 @@
-#include <audio/AudioParamsCfgTask.h>
-#include <image/ImageParamsCfgTask.h>
-#include <network/NetworkParamsCfgTask.h>
-#include <onvif/OnvifParamsCfgTask.h>
-#include <osd/OSDParamsCfgTask.h>
-#include <platform/Platform9100ParamsCfgTask.h>
-#include <platform/PlatformParamsCfgTask.h>
-#include <video/VideoParamsCfgTask.h>
+#include <families/Families.h>
+#include <run/ParamsCfgTask.h>
 
 #include <orda_data/DataSignals.h>
 #include <vms_client_sdk/ClientSdk.h>
@@ -13,6 +7,7 @@
 #include <vms_client_sdk/websocket/AnswerCheck.h>
 
 #include <QCoreApplication>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 #include <chrono>
@@ -72,32 +67,36 @@ void pass(std::chrono::milliseconds time)
     QCoreApplication::processEvents();
 }
 
-std::unique_ptr<ParamsCfgTask> makeTask(unsigned family)
+QJsonValue someValue(const CfgKey &key)
 {
-    const QString dev = QStringLiteral("cam");
-    const QJsonObject values =
-        QJsonDocument::fromJson(R"({"bEnable": true, "encType": "g711a", "aoGain": 3, "flip": "off", "lightmode": "ir",
-            "expertmode": "auto", "channelName": "n", "discoveryflag": 1, "bIPLock": true, "qbcloud_type": "public",
-            "qbcloud_en": true, "bManualcfgonline": false, "streams": [{"streamid": 0, "width": 5}, {"streamid": 1}]})")
-            .object();
-    switch (family % 8) {
-    case 0:
-        return std::make_unique<AudioParamsCfgTask>(dev, values, 3, nullptr);
-    case 1:
-        return std::make_unique<ImageParamsCfgTask>(dev, values, 7, nullptr);
-    case 2:
-        return std::make_unique<NetworkParamsCfgTask>(dev, values, 3, nullptr);
-    case 3:
-        return std::make_unique<OnvifParamsCfgTask>(dev, values, nullptr);
-    case 4:
-        return std::make_unique<OSDParamsCfgTask>(dev, values, nullptr);
-    case 5:
-        return std::make_unique<PlatformParamsCfgTask>(dev, values, nullptr);
-    case 6:
-        return std::make_unique<Platform9100ParamsCfgTask>(dev, values, nullptr);
-    default:
-        return std::make_unique<VideoParamsCfgTask>(dev, values, nullptr);
+    switch (key.type) {
+    case CfgKey::Switch:
+        return true;
+    case CfgKey::NumberSwitch:
+        return 1;
+    case CfgKey::Text:
+        return QStringLiteral("n");
+    case CfgKey::Number:
+        return key.initial;
+    case CfgKey::Choice:
+        break;
     }
+    return key.choices.constLast().value;
+}
+
+std::unique_ptr<ParamsCfgTask> makeTask(unsigned number)
+{
+    const CfgFamily &family = Families::all().at(int(number) % Families::all().size()).family;
+    QJsonObject values;
+    int flags = 0;
+    for (const CfgKey &key : family.keys) {
+        values.insert(key.name, someValue(key));
+        flags |= key.flag;
+    }
+    QJsonObject stream = values;
+    stream.insert(QStringLiteral("streamid"), 0);
+    values.insert(QStringLiteral("streams"), QJsonArray{stream, QJsonObject{{QStringLiteral("streamid"), 1}}});
+    return std::unique_ptr<ParamsCfgTask>(family.createTask(QStringLiteral("cam"), values, flags, nullptr));
 }
 
 /// A task and what came of it.
@@ -140,8 +139,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     auto owned = std::make_unique<CountingTransport>();
     CountingTransport &transport = *owned;
     vms_sdk::ClientSdk::instance().setTransport(std::move(owned));
-    Watched bystander(data[0], transport); // of the same device
-    Watched watched(data[0], transport);
+    const unsigned family = data[0] & 0x7fU;
+    Watched bystander(family, transport); // of the same device
+    Watched watched(family, transport);
     const QString requestId = watched.task->requestId();
 
     bool waited = false;

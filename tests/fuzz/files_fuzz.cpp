@@ -1,5 +1,6 @@
-#include <FaultPlan.h>
-#include <SimulatedDevice.h>
+#include "fleet/FaultPlan.h"
+#include "fleet/SimulatedDevice.h"
+
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/websocket/AnswerCheck.h>
 

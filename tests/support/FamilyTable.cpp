@@ -1,32 +1,33 @@
 #include "support/FamilyTable.h"
 
+#include <families/Families.h>
+
 #include <QDir>
 #include <QFile>
 
 #include <algorithm>
 
+using orda_batchCfg::CfgExchange;
+using orda_batchCfg::Families;
+using orda_batchCfg::FamilyEntry;
+
 namespace {
 
-QString latin1(const char *text)
+FamilyRow rowOf(const FamilyEntry &entry)
 {
-    return QString::fromLatin1(text);
-}
-
-FamilyRow row(const char *name, const char *navigationKey, const char *pageName, const char *title, const char *timeout,
-              const char *methods, std::initializer_list<const char *> things)
-{
-    FamilyRow row{latin1(name),
-                  latin1(navigationKey),
-                  latin1(pageName),
-                  latin1(title) + QStringLiteral(" Parameters Configuration Result"),
-                  QStringLiteral("vms_%1_params_batch_cfg_record.txt").arg(latin1(name)),
-                  QStringLiteral("set %1 parameters time out").arg(latin1(timeout)),
-                  latin1(methods).split(QLatin1Char(' ')),
+    const auto &family = entry.family;
+    FamilyRow row{family.name,
+                  QString::fromLatin1(entry.key),
+                  QString::fromLatin1(entry.pageName),
+                  QString::fromLatin1(family.title),
+                  family.recordFile(),
+                  QString::fromLatin1(family.timeoutText),
+                  {},
                   {}};
-    for (const char *thing : things)
-        for (const char *step : {"get", "set"})
-            row.failures.append(QStringLiteral("Failed to %1 %2 parameters").arg(latin1(step), latin1(thing))
-                                + QStringLiteral("(%1)"));
+    for (const CfgExchange &exchange : family.exchanges) {
+        row.methods << exchange.getMethod << exchange.setMethod;
+        row.failures << QString::fromLatin1(exchange.getFailure) << QString::fromLatin1(exchange.setFailure);
+    }
     return row;
 }
 
@@ -34,27 +35,22 @@ FamilyRow row(const char *name, const char *navigationKey, const char *pageName,
 
 const QList<FamilyRow> &familyTable()
 {
-    static const QList<FamilyRow> rows{
-        row("audio", "audio_param", "audioParametersPage", "Audio", "audio",
-            "ai_get_param ai_set_param ao_get_param ao_set_param", {"audio in", "audio out"}),
-        row("video", "video_param", "videoParametersPage", "Video", "stream", "stream_get_params stream_set_params",
-            {"stream"}),
-        row("image", "image_param", "imageParametersPage", "Image", "image",
-            "image_get_adjust_param image_set_adjust_param image_get_dncut_param image_set_dncut_param "
-            "image_get_expertsetting_param image_set_expertsetting_param",
-            {"image adjust", "image day-night", "image expert"}),
-        row("osd", "osd_param", "osdParamsCfgPage", "OSD", "osd", "chnosd_get_param chnosd_set_param", {"osd"}),
-        row("network", "network_param", "networkParamsCfgPage", "Network", "network",
-            "netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo ifconfig_get_inet ifconfig_eth_set",
-            {"onvif discovery", "ip"}),
-        row("platform", "cloud_service_param", "platformParametersPage", "Platform", "platform",
-            "ifconfig_qbcloud_get_param ifconfig_qbcloud_set_param", {"platform"}),
-        row("platform_9100", "9100_param", "platform9100ParametersPage", "Platform 9100", "platform 9100",
-            "alarmservice_get_cfg alarmservice_set_cfg", {"platform 9100"}),
-        row("onvif", "", "orda_batchCfg__OnvifParamsCfgPage", "Onvif", "onvif discovery",
-            "netservice_onvif_get_discoveryinfo netservice_onvif_set_discoveryinfo", {"onvif discovery"}),
-    };
+    static const QList<FamilyRow> rows = [] {
+        QList<FamilyRow> all;
+        for (const FamilyEntry &entry : Families::all())
+            all.append(rowOf(entry));
+        return all;
+    }();
     return rows;
+}
+
+QList<FamilyRow> offeredFamilies()
+{
+    QList<FamilyRow> offered;
+    for (const FamilyRow &family : familyTable())
+        if (!family.navigationKey.isEmpty())
+            offered.append(family);
+    return offered;
 }
 
 QList<FamilyRow> stormedFamilies()
@@ -62,8 +58,8 @@ QList<FamilyRow> stormedFamilies()
     const bool all = qEnvironmentVariableIsSet("ORDA_STORM_SEEDS");
     const QStringList few{QStringLiteral("audio"), QStringLiteral("platform"), QStringLiteral("image")};
     QList<FamilyRow> families;
-    for (const FamilyRow &family : familyTable())
-        if (!family.navigationKey.isEmpty() && (all || few.contains(family.name)))
+    for (const FamilyRow &family : offeredFamilies())
+        if (all || few.contains(family.name))
             families.append(family);
     return families;
 }

@@ -6,7 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-/// What operators and devices see of a family of parameters.
+/// What operators and devices see of a family of parameters, from the module's own table: a test of all families leaves
+/// none out.
 struct FamilyRow
 {
     QString name;
@@ -18,6 +19,8 @@ struct FamilyRow
 };
 
 const QList<FamilyRow> &familyTable();
+/// Those that have a page in the form.
+QList<FamilyRow> offeredFamilies();
 const FamilyRow &familyRow(const QString &name);
 /// Those of the form for the tests that take long: with ORDA_STORM_SEEDS set (./dev storm) all of them, without it
 /// three: the one with the most requests, the one that checks its writes, and one of the others.

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "fleet/EmbeddedFleet.h"
 #include "support/FamilyTable.h"
 
-#include <EmbeddedFleet.h>
 #include <shell/BatchCfgForm.h>
 #include <vms_client_sdk/DevInfo.h>
 

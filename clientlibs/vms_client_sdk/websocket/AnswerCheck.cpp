@@ -1,4 +1,4 @@
-#include "AnswerCheck.h"
+#include <vms_client_sdk/websocket/AnswerCheck.h>
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
@@ -31,7 +31,7 @@ qint64 replaceRawControls(QByteArray &text)
         if (c == '"') {
             isInString = !isInString;
         } else if (isInString && c == '\\') {
-            ++i; // what follows belongs to it
+            ++i; // the escaped character
         } else if (isInString && uchar(c) < 0x20) {
             text[i] = ' ';
             ++count;
@@ -40,7 +40,7 @@ qint64 replaceRawControls(QByteArray &text)
     return count;
 }
 
-/// Hears the parts of the text in their order. Returning false ends the reading.
+/// Is called for the parts of the text in their order. Returning false ends the reading.
 class Limits : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Limits>
 {
 public:
@@ -58,8 +58,8 @@ public:
     bool String(const char *text, SizeType length, bool /*copy*/) { return value(textBytes(text, length)); }
     bool Key(const char *text, SizeType length, bool /*copy*/)
     {
-        // Eight bytes a key, however long it is. Different keys with one hash are so rare that nobody meets them, and
-        // would cost a device only the answer that they are in.
+        // A hash takes eight bytes, however long the key is. Two different keys with the same hash are so rare that
+        // nobody meets them; the device would lose only the answer that has them.
         m_keys.push_back(std::hash<std::string_view>()({text, length}));
         return grow(indentation() + textBytes(text, length) + 2); // ": "
     }
@@ -123,7 +123,7 @@ private:
 
     static qint64 numberBytes(const char *digits, SizeType length)
     {
-        // Short integers stay as they are; everything else may become a double, of which none is longer.
+        // Short integers are written as they came; all others may become a double, and this is the longest one.
         constexpr SizeType longestShort = 15;
         constexpr qint64 longestDouble = 25; // -2.2250738585072014e-308, and one to spare
         const bool isShort = length <= longestShort && std::all_of(digits, digits + length, [](char c) {
@@ -159,11 +159,11 @@ AnswerCheck checkAnswer(const QByteArray &received)
     QByteArray utf8 = received;
     const qint64 rawControls = replaceRawControls(utf8);
     constexpr int byteOrderMarkBytes = 3;
-    const int start = utf8.startsWith("\xEF\xBB\xBF") ? byteOrderMarkBytes : 0; // which QJsonDocument reads over
+    const int start = utf8.startsWith("\xEF\xBB\xBF") ? byteOrderMarkBytes : 0; // QJsonDocument skips it too
     const auto size = std::size_t(utf8.size() - start);
     rapidjson::MemoryStream stream(utf8.constData() + start, size);
     Limits limits(rawControls);
-    // Iterative, so that no depth of the text can use up the stack of the thread.
+    // Iterative: a recursive parser would run out of stack on a deeply nested text.
     constexpr unsigned flags =
         rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag;
     const bool isJson = !rapidjson::Reader().Parse<flags>(stream, limits).IsError() && stream.Tell() == size;

@@ -1,10 +1,10 @@
-#include "Backlog.h"
+#include <vms_client_sdk/websocket/Backlog.h>
 
 namespace vms_sdk {
 
 namespace {
 
-/// An answer without a text costs something, too.
+/// An answer takes memory even without a text.
 qint64 bytesOf(int characters)
 {
     constexpr qint64 overhead = 256; // the text's and the id's memory blocks, the place in the queue
@@ -48,7 +48,7 @@ void Backlog::passedOn(const QString &requestId, int characters)
         m_byDevice.erase(ofDevice);
     if (--answers->count == 0)
         m_byRequest.erase(answers);
-    // Not at once: the network would stop and go for every answer.
+    // Only when it is half empty: else reading would be stopped and started again for every answer.
     const bool hasRoom = m_wasFull && m_bytes < maxBytes / 2;
     if (hasRoom)
         m_wasFull = false;

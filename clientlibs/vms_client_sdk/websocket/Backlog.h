@@ -8,13 +8,13 @@
 
 namespace vms_sdk {
 
-/// What the devices have answered and the GUI thread has not been given yet, in bytes. From any thread.
+/// Counts the bytes of answers that have arrived and that the GUI thread has not received yet. Thread-safe.
 class Backlog
 {
 public:
-    /// Two of the largest answers as the text that Qt holds of them: nobody owes a client more than a few.
+    /// Two of the largest answers as Qt keeps them in memory: a device never has more than a few to give.
     static constexpr qint64 maxBytesOfDevice = 4 << 20;
-    /// Of all devices together: beyond it the network waits for the window, and nobody is cut.
+    /// Of all devices together. Beyond it no more is read from the network until the window has caught up.
     static constexpr qint64 maxBytes = 64 << 20;
 
     /// @param roomAgain called by passedOn(), on its thread, when there is room again after isFull() was true

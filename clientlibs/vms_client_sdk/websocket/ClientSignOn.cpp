@@ -1,8 +1,8 @@
-#include "ClientSignOn.h"
+#include <vms_client_sdk/websocket/ClientSignOn.h>
 
-#include "../ForeignText.h"
-#include "../SignOn.h"
-#include "AnswerCheck.h"
+#include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/SignOn.h>
+#include <vms_client_sdk/websocket/AnswerCheck.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -11,7 +11,7 @@ namespace vms_sdk {
 
 namespace {
 
-/// What a stranger says does not go into the log at any length.
+/// The sender is not known yet: its texts must not fill the log.
 QString quoted(const QString &text)
 {
     constexpr int longest = 64;

@@ -13,7 +13,7 @@ namespace vms_sdk {
 /// states.
 std::optional<DevStatus> onlineStateFrom(const QJsonValue &reported);
 
-/// The client's half of one sign-on: takes the device's messages, says what to do. Knows no socket.
+/// The client's side of one sign-on: takes the device's messages and tells what to do. Has no socket.
 class ClientSignOn
 {
 public:

@@ -1,11 +1,11 @@
-#include "DeviceLink.h"
+#include <vms_client_sdk/websocket/DeviceLink.h>
 
-#include "../DeviceProtocol.h"
-#include "../ForeignText.h"
-#include "../Logging.h"
-#include "AnswerCheck.h"
-#include "LinkHost.h"
-#include "WebSocketConnection.h"
+#include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/websocket/AnswerCheck.h>
+#include <vms_client_sdk/websocket/LinkHost.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,15 +21,16 @@ namespace vms_sdk {
 
 namespace {
 
-// A device answers under the id that it was asked under. A run asks it under one id, so that this covers the answers
-// that come late, over many runs.
+// Answers are taken only under ids that were sent to the device. A run uses one id for each device, so that these are
+// enough for late answers to many earlier runs.
 constexpr int maxRequestIds = 64;
 
-// A device that was cut because it sent too much comes back in good time only when it has behaved for so long.
+// When a device that sent too much has kept its limits for so long, the pause before it is dialled again is short
+// again.
 constexpr std::chrono::minutes goodBehaviour{1};
 
-/// Grows with the losses, with all of the range below it as jitter: devices that were lost together do not return
-/// together.
+/// A random pause, the longest possible one growing with the losses: devices that were lost together are not dialled
+/// again at the same time.
 std::chrono::milliseconds backOff(const WebSocketOptions &options, int losses)
 {
     const qint64 first = options.firstBackOff.count();
@@ -38,8 +39,8 @@ std::chrono::milliseconds backOff(const WebSocketOptions &options, int losses)
                                      + qint64(double(longest - first) * QRandomGenerator::global()->generateDouble()));
 }
 
-/// TLS 1.2 or newer, with keys exchanged over elliptic curves: for plain Diffie-Hellman the device chooses the numbers,
-/// before anything tells who it is, and large ones take a second of the thread that all devices share.
+/// TLS 1.2 or newer, with keys exchanged over elliptic curves. With plain Diffie-Hellman the device would choose the
+/// numbers before it has shown who it is, and large ones block the thread that all devices share for a second.
 QSslConfiguration deviceTls()
 {
     static const QList<QSslCipher> ciphers = [] {
@@ -51,7 +52,7 @@ QSslConfiguration deviceTls()
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setProtocol(QSsl::TlsV1_2OrLater);
     tls.setCiphers(ciphers);
-    // Named, the curves take the place of all groups of TLS 1.3, which has such numbers among them, too.
+    // Naming the curves leaves out the other groups of TLS 1.3, among which are such numbers too.
     tls.setEllipticCurves({QSslEllipticCurve::fromShortName(QStringLiteral("prime256v1")),
                            QSslEllipticCurve::fromShortName(QStringLiteral("secp384r1")),
                            QSslEllipticCurve::fromShortName(QStringLiteral("secp521r1"))});
@@ -140,12 +141,12 @@ void DeviceLink::onSslErrors(const QList<QSslError> &errors)
             faults.append(error.errorString());
     if (!faults.isEmpty())
         warn(QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; "))));
-    m_connection->tlsSocket()->ignoreSslErrors(tolerated); // the handshake goes on only if that is all of them
+    m_connection->tlsSocket()->ignoreSslErrors(tolerated); // the handshake goes on only if these are all the errors
 }
 
 void DeviceLink::onLineUp()
 {
-    // A certificate without faults raises no sslErrors, and still need not be the pinned one.
+    // A certificate without errors raises no sslErrors, but it may still not be the pinned one.
     const QSslSocket *tls = m_connection->tlsSocket();
     if (m_pin.isSet() && !(tls && m_pin.matches(tls->peerCertificate()))) {
         warn(QStringLiteral("does not show the certificate of the inventory"));
@@ -209,7 +210,7 @@ void DeviceLink::signedOn()
     if (!m_signOn->state())
         warn(QStringLiteral("reports an unknown state; it counts as online"));
     setStatus(m_signOn->state().value_or(DevOnline));
-    m_host.leave(this); // last: another one is dialled
+    m_host.leave(this); // last: it dials another link
 }
 
 void DeviceLink::onFrame(const QByteArray &message)
@@ -302,13 +303,13 @@ void DeviceLink::deadlineReached()
     } else if (m_phase == Phase::Connecting) {
         lost(QStringLiteral("no connection in time"));
     } else if (m_host.isReadingHeld()) {
-        m_host.setDeadline(this, options.pingInterval); // what the device has sent in time may lie unread
+        m_host.setDeadline(this, options.pingInterval); // what the device sent in time may not have been read yet
     } else if (m_phase == Phase::SigningOn) {
         if (!m_hasPlace)
             return lost(QStringLiteral("no sign-on in time"));
         m_hasPlace = false;
         m_host.setDeadline(this, options.setUpLimit - options.placeLimit);
-        if (!m_host.makeRoom(this)) // last: another one is dialled
+        if (!m_host.makeRoom(this)) // last: it dials another link
             qCDebug(sdkLog) << "device" << m_device.id << "keeps its place: too many others wait, too";
     } else if (m_unansweredPings == 2) {
         lost(QStringLiteral("pings without an answer"));
@@ -338,7 +339,7 @@ void DeviceLink::cut(const QString &why)
 {
     warn(why);
     ++m_cuts;
-    m_wasOnline = false; // others go first
+    m_wasOnline = false; // others are dialled first
     lost(why);
 }
 
@@ -360,7 +361,7 @@ void DeviceLink::rest(DevStatus status, int closeCode)
         m_host.closeConnection(connection, closeCode);
     }
     setStatus(status);
-    m_host.leave(this); // last: another one is dialled
+    m_host.leave(this); // last: it dials another link
 }
 
 void DeviceLink::setStatus(DevStatus status)

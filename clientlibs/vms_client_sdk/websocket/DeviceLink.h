@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../DevInfo.h"
-#include "ClientSignOn.h"
-#include "PinnedCertificate.h"
+#include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/websocket/ClientSignOn.h>
+#include <vms_client_sdk/websocket/PinnedCertificate.h>
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -44,7 +44,7 @@ public:
     void cut(const QString &why); ///< for what the device does; dialled again later than after a loss
     qint64 unsentBytes() const; ///< 0 without a connection
 
-signals:
+Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
     void statusChanged(const QString &devId, vms_sdk::DevStatus status);
 
@@ -84,10 +84,10 @@ private:
     DevStatus m_status = DevOffline;
     WebSocketConnection *m_connection = nullptr; ///< a fresh one per attempt; owned until the host closes it
     std::optional<ClientSignOn> m_signOn;
-    bool m_hasPlace = false; ///< of the few that are dialled at once
-    bool m_wasOnline = false; ///< since it was cut last
-    int m_losses = 0; ///< in a row, without traffic in between
-    int m_cuts = 0; ///< in a row, because the device sent more than it may
+    bool m_hasPlace = false; ///< is one of the few links that are dialled at a time
+    bool m_wasOnline = false; ///< since it was last cut
+    int m_losses = 0; ///< since there was traffic last
+    int m_cuts = 0; ///< how often it has exceeded its limits, since it last kept them for a while
     QElapsedTimer m_onlineFor;
     int m_unansweredPings = 0;
     QStringList m_requestIds; ///< sent to this device, the latest first

@@ -1,4 +1,4 @@
-#include "HttpHead.h"
+#include <vms_client_sdk/websocket/HttpHead.h>
 
 #include <QIODevice>
 #include <QList>
@@ -10,7 +10,7 @@ namespace vms_sdk {
 
 namespace {
 
-// Any other field is forgotten at once: thousands of short ones would take many times the memory of their text.
+// Other fields are not kept: thousands of short ones would take many times the memory of their text.
 constexpr std::array handshakeFields{"connection",
                                      "sec-websocket-accept",
                                      "sec-websocket-extensions",

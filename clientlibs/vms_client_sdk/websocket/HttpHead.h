@@ -9,8 +9,8 @@ QT_END_NAMESPACE
 
 namespace vms_sdk {
 
-/// The first line of an HTTP message and those of its header fields that a WebSocket handshake has, read as they come
-/// and never kept beyond the limits: a peer may send header lines without end, and has not signed on yet.
+/// The first line of an HTTP message and the header fields of a WebSocket handshake, read as they arrive. Limited in
+/// size: a peer that has not signed on yet may send header lines without end.
 class HttpHead
 {
 public:

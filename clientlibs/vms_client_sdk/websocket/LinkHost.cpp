@@ -1,7 +1,7 @@
-#include "LinkHost.h"
+#include <vms_client_sdk/websocket/LinkHost.h>
 
-#include "DeviceLink.h"
-#include "WebSocketConnection.h"
+#include <vms_client_sdk/websocket/DeviceLink.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <algorithm>
 
@@ -9,8 +9,8 @@ namespace vms_sdk {
 
 namespace {
 
-// Of all devices together. Messages mostly come and go in one piece; a thousand devices that each hold back the end of
-// the largest one, or do not read it, would take a gigabyte.
+// For all devices together. Nearly all messages come and go in one piece. But a thousand devices that each hold back
+// the end of the largest one, or do not read it, would take a gigabyte.
 constexpr qint64 maxKeptBytes = 64 << 20;
 
 } // namespace
@@ -101,8 +101,9 @@ void LinkHost::goOnDialling()
 
 void LinkHost::fillPlaces()
 {
-    // Dialling can fail at once and leave its place again: thousands of such failures must not pile up on the stack.
-    // Not posted: with thousands of sockets each further turn of the event loop costs as much as a connection.
+    // Dialling can fail at once and come back here: thousands of such failures must not pile up on the stack. A loop
+    // and not a posted call: with thousands of sockets one turn of the event loop costs as much as setting up a
+    // connection.
     if (std::exchange(m_isFilling, true))
         return;
     while (m_settingUp.size() < m_options.maxSettingUp) {
@@ -119,7 +120,7 @@ void LinkHost::fillPlaces()
 QQueue<DeviceLink *> *LinkHost::nextQueue()
 {
     const auto hasLinks = [](const QQueue<DeviceLink *> &queue) { return !queue.isEmpty(); };
-    constexpr quint64 lastComesFirst = 4; // every fourth time: those who wait longest must get their turn, too
+    constexpr quint64 lastComesFirst = 4; // every fourth time, so that the last queue is not left waiting for ever
     if (++m_dialCount % lastComesFirst == 0) {
         const auto last = std::find_if(m_queues.rbegin(), m_queues.rend(), hasLinks);
         return last == m_queues.rend() ? nullptr : &*last;
@@ -153,7 +154,7 @@ void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
     if (!m_unsent.isTooMuch())
         return;
     const QList<DeviceLink *> links = m_unsent.links();
-    for (DeviceLink *known : links) // most have taken theirs meanwhile
+    for (DeviceLink *known : links) // most devices have taken theirs meanwhile
         m_unsent.set(known, known->unsentBytes());
     while (m_unsent.isTooMuch())
         m_unsent.largest()->cut(QStringLiteral("does not take what is sent to it"));
@@ -180,10 +181,10 @@ DeviceLink *LinkHost::Kept::largest() const
 
 void LinkHost::closeConnection(WebSocketConnection *connection, int closeCode)
 {
-    connection->setParent(this); // what is still closing when the thread ends goes with it
+    connection->setParent(this); // deleted with this object when the thread ends before it is closed
     connect(connection, &WebSocketConnection::finished, connection, &QObject::deleteLater);
     QTimer::singleShot(m_options.closeLimit, connection, [connection] {
-        connection->abort(); // a close drains what is unsent, without a limit of its own
+        connection->abort(); // closing waits without limit until all is sent
         connection->deleteLater();
     });
     connection->close(closeCode);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../WebSocketOptions.h"
-#include "Backlog.h"
+#include <vms_client_sdk/WebSocketOptions.h>
+#include <vms_client_sdk/websocket/Backlog.h>
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -19,7 +19,7 @@ class DeviceLink;
 class WebSocketConnection;
 
 /// What the links of the network thread share: one timer for all their deadlines, the places for connections that are
-/// being set up, the memory for what has arrived, and the end of connections that are let go.
+/// being set up, the limits of memory, and the closing of connections.
 class LinkHost : public QObject
 {
     Q_OBJECT
@@ -29,27 +29,27 @@ public:
 
     const WebSocketOptions &options() const { return m_options; }
 
-    /// DeviceLink::deadlineReached() is called once, that much later. A link has one deadline; the last one set holds.
+    /// Calls DeviceLink::deadlineReached() once, after this time. A link has one deadline: a new one replaces it.
     void setDeadline(DeviceLink *link, std::chrono::milliseconds fromNow);
     void clearDeadline(DeviceLink *link);
 
-    /// Who is dialled first when there are more links than places.
+    /// Which links are dialled first when there are more links than places.
     enum class Turn
     {
         New,
         WasOnline, ///< lost, but it has worked before
-        HasFailed ///< it never worked, or did what it may not
+        HasFailed ///< it has never worked, or was cut for exceeding its limits
     };
-    /// DeviceLink::dial() is called as soon as one of the places is free, maybe from inside this call; the link keeps
-    /// it until leave() or makeRoom().
+    /// Calls DeviceLink::dial() as soon as a place is free, perhaps from inside this call. The link keeps the place
+    /// until leave() or makeRoom().
     void queueForDialling(DeviceLink *link, Turn turn);
-    /// The link's line is up, and it only waits for the device: somebody else may be dialled meanwhile.
-    /// @return false when too many wait already: the link keeps its place
+    /// Gives the place to another link, because this one is connected and only waits for its device.
+    /// @return false when too many wait in this way already: the link keeps its place
     bool makeRoom(DeviceLink *link);
     /// Gives up the place, or the place in the queue.
     void leave(DeviceLink *link);
-    /// Nobody is dialled before goOnDialling(): for whoever ends many links, which would leave their places to each
-    /// other.
+    /// No link is dialled until goOnDialling(). Used to end many links: each would else hand its place to one that is
+    /// to be ended next.
     void holdDialling();
     void goOnDialling();
 
@@ -58,20 +58,20 @@ public:
     bool isReadingHeld() const { return m_isReadingHeld; }
     void holdReading();
 
-    /// What a link keeps of a message that is not finished, or what its device has not taken yet; 0: nothing. Cuts the
-    /// links with the most when all links together keep too much.
+    /// How much memory a link uses for a message that is not finished, or for what its device has not taken yet. When
+    /// all links together use too much, those with the most are cut.
     void setUnfinished(DeviceLink *link, qint64 bytes);
     void setUnsent(DeviceLink *link, qint64 bytes);
 
-    /// Takes over a connection that nobody listens to any more: closes it, cuts it off if that takes too long, deletes
-    /// it.
+    /// Takes over a connection that nobody listens to any more: closes it, aborts it if that takes too long, and
+    /// deletes it.
     void closeConnection(WebSocketConnection *connection, int closeCode);
 
-signals:
+Q_SIGNALS:
     void readingHeld(bool isHeld);
 
 private:
-    /// Memory that links keep for their devices.
+    /// Memory that links use for their devices.
     class Kept
     {
     public:
@@ -98,7 +98,7 @@ private:
     QHash<DeviceLink *, qint64> m_deadlineOf;
     std::array<QQueue<DeviceLink *>, 3> m_queues; ///< by Turn
     QSet<DeviceLink *> m_settingUp;
-    QSet<DeviceLink *> m_waiting; ///< for a device's handshake and sign-on, having made room
+    QSet<DeviceLink *> m_waiting; ///< for their devices' sign-on, after makeRoom()
     bool m_isFilling = false;
     quint64 m_dialCount = 0;
     Backlog m_backlog;

@@ -1,8 +1,8 @@
-#include "NetworkWorker.h"
+#include <vms_client_sdk/websocket/NetworkWorker.h>
 
-#include "../Logging.h"
-#include "DeviceLink.h"
-#include "LinkHost.h"
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/websocket/DeviceLink.h>
+#include <vms_client_sdk/websocket/LinkHost.h>
 
 #include <utility>
 
@@ -10,7 +10,7 @@ namespace vms_sdk {
 
 namespace {
 
-// How exactly the second ends after which merged changes pass.
+// How often merged changes are checked: they pass at most so much late.
 constexpr std::chrono::milliseconds mergedStatusInterval{100};
 
 } // namespace
@@ -78,7 +78,7 @@ void NetworkWorker::passOnChanges(const QVector<StatusChanges::Change> &changes)
 
 void NetworkWorker::setReading(bool isReading)
 {
-    // Reading can hold the reading of all links again, from inside this loop.
+    // What a link reads here may make all links stop reading again.
     for (const auto &[id, link] : m_links)
         link->setReading(isReading && !m_host->isReadingHeld());
 }

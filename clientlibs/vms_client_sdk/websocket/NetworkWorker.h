@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../DevInfo.h"
-#include "../WebSocketOptions.h"
-#include "StatusChanges.h"
+#include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/WebSocketOptions.h>
+#include <vms_client_sdk/websocket/StatusChanges.h>
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -31,7 +31,7 @@ public:
     void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
     void passedOn(const QString &requestId, int characters); ///< from any thread
 
-signals:
+Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
     void devStatusChanged(const QString &devId, vms_sdk::DevStatus status);
 
@@ -55,7 +55,7 @@ private:
     StatusChanges m_statusChanges;
     QTimer m_statusTimer;
     LinkHost *m_host;
-    Links m_links; ///< by device id; go before the host
+    Links m_links; ///< by device id; deleted before the host
 };
 
 } // namespace vms_sdk

@@ -1,6 +1,6 @@
-#include "PinnedCertificate.h"
+#include <vms_client_sdk/websocket/PinnedCertificate.h>
 
-#include "../DeviceProtocol.h"
+#include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -10,7 +10,7 @@ namespace vms_sdk {
 
 namespace {
 
-/// Who signed a certificate, whether that can be verified, and for which name: the pin answers all of it.
+/// Errors about who signed a certificate, and for which name: with a pinned certificate these do not matter.
 bool isAboutSigner(QSslError::SslError error)
 {
     switch (error) {
@@ -34,7 +34,7 @@ bool isAboutSigner(QSslError::SslError error)
     }
 }
 
-/// Asked of the certificate itself: which certificate of a chain an error speaks of is the TLS library's finding.
+/// Checked here and not by the errors, because those do not always name the right certificate of a chain.
 bool isInItsTime(const QSslCertificate &certificate)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();

@@ -7,9 +7,9 @@ class QSslCertificate;
 
 namespace vms_sdk {
 
-/// The one certificate that a device may show, told by its SHA-256. The pin stands in for the chain of trust and the
-/// host name, for devices sign their certificates themselves or bring a maker's chain along that nobody here knows;
-/// everything else about the certificate must be in order.
+/// The one certificate that a device may show, known by its SHA-256. It replaces the check of the issuers and of the
+/// host name, because devices sign their certificates themselves or have those of a maker that is not known here.
+/// Everything else about the certificate must be in order.
 class PinnedCertificate
 {
 public:
@@ -18,7 +18,7 @@ public:
 
     bool isSet() const { return m_isSet; }
     bool matches(const QSslCertificate &certificate) const;
-    /// Those of @p errors that the pin makes up for.
+    /// Those of @p errors that do not matter for a pinned certificate.
     /// @param leaf the device's own certificate, which the TLS layer calls the peer's
     QList<QSslError> tolerated(const QList<QSslError> &errors, const QSslCertificate &leaf) const;
 

@@ -1,4 +1,4 @@
-#include "StatusChanges.h"
+#include <vms_client_sdk/websocket/StatusChanges.h>
 
 namespace vms_sdk {
 

@@ -9,9 +9,9 @@
 
 namespace vms_sdk {
 
-/// Slows down devices whose state changes without end: each change is work for the store, the list and the tasks. The
-/// first changes within a second pass at once; those after them are merged into the last one, which passes when the
-/// second is over. Knows no clock: the owner passes the time in, milliseconds on any steady scale.
+/// Limits how often one device's changes of state are reported, for each is work for the store, the list and the tasks.
+/// The first changes within a second pass at once; those after them are merged into the last one, which passes when the
+/// second is over. Has no clock: the owner passes the time in, in milliseconds since any fixed moment.
 class StatusChanges
 {
 public:
@@ -21,8 +21,8 @@ public:
 
     /// @return the changes that pass now: this one or none
     QVector<Change> add(const QString &devId, DevStatus status, qint64 now);
-    /// The merged changes whose second is over. A device that was offline in between is reported offline first: what
-    /// waits for its return must not miss that it was gone.
+    /// The merged changes whose second is over. A device that was offline in between is reported offline first, for
+    /// those who wait until it has been away and is back.
     QVector<Change> takeDue(qint64 now);
     /// False: takeDue() has nothing to give until something is added.
     bool isHolding() const { return m_heldCount > 0; }
@@ -37,7 +37,7 @@ private:
         bool wasOffline = false; ///< among the merged ones
     };
 
-    QHash<QString, Recent> m_recent; ///< devices with a change in the last second, roughly
+    QHash<QString, Recent> m_recent; ///< by device id; about the last second
     qint64 m_sweptAt = 0;
     int m_heldCount = 0;
 };

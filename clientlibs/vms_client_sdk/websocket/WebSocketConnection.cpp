@@ -1,6 +1,6 @@
-#include "WebSocketConnection.h"
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
-#include "../DeviceProtocol.h"
+#include <vms_client_sdk/DeviceProtocol.h>
 
 #include <QCryptographicHash>
 #include <QPointer>
@@ -16,7 +16,7 @@ namespace vms_sdk {
 
 namespace {
 
-// One turn of the event loop takes so much of a peer: its share of the thread, and what Qt holds for it.
+// At most so much of one peer is read in a turn of the event loop. It is also what Qt keeps in memory for it.
 constexpr qint64 readBufferBytes = qint64(64) * 1024;
 
 QByteArray acceptKey(const QByteArray &key)
@@ -189,7 +189,7 @@ void WebSocketConnection::setReading(bool isReading)
 {
     if (std::exchange(m_isReading, isReading) == isReading || !isReading || m_phase != Phase::Open)
         return;
-    // What has piled up meanwhile is not held against the peer.
+    // The peer could not know that nothing was read: what has piled up does not count against its limits.
     m_second.invalidate();
     m_messageAge.start();
     readFrames();
@@ -202,7 +202,7 @@ void WebSocketConnection::readFrames()
     while (self && m_isReading && m_phase == Phase::Open) {
         const WebSocketFrames::Result result = m_frames->next(&chunk);
         if (result == WebSocketFrames::Result::NothingYet)
-            return tellUnfinished();
+            return reportUnfinished();
         if (result == WebSocketFrames::Result::Malformed)
             return fail(1002, QStringLiteral("sends frames that are malformed"));
         if (chunk.isFirst)
@@ -216,11 +216,11 @@ void WebSocketConnection::readFrames()
     }
 }
 
-void WebSocketConnection::tellUnfinished()
+void WebSocketConnection::reportUnfinished()
 {
-    // Once a turn, not for every chunk: nearly all messages arrive as a whole.
+    // When all that has arrived is read, not for every chunk: nearly all messages arrive as a whole.
     const int bytes = m_message.isEmpty() ? 0 : m_message.capacity();
-    if (std::exchange(m_unfinishedTold, bytes) != bytes)
+    if (std::exchange(m_unfinishedReported, bytes) != bytes)
         emit unfinishedChanged(bytes);
 }
 
@@ -260,7 +260,7 @@ void WebSocketConnection::takeChunk(const WebSocketFrames::Chunk &chunk)
         m_messageOpcode = chunk.opcode;
         m_messageAge.start();
     }
-    // What a frame claims to hold is compared, and never reserved.
+    // No memory is reserved for the size that a frame claims to have.
     if (chunk.isFirst && quint64(m_message.size()) + chunk.frameBytes > quint64(m_maxMessageBytes))
         return fail(1009, QStringLiteral("sends a message over %1 KiB").arg(m_maxMessageBytes / 1024));
     m_message.append(chunk.data);
@@ -342,7 +342,7 @@ void WebSocketConnection::abort()
 
 void WebSocketConnection::onError(QAbstractSocket::SocketError error)
 {
-    // The peer's own end comes with disconnected().
+    // When the peer closes the connection, disconnected() follows.
     if (error != QAbstractSocket::RemoteHostClosedError)
         end(m_socket->errorString());
 }
@@ -365,7 +365,7 @@ void WebSocketConnection::fail(int code, const QString &why)
     const QPointer<WebSocketConnection> self(this);
     end(why, true);
     if (self)
-        m_socket->abort(); // a peer that breaks the rules gets no time to go on with it
+        m_socket->abort(); // not closed in order: a peer that breaks the rules would go on sending
 }
 
 void WebSocketConnection::end(const QString &why, bool isOffence)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "HttpHead.h"
-#include "WebSocketFrames.h"
+#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/websocket/WebSocketFrames.h>
 
 #include <QAbstractSocket>
 #include <QElapsedTimer>
@@ -28,7 +28,7 @@ struct PeerLimits
 };
 
 /// One WebSocket (RFC 6455) over TCP or TLS, for either side of a device connection. Stands in for QWebSocket, which
-/// does not tell of pings, sets no limit to the handshake, and cannot stop reading. Lives on one thread.
+/// does not report pings, has no limit for the handshake, and cannot stop reading. Lives on one thread.
 class WebSocketConnection : public QObject
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ public:
     /// Ends it at once; finished() follows where it was not finished before.
     void abort();
 
-signals:
+Q_SIGNALS:
     /// TCP and, where the address asks for it, TLS are up; the handshake follows.
     void lineUp();
     void sslErrors(const QList<QSslError> &errors);
@@ -102,7 +102,7 @@ private:
     void takeChunk(const WebSocketFrames::Chunk &chunk);
     void takeControl(int opcode);
     void takeMessage();
-    void tellUnfinished();
+    void reportUnfinished();
     void send(WebSocketFrames::Opcode opcode, const QByteArray &payload);
     void fail(int code, const QString &why);
     void end(const QString &why, bool isOffence = false);
@@ -122,7 +122,7 @@ private:
     QByteArray m_message; // of which frames have come
     int m_messageOpcode = 0; // 0: none is under way
     QElapsedTimer m_messageAge;
-    int m_unfinishedTold = 0;
+    int m_unfinishedReported = 0;
     QByteArray m_control; // payload of a ping, pong or close
     QElapsedTimer m_second; // in which are counted:
     int m_framesInSecond = 0;

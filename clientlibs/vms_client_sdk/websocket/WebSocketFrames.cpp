@@ -1,4 +1,4 @@
-#include "WebSocketFrames.h"
+#include <vms_client_sdk/websocket/WebSocketFrames.h>
 
 #include <QIODevice>
 #include <QRandomGenerator>
@@ -65,7 +65,7 @@ wslay_frame_context *WebSocketFrames::context()
 
 void WebSocketFrames::releaseWhenIdle()
 {
-    // Of ten thousand connections nearly all are silent.
+    // Nearly all of ten thousand connections are silent, and need no buffer.
     if (m_frameOffset == 0 && m_bytesTaken == m_bytesRead)
         m_context.reset();
 }
@@ -114,7 +114,7 @@ QByteArray WebSocketFrames::encode(Opcode opcode, const QByteArray &payload)
     do {
         const ssize_t bytes = wslay_frame_send(context(), &frame);
         if (bytes < 0)
-            break; // not with a callback that takes everything
+            break; // cannot happen: the callback takes everything
         sent += size_t(bytes);
         frame.data += bytes;
         frame.data_length -= size_t(bytes);

@@ -12,8 +12,7 @@ QT_END_NAMESPACE
 
 namespace vms_sdk {
 
-/// The framing of RFC 6455 over a device of bytes, by the library wslay. Keeps nothing of a payload: it is handed on as
-/// it arrives.
+/// The framing of RFC 6455 over a QIODevice, by the library wslay. Payloads are handed on as they arrive, none is kept.
 class WebSocketFrames
 {
 public:

@@ -1,0 +1,63 @@
+#include "run/CfgFamily.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace orda_batchCfg {
+
+CfgChoice::CfgChoice(const char *latin1, const char *shownText)
+    : value(QLatin1String(latin1))
+    , text(shownText)
+{
+}
+
+CfgChoice::CfgChoice(int number, const char *shownText)
+    : value(number)
+    , text(shownText)
+{
+}
+
+CfgKey CfgKey::switchOf(const char *name, int flag)
+{
+    return {QLatin1String(name), Switch, flag};
+}
+
+CfgKey CfgKey::numberSwitch(const char *name, int flag)
+{
+    return {QLatin1String(name), NumberSwitch, flag};
+}
+
+CfgKey CfgKey::text(const char *name, int maxLength, int flag)
+{
+    return {QLatin1String(name), Text, flag, 0, maxLength};
+}
+
+CfgKey CfgKey::number(const char *name, int minimum, int maximum, int initial, int flag)
+{
+    return {QLatin1String(name), Number, flag, minimum, maximum, initial};
+}
+
+CfgKey CfgKey::choice(const char *name, const QVector<CfgChoice> &choices, int flag, int initial)
+{
+    return {QLatin1String(name), Choice, flag, 0, 0, initial, choices};
+}
+
+QString CfgFamily::translated(const char *text) const
+{
+    return QCoreApplication::translate(context->className(), text);
+}
+
+QString CfgFamily::recordFile() const
+{
+    return QStringLiteral("vms_%1_params_batch_cfg_record.txt").arg(name);
+}
+
+const CfgKey *CfgFamily::findKey(const QString &key) const
+{
+    const auto found =
+        std::find_if(keys.begin(), keys.end(), [&key](const CfgKey &candidate) { return candidate.name == key; });
+    return found == keys.end() ? nullptr : &*found;
+}
+
+} // namespace orda_batchCfg

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QJsonValue>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace orda_batchCfg {
+
+struct CfgFamily;
+
+/// Gives an editor what its key says: a combo box the choices in the language of the application, a slider or a spin
+/// box the range, a line edit the greatest length; and the initial value to the first three. A combo box of the
+/// client's has the values as item data, except where the values themselves are shown.
+/// @param key one of the family's
+void fillEditor(QWidget *editor, const CfgFamily &family, const char *key);
+
+/// The value of the key as it stands in an editor that fillEditor() was called for; undefined when nothing is chosen.
+QJsonValue editedValue(const QWidget *editor, const CfgFamily &family, const char *key);
+
+} // namespace orda_batchCfg
