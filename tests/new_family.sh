@@ -10,7 +10,7 @@ git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t 
 cd "$scratch"
 git init -q . && git add -A # for the patch, whose paths are those of the tree
 mkdir batchCfg/motion
-mv docs/examples/motion/*.{cpp,h,ui} batchCfg/motion/
+mv docs/examples/motion/*.{cpp,h,ui,qrc} batchCfg/motion/
 git apply docs/examples/motion/elsewhere.patch
 places=$(git diff --name-only -- . ':!docs' | wc -l)
 [ "$places" -le 4 ] || { echo "new_family: $places files were edited outside the family's folder, besides the translations" >&2; exit 1; }

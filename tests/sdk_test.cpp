@@ -87,6 +87,22 @@ private slots:
         }
     }
 
+    void renewalFromAnywhereGivesAWholeWaitingTime()
+    {
+        ClientSdk::instance().setRequestTimeout(200ms);
+        for (const auto phase : {105ms, 112ms, 119ms}) { // within a tick of 20 ms
+            const QSignalSpy timeouts(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout);
+            request("id");
+            QElapsedTimer sinceRenewal;
+            QTimer::singleShot(phase, this, [&sinceRenewal] {
+                renewal_request_id("id");
+                sinceRenewal.start();
+            });
+            QTRY_COMPARE(timeouts.count(), 1);
+            QVERIFY2(sinceRenewal.elapsed() >= 199, qPrintable(QString::number(sinceRenewal.elapsed())));
+        }
+    }
+
     void answersComeFromTheEventLoopBeforeTheTimeOut()
     {
         ClientSdk::instance().setRequestTimeout(20ms);
