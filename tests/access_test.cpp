@@ -161,8 +161,11 @@ private slots:
         const FormFixture f(12, silent);
         QApplication::setActiveWindow(f.form);
         f.page("audio_video_param")->setFocus();
+        const auto *bar = QAccessible::queryAccessibleInterface(f.page("audio_video_param"));
+        QVERIFY(bar->state().expandable && bar->state().expanded && !bar->state().collapsed);
         for (const int key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Return}) // folds its entries away, goes on, opens
             press(key);
+        QVERIFY(!bar->state().expanded && bar->state().collapsed);
         QVERIFY(f.page("imageParametersPage")->isVisible());
 
         f.table()->setCurrentCell(5, 2);
@@ -184,6 +187,8 @@ private slots:
         press(Qt::Key_Escape);
         QCOMPARE(f.column(0).size(), 12);
         QCOMPARE(f.form->checkedDevIds().size(), 3);
+        f.table()->setFocus(); // what is selected stays so
+        QCOMPARE(f.table()->selectionModel()->selectedRows().size(), 12);
         f.table()->setCurrentCell(1, 0);
         f.table()->setFocus();
         press(Qt::Key_Space); // once, where Qt ticks by itself too

@@ -93,6 +93,8 @@ private slots:
         m_transport->setDevices({});
         QTRY_COMPARE(m_states[m_id].mid(2), States({DevLocked, DevOffline}));
         QCOMPARE(device.dials, 1);
+        QTRY_COMPARE(device.client->state(), QAbstractSocket::UnconnectedState);
+        QCOMPARE(int(device.client->closeCode()), normalCloseCode);
     }
 
     void refusalsAreNotRetriedUnasked_data()
@@ -147,8 +149,9 @@ private slots:
 
     void oversizeAndUnansweredPingsEndTheConnection()
     {
-        TestDevice device(m_id);
-        m_transport->setDevices({device.info});
+        TestDevice device(m_id), idle("idle"); // which answers the pings
+        m_transport->setDevices({device.info, idle.info});
+        QTRY_VERIFY(m_states[idle.info.id].endsWith(DevDefaultPassword));
         QTRY_VERIFY(m_states[m_id].endsWith(DevDefaultPassword));
         expectWarning("too large");
         common_req("big", m_id, QString(maxFrameBytes, 'x'));
@@ -162,6 +165,7 @@ private slots:
 
         device.stopReading();
         QTRY_COMPARE(m_states[m_id].mid(5), States({DevOffline, DevConnecting, DevDefaultPassword}));
+        QCOMPARE(m_states[idle.info.id].size(), 2);
     }
 
     void silentDevicesAreGivenUpAndKeepNobodyWaiting()

@@ -34,14 +34,14 @@ JOBS = 2 * os.cpu_count()  # tests wait more than they compute
 # Comments, and what stands in quotes.
 QUOTED = re.compile(r'//.*|/\*.*?\*/|"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])\'')
 # What no test can judge: lines for the log, declarations that only the compiler reads.
-UNJUDGED = re.compile(r"\bqC?(Debug|Info|Warning|Critical|Fatal)\b|\bQ_[A-Z_]+\b|\bstatic_assert\b|\bassert\b|^\s*(#|using |namespace |template)")
+UNJUDGED = re.compile(r"setTimerType|\bqC?(Debug|Info|Warning|Critical|Fatal)\b|\bQ_[A-Z_]+\b|\bstatic_assert\b|\bassert\b|^\s*(#|using |namespace |template)")
 OTHER = {"==": "!=", "!=": "==", "<": "<=", "<=": "<", ">": ">=", ">=": ">", "&&": "||", "||": "&&", "true": "false", "false": "true"}
 OPERATOR = re.compile(r"(?<= )(==|!=|<=|>=|<|>|&&|\|\|)(?= |$)")
 CONSTANT = re.compile(r"(?<![\w.'])(\d+)(?=(?:ms|s|min|h|u|U|L|LL)?\b)(?![.']\d)|\b(true|false)\b")
 CONDITION = re.compile(r"\bif \((.*)\)(?= \{$|$)")
-LOG_TEXT = re.compile(r"\b(lost|cut|end|warn|fail)\(")  # why a connection ended, which the log says
 # Pixels: judged by eye, on the screenshots.
-PIXELS = re.compile(r"argins|Spacing|sizeHint|SizeHint|[Pp]ainter")
+PIXELS = re.compile(r"[mM]argin|Spacing|sizeHint|SizeHint|[Pp]ainter")
+DRAWING = re.compile(r"^\S.*::(paintEvent|sizeHint|\w*[rR]ect)\(")
 KEYWORD = r"(?!(?:return|const|auto|static|case|break|continue|else|throw|if|for|while|default|delete)\b)"
 STATEMENT = re.compile(KEYWORD + r"(?:emit )?(?:[A-Za-z_][\w:]*(?:<[\w:, *]+>)?(?:\(|->|\.|\[)|\*?[\w:.>()\[\]-]+ [-+|&]?= |(?:\+\+|--)).*;$")
 START_OF_STATEMENT = re.compile(r"(?:[;{})]|\belse|\w:)$")
@@ -49,20 +49,16 @@ START_OF_STATEMENT = re.compile(r"(?:[;{})]|\belse|\w:)$")
 Fault = collections.namedtuple("Fault", "kind path line before after")
 
 
-def code_of(line):
-    """The line with comments blank and quoted text masked, each character in its place."""
-    return QUOTED.sub(lambda found: (" " if found[0].startswith("/") else "_") * len(found[0]), line)
-
-
 def faults_in(path, text):
-    previous, logging, painting = ";", False, False
+    previous, logging, drawing = ";", False, False
     for number, line in enumerate(text.splitlines()):
-        code = code_of(line)
+        # Comments blank and quoted text masked, each character in its place.
+        code = QUOTED.sub(lambda found: (" " if found[0].startswith("/") else "_") * len(found[0]), line)
         if not code.strip():
             continue
         logging = logging or UNJUDGED.search(code) is not None
-        painting = (painting and code[0] != "}") or (code[0] != " " and "::paintEvent(" in code)
-        if not logging and not painting and not PIXELS.search(code):
+        drawing = (drawing and code[0] != "}") or DRAWING.search(code) is not None
+        if not logging and not drawing and not PIXELS.search(code):
             for kind, after in changes(line, code, previous):
                 yield Fault(kind, path, number, line, after)
         logging = logging and not code.lstrip().startswith("#") and not code.rstrip().endswith((";", "{", "}", ")"))
@@ -80,7 +76,8 @@ def changes(line, code, previous):
         number = int(found[1] or 0)
         yield "constant changed", put(*found.span(), OTHER.get(found[0]) or str(number + 1 if number < 10 else 2 * number))
     for found in QUOTED.finditer(line):
-        if found[0].startswith('"') and not LOG_TEXT.search(code):
+        # A sentence that is not translated is for the log.
+        if found[0].startswith('"') and (" " not in found[0] or "tr(" in code):
             yield "text changed", put(found.end() - 1, found.end(), '~"')
     condition = CONDITION.search(code)
     if condition and condition[1].count("(") == condition[1].count(")") and not re.search(r" = |;", condition[1]):
@@ -98,20 +95,15 @@ def chosen(seed):
             for fault in faults_in(path.relative_to(TREE), path.read_text()):
                 kinds[fault.kind].append(fault)
     order = random.Random(seed)
-    queues = [kinds[kind] for kind in sorted(kinds)]
-    for queue in queues:
-        order.shuffle(queue)
+    queues = [order.sample(kinds[kind], len(kinds[kind])) for kind in sorted(kinds)]
     while any(queues):
-        for queue in queues:
-            if queue:
-                yield queue.pop()
+        yield from (queue.pop() for queue in queues if queue)
 
 
 def copy_tree():
     """What differs only, so that the build does not begin anew."""
-    listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT, check=True,
-                            stdout=subprocess.PIPE, text=True).stdout.split("\0")
-    wanted = {name for name in listed if name and (ROOT / name).is_file()}
+    listed = subprocess.check_output(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT, text=True)
+    wanted = {name for name in listed.split("\0") if name and (ROOT / name).is_file()}
     for name in wanted:
         target = TREE / name
         if not target.exists() or target.read_bytes() != (ROOT / name).read_bytes():
@@ -173,13 +165,12 @@ class Test:
 
 def first_failure(tests):
     """(name, what went wrong) of the first test that fails, or None; the others are stopped then."""
-    stop, lock, failure = threading.Event(), threading.Lock(), []
+    stop, failures = threading.Event(), []
 
     def run(test):
         result = None if stop.is_set() else test.fails(stop)
         if result:
-            with lock:
-                failure.append((test.name, result))
+            failures.append((test.name, result))
             stop.set()
 
     with concurrent.futures.ThreadPoolExecutor(JOBS) as pool:
@@ -188,7 +179,7 @@ def first_failure(tests):
         except KeyboardInterrupt:
             stop.set()
             raise
-    return failure[0] if failure else None
+    return failures[0] if failures else None
 
 
 def prepared():
@@ -198,8 +189,8 @@ def prepared():
     done = build()
     if done.returncode != 0:
         sys.exit(done.stdout)
-    listed = subprocess.run(["ctest", "--test-dir", BUILD, "--show-only=json-v1"], check=True, stdout=subprocess.PIPE, text=True)
-    tests = [Test(entry) for entry in json.loads(listed.stdout)["tests"] if entry["name"] not in LEFT_OUT]
+    listed = json.loads(subprocess.check_output(["ctest", "--test-dir", BUILD, "--show-only=json-v1"]))
+    tests = [Test(entry) for entry in listed["tests"] if entry["name"] not in LEFT_OUT]
     failure = first_failure(tests)
     if failure:
         sys.exit("mutants: %s %s before anything was planted, see %s" % (*failure, WORK / (failure[0] + ".txt")))
@@ -232,24 +223,24 @@ def main():
     wanted = parser.parse_args()
     signal.signal(signal.SIGTERM, signal.default_int_handler)  # as with Ctrl+C: what was found so far is listed
     tests = prepared()
-    results = []
-    not_compiled = 0
+    survivors, count, not_compiled = [], 0, 0
     try:
         for fault in chosen(wanted.seed):
-            if len(results) == wanted.count:
+            if count == wanted.count:
                 break
             result = judge(fault, tests)
             if result == "not compiled":
                 not_compiled += 1
                 continue
-            results.append((fault, result))
-            print("%3d %-28s %s:%d %s: %s  ->  %s" % (len(results), result, fault.path, fault.line + 1, fault.kind, fault.before.strip(),
-                                                    fault.after.strip()), flush=True)
+            count += 1
+            print("%3d %-28s %s:%d %s" % (count, result, fault.path, fault.line + 1, fault.kind), flush=True)
+            if result == "survived":
+                survivors.append(fault)
     except KeyboardInterrupt:
         print("mutants: interrupted", file=sys.stderr)
-    survivors = [fault for fault, result in results if result == "survived"]
+    caught = count - len(survivors)
     print("\n%d of %d caught (%d %%), seed %d; %d more did not compile" % (
-        len(results) - len(survivors), len(results), 100 * (len(results) - len(survivors)) // max(1, len(results)), wanted.seed, not_compiled))
+        caught, count, 100 * caught // max(1, count), wanted.seed, not_compiled))
     for fault in survivors:
         print("  %s:%d  %s\n      - %s\n      + %s" % (fault.path, fault.line + 1, fault.kind, fault.before.strip(), fault.after.strip()))
 

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStyleOptionButton>
 
 #include <cmath>
@@ -94,11 +95,18 @@ private slots:
     {
         const auto isDark = [] { return QApplication::palette().color(QPalette::Window).lightness() < 128; };
         QApplication::setPalette(QPalette(Qt::black));
+        const auto areColoursValid = [] { // Qt skips a rule without a word when they are not
+            auto found = QRegularExpression("[: ](#[^;{ ]*);").globalMatch(qApp->styleSheet());
+            bool areValid = found.hasNext();
+            while (found.hasNext())
+                areValid = QColor::isValidColor(found.next().captured(1)) && areValid;
+            return areValid;
+        };
         Theme::apply(*qApp);
-        QVERIFY(isDark());
+        QVERIFY(isDark() && areColoursValid());
         QApplication::setPalette(QPalette(Qt::lightGray));
         Theme::apply(*qApp);
-        QVERIFY(!isDark());
+        QVERIFY(!isDark() && areColoursValid());
     }
 
     void dropDownsOpenWhole()

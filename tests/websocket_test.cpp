@@ -200,6 +200,11 @@ private slots:
         m_connection->setReading(true);
         QTRY_COMPARE(received.size(), 16);
         QCOMPARE(ended.size(), 0);
+        m_connection->setReading(false);
+        m_peer->client->write(text("last"));
+        m_peer->client->disconnectFromHost();
+        QTRY_COMPARE(ended.size(), 1);
+        QCOMPARE(received.size(), 17); // what came before the end counts
 
         m_peer->client->setReadBufferSize(1);
         m_connection = std::make_unique<WebSocketConnection>(PeerLimits{1'000'000, 1 << 30, 100'000});

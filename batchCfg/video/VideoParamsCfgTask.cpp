@@ -26,8 +26,9 @@ QJsonObject writeParam(const QJsonObject &values, const QJsonObject &device)
 /// The lengths of one side that the resolutions have.
 QVector<CfgChoice> sides(int (QSize::*side)() const)
 {
+    const QVector<QSize> resolutions = videoResolutions(false);
     QVector<CfgChoice> choices;
-    for (const QSize &resolution : videoResolutions(false)) {
+    for (const QSize &resolution : resolutions) {
         const int length = (resolution.*side)();
         const auto isLength = [length](const CfgChoice &choice) { return choice.value == QJsonValue(length); };
         if (std::none_of(choices.cbegin(), choices.cend(), isLength))

@@ -59,7 +59,8 @@ void VideoParamsPanel::fillEditors()
     fillEditor(m_ui->bitRateStrategy, family, "quality");
     fillEditor(m_ui->videoQuality, family, "bitRate");
     const bool isSubStream = m_streamType == SubStream;
-    for (const QSize &resolution : videoResolutions(isSubStream))
+    const QVector<QSize> resolutions = videoResolutions(isSubStream);
+    for (const QSize &resolution : resolutions)
         m_ui->resolution->addItem(QStringLiteral("%1*%2").arg(resolution.width()).arg(resolution.height()));
     m_ui->resolution->setCurrentIndex(isSubStream ? subStreamResolution : mainStreamResolution);
 }

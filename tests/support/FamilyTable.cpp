@@ -57,8 +57,9 @@ QList<FamilyRow> stormedFamilies()
 {
     const bool all = qEnvironmentVariableIsSet("ORDA_STORM_SEEDS");
     const QStringList few{QStringLiteral("audio"), QStringLiteral("platform"), QStringLiteral("image")};
+    const QList<FamilyRow> offered = offeredFamilies();
     QList<FamilyRow> families;
-    for (const FamilyRow &family : offeredFamilies())
+    for (const FamilyRow &family : offered)
         if (all || few.contains(family.name))
             families.append(family);
     return families;
