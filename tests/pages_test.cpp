@@ -1,7 +1,9 @@
 #include "support/FamilyTable.h"
 #include "support/OrdaTest.h"
 
+#include <audio/AudioParamsCfgPage.h>
 #include <families/Families.h>
+#include <run/SwitchImages.h>
 #include <shell/FamilyPages.h>
 #include <video/VideoParamsCfgPage.h>
 #include <video/VideoParamsPanel.h>
@@ -12,8 +14,11 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSlider>
+#include <QSpinBox>
 
 #include <memory>
 
@@ -48,7 +53,7 @@ void tick(QCheckBox *box, bool wanted)
 
 } // namespace
 
-/// What every page offers and how it follows its check boxes.
+/// What every page offers, how it follows its check boxes, and that its editors show what is sent.
 class PagesTest : public OrdaTest
 {
     Q_OBJECT
@@ -218,6 +223,84 @@ private slots:
         const int before = reports.count();
         QTest::qWait(30);
         QCOMPARE(reports.count(), before);
+    }
+
+    void volumesShowWhatIsSent_data()
+    {
+        columns<int>({"sent"}); // what is typed over "50"; < deletes
+        const std::pair<const char *, int> cases[]{{"<<", 0},      {"<<<7", 7},           {"<<8<", 0},
+                                                   {"<<150", 100}, {"<<100<<<1000", 100}, {"<<007", 7},
+                                                   {"<<-5", 5},    {"<<3x.,4", 34}};
+        for (const auto &[typed, sent] : cases)
+            row(typed, sent);
+    }
+
+    void volumesShowWhatIsSent()
+    {
+        QFETCH(int, sent);
+        AudioParamsCfgPage page;
+        page.show();
+        for (const QString name : {"audioInVolume", "alarmOutVolume"}) {
+            auto *edit = page.findChild<QLineEdit *>(name + "Param");
+            auto *slider = page.findChild<QSlider *>(name + "Slider");
+            QCOMPARE(edit->text(), "50");
+            for (const char key : QByteArray(QTest::currentDataTag())) {
+                key == '<' ? QTest::keyClick(edit, Qt::Key_Backspace) : QTest::keyClick(edit, key);
+                QCOMPARE(edit->text(), QString::number(slider->value())); // at every moment: Configure may come at any
+            }
+            QCOMPARE(slider->value(), sent);
+            slider->setValue(30);
+            QCOMPARE(edit->text(), "30");
+        }
+    }
+
+    void videoQualityTakesTheNearestBound_data()
+    {
+        columns<int>({"sent"});
+        for (const char *tooSmall : {"5", "0", ""})
+            row(tooSmall, 10);
+        for (const char *tooLarge : {"10240", "10241", "99999", "99999999999999999999"})
+            row(tooLarge, 10240);
+        row("2x0-48", 2048);
+    }
+
+    void videoQualityTakesTheNearestBound()
+    {
+        QFETCH(int, sent);
+        for (const bool isLeft : {true, false}) { // else Configure comes while the number is being typed
+            VideoParamsPanel panel(VideoParamsPanel::MainStream);
+            panel.show();
+            QApplication::setActiveWindow(&panel);
+            auto *spin = panel.findChild<QSpinBox *>("videoQuality");
+            spin->setFocus();
+            spin->selectAll();
+            QTest::keyClick(spin, Qt::Key_Delete);
+            QTest::keyClicks(spin, QTest::currentDataTag());
+            if (isLeft) {
+                QTest::keyClick(spin, Qt::Key_Tab);
+                QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent));
+            }
+            QCOMPARE(panel.getParams().value("bitRate").toInt(), sent);
+            QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
+        }
+    }
+
+    void switchesNeedNoImagesOfTheClient()
+    {
+        AudioParamsCfgPage page;
+        auto *button = page.findChild<QPushButton *>(QStringLiteral("audioSwitch"));
+        const auto states = [button] {
+            button->setChecked(false);
+            const QImage off = button->grab().toImage();
+            button->setChecked(true);
+            return qMakePair(off, button->grab().toImage());
+        };
+        const auto withImages = states(); // of orda_base, which the module's own equal
+        const QString nowhere = QStringLiteral(":/nowhere/");
+        button->setStyleSheet(button->styleSheet().replace(QStringLiteral(":/images/images/"), nowhere));
+        QVERIFY(states() != withImages);
+        completeSwitchImages(&page, nowhere);
+        QVERIFY(states() == withImages);
     }
 
 private:
