@@ -57,7 +57,9 @@ private slots:
             const QString text = QStringLiteral(R"({"method": "ai_set_param", "error": %1})").arg(error);
             row(qPrintable(text), 1, except(aiSet, {text}), {aiGet, aiSet}, "success", 0);
         }
-        row("a whole error code", 1, except(aiSet, {answer(aiSet, {}, -7)}), {aiGet, aiSet},
+        row("a refused read", 1, except(aiGet, {answer(aiGet, {}, 4)}), {aiGet}, "Failed to get audio in parameters(4)",
+            4);
+        row("a refused write", 3, except(aiSet, {answer(aiSet, {}, -7)}), {aiGet, aiSet},
             "Failed to set audio in parameters(-7)", -7);
         row("an empty text", 1, except(aiGet, {QString()}), {aiGet}, "Failed to parse json data", -61003);
         row("an empty object is no answer", 1, except(aiGet, {"{}"}), {aiGet}, "set audio parameters time out", -61004);
