@@ -341,7 +341,8 @@ private slots:
         QCOMPARE(family.timeoutText, "set " + timeout + " parameters time out");
         QTEST(family.methods.join(' '), "methods");
         QStringList failures;
-        for (const QString &thing : things.split(','))
+        const QStringList parts = things.split(',');
+        for (const QString &thing : parts)
             for (const char *step : {"get", "set"})
                 failures.append(QString("Failed to ") + step + ' ' + thing + " parameters(%1)");
         QCOMPARE(family.failures, failures);

@@ -149,9 +149,11 @@ private slots:
         QCOMPARE(page->objectName(), QString("orda_batchCfg__") + expected.className);
         QStringList found = choices(*page);
         const auto streams = page->findChildren<VideoParamsPanel *>(); // see videoPanelsDifferByStream
-        for (const VideoParamsPanel *stream : streams)
-            for (const QString &theirs : choices(*stream))
-                found.removeOne(theirs);
+        for (const VideoParamsPanel *stream : streams) {
+            const QStringList theirs = choices(*stream);
+            for (const QString &choice : theirs)
+                found.removeOne(choice);
+        }
         QCOMPARE(found, expected.choices);
         QVERIFY(page->findChild<QPushButton *>("okBt")->property("common_bt_style1").toBool());
         QVERIFY(page->findChild<QPushButton *>("reportBt")->property("common_bt_style2").toBool());
@@ -320,7 +322,8 @@ private:
     static void addPages()
     {
         columns<PageCase>({"expected"});
-        for (const PageCase &each : pageCases())
+        const QList<PageCase> cases = pageCases();
+        for (const PageCase &each : cases)
             row(each.className, each);
     }
 };
