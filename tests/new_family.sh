@@ -14,10 +14,10 @@ mv docs/examples/motion/*.{cpp,h,ui,qrc} batchCfg/motion/
 git apply docs/examples/motion/elsewhere.patch
 places=$(git diff --name-only -- . ':!docs' | wc -l)
 [ "$places" -le 4 ] || { echo "new_family: $places files were edited outside the family's folder, besides the translations" >&2; exit 1; }
-export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 TMPDIR=$scratch
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 TMPDIR=$scratch XDG_RUNTIME_DIR=$scratch QT_QPA_PLATFORM=offscreen
 cmake --preset release >/dev/null
 cmake --build build --parallel "$(nproc)" >build.log || { tail -40 build.log; exit 1; }
 # "translations" would ask for the German and Chinese of the new texts.
 ctest --test-dir build --output-on-failure --label-regex '^(module|ui)$' --exclude-regex '^(translations|lint)$'
-QT_QPA_PLATFORM=offscreen build/bin/orda_client --demo 20 --run motion --screenshots shots | tail -1
-QT_QPA_PLATFORM=offscreen ORDA_STORM_SEEDS=1 build/bin/matrix_test | grep -c '^PASS.*motion'
+build/bin/orda_client --demo 20 --run motion --screenshots shots | head -3
+ORDA_STORM_SEEDS=1 build/bin/matrix_test | grep '^PASS.*motion'
