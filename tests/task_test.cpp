@@ -26,10 +26,10 @@ ScriptedTransport::Script except(const QString &method, const QStringList &answe
     return [=](const Request &request) { return request.method() == method ? answers : healthy(request); };
 }
 
-const QString aiGet = "ai_get_param";
-const QString aiSet = "ai_set_param";
-const QString aoGet = "ao_get_param";
-const QString aoSet = "ao_set_param";
+constexpr char aiGet[] = "ai_get_param";
+constexpr char aiSet[] = "ai_set_param";
+constexpr char aoGet[] = "ao_get_param";
+constexpr char aoSet[] = "ao_set_param";
 
 } // namespace
 
