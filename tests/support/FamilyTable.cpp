@@ -33,7 +33,7 @@ QJsonObject expectedOf(const QString &family)
         QFile file(FAMILIES_JSON);
         QJsonParseError error{};
         const bool isOpen = file.open(QIODevice::ReadOnly);
-        const QJsonObject all = QJsonDocument::fromJson(file.readAll(), &error).object();
+        QJsonObject all = QJsonDocument::fromJson(file.readAll(), &error).object();
         if (!isOpen || all.isEmpty())
             qFatal("%s: %s at %d", FAMILIES_JSON, qPrintable(error.errorString()), error.offset);
         return all;
