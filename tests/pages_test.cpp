@@ -151,9 +151,6 @@ private slots:
         QCOMPARE(packed(), "bitRateModeWt bitRateStrategyWt videoQualityWt");
         main.setParamsMask(VideoParamsPanel::Resolution | VideoParamsPanel::BitRate);
         QCOMPARE(packed(), "resolutionWt bitRateModeWt bitRateStrategyWt videoQualityWt");
-        QCOMPARE(
-            main.getParams(),
-            QJsonObject({{"width", 1920}, {"height", 1080}, {"rcMode", "vbr"}, {"quality", 60}, {"bitRate", 1024}}));
         main.setParamsMask(0);
         QVERIFY(main.isHidden() && main.getParams().isEmpty());
     }
