@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Plants small faults in the module and the client libraries, one at a time, and lists those that no test catches.
+"""Plants small faults in the module and the SDK, one at a time, and lists those that no test catches.
 
     mutants.py [COUNT] [--seed N]
 
@@ -26,7 +26,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 WORK = ROOT / "build" / "mutants"
 TREE = WORK / "tree"
 BUILD = TREE / "build" / "mutants"  # as the preset has it
-ROOMS = {"batchCfg": "module", "clientlibs/vms_client_sdk": "sdk", "clientlibs": "ui"}  # the tests that are likely to know
+ROOMS = {"batchCfg": "module", "clientlibs/vms_client_sdk": "sdk"}  # the tests that are likely to know
 # Minutes of work, or all processors, for what the others tell as well.
 LEFT_OUT = {"install_test", "attack", "bench_smoke"}
 JOBS = 2 * os.cpu_count()  # tests wait more than they compute
@@ -90,7 +90,7 @@ def changes(line, code, previous):
 def chosen(seed):
     """All faults there are, in the order of the seed, one kind after the other."""
     kinds = collections.defaultdict(list)
-    for room in ("batchCfg", "clientlibs"):
+    for room in ROOMS:
         for path in sorted((TREE / room).rglob("*.cpp")):
             for fault in faults_in(path.relative_to(TREE), path.read_text()):
                 kinds[fault.kind].append(fault)
