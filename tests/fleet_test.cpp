@@ -130,17 +130,8 @@ private slots:
 
     void faultFileIsCheckedAndExplained_data()
     {
-        columns<QString, QString>({"entry", "complaint"}); // an error, or "unknown key": only a warning
-        row("not JSON", "{", "is not JSON");
-        row("no object", R"("garbage")", "faults[1]: must be an object");
-        row("unknown fault", R"({"fault": "slow"})", R"(faults[1]: field "fault": must be one of error-code, )");
-        row("unknown method", R"({"fault": "garbage", "methods": ["ai_get"]})", R"("methods": "ai_get" is none of)");
-        row("no list", R"({"fault": "garbage", "devices": "dev-0001"})", R"("devices": must be a list)");
-        row("no error", R"({"fault": "error-code", "errorcode": 0})", R"("errorcode": must not be 0)");
-        row("half a millisecond", R"({"fault": "late-answer", "delayMs": 0.5})",
-            R"("delayMs": must be a whole number)");
-        row("unknown settings", R"({"fault": "drop-and-return", "returnWith": "x"})", "must be one of new-settings");
-        row("unknown key", R"({"fault": "garbage", "delay": 5})", R"(faults[1]: unknown key "delay")");
+        columns<QString, QString>({"entry", "complaint"});
+        rowsFrom("fault_files.txt");
     }
 
     void faultFileIsCheckedAndExplained()
@@ -225,31 +216,6 @@ private slots:
         QFile dump(dumpFile);
         QVERIFY(dump.open(QIODevice::ReadOnly));
         QCOMPARE(json(dump.readAll())["devices"].toObject().size(), 5);
-    }
-
-    void programExplainsWrongUsage_data()
-    {
-        columns<int, QString>({"exitCode", "complaint"});
-        row("--devices 5", 2, "--inventory OUT is missing");
-        row("--devices 0 --inventory x", 2, "--devices takes a whole number from 1 to ");
-        row("--devices 1 --inventory x --tls cert.pem", 2, "--tls takes two files");
-        row("--devices 1 --inventory x --dump ./x", 2, "name the same file");
-        row("--devices 1 --inventory x --listen localhost", 2, "--listen takes an IPv4 address");
-        row("--devices 1 --inventory x y", 2, "unexpected argument \"y\"");
-        row("--devices 1 --inventory x --faults /no/such", 3, "/no/such: cannot be read");
-        row("--devices 1 --inventory x --tls /dev/null /dev/null", 3, "must be a certificate");
-        row("--devices 1 --inventory /no/such/x", 3, "/no/such/x: cannot be written");
-    }
-
-    void programExplainsWrongUsage()
-    {
-        QFETCH(QString, complaint);
-        QProcess program;
-        startFleet(program, QTest::currentDataTag());
-        QVERIFY(program.waitForFinished());
-        QTEST(program.exitCode(), "exitCode");
-        const QString said = QString::fromUtf8(program.readAllStandardError());
-        QVERIFY2(said.contains(complaint), qPrintable(said));
     }
 };
 

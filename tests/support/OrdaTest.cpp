@@ -50,6 +50,22 @@ QString summaryOf(int successes, int failures)
         .arg(failures);
 }
 
+void rowsFrom(const char *file)
+{
+    QFile cases(QFINDTESTDATA("../cases") + QLatin1Char('/') + QLatin1String(file));
+    if (!cases.open(QIODevice::ReadOnly))
+        qFatal("%s: %s", qPrintable(cases.fileName()), qPrintable(cases.errorString()));
+    while (!cases.atEnd()) {
+        const QString line = QString::fromUtf8(cases.readLine());
+        if (line.startsWith(QLatin1Char('#')))
+            continue;
+        const QStringList parts = line.split(QLatin1Char('|'));
+        QTestData &row = QTest::newRow(qPrintable(parts.constFirst().trimmed()));
+        for (const QString &part : parts.mid(1))
+            row << part.trimmed();
+    }
+}
+
 void dismissDialogs()
 {
     const auto windows = QApplication::topLevelWidgets();
