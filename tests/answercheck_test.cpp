@@ -100,7 +100,7 @@ private slots:
                        "\\ufeff \xc3\xa9 \xe4\xb8\xad \xf0\x9f\x98\x80 \x7f \t \x01 aa\\\"\x01")
                 .split(' ');
         for (const QByteArray &text : texts)
-            values.append('"' + text + '"');
+            values.append('"' + text.repeated(6) + '"');
         const QByteArrayList places{"[$]",
                                     R"({"k":$})",
                                     "[$,$,$]",
