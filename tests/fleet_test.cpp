@@ -90,39 +90,36 @@ private slots:
 
     void siteHasSomethingOfEverything()
     {
-        QMap<QString, int> found;
-        QSet<QString> unique;
+        QSet<QString> found, unique;
+        int usable = 0;
         for (int i = 0; i < 200; ++i) {
             const SiteDevice device = makeSiteDevice(FleetOptions().seed, i);
             const vms_sdk::DevInfo &info = device.info;
             const QJsonObject &params = device.parameters;
             const QJsonValue eth = params["inet"]["eth"];
-            const int streams = params["video"]["streams"].toArray().size();
-            const bool isCamera = info.kindCode == 1, isRecorder = info.kindCode == 6, hasIp = !info.ip.isEmpty();
-            found["camera"] += isCamera;
-            found["recorder"] += isRecorder;
-            found["other kind"] += !isCamera && !isRecorder;
-            found["not reached directly"] += info.accessCode != 1;
-            found["offline"] += !device.online;
-            found["factory password"] += device.state == vms_sdk::DevDefaultPassword;
-            found["locked"] += device.state == vms_sdk::DevLocked;
-            found["cloud device"] += !hasIp;
-            found["weak password"] += device.state == vms_sdk::DevOnline && info.password.size() < 8;
-            found["empty name"] += info.name.isEmpty();
-            found["long name"] += info.name.size() > 60;
-            found["non-ASCII name"] += info.name.toUtf8().size() != info.name.size();
-            found["one stream"] += streams == 1;
-            found["three streams"] += streams == 3;
-            found["no eth"] += eth.isUndefined();
-            found["no speed"] += eth.isObject() && eth["speed"].isUndefined();
-            found["no large font"] += params["osd"]["bLargeOSD"].isUndefined();
-            found["usable"] += device.online && info.accessCode == 1 && (isCamera || isRecorder) && hasIp;
+            const bool hasIp = !info.ip.isEmpty(), isCamera = info.kindCode == 1, isRecorder = info.kindCode == 6;
+            const bool isWeak = device.state == vms_sdk::DevOnline && info.password.size() < 8;
+            const QString facts = QString::asprintf(
+                "kind %d,access %d,state %d,online %d,IP %d,weak %d,streams %d,nameless %d,long name %d,ASCII %d,"
+                "eth and speed %d,large font %d",
+                info.kindCode, info.accessCode, device.state, device.online, hasIp, isWeak,
+                params["video"]["streams"].toArray().size(), info.name.isEmpty(), info.name.size() > 60,
+                info.name.toUtf8().size() == info.name.size(), eth.isObject() + !eth["speed"].isUndefined(),
+                !params["osd"]["bLargeOSD"].isUndefined());
+            const QStringList parts = facts.split(',');
+            found += QSet<QString>(parts.begin(), parts.end());
+            usable += device.online && info.accessCode == 1 && (isCamera || isRecorder) && hasIp;
             unique << info.id << info.serialNumber << (hasIp ? info.ip : info.id + "/cloud");
             QCOMPARE(params.size(), SimulatedDevice::methods().size() / 2);
         }
-        for (auto it = found.cbegin(); it != found.cend(); ++it)
-            QVERIFY2(it.value() > 0 && it.value() < 200, qPrintable(it.key()));
-        QVERIFY2(found["usable"] >= 170, qPrintable(QString::number(found["usable"])));
+        QStringList all = found.values();
+        all.sort();
+        QCOMPARE(
+            all.join(", "),
+            "ASCII 0, ASCII 1, IP 0, IP 1, access 1, access 2, eth and speed 0, eth and speed 1, eth and speed 2, "
+            "kind 1, kind 3, kind 6, large font 0, large font 1, long name 0, long name 1, nameless 0, nameless 1, "
+            "online 0, online 1, state 1, state 5, state 6, streams 1, streams 2, streams 3, weak 0, weak 1");
+        QVERIFY2(usable >= 170, qPrintable(QString::number(usable)));
         QCOMPARE(unique.size(), 600);
         QCOMPARE(makeSiteDevice(1, 3).parameters, makeSiteDevice(1, 3).parameters);
         QVERIFY(makeSiteDevice(2, 3).parameters != makeSiteDevice(1, 3).parameters);

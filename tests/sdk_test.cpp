@@ -1,10 +1,10 @@
 #include "support/OrdaTest.h"
+#include "support/ScriptedTransport.h"
 
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/ClientSignals.h>
-#include <vms_client_sdk/DeviceTransport.h>
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/PendingRequests.h>
@@ -19,14 +19,10 @@ using orda_data::DevsMgrData;
 namespace {
 
 /// Answers from inside send(), the worst that a transport may do.
-class EagerTransport : public DeviceTransport
+std::unique_ptr<ScriptedTransport> eagerTransport()
 {
-public:
-    void send(const QString &requestId, const QString &, const QString &text) override
-    {
-        emit answered(requestId, text);
-    }
-};
+    return std::make_unique<ScriptedTransport>([](const auto &request) { return QStringList(request.text); });
+}
 
 DevInfo device(const QString &id)
 {
@@ -106,7 +102,7 @@ private slots:
     void answersComeFromTheEventLoopBeforeTheTimeOut()
     {
         ClientSdk::instance().setRequestTimeout(20ms);
-        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+        ClientSdk::instance().setTransport(eagerTransport());
         QStringList order;
         QObject context;
         connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context,
@@ -114,7 +110,7 @@ private slots:
         connect(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout, &context,
                 [&](const QString &id) { order.append(id + ": time-out"); });
         request("dropped with its transport");
-        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+        ClientSdk::instance().setTransport(eagerTransport());
         request("r");
         QVERIFY(order.isEmpty());
         QThread::msleep(50); // a busy user interface
@@ -123,7 +119,7 @@ private slots:
 
     void manyAnswersAtOnceLeaveTheEventLoopItsTurns()
     {
-        auto eager = std::make_unique<EagerTransport>();
+        auto eager = eagerTransport();
         auto *transport = eager.get();
         ClientSdk::instance().setTransport(std::move(eager));
         const int count = 100;
@@ -162,7 +158,7 @@ private slots:
                         request("a");
                         QTRY_COMPARE(timedOut, "12a"); // the others' time-outs reach an event loop in here
                     } else if (id == "3") {
-                        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+                        ClientSdk::instance().setTransport(eagerTransport());
                     }
                 });
         request("1");

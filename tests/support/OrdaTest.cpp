@@ -1,7 +1,5 @@
 #include "support/OrdaTest.h"
 
-#include <QDialog>
-#include <QMutex>
 #include <algorithm>
 #include <cstring>
 #include <mutex>
