@@ -87,15 +87,8 @@ private slots:
 
     void changesWhatWasTickedAndNothingElse_data()
     {
-        // What is left ticked; a pattern of the paths that may change, and one of which does.
         columns<QString, QString>({"boxes", "changes"});
-        row("audio", "encodingFormat alarmOutVolume", "^/audio(In|Out)/(encType|aoGain)$");
-        row("video", "SDStream bitRate", "^/video/streams/1/(rcMode|quality|bitRate)$");
-        row("image", "imageFlip lightMode", "^/image(Adjust/flip|DayNight/lightmode)$");
-        row("osd", "name", "^/osd/channelName$");
-        row("network", "compatibleEnable lockIpEnable", "^/(onvifDiscovery/discoveryflag|inet/eth/bIPLock)$");
-        row("platform", "serviceAddress", "^/qbcloud/qbcloud_(addr|type)$");
-        row("platform_9100", "serviceAddress", "^/alarmService/bManualcfg(online|bussiness)$");
+        rowsFrom("changes.txt");
     }
 
     void changesWhatWasTickedAndNothingElse()

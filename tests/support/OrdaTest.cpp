@@ -53,11 +53,12 @@ void rowsFrom(const char *file)
     QFile cases(QFINDTESTDATA("../cases") + QLatin1Char('/') + QLatin1String(file));
     if (!cases.open(QIODevice::ReadOnly))
         qFatal("%s: %s", qPrintable(cases.fileName()), qPrintable(cases.errorString()));
+    const QRegularExpression divider(QStringLiteral(R"((?<=\s)\|(?=\s))"));
     while (!cases.atEnd()) {
         const QString line = QString::fromUtf8(cases.readLine());
         if (line.startsWith(QLatin1Char('#')))
             continue;
-        const QStringList parts = line.split(QLatin1Char('|'));
+        const QStringList parts = line.split(divider);
         QTestData &row = QTest::newRow(qPrintable(parts.constFirst().trimmed()));
         for (const QString &part : parts.mid(1))
             row << part.trimmed();

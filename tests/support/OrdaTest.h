@@ -35,8 +35,8 @@ void row(const char *name, const Values &...values)
     (QTest::newRow(name) << ... << values);
 }
 
-/// Rows of a test function's data, all texts, from a file in tests/cases: a line each, "|" between its parts, the first
-/// of which names the row; a line that begins with "#" is a comment.
+/// Rows of a test function's data, all texts, from a file in tests/cases: a line each, " | " between its parts, the
+/// first of which names the row; a line that begins with "#" is a comment.
 void rowsFrom(const char *file);
 
 /// Rows for a random test: each runs with a seed of its own.
