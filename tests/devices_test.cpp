@@ -7,9 +7,6 @@
 #include <vms_client_sdk/Requests.h>
 #include <vms_client_sdk/WebSocketTransport.h>
 
-#include <QSslCertificate>
-#include <QSslKey>
-
 #include <atomic>
 
 using namespace vms_sdk;
@@ -216,15 +213,11 @@ private slots:
         use({}); // nobody is cut for being slow in a second
         constexpr int devices = 40, answersEach = 5, characters = 390'000; // 156 MB as texts
         constexpr int allowed = (64 << 20) / (2 * characters); // what may wait for the window
-        struct Count
-        {
-            std::atomic<int> raised{0}, heard{0}, mostWaiting{0};
-        };
-        const auto count = std::make_shared<Count>(); // the network thread may count on when the test has failed
+        // Static, as the network thread may count on when the test has failed.
+        static std::atomic<int> raised{0}, heard{0}, mostWaiting{0};
         connect(
             m_transport, &DeviceTransport::answered, m_transport,
-            [count] { count->mostWaiting = std::max(count->mostWaiting.load(), ++count->raised - count->heard); },
-            Qt::DirectConnection);
+            [] { mostWaiting = std::max(mostWaiting.load(), ++raised - heard); }, Qt::DirectConnection);
         std::vector<std::unique_ptr<TestDevice>> site;
         QList<DevInfo> infos;
         for (int i = 0; i < devices; ++i) {
@@ -237,22 +230,20 @@ private slots:
             common_req(device->info.id, device->info.id, QString());
             QTRY_COMPARE(device->received.size(), 1);
         }
-        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, m_transport, [count] {
+        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, m_transport, [] {
             // The window hangs until the network has taken all that it takes, however busy the machine is.
             const QDeadlineTimer patience(10s);
-            for (int before = -1;
-                 count->heard == 0
-                 && (count->raised != before || (count->raised <= allowed / 2 && !patience.hasExpired()));
+            for (int before = -1; heard == 0 && (raised != before || (raised <= allowed / 2 && !patience.hasExpired()));
                  QThread::msleep(300))
-                before = count->raised;
-            ++count->heard;
+                before = raised;
+            ++heard;
         });
         const QString text = QStringLiteral("\n[\"%1\"]").arg(QString(characters, 'x'));
         for (const auto &device : site)
             for (int i = 0; i < answersEach; ++i)
                 device->client->sendTextMessage(device->info.id + text);
-        QTRY_COMPARE_WITH_TIMEOUT(count->heard.load(), devices * answersEach, 20'000);
-        const int most = count->mostWaiting;
+        QTRY_COMPARE_WITH_TIMEOUT(heard.load(), devices * answersEach, 20'000);
+        const int most = mostWaiting;
         QVERIFY2(most > allowed / 2 && most <= allowed + 2, qPrintable(QString::number(most)));
         for (const auto &device : site)
             QCOMPARE(m_states[device->info.id].size(), 2); // nobody was cut

@@ -1,3 +1,4 @@
+#include "support/FleetOf.h"
 #include "support/OrdaTest.h"
 
 #include "fleet/EmbeddedFleet.h"
@@ -7,8 +8,7 @@
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
 
-#include <QNetworkInterface>
-#include <QTcpSocket>
+#include <QtNetwork>
 
 #include <csignal>
 #include <memory>
@@ -20,13 +20,6 @@ namespace {
 QJsonObject json(const QByteArray &text)
 {
     return QJsonDocument::fromJson(text).object();
-}
-
-FleetOptions site(int devices)
-{
-    FleetOptions options;
-    options.devices = devices;
-    return options;
 }
 
 /// The first that comes back over a plain connection; empty when the other side ends it without a word.
@@ -152,7 +145,7 @@ private slots:
 
     void strangersAreTurnedAway()
     {
-        FleetOptions options = site(1);
+        FleetOptions options = fleetOf(1);
         auto fleet = std::make_unique<EmbeddedFleet>(options);
         QCOMPARE(fleet->start(), QString());
         vms_sdk::DevInfo device = fleet->inventory().at(0);
@@ -175,7 +168,7 @@ private slots:
 
     void tooManyDevicesForOneProcess()
     {
-        EmbeddedFleet fleet(site(int(vms_sdk::raiseOpenFileLimit() / 2)));
+        EmbeddedFleet fleet(fleetOf(int(vms_sdk::raiseOpenFileLimit() / 2)));
         QVERIFY(fleet.start().contains("orda_fleet --devices"));
     }
 

@@ -1,3 +1,4 @@
+#include "support/FleetOf.h"
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
 #include "support/Store.h"
@@ -52,13 +53,6 @@ QLineEdit *searchIn(const QWidget &window, const char *box)
     return child<QWidget>(window, box)->findChild<QLineEdit *>();
 }
 
-device_fleet::FleetOptions thirty()
-{
-    device_fleet::FleetOptions options;
-    options.devices = 30;
-    return options;
-}
-
 /// The client with the window of the last run beside it.
 struct Client
 {
@@ -78,7 +72,6 @@ struct Client
 struct Site : Client
 {
     Site()
-        : fleet(thirty())
     {
         child<QAbstractButton>(window, "audio_param")->click();
         fleet.start();
@@ -142,7 +135,7 @@ struct Site : Client
         configure();
     }
 
-    EmbeddedFleet fleet;
+    EmbeddedFleet fleet{fleetOf(30)};
     QList<vms_sdk::DevInfo> devices;
     QTableWidget *list = child<QTableWidget>(window, "devsTableWt");
 };
