@@ -20,4 +20,4 @@ cmake --build build --parallel "$(nproc)" >build.log || { tail -40 build.log; ex
 # "translations" would ask for the German and Chinese of the new texts.
 ctest --test-dir build --output-on-failure --label-regex '^(module|ui)$' --exclude-regex '^(translations|lint)$'
 build/bin/orda_client --demo 20 --run motion --screenshots shots | head -3
-ORDA_STORM_SEEDS=1 build/bin/matrix_test | grep '^PASS.*motion'
+ORDA_STORM_SEEDS=1 build/bin/storm_test everyFaultAtEveryRequest | grep '^PASS.*motion'

@@ -1,12 +1,10 @@
+#include "support/FamilyTable.h"
 #include "support/OrdaTest.h"
 
 #include <audio/AudioParamsCfgPage.h>
-#include <image/ImageParamsCfgPage.h>
-#include <network/NetworkParamsCfgPage.h>
-#include <onvif/OnvifParamsCfgPage.h>
-#include <osd/OSDParamsCfgPage.h>
-#include <platform/Platform9100ParamsCfgPage.h>
-#include <platform/PlatformParamsCfgPage.h>
+#include <families/Families.h>
+#include <run/SwitchImages.h>
+#include <shell/FamilyPages.h>
 #include <video/VideoParamsCfgPage.h>
 #include <video/VideoParamsPanel.h>
 
@@ -16,49 +14,19 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSlider>
+#include <QSpinBox>
 
-#include <functional>
+#include <memory>
 
 using namespace orda_batchCfg;
 
 namespace {
 
-/// A parameter of a page: its check box and what is shown while that is ticked.
-struct Box
-{
-    QString name;
-    QStringList panels;
-};
-
-struct PageCase
-{
-    const char *className; ///< its own object name too, behind the namespace
-    std::function<QWidget *()> make;
-    const char *parameters; ///< names of boxes, with panels that are called otherwise
-    QStringList
-        choices; ///< of each combo box: its name, what is chosen at first, each text with the value that is sent
-    QString follower; ///< a panel that is shown while any parameter is ticked
-
-    QList<Box> boxes() const
-    {
-        QList<Box> all;
-        const QStringList words = QString(parameters).split(' ');
-        for (const QString &word : words) {
-            const QString panels = word.section('=', 1);
-            all.append({word.section('=', 0, 0), panels.isEmpty() ? QStringList(word + "Panel") : panels.split(',')});
-        }
-        return all;
-    }
-};
-
-template <typename Page>
-QWidget *make()
-{
-    return new Page(nullptr);
-}
-
+/// Of each combo box: its name, what is chosen at first, each text with the value that is sent.
 QStringList choices(const QWidget &widget)
 {
     QStringList all;
@@ -76,51 +44,6 @@ QStringList choices(const QWidget &widget)
     return all;
 }
 
-QList<PageCase> pageCases()
-{
-    const QString positions = "Param 0: Top Left=left_top, Bottom Left=left_bottom, Top Right=right_top, "
-                              "Bottom Right=right_bottom, Hide=hide";
-    return {
-        {"AudioParamsCfgPage",
-         make<AudioParamsCfgPage>,
-         "audioEnable encodingFormat audioInVolume alarmOutVolume samplingRate=samplingRatePanel,bitWidePanel",
-         {"BitWideParam 0: 16bit=#16", "encodingFormatParam 0: G711U=g711u, G711A=g711a",
-          "samplingRateParam 0: 8000=#8000"},
-         {}},
-        {"VideoParamsCfgPage",
-         make<VideoParamsCfgPage>,
-         "smartEncoding encodingFormat=encodingFormatWt resolution=resolutionWt frameRate=frameRateWt "
-         "bitRate=bitRateModeWt,bitRateStrategyWt,videoQualityWt",
-         {"smartEncodingCtrl 0: Open=open, Close=close, Auto=autoopen"},
-         {}},
-        {"ImageParamsCfgPage",
-         make<ImageParamsCfgPage>,
-         "imageFlip expertMode lightMode",
-         {"expertModeParam 0: Auto=auto, Indoor=indoor, Outdoor=outdoor, Backlight=backlight",
-          "imageFlipParam 0: Off=off, Horizontal=horizontal, Vertical=vertical, Rotate 180=both",
-          "lightModeParam 0: Infrared=ir, White Light=white, Smart Dual Light=smart, Off=off"},
-         {}},
-        {"PlatformParamsCfgPage",
-         make<PlatformParamsCfgPage>,
-         "serviceEnable serviceAddress",
-         {"serviceType 0: Public Cloud=public, Private Cloud=private"},
-         "serviceTypePanel"},
-        {"Platform9100ParamsCfgPage",
-         make<Platform9100ParamsCfgPage>,
-         "serviceEnable serviceAddress=onlineServicePanel,bussinessServicePanel",
-         {},
-         {}},
-        {"NetworkParamsCfgPage", make<NetworkParamsCfgPage>, "compatibleEnable lockIpEnable smartOnlineEnable", {}, {}},
-        {"OSDParamsCfgPage",
-         make<OSDParamsCfgPage>,
-         "osdVisible timeFormat timePosition name namePosition largeFont",
-         {"namePosition" + positions, "timeFormatParam 0: YYYY-MM-DD, MM/DD/YYYY, DD/MM/YYYY",
-          "timePosition" + positions},
-         {}},
-        {"OnvifParamsCfgPage", make<OnvifParamsCfgPage>, "compatibleEnable", {}, {}},
-    };
-}
-
 /// Clicks the box unless it is ticked as wanted already.
 void tick(QCheckBox *box, bool wanted)
 {
@@ -130,9 +53,7 @@ void tick(QCheckBox *box, bool wanted)
 
 } // namespace
 
-Q_DECLARE_METATYPE(PageCase)
-
-/// What every page offers and how it follows its check boxes.
+/// What every page offers, how it follows its check boxes, and that its editors show what is sent.
 class PagesTest : public OrdaTest
 {
     Q_OBJECT
@@ -144,15 +65,8 @@ private slots:
 
     void choicesSendTheirValues()
     {
-        QFETCH(PageCase, expected);
-        const std::unique_ptr<QWidget> page(expected.make());
-        QCOMPARE(page->objectName(), QString("orda_batchCfg__") + expected.className);
-        QStringList found = choices(*page);
-        const auto streams = page->findChildren<VideoParamsPanel *>(); // see videoPanelsDifferByStream
-        for (const VideoParamsPanel *stream : streams)
-            for (const QString &theirs : choices(*stream))
-                found.removeOne(theirs);
-        QCOMPARE(found, expected.choices);
+        const std::unique_ptr<QWidget> page = makePage();
+        QCOMPARE(choices(*page).join('\n'), expectations().value("choices").toVariant().toStringList().join('\n'));
         QVERIFY(page->findChild<QPushButton *>("okBt")->property("common_bt_style1").toBool());
         QVERIFY(page->findChild<QPushButton *>("reportBt")->property("common_bt_style2").toBool());
     }
@@ -161,8 +75,7 @@ private slots:
 
     void followsEverySelection()
     {
-        QFETCH(PageCase, expected);
-        const std::unique_ptr<QWidget> page(expected.make());
+        const std::unique_ptr<QWidget> page = makePage();
         page->resize(700, 800); // beside the other columns of a form that is 1500 pixels wide
         page->show();
         QCoreApplication::processEvents();
@@ -170,21 +83,28 @@ private slots:
         QVERIFY(area->widget()->width() <= area->viewport()->width()); // nothing needs to be scrolled sideways
 
         auto *all = page->findChild<QCheckBox *>("allParams");
-        const QList<Box> boxes = expected.boxes();
-        const auto box = [&](int i) { return page->findChild<QCheckBox *>(boxes.at(i).name); };
+        const QJsonObject panels = expectations().value("boxes and panels").toObject();
+        const QString follower = expectations().value("panel with any box").toString();
+        const QStringList boxes = panels.keys();
+        QVERIFY2(!boxes.isEmpty(), "families.json has no boxes");
+        for (const QString &name : boxes)
+            QVERIFY2(page->findChild<QCheckBox *>(name), qPrintable(name));
+        const auto box = [&](int i) { return page->findChild<QCheckBox *>(boxes.at(i)); };
         const int everything = (1 << boxes.size()) - 1;
         const auto followed = [&](int selection) {
             const Qt::CheckState some = selection == 0 ? Qt::Unchecked : Qt::PartiallyChecked;
             const auto isShown = [&page](const QString &panel) {
-                return page->findChild<QWidget *>(panel)->isVisibleTo(page.get());
+                const auto *widget = page->findChild<QWidget *>(panel);
+                return widget && widget->isVisibleTo(page.get());
             };
             bool isRight = all->checkState() == (selection == everything ? Qt::Checked : some)
                         && page->findChild<QPushButton *>("okBt")->isEnabled() == (selection != 0)
-                        && (expected.follower.isEmpty() || isShown(expected.follower) == (selection != 0));
+                        && (follower.isEmpty() || isShown(follower) == (selection != 0));
             for (int i = 0; i < boxes.size(); ++i) {
                 const bool isSelected = (selection & (1 << i)) != 0;
                 isRight = isRight && box(i)->isChecked() == isSelected;
-                for (const QString &panel : boxes.at(i).panels)
+                const QStringList theirs = panels.value(boxes.at(i)).toVariant().toStringList();
+                for (const QString &panel : theirs)
                     isRight = isRight && isShown(panel) == isSelected;
             }
             return isRight;
@@ -215,17 +135,6 @@ private slots:
     {
         VideoParamsPanel main(VideoParamsPanel::MainStream);
         VideoParamsPanel sub(VideoParamsPanel::SubStream);
-        const QString small = "1280*960, 1280*720, 960*540, 768*432, 720*576, 720*480, 704*576, 640*480, "
-                              "352*288, 368*208";
-        QStringList expected{
-            "bitRateMode 0: Variable Bitrate=vbr, Fixed Bitrate=cbr",
-            "bitRateStrategy 2: Best Image Quality=#100, Image Quality Priority=#80, Balance Mode=#60, "
-            "Storage Priority=#40, Optimal Storage=#20",
-            "encodingFormat 0: H264=h264, H265=h265", "frameRate 7: 10, 15, 20, 21, 22, 23, 24, 25, 30",
-            "resolution 2: 2560*1440, 2304*1296, 1920*1080, " + small};
-        QCOMPARE(choices(main), expected);
-        expected.last() = "resolution 6: " + small;
-        QCOMPARE(choices(sub), expected);
         QCOMPARE(main.findChild<QLabel *>("title")->text(), "HD Stream");
         QCOMPARE(sub.findChild<QLabel *>("title")->text(), "SD Stream");
 
@@ -316,13 +225,101 @@ private slots:
         QCOMPARE(reports.count(), before);
     }
 
+    void volumesShowWhatIsSent_data()
+    {
+        columns<int>({"sent"}); // what is typed over "50"; < deletes
+        const std::pair<const char *, int> cases[]{{"<<", 0},      {"<<<7", 7},           {"<<8<", 0},
+                                                   {"<<150", 100}, {"<<100<<<1000", 100}, {"<<007", 7},
+                                                   {"<<-5", 5},    {"<<3x.,4", 34}};
+        for (const auto &[typed, sent] : cases)
+            row(typed, sent);
+    }
+
+    void volumesShowWhatIsSent()
+    {
+        QFETCH(int, sent);
+        AudioParamsCfgPage page;
+        page.show();
+        for (const QString name : {"audioInVolume", "alarmOutVolume"}) {
+            auto *edit = page.findChild<QLineEdit *>(name + "Param");
+            auto *slider = page.findChild<QSlider *>(name + "Slider");
+            QCOMPARE(edit->text(), "50");
+            for (const char key : QByteArray(QTest::currentDataTag())) {
+                key == '<' ? QTest::keyClick(edit, Qt::Key_Backspace) : QTest::keyClick(edit, key);
+                QCOMPARE(edit->text(), QString::number(slider->value())); // at every moment: Configure may come at any
+            }
+            QCOMPARE(slider->value(), sent);
+            slider->setValue(30);
+            QCOMPARE(edit->text(), "30");
+        }
+    }
+
+    void videoQualityTakesTheNearestBound_data()
+    {
+        columns<int>({"sent"});
+        for (const char *tooSmall : {"5", "0", ""})
+            row(tooSmall, 10);
+        for (const char *tooLarge : {"10240", "10241", "99999", "99999999999999999999"})
+            row(tooLarge, 10240);
+        row("2x0-48", 2048);
+    }
+
+    void videoQualityTakesTheNearestBound()
+    {
+        QFETCH(int, sent);
+        for (const bool isLeft : {true, false}) { // else Configure comes while the number is being typed
+            VideoParamsPanel panel(VideoParamsPanel::MainStream);
+            panel.show();
+            QApplication::setActiveWindow(&panel);
+            auto *spin = panel.findChild<QSpinBox *>("videoQuality");
+            spin->setFocus();
+            spin->selectAll();
+            QTest::keyClick(spin, Qt::Key_Delete);
+            QTest::keyClicks(spin, QTest::currentDataTag());
+            if (isLeft) {
+                QTest::keyClick(spin, Qt::Key_Tab);
+                QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent));
+            }
+            QCOMPARE(panel.getParams().value("bitRate").toInt(), sent);
+            QCOMPARE(spin->text(), QStringLiteral("%1 kbps").arg(sent)); // shown as it is sent
+        }
+    }
+
+    void switchesNeedNoImagesOfTheClient()
+    {
+        AudioParamsCfgPage page;
+        auto *button = page.findChild<QPushButton *>(QStringLiteral("audioSwitch"));
+        const auto states = [button] {
+            button->setChecked(false);
+            const QImage off = button->grab().toImage();
+            button->setChecked(true);
+            return qMakePair(off, button->grab().toImage());
+        };
+        const auto withImages = states(); // of orda_base, which the module's own equal
+        const QString nowhere = QStringLiteral(":/nowhere/");
+        button->setStyleSheet(button->styleSheet().replace(QStringLiteral(":/images/images/"), nowhere));
+        QVERIFY(states() != withImages);
+        completeSwitchImages(&page, nowhere);
+        QVERIFY(states() == withImages);
+    }
+
 private:
     static void addPages()
     {
-        columns<PageCase>({"expected"});
-        for (const PageCase &each : pageCases())
-            row(each.className, each);
+        columns<int>({"family"});
+        for (int i = 0; i < Families::all().size(); ++i)
+            row(qPrintable(Families::all().at(i).family.name), i);
     }
+
+    /// The page of the row's family.
+    static std::unique_ptr<QWidget> makePage()
+    {
+        QFETCH(int, family);
+        return std::unique_ptr<QWidget>(createFamilyPage(Families::all().at(family)));
+    }
+
+    /// What families.json says of it.
+    static QJsonObject expectations() { return expectedOf(QTest::currentDataTag()); }
 };
 
 ORDA_TEST_MAIN(PagesTest)

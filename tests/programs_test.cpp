@@ -67,7 +67,8 @@ QStringList differences(const QVariant &before, const QVariant &after, const QSt
     const QVariantMap was = members(before), is = members(after);
     if (was.isEmpty() || is.isEmpty())
         return before == after ? QStringList() : QStringList(path);
-    QStringList paths, keys = was.keys() + is.keys();
+    QStringList paths, keys = was.keys();
+    keys += is.keys();
     keys.removeDuplicates();
     for (const QString &key : qAsConst(keys))
         paths += differences(was.value(key), is.value(key), path + '/' + key);

@@ -15,22 +15,9 @@ namespace {
 
 constexpr std::chrono::milliseconds waitingTime{100};
 
-QJsonObject values()
-{
-    return {{"encType", "g711a"}, {"aoGain", 7}, {"unknownHere", true}};
-}
-
-QJsonObject deviceAudio(const Request &request)
-{
-    QJsonObject audio{{"encType", "g711u"}, {"mask", 3}};
-    if (request.method() == "ao_get_param")
-        audio.insert("aoGain", 50);
-    return audio;
-}
-
 QStringList healthy(const Request &request)
 {
-    return {answer(request.method(), deviceAudio(request))};
+    return {answer(request.method(), {{"encType", "g711u"}, {"mask", 3}})};
 }
 
 // A healthy device but for one method.
@@ -39,10 +26,10 @@ ScriptedTransport::Script except(const QString &method, const QStringList &answe
     return [=](const Request &request) { return request.method() == method ? answers : healthy(request); };
 }
 
-const QString aiGet = "ai_get_param";
-const QString aiSet = "ai_set_param";
-const QString aoGet = "ao_get_param";
-const QString aoSet = "ao_set_param";
+constexpr char aiGet[] = "ai_get_param";
+constexpr char aiSet[] = "ai_set_param";
+constexpr char aoGet[] = "ao_get_param";
+constexpr char aoSet[] = "ao_set_param";
 
 } // namespace
 
@@ -91,7 +78,7 @@ private slots:
         QFETCH(int, code);
 
         const ScriptedTransport *transport = use(script);
-        AudioParamsCfgTask task("cam", values(), flags, nullptr);
+        AudioParamsCfgTask task("cam", {}, flags, nullptr);
         QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
         QTRY_COMPARE(results.count(), 1);
         const QVariantList &result = results.constFirst();
@@ -108,13 +95,10 @@ private slots:
             QCOMPARE(request.requestId, task.requestId());
     }
 
-    void sendsTheWholeObjectWithTheChosenMembers()
+    void sendsReadableText()
     {
-        const ScriptedTransport *transport = use(healthy);
-        AudioParamsCfgTask task("cam", values(), AudioParamsCfgTask::AudioIn | AudioParamsCfgTask::AudioOut, nullptr);
-        QSignalSpy results(&task, &AudioParamsCfgTask::signalCfgResult);
-        QTRY_COMPARE(results.count(), 1);
-
+        const ScriptedTransport *transport = use(silent);
+        const AudioParamsCfgTask task("cam", {}, AudioParamsCfgTask::AudioIn, nullptr);
         QCOMPARE(transport->requests.at(0).text, R"({
     "level": "Operator",
     "method": "ai_get_param",
@@ -123,29 +107,12 @@ private slots:
     }
 }
 )");
-        QCOMPARE(transport->requests.at(1).text, R"({
-    "level": "Operator",
-    "method": "ai_set_param",
-    "param": {
-        "audioAttr": {
-            "encType": "g711a",
-            "mask": 3
-        },
-        "channelid": 0
-    }
-}
-)");
-        // The output has a gain as well, and what was read of the input is not written to it.
-        QCOMPARE(
-            transport->requests.at(3).json().value("param").toObject(),
-            QJsonDocument::fromJson(R"({"channelid": 0, "audioAttr": {"encType": "g711a", "mask": 3, "aoGain": 7}})")
-                .object());
     }
 
     void pausesBetweenAnAnswerAndTheNextRequest()
     {
         const ScriptedTransport *transport = use(healthy);
-        AudioParamsCfgTask task("cam", values(), AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask task("cam", {}, AudioParamsCfgTask::AudioIn, nullptr);
         QElapsedTimer sinceAnswer;
         connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, &task, [&] {
             if (transport->requests.size() == 1)
@@ -158,8 +125,8 @@ private slots:
     void hearsOnlyItsOwnAnswersAndTimeOuts()
     {
         use(silent);
-        AudioParamsCfgTask first("cam", values(), AudioParamsCfgTask::AudioIn, nullptr);
-        AudioParamsCfgTask second("cam", values(), AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask first("cam", {}, AudioParamsCfgTask::AudioIn, nullptr);
+        AudioParamsCfgTask second("cam", {}, AudioParamsCfgTask::AudioIn, nullptr);
         QSignalSpy firstResults(&first, &AudioParamsCfgTask::signalCfgResult);
         QSignalSpy secondResults(&second, &AudioParamsCfgTask::signalCfgResult);
 

@@ -16,6 +16,7 @@ const QVector<FamilyEntry> &Families::all()
     static constexpr NavigationBar audioVideo{"audio_video_param", QT_TR_NOOP("Audio-Video Parameters")};
     static constexpr NavigationBar platform{"platform_param", QT_TR_NOOP("Platform Parameters")};
     static const QVector<FamilyEntry> entries{
+        {OnvifParamsCfgTask::family(), nullptr, nullptr, nullptr, "orda_batchCfg__OnvifParamsCfgPage"},
         {AudioParamsCfgTask::family(), "audio_param", QT_TR_NOOP("Audio Parameters"), &audioVideo,
          "audioParametersPage"},
         {VideoParamsCfgTask::family(), "video_param", QT_TR_NOOP("Video Parameters"), &audioVideo,
@@ -28,7 +29,6 @@ const QVector<FamilyEntry> &Families::all()
         {NetworkParamsCfgTask::family(), "network_param", QT_TR_NOOP("Network Parameters"), nullptr,
          "networkParamsCfgPage"},
         {OSDParamsCfgTask::family(), "osd_param", QT_TR_NOOP("OSD Parameters"), nullptr, "osdParamsCfgPage"},
-        {OnvifParamsCfgTask::family(), nullptr, nullptr, nullptr, "orda_batchCfg__OnvifParamsCfgPage"},
     };
     return entries;
 }

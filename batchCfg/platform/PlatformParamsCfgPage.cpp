@@ -20,13 +20,13 @@ PlatformParamsCfgPage::PlatformParamsCfgPage(QWidget *parent)
     , m_ui(std::make_unique<Ui::PlatformParamsCfgPage>())
 {
     m_ui->setupUi(this);
-    m_ui->serviceAddressParam->setCursorPosition(0); // where the line is too short, its beginning is seen
     setParams({
         {ServiceEnable, m_ui->serviceEnable, {m_ui->serviceEnablePanel}, "qbcloud_en", m_ui->serviceSwitch},
         {ServiceAddress, m_ui->serviceAddress, {m_ui->serviceAddressPanel}, "qbcloud_addr", m_ui->serviceAddressParam},
         // The type has no box of its own: it goes with either.
         {ServiceEnable | ServiceAddress, nullptr, {m_ui->serviceTypePanel}, "qbcloud_type", m_ui->serviceType},
     });
+    m_ui->serviceAddressParam->setCursorPosition(0); // where the line is too short, its beginning is seen
 }
 
 PlatformParamsCfgPage::~PlatformParamsCfgPage() = default;

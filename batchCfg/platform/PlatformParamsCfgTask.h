@@ -20,9 +20,9 @@ public:
     static const CfgFamily &family();
 
     /// @param values "qbcloud_type" always, "qbcloud_en" and "qbcloud_addr" where they are to change
-    /// @param checkLimit how long after the first reading again the device may take to hold still
+    /// @param checkLimit how long after the first reading again the device may take to hold still; 0: cloudCheckLimit
     PlatformParamsCfgTask(const QString &devId, const QJsonObject &values, QObject *parent,
-                          std::chrono::milliseconds checkLimit = cloudCheckLimit);
+                          std::chrono::milliseconds checkLimit = std::chrono::milliseconds(0));
 };
 
 } // namespace orda_batchCfg

@@ -20,7 +20,7 @@ public:
     static BatchCfgContact &instance();
 
     /// The last form wins. The contact does not own it and forgets it when it is deleted.
-    /// @tparam Form BatchCfgForm, which only its own room knows as a class
+    /// @tparam Form BatchCfgForm, whose definition only shell/ includes
     template <typename Form>
     void setForm(Form *form)
     {
@@ -28,6 +28,7 @@ public:
         m_widget = form;
         m_listCheckedDevIds = [form] { return form->checkedDevIds(); };
     }
+    void setForm(std::nullptr_t) { m_widget = nullptr; }
     /// The registered form, or null.
     BatchCfgForm *form() const { return m_widget ? m_form : nullptr; }
     /// form() for those who only cover it with something.

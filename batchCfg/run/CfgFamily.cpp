@@ -53,11 +53,14 @@ QString CfgFamily::recordFile() const
     return QStringLiteral("vms_%1_params_batch_cfg_record.txt").arg(name);
 }
 
-const CfgKey *CfgFamily::findKey(const QString &key) const
+const CfgKey &CfgFamily::key(const char *latin1) const
 {
-    const auto found =
-        std::find_if(keys.begin(), keys.end(), [&key](const CfgKey &candidate) { return candidate.name == key; });
-    return found == keys.end() ? nullptr : &*found;
+    const auto found = std::find_if(keys.begin(), keys.end(), [latin1](const CfgKey &candidate) {
+        return candidate.name == QLatin1String(latin1);
+    });
+    if (found == keys.end())
+        qFatal("family %s has no key %s", qPrintable(name), latin1);
+    return *found;
 }
 
 } // namespace orda_batchCfg

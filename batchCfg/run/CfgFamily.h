@@ -15,7 +15,8 @@ class ParamsCfgTask;
 struct CfgChoice
 {
     CfgChoice(const char *latin1, const char *shownText);
-    /// @param shownText null: the number itself is shown
+    /// @param shownText null: the number itself is shown, and the item of a combo box has no data. All choices of a key
+    /// have a text, or none has.
     CfgChoice(int number, const char *shownText = nullptr);
 
     QJsonValue value; ///< as devices read it
@@ -47,7 +48,7 @@ struct CfgKey
 
     QString name;
     Type type;
-    int flag; ///< of the exchange that writes the key: CfgExchange::flag
+    int flag; ///< of the exchange that the key asks for: CfgExchange::flag
     int minimum = 0; ///< of a Number; of a Text the shortest length
     int maximum = 0; ///< of a Number; of a Text the longest length
     int initial = 0;
@@ -60,7 +61,7 @@ struct CfgFamily
 {
     /// Makes the task of one device, which has sent its first request when it is returned.
     /// @param values the parameters to set, by key
-    /// @param flags the exchanges to run: flagsOf() the keys in @p values
+    /// @param flags the exchanges to run: the flags of the keys in @p values, joined
     using CreateTask = ParamsCfgTask *(*)(const QString &devId, const QJsonObject &values, int flags, QObject *parent);
 
     QString name; ///< short and never translated: names the record file, and the family in other programs
@@ -75,8 +76,8 @@ struct CfgFamily
     QString translated(const char *text) const;
     /// File name of the record of a run, without a directory.
     QString recordFile() const;
-    /// Null for a key that the family does not have.
-    const CfgKey *findKey(const QString &key) const;
+    /// One of the family's keys. Any other is a mistake in the program, which ends.
+    const CfgKey &key(const char *latin1) const;
 };
 
 } // namespace orda_batchCfg

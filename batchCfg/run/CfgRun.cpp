@@ -18,6 +18,7 @@ bool CfgRun::isUnderWay()
 CfgRun::CfgRun(int devices)
     : m_total(devices)
 {
+    Q_ASSERT(!s_isUnderWay);
     s_isUnderWay = true;
 }
 

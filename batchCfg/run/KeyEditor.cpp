@@ -13,15 +13,9 @@ namespace orda_batchCfg {
 
 namespace {
 
-const CfgKey &keyOf(const CfgFamily &family, const char *name)
-{
-    const CfgKey *key = family.findKey(QLatin1String(name));
-    Q_ASSERT(key);
-    return *key;
-}
-
 void fillChoices(QComboBox *combo, const CfgFamily &family, const CfgKey &key)
 {
+    combo->clear();
     QList<QVariant> values;
     for (const CfgChoice &choice : key.choices) {
         combo->addItem(choice.text ? family.translated(choice.text) : QString::number(choice.value.toInt()));
@@ -29,7 +23,7 @@ void fillChoices(QComboBox *combo, const CfgFamily &family, const CfgKey &key)
             values.append(choice.value.isString() ? QVariant(choice.value.toString()) : choice.value.toInt());
     }
     combo->setCurrentIndex(key.initial);
-    auto *withData = qobject_cast<orda_base::ComboBox *>(combo);
+    auto *withData = dynamic_cast<orda_base::ComboBox *>(combo);
     if (withData && !values.isEmpty())
         withData->setItemsData(values);
 }
@@ -45,20 +39,20 @@ void fillRange(Editor *editor, const CfgKey &key)
 
 void fillEditor(QWidget *editor, const CfgFamily &family, const char *key)
 {
-    const CfgKey &filled = keyOf(family, key);
+    const CfgKey &filled = family.key(key);
     if (auto *combo = qobject_cast<QComboBox *>(editor))
         fillChoices(combo, family, filled);
     else if (auto *slider = qobject_cast<QAbstractSlider *>(editor))
         fillRange(slider, filled);
     else if (auto *spinBox = qobject_cast<QSpinBox *>(editor))
         fillRange(spinBox, filled);
-    else if (auto *edit = qobject_cast<QLineEdit *>(editor))
+    else if (auto *edit = qobject_cast<QLineEdit *>(editor); edit && filled.type == CfgKey::Text)
         edit->setMaxLength(filled.maximum);
 }
 
 QJsonValue editedValue(const QWidget *editor, const CfgFamily &family, const char *key)
 {
-    const CfgKey &edited = keyOf(family, key);
+    const CfgKey &edited = family.key(key);
     if (const auto *combo = qobject_cast<const QComboBox *>(editor)) {
         const int index = combo->currentIndex();
         return index < 0 ? QJsonValue(QJsonValue::Undefined) : edited.choices.at(index).value;
@@ -69,7 +63,10 @@ QJsonValue editedValue(const QWidget *editor, const CfgFamily &family, const cha
         return spinBox->value();
     if (const auto *edit = qobject_cast<const QLineEdit *>(editor))
         return edit->text();
-    const bool isOn = qobject_cast<const QAbstractButton *>(editor)->isChecked();
+    const auto *button = qobject_cast<const QAbstractButton *>(editor);
+    if (!button)
+        qFatal("no editor for the key %s of family %s", key, qPrintable(family.name));
+    const bool isOn = button->isChecked();
     return edited.type == CfgKey::NumberSwitch ? QJsonValue(isOn ? 1 : 0) : QJsonValue(isOn);
 }
 

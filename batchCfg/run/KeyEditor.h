@@ -10,9 +10,10 @@ namespace orda_batchCfg {
 
 struct CfgFamily;
 
-/// Gives an editor what its key says: a combo box the choices in the language of the application, a slider or a spin
-/// box the range, a line edit the greatest length; and the initial value to the first three. A combo box of the
-/// client's has the values as item data, except where the values themselves are shown.
+/// Gives an editor what its key says: a combo box gets the choices in the language of the application, a slider or a
+/// spin box gets the range, and each of these the initial value; a line edit for a text gets the greatest length. An
+/// orda_base::ComboBox gets the values as item data, except where the values themselves are shown.
+/// @param editor any other widget, or null, is left as it is
 /// @param key one of the family's
 void fillEditor(QWidget *editor, const CfgFamily &family, const char *key);
 

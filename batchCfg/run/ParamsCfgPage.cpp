@@ -17,6 +17,7 @@
 #include <orda_worker/DictDef.h>
 #include <orda_worker/SystemAssistant.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QEventLoop>
@@ -32,6 +33,17 @@
 namespace orda_batchCfg {
 
 namespace {
+
+int tickedBoxes(const QList<QCheckBox *> &boxes)
+{
+    return int(std::count_if(boxes.begin(), boxes.end(), [](const QCheckBox *box) { return box->isChecked(); }));
+}
+
+bool areSomeTicked(const QList<QCheckBox *> &boxes)
+{
+    const int ticked = tickedBoxes(boxes);
+    return ticked > 0 && ticked < boxes.size();
+}
 
 void alert(const QString &text)
 {
@@ -120,11 +132,11 @@ void ParamsCfgPage::addSelection(QCheckBox *all, const QList<QCheckBox *> &boxes
         refresh();
     };
     connect(all, &QCheckBox::clicked, this, tickAll);
-    // Assistive technology toggles the box without a click. A change that comes from the boxes ticks nothing: then the
-    // box is partly checked, or all boxes are as it says.
-    connect(all, &QCheckBox::toggled, this, [this, all, tickAll](bool checked) {
-        if (!m_isTickingAll && all->checkState() != Qt::PartiallyChecked)
-            tickAll(checked);
+    // Assistive technology toggles the box without a click and means one, which ticks all where only some are ticked. A
+    // program that sets the state of the box means no more than that.
+    connect(all, &QCheckBox::toggled, this, [this, boxes, tickAll](bool checked) {
+        if (QAccessible::isActive() && !m_isTickingAll)
+            tickAll(checked || areSomeTicked(boxes));
     });
 }
 
@@ -135,12 +147,15 @@ void ParamsCfgPage::slotSelectedParamsChanged()
 
 void ParamsCfgPage::updateSelection(const QCheckBox *all)
 {
+    if (m_isTickingAll)
+        return; // all boxes are about to change, and what follows from them is worked out once
     for (const Selection &selection : qAsConst(m_selections)) {
-        if (selection.all == all && !m_isTickingAll) {
-            const auto ticked = std::count_if(selection.boxes.begin(), selection.boxes.end(),
-                                              [](const QCheckBox *box) { return box->isChecked(); });
+        if (selection.all == all) {
+            const int ticked = tickedBoxes(selection.boxes);
             const bool isWhole = ticked == selection.boxes.size();
+            m_isTickingAll = true; // the boxes are as they should be
             selection.all->setCheckState(isWhole ? Qt::Checked : ticked == 0 ? Qt::Unchecked : Qt::PartiallyChecked);
+            m_isTickingAll = false;
         }
     }
     refresh();
@@ -228,7 +243,7 @@ int ParamsCfgPage::taskFlags() const
     int taskFlags = 0;
     for (const Param &param : m_params)
         if ((m_flags & param.bit) != 0 && param.key)
-            taskFlags |= m_family.findKey(QLatin1String(param.key))->flag;
+            taskFlags |= m_family.key(param.key).flag;
     return taskFlags;
 }
 

@@ -102,7 +102,7 @@ private:
     QList<Selection> m_selections; // the parameters' is the last
     QVector<Param> m_params;
     int m_flags = 0;
-    bool m_isTickingAll = false; // an "All" box sets its boxes, which do not set it meanwhile
+    bool m_isTickingAll = false; // the boxes of a selection are being brought in line with each other
     QString m_confirmUuid;
     std::weak_ptr<ShownRun> m_run; // lives as long as configure() waits
 };

@@ -84,7 +84,11 @@ BatchCfgForm::BatchCfgForm(QWidget *parent)
     connectStore();
 }
 
-BatchCfgForm::~BatchCfgForm() = default;
+BatchCfgForm::~BatchCfgForm()
+{
+    if (BatchCfgContact::instance().form() == this)
+        BatchCfgContact::instance().setForm(nullptr); // nobody asks it for devices any more
+}
 
 int BatchCfgForm::formType() const
 {
@@ -129,10 +133,10 @@ void BatchCfgForm::initNavigation()
         entries.clear();
     };
     for (const FamilyEntry &entry : Families::all()) {
-        if (entry.bar != bar)
-            endBar();
         if (!entry.key)
             continue;
+        if (entry.bar != bar)
+            endBar();
         m_pageIndexByKey.insert(QLatin1String(entry.key), m_pageIndexByKey.size());
         bar = entry.bar;
         if (bar)

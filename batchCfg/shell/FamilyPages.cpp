@@ -19,7 +19,7 @@ namespace {
 using CreatePage = QWidget *(*)();
 
 template <typename Page>
-QWidget *create()
+QWidget *newPage()
 {
     return new Page(nullptr);
 }
@@ -28,14 +28,14 @@ QWidget *create()
 const QHash<QString, CreatePage> &pageClasses()
 {
     static const QHash<QString, CreatePage> classes{
-        {QStringLiteral("audio"), create<AudioParamsCfgPage>},
-        {QStringLiteral("video"), create<VideoParamsCfgPage>},
-        {QStringLiteral("image"), create<ImageParamsCfgPage>},
-        {QStringLiteral("platform"), create<PlatformParamsCfgPage>},
-        {QStringLiteral("platform_9100"), create<Platform9100ParamsCfgPage>},
-        {QStringLiteral("network"), create<NetworkParamsCfgPage>},
-        {QStringLiteral("osd"), create<OSDParamsCfgPage>},
-        {QStringLiteral("onvif"), create<OnvifParamsCfgPage>},
+        {QStringLiteral("audio"), newPage<AudioParamsCfgPage>},
+        {QStringLiteral("video"), newPage<VideoParamsCfgPage>},
+        {QStringLiteral("image"), newPage<ImageParamsCfgPage>},
+        {QStringLiteral("platform"), newPage<PlatformParamsCfgPage>},
+        {QStringLiteral("platform_9100"), newPage<Platform9100ParamsCfgPage>},
+        {QStringLiteral("network"), newPage<NetworkParamsCfgPage>},
+        {QStringLiteral("osd"), newPage<OSDParamsCfgPage>},
+        {QStringLiteral("onvif"), newPage<OnvifParamsCfgPage>},
     };
     return classes;
 }
@@ -44,7 +44,10 @@ const QHash<QString, CreatePage> &pageClasses()
 
 QWidget *createFamilyPage(const FamilyEntry &entry)
 {
-    QWidget *page = pageClasses().value(entry.family.name)();
+    const CreatePage create = pageClasses().value(entry.family.name);
+    if (!create)
+        qFatal("family %s has no page", qPrintable(entry.family.name));
+    QWidget *page = create();
     page->setObjectName(QLatin1String(entry.pageName));
     if (entry.title)
         page->setAccessibleName(Families::tr(entry.title));

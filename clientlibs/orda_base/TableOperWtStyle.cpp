@@ -3,6 +3,7 @@
 #include <XCOMMON/XTableWidget.h>
 #include <orda_base/DelayedCall.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -51,16 +52,11 @@ void TableOperWtStyle::setWts(QCheckBox *all, XCOMMON::XTableWidget *table, QLay
     // A row that is hidden or shown again gets another height.
     connect(table->verticalHeader(), &QHeaderView::sectionResized, m_updateAllBox, &DelayedCall::request);
     // A tri-state box would go to "partly" at every third click; a click on it means all or none.
-    const auto tickAll = [this](bool checked) {
-        m_all->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
-        setVisibleRows(checked);
-    };
-    connect(all, &QCheckBox::clicked, this, tickAll);
-    // Assistive technology toggles the box without a click. A change that comes from the rows ticks nothing: then the
-    // box is partly checked, or all rows are as it says.
-    connect(all, &QCheckBox::toggled, this, [this, tickAll](bool checked) {
-        if (m_all->checkState() != Qt::PartiallyChecked)
-            tickAll(checked);
+    connect(all, &QCheckBox::clicked, this, &TableOperWtStyle::setVisibleRows);
+    // Assistive technology toggles the box without a click and means one, which ticks all where only some are ticked.
+    connect(all, &QCheckBox::toggled, this, [this](bool checked) {
+        if (QAccessible::isActive() && !m_isSettingAllBox)
+            setVisibleRows(checked || m_shownState == Qt::PartiallyChecked);
     });
     table->setAccessibleDescription(tr("Space ticks and unticks the selected rows"));
     table->installEventFilter(this);
@@ -117,10 +113,10 @@ void TableOperWtStyle::updateAllBox()
             checked += item->checkState() == Qt::Checked ? 1 : 0;
         }
     }
-    if (checked == 0)
-        m_all->setCheckState(Qt::Unchecked);
-    else
-        m_all->setCheckState(checked == visible ? Qt::Checked : Qt::PartiallyChecked);
+    m_shownState = checked == 0 ? Qt::Unchecked : checked == visible ? Qt::Checked : Qt::PartiallyChecked;
+    m_isSettingAllBox = true;
+    m_all->setCheckState(m_shownState);
+    m_isSettingAllBox = false;
 }
 
 void TableOperWtStyle::alignHeader()

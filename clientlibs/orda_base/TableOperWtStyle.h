@@ -48,6 +48,8 @@ private:
     QPointer<XCOMMON::XTableWidget> m_table;
     QPointer<QLayout> m_header;
     DelayedCall *m_updateAllBox; // later and once: thousands of rows may change, and each update goes through all rows
+    Qt::CheckState m_shownState = Qt::Unchecked; // of the "All" box, as the rows have it
+    bool m_isSettingAllBox = false;
     bool m_isTickingAll = false;
 };
 

@@ -17,11 +17,11 @@
 
 using namespace orda_batchCfg;
 
-// What devices may answer, as the transport hands it on: empty where it is beyond a limit. The first byte picks the
-// family, its top bit whether the task is deleted while a step may be due; the rest is a sequence of answers with null
-// bytes between them: an empty one stands for the device's return, "t" for the waiting time going by, and one that
-// begins with a space is followed by the next at once. However they come, a task ends at most once and asks for nothing
-// after that, and a task that got no answer knows nothing of it.
+// What devices may answer, as the transport hands it on: empty where it is beyond a limit. The first byte is the
+// family's digit in the list of all, its top bit whether the task is deleted while a step may be due; the rest is a
+// sequence of answers with null bytes between them: an empty one stands for the device's return, "t" for the waiting
+// time going by, and one that begins with a space is followed by the next at once. However they come, a task ends at
+// most once and asks for nothing after that, and a task that got no answer knows nothing of it.
 
 namespace {
 
@@ -74,9 +74,9 @@ QJsonValue someValue(const CfgKey &key)
     return key.type == CfgKey::Text ? QJsonValue(QStringLiteral("n")) : QJsonValue(key.initial);
 }
 
-std::unique_ptr<ParamsCfgTask> makeTask(unsigned number)
+std::unique_ptr<ParamsCfgTask> makeTask(int number)
 {
-    const CfgFamily &family = Families::all().at(int(number) % Families::all().size()).family;
+    const CfgFamily &family = Families::all().at(number).family;
     QJsonObject values;
     int flags = 0;
     for (const CfgKey &key : family.keys) {
@@ -92,7 +92,7 @@ std::unique_ptr<ParamsCfgTask> makeTask(unsigned number)
 /// A task and what came of it.
 struct Watched
 {
-    Watched(unsigned family, const CountingTransport &transport)
+    Watched(int family, const CountingTransport &transport)
         : task(makeTask(family))
     {
         QObject::connect(task.get(), &ParamsCfgTask::signalCfgResult, task.get(),
@@ -124,12 +124,12 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
     using namespace std::chrono_literals;
-    if (size < 2)
+    const int family = size < 2 ? -1 : (data[0] & 0x7f) - '0';
+    if (family < 0 || family >= Families::all().size())
         return 0;
     auto owned = std::make_unique<CountingTransport>();
     CountingTransport &transport = *owned;
     vms_sdk::ClientSdk::instance().setTransport(std::move(owned));
-    const unsigned family = data[0] & 0x7fU;
     Watched bystander(family, transport); // of the same device
     Watched watched(family, transport);
     const QString requestId = watched.task->requestId();

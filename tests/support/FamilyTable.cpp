@@ -4,44 +4,41 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
 
 #include <algorithm>
-
-using orda_batchCfg::CfgExchange;
-using orda_batchCfg::Families;
-using orda_batchCfg::FamilyEntry;
-
-namespace {
-
-FamilyRow rowOf(const FamilyEntry &entry)
-{
-    const auto &family = entry.family;
-    FamilyRow row{family.name,
-                  QString::fromLatin1(entry.key),
-                  QString::fromLatin1(entry.pageName),
-                  QString::fromLatin1(family.title),
-                  family.recordFile(),
-                  QString::fromLatin1(family.timeoutText),
-                  {},
-                  {}};
-    for (const CfgExchange &exchange : family.exchanges) {
-        row.methods << exchange.getMethod << exchange.setMethod;
-        row.failures << QString::fromLatin1(exchange.getFailure) << QString::fromLatin1(exchange.setFailure);
-    }
-    return row;
-}
-
-} // namespace
 
 const QList<FamilyRow> &familyTable()
 {
     static const QList<FamilyRow> rows = [] {
         QList<FamilyRow> all;
-        for (const FamilyEntry &entry : Families::all())
-            all.append(rowOf(entry));
+        for (const orda_batchCfg::FamilyEntry &entry : orda_batchCfg::Families::all()) {
+            const auto &family = entry.family;
+            FamilyRow row{family.name,  entry.key,           entry.pageName,
+                          family.title, family.recordFile(), family.timeoutText};
+            for (const orda_batchCfg::CfgExchange &exchange : family.exchanges) {
+                row.methods << exchange.getMethod << exchange.setMethod;
+                row.failures << exchange.getFailure << exchange.setFailure;
+            }
+            all.append(row);
+        }
         return all;
     }();
     return rows;
+}
+
+QJsonObject expectedOf(const QString &family)
+{
+    static const QJsonObject families = [] {
+        QFile file(FAMILIES_JSON);
+        QJsonParseError error{};
+        const bool isOpen = file.open(QIODevice::ReadOnly);
+        const QJsonObject all = QJsonDocument::fromJson(file.readAll(), &error).object();
+        if (!isOpen || all.isEmpty())
+            qFatal("%s: %s at %d", FAMILIES_JSON, qPrintable(error.errorString()), error.offset);
+        return all;
+    }();
+    return families.value(family).toObject();
 }
 
 QList<FamilyRow> offeredFamilies()
@@ -51,18 +48,6 @@ QList<FamilyRow> offeredFamilies()
         if (!family.navigationKey.isEmpty())
             offered.append(family);
     return offered;
-}
-
-QList<FamilyRow> stormedFamilies()
-{
-    const bool all = qEnvironmentVariableIsSet("ORDA_STORM_SEEDS");
-    const QStringList few{QStringLiteral("audio"), QStringLiteral("platform"), QStringLiteral("image")};
-    const QList<FamilyRow> offered = offeredFamilies();
-    QList<FamilyRow> families;
-    for (const FamilyRow &family : offered)
-        if (all || few.contains(family.name))
-            families.append(family);
-    return families;
 }
 
 const FamilyRow &familyRow(const QString &name)
@@ -82,9 +67,9 @@ QMap<QString, QString> recordedMessages(const FamilyRow &family)
     QFile file(recordPath(family));
     if (!file.open(QIODevice::ReadOnly))
         return messages;
-    const QStringList entries = QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"), Qt::SkipEmptyParts);
+    const QStringList entries = QString::fromUtf8(file.readAll()).split("\n\n", Qt::SkipEmptyParts);
     for (const QString &entry : entries) {
-        const QStringList fields = entry.split(QStringLiteral("    "), Qt::SkipEmptyParts);
+        const QStringList fields = entry.split("    ", Qt::SkipEmptyParts);
         // The address is missing where a device has none; the message is the first field that reads like one.
         const auto message = std::find_if(fields.begin() + 2, fields.end(), [](const QString &field) {
             return !field.trimmed().isEmpty() && !field.trimmed().front().isDigit();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QList>
 #include <QMap>
 #include <QMetaType>
@@ -14,17 +15,16 @@ struct FamilyRow
     QString navigationKey; ///< empty: the form does not offer the page
     QString pageName; ///< object name, in the form's stack where it stands there
     QString title, recordFile, timeoutText;
-    QStringList methods; ///< of a run with everything ticked
-    QStringList failures; ///< the text for each of them, the code left as %1
+    QStringList methods = {}; ///< of a run with everything ticked
+    QStringList failures = {}; ///< the text for each of them, the code left as %1
 };
 
 const QList<FamilyRow> &familyTable();
 /// Those that have a page in the form.
 QList<FamilyRow> offeredFamilies();
 const FamilyRow &familyRow(const QString &name);
-/// Those of the form for the tests that take long: with ORDA_STORM_SEEDS set (./dev storm) all of them, without it
-/// three: the one with the most requests, the one that checks its writes, and one of the others.
-QList<FamilyRow> stormedFamilies();
+/// What families.json expects of a family; empty when it has nothing about it.
+QJsonObject expectedOf(const QString &family);
 
 /// Message by serial number, from a record file as it lies on the disk now.
 QMap<QString, QString> recordedMessages(const FamilyRow &family);

@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    void send(const char *message, const QString &first, const QByteArray &second)
+    void send(const char *message, const QString &first, const QByteArray &second) const
     {
         client->sendTextMessage(QString(message).arg(first, QString::fromLatin1(second)));
     }
