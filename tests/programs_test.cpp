@@ -258,7 +258,6 @@ private slots:
         for (QProcess *client : {&audio, &osd}) {
             client->setProcessChannelMode(QProcess::MergedChannels);
             start(*client, "orda_client --inventory " + inventory + " --run " + (client == &osd ? "osd" : "audio"));
-            said += lineWith(*client, "Configuring");
         }
         for (QProcess *client : {&audio, &osd}) {
             QVERIFY(client->waitForFinished());
