@@ -7,15 +7,6 @@
 #include <orda_base/Theme.h>
 #include <orda_worker/AssistantSignals.h>
 
-#include <QAccessible>
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QStackedWidget>
-#include <QVBoxLayout>
-
 namespace {
 
 /// What a screen reader says: the caption that labels the control, else its own name. A combo box has none of its own.
@@ -73,7 +64,7 @@ private slots:
         if (window == f.form)
             f.form->findChild<QAbstractButton *>(family.navigationKey)->click();
         window->show();
-        const auto reports = window->findChildren<QWidget *>(QStringLiteral("reportBt"));
+        const auto reports = window->findChildren<QWidget *>("reportBt");
         for (QWidget *report : reports) // as after a run
             report->show();
         QApplication::setActiveWindow(window);
@@ -83,7 +74,7 @@ private slots:
         for (QWidget *control : qAsConst(missing)) {
             const QString name = spokenName(control);
             QVERIFY2(!name.trimmed().isEmpty(), qPrintable(control->objectName()));
-            QVERIFY2(!names.contains(name), qPrintable(name + QStringLiteral(": ") + names.value(name)));
+            QVERIFY2(!names.contains(name), qPrintable(name + ": " + names.value(name)));
             names.insert(name, control->objectName());
         }
 
@@ -117,9 +108,7 @@ private slots:
 
     void onlyConfigureConfigures_data()
     {
-        QTest::addColumn<QString>("focus");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("times");
+        columns<QString, int, int>({"focus", "key", "times"});
         for (const char *elsewhere :
              {"audioInVolumeParam", "BitWideParam", "audioEnable", "devName", "devsTableWt", "searchBox"}) {
             QTest::addRow("Return in %s", elsewhere) << QString::fromLatin1(elsewhere) << int(Qt::Key_Return) << 0;
@@ -127,7 +116,7 @@ private slots:
                 << QString::fromLatin1(elsewhere) << int(Qt::CTRL + Qt::Key_Return) << 1;
         }
         for (const int key : {int(Qt::Key_Return), int(Qt::Key_Space), int(Qt::CTRL + Qt::Key_Return)})
-            QTest::addRow("%x on Configure", key) << QStringLiteral("okBt") << key << 1;
+            QTest::addRow("%x on Configure", key) << "okBt" << key << 1;
     }
 
     void onlyConfigureConfigures()
@@ -143,7 +132,7 @@ private slots:
         auto *layout = new QVBoxLayout(&dialog);
         layout->addWidget(f.form);
         layout->addWidget(&theirs);
-        f.form->findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
+        f.form->findChild<QAbstractButton *>("audio_param")->click();
         dialog.show();
         QApplication::setActiveWindow(&dialog);
         // No device is ticked: each press of Configure is answered by this alert.
@@ -152,8 +141,8 @@ private slots:
         f.page(qPrintable(focus))->setFocus();
         press(key);
         QCOMPARE(alerts.count(), times);
-        QVERIFY(foreign.isEmpty() || focus == QLatin1String("devsTableWt")); // which has no use for Return
-        QVERIFY(!f.form->findChild<QAbstractButton *>(QStringLiteral("audioSwitch"))->isChecked());
+        QVERIFY(foreign.isEmpty() || focus == "devsTableWt"); // which has no use for Return
+        QVERIFY(!f.form->findChild<QAbstractButton *>("audioSwitch")->isChecked());
     }
 
     void keysNavigateSearchAndTick()
@@ -170,17 +159,17 @@ private slots:
 
         f.table()->setCurrentCell(5, 2);
         press(Qt::CTRL + Qt::Key_F);
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("cam 1"));
+        QTest::keyClicks(QApplication::focusWidget(), "cam 1");
         const QSignalSpy searches(f.form->findChild<orda_base::SearchBox *>(),
                                   &orda_base::SearchBox::signalSearchByKeyword);
         press(Qt::Key_Return);
         QCOMPARE(searches.count(), 1);
         f.table()->setFocus(); // on the first row that is left
         press(Qt::Key_Space);
-        QCOMPARE(f.form->checkedDevIds(), QStringList{QStringLiteral("dev1")});
+        QCOMPARE(f.form->checkedDevIds(), QStringList{"dev1"});
         f.table()->setCurrentCell(10, 2); // any column
         press(Qt::Key_Space);
-        QCOMPARE(f.form->checkedDevIds(), (QStringList{QStringLiteral("dev1"), QStringLiteral("dev10")}));
+        QCOMPARE(f.form->checkedDevIds(), (QStringList{"dev1", "dev10"}));
         f.table()->selectAll(); // hidden rows too
         press(Qt::Key_Space);
         press(Qt::CTRL + Qt::Key_F);
@@ -192,29 +181,29 @@ private slots:
         f.table()->setCurrentCell(1, 0);
         f.table()->setFocus();
         press(Qt::Key_Space); // once, where Qt ticks by itself too
-        QCOMPARE(f.form->checkedDevIds(), (QStringList{QStringLiteral("dev10"), QStringLiteral("dev11")}));
+        QCOMPARE(f.form->checkedDevIds(), (QStringList{"dev10", "dev11"}));
         f.table()->selectAll();
         QTest::mouseClick(
             f.table()->viewport(), Qt::LeftButton, Qt::ControlModifier,
             f.table()->visualItemRect(f.table()->item(1, 1)).center()); // the current row, but not selected
         press(Qt::Key_Space);
         QCOMPARE(f.form->checkedDevIds().size(), 11);
-        QVERIFY(!f.form->checkedDevIds().contains(QStringLiteral("dev1")));
+        QVERIFY(!f.form->checkedDevIds().contains("dev1"));
         f.page("devSn")->setFocus();
         press(Qt::Key_Space);
-        QCOMPARE(f.column(2).at(2), QStringLiteral("SN10")); // before SN2
+        QCOMPARE(f.column(2).at(2), "SN10"); // before SN2
     }
 
     void assistiveTechnologyTogglesBoxes()
     {
         const FormFixture f(3, silent);
-        f.form->findChild<QAbstractButton *>(QStringLiteral("audio_param"))->click();
+        f.form->findChild<QAbstractButton *>("audio_param")->click();
         const QWidget *page = f.page("audioParametersPage");
         const auto toggle = [](QAccessibleInterface *control) {
             control->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         };
-        const auto box = [page](const char *name) { return page->findChild<QCheckBox *>(QLatin1String(name)); };
-        const auto *configure = page->findChild<QPushButton *>(QStringLiteral("okBt"));
+        const auto box = [page](const char *name) { return page->findChild<QCheckBox *>(name); };
+        const auto *configure = page->findChild<QPushButton *>("okBt");
         box("allParams")->click();
         toggle(QAccessible::queryAccessibleInterface(box("audioEnable")));
         QVERIFY(configure->isEnabled());
@@ -222,7 +211,7 @@ private slots:
 
         f.tickAll();
         toggle(QAccessible::queryAccessibleInterface(f.table())->tableInterface()->cellAt(1, 0));
-        QCOMPARE(f.form->checkedDevIds(), (QStringList{QStringLiteral("dev0"), QStringLiteral("dev2")}));
+        QCOMPARE(f.form->checkedDevIds(), (QStringList{"dev0", "dev2"}));
         QCOMPARE(f.box("selAll")->checkState(), Qt::PartiallyChecked);
     }
 };

@@ -9,16 +9,6 @@
 #include <orda_worker/AssistantSignals.h>
 #include <vms_client_sdk/ClientSdk.h>
 
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QDialog>
-#include <QLabel>
-#include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QStatusBar>
-#include <QTableWidget>
-
 using namespace orda_client;
 using namespace std::chrono_literals;
 

@@ -1,3 +1,4 @@
+#include "support/FleetOf.h"
 #include "support/OrdaTest.h"
 
 #include "fleet/EmbeddedFleet.h"
@@ -7,32 +8,18 @@
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
 
-#include <QNetworkInterface>
-#include <QTcpSocket>
+#include <QtNetwork>
 
 #include <csignal>
 #include <memory>
 
 using namespace device_fleet;
-using L1 = QLatin1String;
 
 namespace {
 
 QJsonObject json(const QByteArray &text)
 {
     return QJsonDocument::fromJson(text).object();
-}
-
-QByteArray request(const QByteArray &method, const QByteArray &param = "{}")
-{
-    return R"({"method": ")" + method + R"(", "level": "Operator", "param": )" + param + "}";
-}
-
-FleetOptions site(int devices)
-{
-    FleetOptions options;
-    options.devices = devices;
-    return options;
 }
 
 /// The first that comes back over a plain connection; empty when the other side ends it without a word.
@@ -71,58 +58,51 @@ class FleetTest : public OrdaTest
 private slots:
     void badRequestChangesNothing_data()
     {
-        columns<QByteArray, int>({"text", "code"});
-        row("not JSON", QByteArray("hello"), int(DeviceBadRequest));
-        row("unknown method", request("reboot"), int(DeviceUnknownMethod));
-        row("wrong key", request("ai_set_param", R"({"attr": {"aiGain": 1}})"), int(DeviceBadParameter));
-        const QByteArray streams = R"({"streams": [{"streamid": 0, "width": 1}, {"streamid": 9}]})";
-        row("no such stream", request("stream_set_params", streams), int(DeviceBadParameter));
+        columns<QString, QString>({"text", "code"});
+        rowsFrom("bad_requests.txt");
     }
 
     void badRequestChangesNothing()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(QString, text);
         SimulatedDevice device("d", makeSiteDevice(1, 0).parameters);
         const QJsonObject before = device.parameters();
-        QTEST(device.answer(json(text)).value("error")["errorcode"].toInt(1), "code");
+        QTEST(QString::number(device.answer(json(text.toUtf8())).value("error")["errorcode"].toInt(1)), "code");
         QCOMPARE(device.parameters(), before);
     }
 
     void siteHasSomethingOfEverything()
     {
-        QMap<QString, int> found;
-        QSet<QString> unique;
+        QSet<QString> found, unique;
+        int usable = 0;
         for (int i = 0; i < 200; ++i) {
             const SiteDevice device = makeSiteDevice(FleetOptions().seed, i);
             const vms_sdk::DevInfo &info = device.info;
             const QJsonObject &params = device.parameters;
             const QJsonValue eth = params["inet"]["eth"];
-            const int streams = params["video"]["streams"].toArray().size();
-            const bool isCamera = info.kindCode == 1, isRecorder = info.kindCode == 6, hasIp = !info.ip.isEmpty();
-            found["camera"] += isCamera;
-            found["recorder"] += isRecorder;
-            found["other kind"] += !isCamera && !isRecorder;
-            found["not reached directly"] += info.accessCode != 1;
-            found["offline"] += !device.online;
-            found["factory password"] += device.state == vms_sdk::DevDefaultPassword;
-            found["locked"] += device.state == vms_sdk::DevLocked;
-            found["cloud device"] += !hasIp;
-            found["weak password"] += device.state == vms_sdk::DevOnline && info.password.size() < 8;
-            found["empty name"] += info.name.isEmpty();
-            found["long name"] += info.name.size() > 60;
-            found["non-ASCII name"] += info.name.toUtf8().size() != info.name.size();
-            found["one stream"] += streams == 1;
-            found["three streams"] += streams == 3;
-            found["no eth"] += eth.isUndefined();
-            found["no speed"] += eth.isObject() && eth["speed"].isUndefined();
-            found["no large font"] += params["osd"]["bLargeOSD"].isUndefined();
-            found["usable"] += device.online && info.accessCode == 1 && (isCamera || isRecorder) && hasIp;
+            const bool hasIp = !info.ip.isEmpty(), isCamera = info.kindCode == 1, isRecorder = info.kindCode == 6;
+            const bool isWeak = device.state == vms_sdk::DevOnline && info.password.size() < 8;
+            const QString facts = QString::asprintf(
+                "kind %d,access %d,state %d,online %d,IP %d,weak %d,streams %d,nameless %d,long name %d,ASCII %d,"
+                "eth and speed %d,large font %d",
+                info.kindCode, info.accessCode, device.state, device.online, hasIp, isWeak,
+                params["video"]["streams"].toArray().size(), info.name.isEmpty(), info.name.size() > 60,
+                info.name.toUtf8().size() == info.name.size(), eth.isObject() + !eth["speed"].isUndefined(),
+                !params["osd"]["bLargeOSD"].isUndefined());
+            const QStringList parts = facts.split(',');
+            found += QSet<QString>(parts.begin(), parts.end());
+            usable += device.online && info.accessCode == 1 && (isCamera || isRecorder) && hasIp;
             unique << info.id << info.serialNumber << (hasIp ? info.ip : info.id + "/cloud");
             QCOMPARE(params.size(), SimulatedDevice::methods().size() / 2);
         }
-        for (auto it = found.cbegin(); it != found.cend(); ++it)
-            QVERIFY2(it.value() > 0 && it.value() < 200, qPrintable(it.key()));
-        QVERIFY2(found["usable"] >= 170, qPrintable(QString::number(found["usable"])));
+        QStringList all = found.values();
+        all.sort();
+        QCOMPARE(
+            all.join(", "),
+            "ASCII 0, ASCII 1, IP 0, IP 1, access 1, access 2, eth and speed 0, eth and speed 1, eth and speed 2, "
+            "kind 1, kind 3, kind 6, large font 0, large font 1, long name 0, long name 1, nameless 0, nameless 1, "
+            "online 0, online 1, state 1, state 5, state 6, streams 1, streams 2, streams 3, weak 0, weak 1");
+        QVERIFY2(usable >= 170, qPrintable(QString::number(usable)));
         QCOMPARE(unique.size(), 600);
         QCOMPARE(makeSiteDevice(1, 3).parameters, makeSiteDevice(1, 3).parameters);
         QVERIFY(makeSiteDevice(2, 3).parameters != makeSiteDevice(1, 3).parameters);
@@ -130,17 +110,8 @@ private slots:
 
     void faultFileIsCheckedAndExplained_data()
     {
-        columns<QString, QString>({"entry", "complaint"}); // an error, or "unknown key": only a warning
-        row("not JSON", "{", "is not JSON");
-        row("no object", R"("garbage")", "faults[1]: must be an object");
-        row("unknown fault", R"({"fault": "slow"})", R"(faults[1]: field "fault": must be one of error-code, )");
-        row("unknown method", R"({"fault": "garbage", "methods": ["ai_get"]})", R"("methods": "ai_get" is none of)");
-        row("no list", R"({"fault": "garbage", "devices": "dev-0001"})", R"("devices": must be a list)");
-        row("no error", R"({"fault": "error-code", "errorcode": 0})", R"("errorcode": must not be 0)");
-        row("half a millisecond", R"({"fault": "late-answer", "delayMs": 0.5})",
-            R"("delayMs": must be a whole number)");
-        row("unknown settings", R"({"fault": "drop-and-return", "returnWith": "x"})", "must be one of new-settings");
-        row("unknown key", R"({"fault": "garbage", "delay": 5})", R"(faults[1]: unknown key "delay")");
+        columns<QString, QString>({"entry", "complaint"});
+        rowsFrom("fault_files.txt");
     }
 
     void faultFileIsCheckedAndExplained()
@@ -174,7 +145,7 @@ private slots:
 
     void strangersAreTurnedAway()
     {
-        FleetOptions options = site(1);
+        FleetOptions options = fleetOf(1);
         auto fleet = std::make_unique<EmbeddedFleet>(options);
         QCOMPARE(fleet->start(), QString());
         vms_sdk::DevInfo device = fleet->inventory().at(0);
@@ -197,7 +168,7 @@ private slots:
 
     void tooManyDevicesForOneProcess()
     {
-        EmbeddedFleet fleet(site(int(vms_sdk::raiseOpenFileLimit() / 2)));
+        EmbeddedFleet fleet(fleetOf(int(vms_sdk::raiseOpenFileLimit() / 2)));
         QVERIFY(fleet.start().contains("orda_fleet --devices"));
     }
 
@@ -225,31 +196,6 @@ private slots:
         QFile dump(dumpFile);
         QVERIFY(dump.open(QIODevice::ReadOnly));
         QCOMPARE(json(dump.readAll())["devices"].toObject().size(), 5);
-    }
-
-    void programExplainsWrongUsage_data()
-    {
-        columns<int, QString>({"exitCode", "complaint"});
-        row("--devices 5", 2, "--inventory OUT is missing");
-        row("--devices 0 --inventory x", 2, "--devices takes a whole number from 1 to ");
-        row("--devices 1 --inventory x --tls cert.pem", 2, "--tls takes two files");
-        row("--devices 1 --inventory x --dump ./x", 2, "name the same file");
-        row("--devices 1 --inventory x --listen localhost", 2, "--listen takes an IPv4 address");
-        row("--devices 1 --inventory x y", 2, "unexpected argument \"y\"");
-        row("--devices 1 --inventory x --faults /no/such", 3, "/no/such: cannot be read");
-        row("--devices 1 --inventory x --tls /dev/null /dev/null", 3, "must be a certificate");
-        row("--devices 1 --inventory /no/such/x", 3, "/no/such/x: cannot be written");
-    }
-
-    void programExplainsWrongUsage()
-    {
-        QFETCH(QString, complaint);
-        QProcess program;
-        startFleet(program, QTest::currentDataTag());
-        QVERIFY(program.waitForFinished());
-        QTEST(program.exitCode(), "exitCode");
-        const QString said = QString::fromUtf8(program.readAllStandardError());
-        QVERIFY2(said.contains(complaint), qPrintable(said));
     }
 };
 

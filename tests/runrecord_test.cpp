@@ -70,24 +70,11 @@ private slots:
     {
         QFETCH(int, seed);
         QRandomGenerator random{quint32(seed)};
-        const QString gap = "    ";
         const QString success = "10.0.0.1            success";
-        const QString whole = "A    " + success + "                B";
-        const auto next = [](const char *time) { return QStringLiteral("\n\n%1    ").arg(time); };
-        const QStringList parts{"A",
-                                "10.0.0.1",
-                                "gate",
-                                " ",
-                                gap,
-                                gap + gap + gap,
-                                gap + gap + gap + gap,
-                                "success",
-                                success,
-                                whole,
-                                "\n\n",
-                                next("2001-02-03 04:05:06"),
-                                next("2001-13-44 04:05:06"),
-                                next("2099-02-03 04:05:06")};
+        QStringList parts = QString("A|10.0.0.1|gate| |    |            |                |success|\n\n").split('|');
+        parts << success << "A    " + success + "                B";
+        for (const char *time : {"2001-02-03 04:05:06", "2001-13-44 04:05:06", "2099-02-03 04:05:06"})
+            parts.append(QStringLiteral("\n\n%1    ").arg(time));
         const auto field = [&] {
             QString text;
             for (int count = random.bounded(6); count > 0; --count)

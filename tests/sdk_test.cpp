@@ -1,10 +1,10 @@
 #include "support/OrdaTest.h"
+#include "support/ScriptedTransport.h"
 
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/ClientSignals.h>
-#include <vms_client_sdk/DeviceTransport.h>
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/PendingRequests.h>
@@ -19,14 +19,10 @@ using orda_data::DevsMgrData;
 namespace {
 
 /// Answers from inside send(), the worst that a transport may do.
-class EagerTransport : public DeviceTransport
+std::unique_ptr<ScriptedTransport> eagerTransport()
 {
-public:
-    void send(const QString &requestId, const QString &, const QString &text) override
-    {
-        emit answered(requestId, text);
-    }
-};
+    return std::make_unique<ScriptedTransport>([](const auto &request) { return QStringList(request.text); });
+}
 
 DevInfo device(const QString &id)
 {
@@ -106,7 +102,7 @@ private slots:
     void answersComeFromTheEventLoopBeforeTheTimeOut()
     {
         ClientSdk::instance().setRequestTimeout(20ms);
-        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+        ClientSdk::instance().setTransport(eagerTransport());
         QStringList order;
         QObject context;
         connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, &context,
@@ -114,7 +110,7 @@ private slots:
         connect(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout, &context,
                 [&](const QString &id) { order.append(id + ": time-out"); });
         request("dropped with its transport");
-        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+        ClientSdk::instance().setTransport(eagerTransport());
         request("r");
         QVERIFY(order.isEmpty());
         QThread::msleep(50); // a busy user interface
@@ -123,7 +119,7 @@ private slots:
 
     void manyAnswersAtOnceLeaveTheEventLoopItsTurns()
     {
-        auto eager = std::make_unique<EagerTransport>();
+        auto eager = eagerTransport();
         auto *transport = eager.get();
         ClientSdk::instance().setTransport(std::move(eager));
         const int count = 100;
@@ -162,7 +158,7 @@ private slots:
                         request("a");
                         QTRY_COMPARE(timedOut, "12a"); // the others' time-outs reach an event loop in here
                     } else if (id == "3") {
-                        ClientSdk::instance().setTransport(std::make_unique<EagerTransport>());
+                        ClientSdk::instance().setTransport(eagerTransport());
                     }
                 });
         request("1");
@@ -198,41 +194,8 @@ private slots:
 
     void inventoryFaultsNameEntryAndField_data()
     {
-        // An entry, which gets an id unless it has one, with apostrophes for quotation marks; an expression, empty:
-        // taken.
         columns<QString, QString>({"entry", "error"});
-        const QString ip = "'ip': '10.0.0.7'", address = ip + ", 'port': 80";
-        const QString pin = ", 'fingerprint': 'AB:" + QString(62, '0') + "'";
-        row("complete", address + ", 'password': 'p'", "");
-        row("behind a relay, pinned", "'url': 'wss://relay.example/7'" + pin, "");
-        row("no address", "'port': 80", "devices.1. .id 'cam'.: field 'ip': .*'url'");
-        row("no port", ip, "'port'.*1 to 65535");
-        row("port of a text", ip + ", 'port': '80'", "'port'.*1 to 65535");
-        row("port too large", ip + ", 'port': 65536", "'port'.*1 to 65535");
-        row("port broken", ip + ", 'port': 80.5", "'port'.*1 to 65535");
-        row("short IPv4", "'ip': '10.7', 'port': 80", "'ip'.*IPv4");
-        row("line break in the name", address + ", 'name': 'a\\nb'", "'name'.*line breaks");
-        row("tab in the serial number", address + ", 'serialNumber': 'a\\tb'", "'serialNumber'");
-        row("override in the id", address + ", 'id': 'cam\\u202e1'", "'id'.*cannot be seen");
-        row("blank of no width in the serial number", address + ", 'serialNumber': 'S\\u200b'", "'serialNumber'.*seen");
-        row("half a surrogate pair in the serial number", address + ", 'serialNumber': 'S\\ud800'", "'serialNumber'");
-        row("mark in the path", address + ", 'path': '/\\u061c'", "'path'.*cannot be seen");
-        row("mark in the url", "'url': 'ws://relay.example/\\ufeff'", "'url'.*cannot be seen");
-        row("line break in the name after half a pair", address + ", 'name': 'a\\ud800\\n'", "'name'.*line breaks");
-        row("mark in the name", address + ", 'name': 'a\\u202eb'", "");
-        row("empty id", address + ", 'id': ''", "'id'.*empty");
-        row("id used twice", address + ", 'id': 'first'", "devices.1. .*'id'.*same as in devices.0. .id 'first'");
-        row("serial number used twice", address + ", 'serialNumber': 'S'", "'serialNumber'.*same as in devices.0.");
-        row("address used twice", "'ip': '10.0.0.1', 'port': 1", "'ip'.*same as in devices.0.");
-        row("relative path", address + ", 'path': 'x'", "'path'");
-        row("url of a web page", "'url': 'http://relay.example/7'", "'url'");
-        row("tls beside a plain url", "'url': 'ws://relay.example/7', 'tls': true", "'tls'");
-        row("tls of a number", address + ", 'tls': 1", "'tls'.*true or false");
-        row("fingerprint of a SHA-1", address + ", 'tls': true, 'fingerprint': 'abcd'", "'fingerprint'.*SHA-256");
-        row("fingerprint of colons", address + ", 'tls': true, 'fingerprint': ':::'", "'fingerprint'.*SHA-256");
-        row("fingerprint with colons inside bytes",
-            address + ", 'tls': true, 'fingerprint': 'A:BA" + QString(61, '0') + "'", "'fingerprint'.*SHA-256");
-        row("pinned without tls", address + pin, "'fingerprint'.*TLS");
+        rowsFrom("inventory_faults.txt");
     }
 
     void inventoryFaultsNameEntryAndField()

@@ -5,9 +5,7 @@
 #include <vms_client_sdk/websocket/StatusChanges.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
-#include <QSslConfiguration>
-#include <QTcpServer>
-#include <QTcpSocket>
+#include <QtNetwork>
 
 #include <optional>
 

@@ -14,16 +14,6 @@
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/SystemAssistant.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QShortcut>
-#include <QSignalSpy>
-
-#include <functional>
-
 using orda_worker::AssistantSignals;
 
 namespace {
@@ -51,34 +41,27 @@ private slots:
 
     void cellsSortAsPeopleRead_data()
     {
-        QTest::addColumn<bool>("isIp");
-        QTest::addColumn<QStringList>("sorted");
-        const auto list = [](const char *text) { return QString::fromUtf8(text).split(QLatin1Char(',')); };
-        QTest::newRow("numbers in names") << false << list("Cam 1,cam 2,Cam 10,cam 11,Dome");
-        QTest::newRow("umlauts") << false << list("Zufahrt,Zuß,Zwinger");
-        QTest::newRow("addresses, none last") << true << list("2.0.0.1,10.0.0.2,10.0.0.10,192.168.0.1,255.0.0.0,,");
+        columns<bool, QString>({"isIp", "sorted"});
+        row("numbers in names", false, "Cam 1,cam 2,Cam 10,cam 11,Dome");
+        row("umlauts", false, "Zufahrt,Zuß,Zwinger");
+        row("addresses, none last", true, "2.0.0.1,10.0.0.2,10.0.0.10,192.168.0.1,255.0.0.0,,");
     }
 
     void cellsSortAsPeopleRead()
     {
         QFETCH(bool, isIp);
-        QFETCH(QStringList, sorted);
-        QTableWidget table(sorted.size(), 1);
-        for (int i = 0; i < sorted.size(); ++i) {
-            const QString &text = sorted.at(sorted.size() - 1 - i);
-            if (isIp) { // the address was another one when the cell was made
-                auto *item = new orda_base::IpTableItem(QStringLiteral("1.1.1.1"), 0x01010101, 0);
-                item->setText(text);
-                table.setItem(i, 0, item);
-            } else {
-                table.setItem(i, 0, new orda_base::NameTableItem(text));
-            }
+        QFETCH(QString, sorted);
+        const QStringList texts = sorted.split(',');
+        QTableWidget table(texts.size(), 1);
+        for (int i = 0; i < texts.size(); ++i) { // the address was another one when the cell was made
+            table.setItem(i, 0,
+                          isIp ? new orda_base::IpTableItem("1.1.1.1", 0x01010101, 0)
+                               : static_cast<QTableWidgetItem *>(new orda_base::NameTableItem("")));
+            table.item(i, 0)->setText(texts.at(texts.size() - 1 - i));
         }
         table.sortItems(0);
-        QStringList texts;
-        for (int row = 0; row < table.rowCount(); ++row)
-            texts.append(table.item(row, 0)->text());
-        QCOMPARE(texts, sorted);
+        for (int i = 0; i < texts.size(); ++i)
+            QCOMPARE(table.item(i, 0)->text(), texts.at(i));
     }
 
     void orderNumbersTouchOnlyWhatChanges()
@@ -90,15 +73,15 @@ private slots:
         QSignalSpy changes(&table, &QTableWidget::cellChanged);
         orda_base::BaseTools::instance().updateTableOrderNum(&table, 1);
         QCOMPARE(changes.count(), 1);
-        QCOMPARE(table.item(4, 0)->text(), QStringLiteral("4"));
+        QCOMPARE(table.item(4, 0)->text(), "4");
     }
 
     void overlayLetsNothingThrough()
     {
         QWidget window;
-        QPushButton button(QStringLiteral("&Go"), &window);
+        QPushButton button("&Go", &window);
         QLineEdit edit(&window);
-        QShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+G")), &window);
+        QShortcut shortcut(QKeySequence("Ctrl+G"), &window);
         window.resize(400, 300);
         window.show();
         QApplication::setActiveWindow(&window);
@@ -110,10 +93,10 @@ private slots:
             QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
             QTest::keyClick(window.windowHandle(), Qt::Key_G, Qt::ControlModifier);
             QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
-            QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("abc"));
+            QTest::keyClicks(QApplication::focusWidget(), "abc");
         };
 
-        auto *overlay = new orda_base::DisabledWaitingWt(&window, QStringLiteral("Waiting"));
+        auto *overlay = new orda_base::DisabledWaitingWt(&window, "Waiting");
         overlay->show();
         QVERIFY(overlay->hasFocus());
         window.resize(500, 350);
@@ -123,8 +106,8 @@ private slots:
         QCOMPARE(shortcuts.count(), 0);
         QVERIFY(edit.text().isEmpty());
         QVERIFY(overlay->hasFocus());
-        overlay->updateDescription(QStringLiteral("Waiting(1/2)"));
-        QCOMPARE(overlay->description(), QStringLiteral("Waiting(1/2)"));
+        overlay->updateDescription("Waiting(1/2)");
+        QCOMPARE(overlay->description(), "Waiting(1/2)");
 
         orda_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(overlay->getUuid());
         QVERIFY(edit.hasFocus());
@@ -142,22 +125,21 @@ private slots:
     {
         QWidget window;
         window.show();
-        orda_base::DisabledWaitingWt overlay(&window, QStringLiteral("0"));
+        orda_base::DisabledWaitingWt overlay(&window, "0");
         overlay.show();
         for (int i = 1; i <= 20; ++i) {
             overlay.updateDescription(QString::number(i));
             QTRY_COMPARE(overlay.findChild<QLabel *>()->text(), QString::number(i));
-            QCOMPARE(overlay.accessibleName(), QStringLiteral("0")); // seen, but not yet said
+            QCOMPARE(overlay.accessibleName(), "0"); // seen, but not yet said
         }
-        QTRY_COMPARE(overlay.accessibleName(), QStringLiteral("20"));
+        QTRY_COMPARE(overlay.accessibleName(), "20");
     }
 
     void dialogAnswersOnce_data()
     {
-        QTest::addColumn<std::function<void(QDialog *)>>("operate");
-        QTest::addColumn<QList<int>>("answers");
+        columns<std::function<void(QDialog *)>, QList<int>>({"operate", "answers"});
         const auto row = [](const char *name, const std::function<void(QDialog *)> &operate,
-                            const QList<int> &answers) { QTest::newRow(name) << operate << answers; };
+                            const QList<int> &answers) { ::row(name, operate, answers); };
         row("second button twice",
             [](QDialog *d) {
                 auto *button = d->findChildren<QPushButton *>().at(1);
@@ -188,10 +170,7 @@ private slots:
         window->show();
         QApplication::setActiveWindow(window);
         QSignalSpy clicks(&AssistantSignals::instance(), &AssistantSignals::signalEventConfirmOperBtClicked);
-        orda_worker::SystemAssistant::instance().eventConfirm({QStringLiteral("id"),
-                                                               QStringLiteral("Title"),
-                                                               QStringLiteral("<b>100%1</b>"),
-                                                               {QStringLiteral("A"), QStringLiteral("B")}});
+        orda_worker::SystemAssistant::instance().eventConfirm({"id", "Title", "<b>100%1</b>", {"A", "B"}});
         QDialog *dialog = openDialog();
         QVERIFY(dialog);
         QCOMPARE(dialog->parentWidget(), window);
@@ -199,7 +178,7 @@ private slots:
         QTRY_VERIFY(!openDialog());
         QList<int> indexes;
         for (const QVariantList &click : qAsConst(clicks)) {
-            QCOMPARE(click.at(0).toString(), QStringLiteral("id"));
+            QCOMPARE(click.at(0).toString(), "id");
             indexes.append(click.at(1).toInt());
         }
         QCOMPARE(indexes, answers);
@@ -211,10 +190,8 @@ private slots:
     {
         QWidget window;
         window.show();
-        const QString text =
-            QStringLiteral("A total of 10000 devices have been configured, success:10000, failure:10000");
-        orda_worker::SystemAssistant::instance().messageAlert(QStringLiteral("Title"), text);
-        auto *dialog = window.findChild<QDialog *>(QStringLiteral("messageAlertDialog"));
+        orda_worker::SystemAssistant::instance().messageAlert("Title", summaryOf(10000, 10000));
+        auto *dialog = window.findChild<QDialog *>("messageAlertDialog");
         const auto labels = dialog->findChildren<QLabel *>();
         for (const QLabel *label : labels) {
             QCOMPARE(label->textFormat(), Qt::PlainText); // file names may look like mark-up
@@ -226,41 +203,36 @@ private slots:
     void navigationFoldsAndHighlights()
     {
         orda_base::NavigationWidget navigation;
-        navigation.addNavigationBar(
-            {}, {}, {QStringLiteral("Bar"), QStringLiteral("bar")},
-            {{QStringLiteral("One"), QStringLiteral("one")}, {QStringLiteral("Two"), QStringLiteral("two")}},
-            &navigation);
-        navigation.addNavigationBar({}, {}, {QStringLiteral("Single"), QStringLiteral("single")}, {}, &navigation);
-        const auto button = [&navigation](const char *key) {
-            return navigation.findChild<QAbstractButton *>(QLatin1String(key));
-        };
+        navigation.addNavigationBar({}, {}, {"Bar", "bar"}, {{"One", "one"}, {"Two", "two"}}, &navigation);
+        navigation.addNavigationBar({}, {}, {"Single", "single"}, {}, &navigation);
+        const auto button = [&navigation](const char *key) { return navigation.findChild<QAbstractButton *>(key); };
         QSignalSpy actions(&navigation, &orda_base::NavigationWidget::signalCurAction);
-        QCOMPARE(navigation.setDefaultAction(QStringLiteral("bar")), QString());
+        QCOMPARE(navigation.setDefaultAction("bar"), QString());
         button("bar")->click();
         QVERIFY(!button("two")->isVisibleTo(&navigation));
         QCOMPARE(navigation.currentKey(), QString());
-        QCOMPARE(actions.takeFirst().at(0).toString(), QStringLiteral("bar"));
-        QCOMPARE(navigation.setDefaultAction(QStringLiteral("two")), QStringLiteral("two"));
+        QCOMPARE(actions.takeFirst().at(0).toString(), "bar");
+        QCOMPARE(navigation.setDefaultAction("two"), "two");
         QVERIFY(button("two")->isVisibleTo(&navigation));
         QCOMPARE(actions.count(), 0);
         QTest::keyClick(button("single"), Qt::Key_Space);
-        QCOMPARE(navigation.currentKey(), QStringLiteral("single"));
-        QCOMPARE(actions.takeFirst().at(0).toString(), QStringLiteral("single"));
+        QCOMPARE(navigation.currentKey(), "single");
+        QCOMPARE(actions.takeFirst().at(0).toString(), "single");
     }
 
     void editorsTakeWhatTheyShould()
     {
         orda_base::PortEditWt port(nullptr);
-        QTest::keyClicks(&port, QStringLiteral("6553a67"));
-        QCOMPARE(port.text(), QStringLiteral("6553"));
+        QTest::keyClicks(&port, "6553a67");
+        QCOMPARE(port.text(), "6553");
         port.clear();
-        QTest::keyClicks(&port, QStringLiteral("-65535"));
-        QCOMPARE(port.text(), QStringLiteral("65535"));
+        QTest::keyClicks(&port, "-65535");
+        QCOMPARE(port.text(), "65535");
 
         orda_base::ComboBox combo;
-        combo.setObjectName(QStringLiteral("pair"));
-        combo.addItems({QStringLiteral("One"), QStringLiteral("Two")});
-        expectWarning(QStringLiteral("pair.* has 2 items but gets 1 values"));
+        combo.setObjectName("pair");
+        combo.addItems({"One", "Two"});
+        expectWarning("pair.* has 2 items but gets 1 values");
         combo.setItemsData({1});
         QCOMPARE(combo.itemData(0).toInt(), 1);
         combo.setItemsData({1, 2});
@@ -269,13 +241,12 @@ private slots:
 
     void passwordStrength_data()
     {
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<int>("strength");
-        QTest::newRow("empty") << QString() << int(XCOMMON::PwdInvalid);
-        QTest::newRow("seven of all kinds") << QStringLiteral("aB3-xY9") << int(XCOMMON::PwdWeak);
-        QTest::newRow("digits only") << QStringLiteral("20318642") << int(XCOMMON::PwdWeak);
-        QTest::newRow("two kinds") << QStringLiteral("sommer31") << int(XCOMMON::PwdMedium);
-        QTest::newRow("three kinds") << QStringLiteral("Sommer31") << int(XCOMMON::PwdStrong);
+        columns<QString, int>({"password", "strength"});
+        row("empty", "", int(XCOMMON::PwdInvalid));
+        row("seven of all kinds", "aB3-xY9", int(XCOMMON::PwdWeak));
+        row("digits only", "20318642", int(XCOMMON::PwdWeak));
+        row("two kinds", "sommer31", int(XCOMMON::PwdMedium));
+        row("three kinds", "Sommer31", int(XCOMMON::PwdStrong));
     }
 
     void passwordStrength()

@@ -69,19 +69,9 @@ void pass(std::chrono::milliseconds time)
 
 QJsonValue someValue(const CfgKey &key)
 {
-    switch (key.type) {
-    case CfgKey::Switch:
-        return true;
-    case CfgKey::NumberSwitch:
-        return 1;
-    case CfgKey::Text:
-        return QStringLiteral("n");
-    case CfgKey::Number:
-        return key.initial;
-    case CfgKey::Choice:
-        break;
-    }
-    return key.choices.constLast().value;
+    if (!key.choices.isEmpty())
+        return key.choices.constLast().value;
+    return key.type == CfgKey::Text ? QJsonValue(QStringLiteral("n")) : QJsonValue(key.initial);
 }
 
 std::unique_ptr<ParamsCfgTask> makeTask(int number)

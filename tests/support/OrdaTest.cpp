@@ -1,7 +1,5 @@
 #include "support/OrdaTest.h"
 
-#include <QDialog>
-#include <QMutex>
 #include <algorithm>
 #include <cstring>
 #include <mutex>
@@ -48,6 +46,23 @@ QString summaryOf(int successes, int failures)
         .arg(successes + failures)
         .arg(successes)
         .arg(failures);
+}
+
+void rowsFrom(const char *file)
+{
+    QFile cases(QFINDTESTDATA("../cases") + QLatin1Char('/') + QLatin1String(file));
+    if (!cases.open(QIODevice::ReadOnly))
+        qFatal("%s: %s", qPrintable(cases.fileName()), qPrintable(cases.errorString()));
+    const QRegularExpression divider(QStringLiteral(R"((?<=\s)\|(?=\s))"));
+    while (!cases.atEnd()) {
+        const QString line = QString::fromUtf8(cases.readLine());
+        if (line.startsWith(QLatin1Char('#')))
+            continue;
+        const QStringList parts = line.split(divider);
+        QTestData &row = QTest::newRow(qPrintable(parts.constFirst().trimmed()));
+        for (const QString &part : parts.mid(1))
+            row << part.trimmed();
+    }
 }
 
 void dismissDialogs()

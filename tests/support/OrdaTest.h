@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QApplication>
 #include <QtTest>
+#include <QtWidgets>
 
 /// Base of every test class: a warning of ours (category "orda.*") that the test has not announced fails the test
 /// function. A class with an init() or cleanup() of its own calls these.
@@ -34,6 +34,10 @@ void row(const char *name, const Values &...values)
 {
     (QTest::newRow(name) << ... << values);
 }
+
+/// Rows of a test function's data, all texts, from a file in tests/cases: a line each, " | " between its parts, the
+/// first of which names the row; a line that begins with "#" is a comment.
+void rowsFrom(const char *file);
 
 /// Rows for a random test: each runs with a seed of its own.
 inline void seeds(int count)

@@ -1,5 +1,6 @@
 #include "support/SiteClient.h"
 
+#include "support/FleetOf.h"
 #include "support/OrdaTest.h"
 #include "support/Store.h"
 
@@ -7,20 +8,9 @@
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/WebSocketTransport.h>
 
-#include <QAbstractButton>
-#include <QSignalSpy>
-
 using orda_worker::AssistantSignals;
 
 namespace {
-
-device_fleet::FleetOptions optionsOf(int devices, quint32 seed)
-{
-    device_fleet::FleetOptions options;
-    options.devices = devices;
-    options.seed = seed;
-    return options;
-}
 
 QList<vms_sdk::DevInfo> started(device_fleet::EmbeddedFleet &fleet)
 {
@@ -33,7 +23,7 @@ QList<vms_sdk::DevInfo> started(device_fleet::EmbeddedFleet &fleet)
 
 FleetSite::FleetSite(int devices, std::chrono::milliseconds waitingTime, const device_fleet::FaultPlan &faults,
                      quint32 seed)
-    : fleet(optionsOf(devices, seed), faults)
+    : fleet(fleetOf(devices, seed), faults)
     , client(started(fleet), waitingTime)
 {
 }

@@ -3,13 +3,8 @@
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/SignOn.h>
 
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QSslConfiguration>
-#include <QTcpServer>
-#include <QTcpSocket>
-#include <QWebSocket>
-#include <QWebSocketServer>
+#include <QtNetwork>
+#include <QtWebSockets>
 
 /// How a device behaves badly at sign-on.
 enum Fault
