@@ -230,12 +230,15 @@ private slots:
             common_req(device->info.id, device->info.id, QString());
             QTRY_COMPARE(device->received.size(), 1);
         }
-        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, m_transport, [] {
-            // The window hangs until the network has taken all that it takes, however busy the machine is.
+        connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, m_transport, [&site] {
+            // The window hangs until the network has taken all that it takes, while the devices go on sending.
             const QDeadlineTimer patience(10s);
             for (int before = -1; heard == 0 && (raised != before || (raised <= allowed / 2 && !patience.hasExpired()));
-                 QThread::msleep(300))
+                 QThread::msleep(300)) {
                 before = raised;
+                for (const auto &device : site)
+                    device->client->flush();
+            }
             ++heard;
         });
         const QString text = QStringLiteral("\n[\"%1\"]").arg(QString(characters, 'x'));
