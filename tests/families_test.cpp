@@ -105,7 +105,7 @@ private slots:
         columns<QString, QJsonObject>({"name", "run"});
         for (const FamilyRow &family : familyTable()) {
             const QJsonArray runs = expectedOf(family.name).value("runs").toArray();
-            for (const QJsonValue run : runs)
+            for (const QJsonValue &run : runs)
                 QTest::addRow("%s, %s", qPrintable(family.name), qPrintable(run["name"].toString()))
                     << family.name << run.toObject();
         }
@@ -120,7 +120,7 @@ private slots:
         const QJsonObject device = run.contains("device") ? run["device"].toObject() : ordinaryDevice(name);
         const PageFixture f(familyRow(name), 1, [&device](const Request &request) { return answers(device, request); });
         const QJsonArray before = run.value("before").toArray();
-        for (const QJsonValue step : before)
+        for (const QJsonValue &step : before)
             QVERIFY2(isDone(f.theirPage(), step.toArray()), text(step));
         const QStringList boxes = run.value("boxes").toString().split(' ');
         for (const QString &box : boxes)
@@ -131,7 +131,7 @@ private slots:
         QCOMPARE(summary.text, summaryOf(1, 0));
 
         QStringList methods;
-        for (const QJsonValue request : requests)
+        for (const QJsonValue &request : requests)
             methods.append(request.toObject().keys().value(0));
         QCOMPARE(f.transport->methods().join('\n'), methods.join('\n'));
         for (int i = 0; i < requests.size(); ++i) {

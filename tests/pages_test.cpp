@@ -237,11 +237,13 @@ private slots:
         QFETCH(int, sent);
         AudioParamsCfgPage page;
         page.show();
-        for (const QString name : {"audioInVolume", "alarmOutVolume"}) {
+        for (const char *const volume : {"audioInVolume", "alarmOutVolume"}) {
+            const QString name(volume);
             auto *edit = page.findChild<QLineEdit *>(name + "Param");
             auto *slider = page.findChild<QSlider *>(name + "Slider");
             QCOMPARE(edit->text(), "50");
-            for (const char key : QByteArray(QTest::currentDataTag())) {
+            const QByteArray keys(QTest::currentDataTag());
+            for (const char key : keys) {
                 key == '<' ? QTest::keyClick(edit, Qt::Key_Backspace) : QTest::keyClick(edit, key);
                 QCOMPARE(edit->text(), QString::number(slider->value())); // at every moment: Configure may come at any
             }

@@ -171,7 +171,8 @@ private:
     {
         columns<FamilyRow, int>({"family", "seed"});
         const QStringList few{"audio", "platform", "image"};
-        for (const FamilyRow &family : offeredFamilies())
+        const QList<FamilyRow> families = offeredFamilies();
+        for (const FamilyRow &family : families)
             for (int seed = 1; seed <= seeds && (all || few.contains(family.name)); ++seed)
                 QTest::addRow("%s, seed %d", qPrintable(family.name), seed) << family << seed;
     }

@@ -60,7 +60,8 @@ void rowsFrom(const char *file)
             continue;
         const QStringList parts = line.split(divider);
         QTestData &row = QTest::newRow(qPrintable(parts.constFirst().trimmed()));
-        for (const QString &part : parts.mid(1))
+        const QStringList rest = parts.mid(1);
+        for (const QString &part : rest)
             row << part.trimmed();
     }
 }
