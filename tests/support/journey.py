@@ -31,26 +31,30 @@ def start_on_own_display_and_bus(*more_tools):
                            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
         for inherited in ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS"):
             environment.pop(inherited, None)
-#A display that is reset when its last window closes would forget the accessibility bus.
+        # A display that is reset when its last window closes would forget the accessibility bus.
         command = ["xvfb-run", "--auto-servernum", "--server-args=-screen 0 1600x1200x24 -dpi 96 -noreset",
                    "dbus-run-session", "--", sys.executable, *sys.argv]
         sys.exit(subprocess.run(command, env=environment, check=False).returncode)
 
-try : import gi gi
-    .require_version("Atspi", "2.0") from gi.repository import Atspi, GLib except(ImportError, ValueError) as missing
-        : skip(f "{missing} (see packages.txt)")
 
-              warnings.simplefilter("ignore", DeprecationWarning) #the interfaces as functions of the object;
-there is no other way
+try:
+    import gi
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi, GLib
+except (ImportError, ValueError) as missing:
+    skip(f"{missing} (see packages.txt)")
 
-    def
-    wait_for(what, look)
-    : ""
-      "Asks again and again until there is an answer; the tree is the client's, which has its own pace."
-      "" deadline =
-          time.monotonic() + LIMIT while time.monotonic() < deadline : while GLib.MainContext.default().iteration(False)
-    : pass #what the client has reported meanwhile
-try : found = look()
+warnings.simplefilter("ignore", DeprecationWarning)  # the interfaces as functions of the object; there is no other way
+
+
+def wait_for(what, look):
+    """Asks again and again until there is an answer; the tree is the client's, which has its own pace."""
+    deadline = time.monotonic() + LIMIT
+    while time.monotonic() < deadline:
+        while GLib.MainContext.default().iteration(False):
+            pass  # what the client has reported meanwhile
+        try:
+            found = look()
         except GLib.Error:  # the object asked has gone meanwhile
             found = None
         if found:
@@ -121,9 +125,12 @@ def travel(command, journey):
     """Starts the client, makes the journey through its tree, and ends with the client's exit code."""
     desktop = Atspi.get_desktop(0)
     desktop.set_cache_mask(Atspi.Cache.NONE)  # each answer is to be what is so now
-#Qt 5 looks for the bus at the display; only when it is there already does it wait until it is connected.
+    # Qt 5 looks for the bus at the display; only when it is there already does it wait until it is connected.
     wait_for("accessibility bus", lambda: "unix:" in subprocess.run(
         ["xprop", "-root", "AT_SPI_BUS"], capture_output=True, text=True, check=True).stdout)
     with subprocess.Popen(command) as process:
-    try : journey(wait_for("client", application))
-return process.wait(LIMIT) finally : process.kill()
+        try:
+            journey(wait_for("client", application))
+            return process.wait(LIMIT)
+        finally:
+            process.kill()
