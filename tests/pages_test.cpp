@@ -6,6 +6,7 @@
 #include <run/SwitchImages.h>
 #include <shell/FamilyPages.h>
 #include <video/VideoParamsCfgPage.h>
+#include <video/VideoParamsCfgTask.h>
 #include <video/VideoParamsPanel.h>
 
 #include <orda_base/Theme.h>
@@ -137,6 +138,14 @@ private slots:
         VideoParamsPanel sub(VideoParamsPanel::SubStream);
         QCOMPARE(main.findChild<QLabel *>("title")->text(), "HD Stream");
         QCOMPARE(sub.findChild<QLabel *>("title")->text(), "SD Stream");
+        // The table of keys knows each side of each resolution.
+        const auto *resolutions = main.findChild<QComboBox *>("resolution");
+        for (int i = 0; i < resolutions->count(); ++i)
+            for (const char *side : {"width", "height"}) {
+                const QVector<CfgChoice> &known = VideoParamsCfgTask::family().key(side).choices;
+                const QJsonValue length = resolutions->itemText(i).section('*', *side == 'h', *side == 'h').toInt();
+                QCOMPARE(std::count_if(known.begin(), known.end(), [&](auto &c) { return c.value == length; }), 1);
+            }
 
         // Packed from the top left, in the order of the fields, whether the panel is on the screen or not.
         const auto *grid = main.findChild<QGridLayout *>("gridLayout");

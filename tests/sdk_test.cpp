@@ -50,11 +50,14 @@ private slots:
         OrdaTest::cleanup();
     }
 
+    void everyIdEndsAtItsOwnTickNeitherEarlyNorLate_data() { seeds(20); }
+
     void everyIdEndsAtItsOwnTickNeitherEarlyNorLate()
     {
+        QFETCH(int, seed);
         // Against the plainest model there is: requests and renewals in runs, at random and of unknown ids, time-outs
         // in between.
-        QRandomGenerator random(7);
+        QRandomGenerator random(seed);
         PendingRequests pending;
         pending.setTimeout(100ms); // a tick of 10 ms
         QStringList shared;
@@ -64,7 +67,7 @@ private slots:
         const auto text = [&](int id) { return random.bounded(4) == 0 ? QString::number(id) : shared.at(id); };
         QMap<int, qint64> model;
         int next = 0;
-        for (qint64 now = 0; now < 20'000; now += random.bounded(4)) {
+        for (qint64 now = 0; now < 5'000; now += random.bounded(4)) {
             pending.advanceTo(now);
             QCOMPARE(pending.untilNextTick(), 10 - now % 10);
             const int id = random.bounded(50);
@@ -97,6 +100,16 @@ private slots:
             QTRY_COMPARE(timeouts.count(), 1);
             QVERIFY2(sinceRenewal.elapsed() >= 199, qPrintable(QString::number(sinceRenewal.elapsed())));
         }
+    }
+
+    void anotherWaitingTimeCountsFromTheNextRequestOn()
+    {
+        const QSignalSpy timeouts(&ClientSignals::instance(), &ClientSignals::signalRequestTimeout);
+        ClientSdk::instance().setRequestTimeout(20s);
+        request("long");
+        ClientSdk::instance().setRequestTimeout(20ms);
+        request("short");
+        QTRY_COMPARE_WITH_TIMEOUT(timeouts.count(), 1, 1000); // a tick of the long one takes two seconds
     }
 
     void answersComeFromTheEventLoopBeforeTheTimeOut()
