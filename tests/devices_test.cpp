@@ -144,6 +144,23 @@ private slots:
         QTRY_COMPARE(device.received, QStringList("now\n"));
     }
 
+    void trafficAfterTheWelcomeEndsTheBackOff()
+    {
+        WebSocketOptions options;
+        options.firstBackOff = 1ms;
+        options.lastBackOff = 1min;
+        use(options);
+        TestDevice device(m_id);
+        m_transport->setDevices({device.info});
+        for (int losses = 0; losses < 18; ++losses) { // a back-off that grew each time would be minutes long in the end
+            QTRY_VERIFY_WITH_TIMEOUT((common_req("r", m_id, QString()), device.received.size() > losses), 3000);
+            while (device.received.size() > losses + 1)
+                device.received.removeLast();
+            device.client->sendTextMessage("\n{\"state\": 5}");
+            device.client->close();
+        }
+    }
+
     void oversizeAndUnansweredPingsEndTheConnection()
     {
         TestDevice device(m_id), idle("idle"); // which answers the pings

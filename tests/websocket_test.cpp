@@ -91,6 +91,7 @@ private slots:
         row("a header line without end", status + "a: " + QByteArray(9'000, 'x'), {}, "handshake is longer");
         row("headers without end", status + QByteArray("a: b\r\n").repeated(11'000), {}, "handshake is longer");
         row("no HTTP", "SSH-2.0\r\n\r\n", {}, "no HTTP answer");
+        row("another protocol with a status", "SIP/2.0 101 Ok\r\n\r\n", {}, "no HTTP answer");
         row("another status", "HTTP/1.1 404 Not Found\r\n\r\n", {}, "HTTP 404");
         row("another key", status + "Upgrade: websocket\r\nConnection: upgrade\r\nSec-WebSocket-Accept: x\r\n\r\n", {},
             "not asked for");
