@@ -10,25 +10,17 @@
 #include <QTimer>
 #include <QUuid>
 
+#include <optional>
 #include <utility>
 
 namespace orda_batchCfg {
 
 namespace {
-QJsonObject requestOf(const QString &method)
+QString requestText(const QString &method, const std::optional<QJsonObject> &param)
 {
-    return {{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
-}
-
-QJsonObject requestOf(const QString &method, const QJsonObject &param)
-{
-    QJsonObject request = requestOf(method);
-    request.insert(QStringLiteral("param"), param);
-    return request;
-}
-
-QString textOf(const QJsonObject &request)
-{
+    QJsonObject request{{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
+    if (param)
+        request.insert(QStringLiteral("param"), *param);
     return QString::fromUtf8(QJsonDocument(request).toJson());
 }
 
@@ -74,13 +66,16 @@ void ParamsCfgTask::sendRead(int exchange)
 {
     m_answered &= ~answeredBit(exchange, true);
     const CfgExchange &e = m_family.exchanges.at(exchange);
-    const QJsonObject request = e.getParam ? requestOf(e.getMethod, e.getParam(m_values)) : requestOf(e.getMethod);
+    std::optional<QJsonObject> param;
+    if (e.getParam)
+        param = e.getParam(m_values);
     // All devices of a run are asked the same: the text is made for the first of them.
-    static QJsonObject lastRequest;
-    static QString text;
-    if (lastRequest != request) {
-        lastRequest = request;
-        text = textOf(request);
+    static QString lastMethod, text;
+    static std::optional<QJsonObject> lastParam;
+    if (lastMethod != e.getMethod || lastParam != param) {
+        lastMethod = e.getMethod;
+        lastParam = param;
+        text = requestText(lastMethod, lastParam);
     }
     send(e.getMethod, text);
 }
@@ -93,7 +88,7 @@ void ParamsCfgTask::sendWrite(int exchange)
     const QJsonObject param = e.setParam(m_values, std::exchange(m_devParams, {}));
     if (e.checkWhenBack)
         m_checked = param;
-    send(e.setMethod, textOf(requestOf(e.setMethod, param)));
+    send(e.setMethod, requestText(e.setMethod, param));
 }
 
 void ParamsCfgTask::send(const QString &method, const QString &text)
