@@ -3,6 +3,7 @@
 #include "families/Families.h"
 #include "run/BatchCfgContact.h"
 #include "shell/EmptyListHint.h"
+#include "shell/FamilyPages.h"
 #include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
 
@@ -11,7 +12,6 @@
 #include <orda_base/BaseTools.h>
 #include <orda_base/IpTableItem.h>
 #include <orda_base/NameTableItem.h>
-#include <orda_base/NavigationActionInfo.h>
 #include <orda_base/TableOperWtStyle.h>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
@@ -115,36 +115,10 @@ void BatchCfgForm::initContextMenu()
 
 void BatchCfgForm::initNavigation()
 {
-    using orda_base::NavigationActionInfo;
-    const auto addBar = [this](const NavigationActionInfo &bar, const QList<NavigationActionInfo> &entries) {
-        const QString icon = QStringLiteral(":/batchCfg_images/images/%1_%2.png");
-        m_ui->navigationWt->addNavigationBar(icon.arg(bar.key, QStringLiteral("n")),
-                                             icon.arg(bar.key, QStringLiteral("h")), bar, entries, this);
-    };
-    const auto info = [](const char *title, const char *key) {
-        return NavigationActionInfo{Families::tr(title), QLatin1String(key)};
-    };
-    const NavigationBar *bar = nullptr; // whose entries are being collected
-    QList<NavigationActionInfo> entries;
-    const auto endBar = [&] {
-        if (bar)
-            addBar(info(bar->title, bar->key), entries);
-        bar = nullptr;
-        entries.clear();
-    };
-    for (const FamilyEntry &entry : Families::all()) {
-        if (!entry.key)
-            continue;
-        if (entry.bar != bar)
-            endBar();
-        m_pageIndexByKey.insert(QLatin1String(entry.key), m_pageIndexByKey.size());
-        bar = entry.bar;
-        if (bar)
-            entries.append(info(entry.title, entry.key));
-        else
-            addBar(info(entry.title, entry.key), {});
-    }
-    endBar();
+    addFamilyBars(m_ui->navigationWt, this);
+    for (const FamilyEntry &entry : Families::all())
+        if (entry.key)
+            m_pageIndexByKey.insert(QLatin1String(entry.key), m_pageIndexByKey.size());
     showPage(m_ui->navigationWt->setDefaultAction(QStringLiteral("video_param")));
 }
 

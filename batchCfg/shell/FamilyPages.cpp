@@ -10,6 +10,9 @@
 #include "platform/PlatformParamsCfgPage.h"
 #include "video/VideoParamsCfgPage.h"
 
+#include <orda_base/NavigationActionInfo.h>
+#include <orda_base/NavigationWidget.h>
+
 #include <QHash>
 
 namespace orda_batchCfg {
@@ -52,6 +55,40 @@ QWidget *createFamilyPage(const FamilyEntry &entry)
     if (entry.title)
         page->setAccessibleName(Families::tr(entry.title));
     return page;
+}
+
+void addFamilyBars(orda_base::NavigationWidget *navigation, QWidget *owner)
+{
+    using orda_base::NavigationActionInfo;
+    const auto addBar = [navigation, owner](const NavigationActionInfo &bar,
+                                            const QList<NavigationActionInfo> &entries) {
+        const QString icon = QStringLiteral(":/batchCfg_images/images/%1_%2.png");
+        navigation->addNavigationBar(icon.arg(bar.key, QStringLiteral("n")), icon.arg(bar.key, QStringLiteral("h")),
+                                     bar, entries, owner);
+    };
+    const auto info = [](const char *title, const char *key) {
+        return NavigationActionInfo{Families::tr(title), QLatin1String(key)};
+    };
+    const NavigationBar *bar = nullptr; // whose entries are being collected
+    QList<NavigationActionInfo> entries;
+    const auto endBar = [&] {
+        if (bar)
+            addBar(info(bar->title, bar->key), entries);
+        bar = nullptr;
+        entries.clear();
+    };
+    for (const FamilyEntry &entry : Families::all()) {
+        if (!entry.key)
+            continue;
+        if (entry.bar != bar)
+            endBar();
+        bar = entry.bar;
+        if (bar)
+            entries.append(info(entry.title, entry.key));
+        else
+            addBar(info(entry.title, entry.key), {});
+    }
+    endBar();
 }
 
 FamilyPages::FamilyPages(QWidget *parent)

@@ -2,6 +2,10 @@
 
 #include <QStackedWidget>
 
+namespace orda_base {
+class NavigationWidget;
+}
+
 namespace orda_batchCfg {
 
 struct FamilyEntry;
@@ -14,6 +18,10 @@ class FamilyPages : public QStackedWidget
 public:
     explicit FamilyPages(QWidget *parent = nullptr);
 };
+
+/// Adds the bars and entries of all families that the form offers, in the order of Families::all().
+/// @param owner that the navigation is given with each bar
+void addFamilyBars(orda_base::NavigationWidget *navigation, QWidget *owner);
 
 /// A new page of the family, under its object name, without a parent.
 QWidget *createFamilyPage(const FamilyEntry &entry);
