@@ -29,9 +29,7 @@ const CfgFamily &AudioParamsCfgTask::family()
             CfgKey::choice("sampleRate", {{8000, "8000"}}, AudioIn),
             CfgKey::choice("bitWidth", {{16, QT_TR_NOOP("16bit")}}, AudioIn),
         },
-        [](const QString &devId, const QJsonObject &values, int flags, QObject *parent) -> ParamsCfgTask * {
-            return new AudioParamsCfgTask(devId, values, flags, parent);
-        }};
+        newTaskWithFlags<AudioParamsCfgTask>};
     return audio;
 }
 

@@ -46,9 +46,7 @@ const CfgFamily &ImageParamsCfgTask::family()
                             {"off", QT_TR_NOOP("Off")}},
                            DayNight),
         },
-        [](const QString &devId, const QJsonObject &values, int flags, QObject *parent) -> ParamsCfgTask * {
-            return new ImageParamsCfgTask(devId, values, flags, parent);
-        }};
+        newTaskWithFlags<ImageParamsCfgTask>};
     return image;
 }
 

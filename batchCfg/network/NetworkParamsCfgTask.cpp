@@ -43,9 +43,7 @@ const CfgFamily &NetworkParamsCfgTask::family()
             CfgKey::switchOf("bIPLock", IpInterface),
             CfgKey::switchOf("bSmartOnline", IpInterface),
         },
-        [](const QString &devId, const QJsonObject &values, int flags, QObject *parent) -> ParamsCfgTask * {
-            return new NetworkParamsCfgTask(devId, values, unsigned(flags), parent);
-        }};
+        newTaskWithFlags<NetworkParamsCfgTask>};
     return network;
 }
 

@@ -27,9 +27,7 @@ const CfgFamily &OnvifParamsCfgTask::family()
                          QT_TR_NOOP("Failed to set onvif discovery parameters(%1)")),
         },
         {CfgKey::numberSwitch("discoveryflag")},
-        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
-            return new OnvifParamsCfgTask(devId, values, parent);
-        }};
+        newTask<OnvifParamsCfgTask>};
     return onvif;
 }
 

@@ -9,31 +9,28 @@ const CfgFamily &OSDParamsCfgTask::family()
                                               {"right_top", QT_TR_NOOP("Top Right")},
                                               {"right_bottom", QT_TR_NOOP("Bottom Right")},
                                               {"hide", QT_TR_NOOP("Hide")}};
-    static const CfgFamily osd{
-        QStringLiteral("osd"),
-        &staticMetaObject,
-        QT_TR_NOOP("OSD Parameters Configuration Result"),
-        QT_TR_NOOP("set osd parameters time out"),
-        {
-            CfgExchange("chnosd_get_param", "chnosd_set_param", mergedUnder("attr"))
-                .reading(channelZero())
-                .failing(QT_TR_NOOP("Failed to get osd parameters(%1)"),
-                         QT_TR_NOOP("Failed to set osd parameters(%1)")),
-        },
-        {
-            CfgKey::switchOf("bShowOSD"),
-            // Devices read the date as it is shown, so it is not translated.
-            CfgKey::choice("timeFormat", {{"YYYY-MM-DD hh:mm:ss", "YYYY-MM-DD"},
-                                          {"MM/DD/YYYY hh:mm:ss", "MM/DD/YYYY"},
-                                          {"DD/MM/YYYY hh:mm:ss", "DD/MM/YYYY"}}),
-            CfgKey::choice("timePos", positions),
-            CfgKey::text("channelName", 32),
-            CfgKey::choice("position", positions),
-            CfgKey::switchOf("bLargeOSD"),
-        },
-        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
-            return new OSDParamsCfgTask(devId, values, parent);
-        }};
+    static const CfgFamily osd{QStringLiteral("osd"),
+                               &staticMetaObject,
+                               QT_TR_NOOP("OSD Parameters Configuration Result"),
+                               QT_TR_NOOP("set osd parameters time out"),
+                               {
+                                   CfgExchange("chnosd_get_param", "chnosd_set_param", mergedUnder("attr"))
+                                       .reading(channelZero())
+                                       .failing(QT_TR_NOOP("Failed to get osd parameters(%1)"),
+                                                QT_TR_NOOP("Failed to set osd parameters(%1)")),
+                               },
+                               {
+                                   CfgKey::switchOf("bShowOSD"),
+                                   // Devices read the date as it is shown, so it is not translated.
+                                   CfgKey::choice("timeFormat", {{"YYYY-MM-DD hh:mm:ss", "YYYY-MM-DD"},
+                                                                 {"MM/DD/YYYY hh:mm:ss", "MM/DD/YYYY"},
+                                                                 {"DD/MM/YYYY hh:mm:ss", "DD/MM/YYYY"}}),
+                                   CfgKey::choice("timePos", positions),
+                                   CfgKey::text("channelName", 32),
+                                   CfgKey::choice("position", positions),
+                                   CfgKey::switchOf("bLargeOSD"),
+                               },
+                               newTask<OSDParamsCfgTask>};
     return osd;
 }
 

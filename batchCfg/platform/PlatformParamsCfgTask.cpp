@@ -37,9 +37,7 @@ const CfgFamily &PlatformParamsCfgTask::family()
             CfgKey::choice("qbcloud_type",
                            {{"public", QT_TR_NOOP("Public Cloud")}, {"private", QT_TR_NOOP("Private Cloud")}}),
         },
-        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
-            return new PlatformParamsCfgTask(devId, values, parent);
-        }};
+        newTask<PlatformParamsCfgTask>};
     return platform;
 }
 

@@ -49,7 +49,7 @@ struct CfgKey
     QString name;
     Type type;
     int flag; ///< of the exchange that the key asks for: CfgExchange::flag
-    int minimum = 0; ///< of a Number; of a Text the shortest length
+    int minimum = 0; ///< of a Number
     int maximum = 0; ///< of a Number; of a Text the longest length
     int initial = 0;
     QVector<CfgChoice> choices = {}; ///< of a Choice

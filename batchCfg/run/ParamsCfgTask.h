@@ -78,4 +78,18 @@ private:
     bool m_finished = false;
 };
 
+/// A family's CfgFamily::createTask, for a task without flags.
+template <typename Task>
+ParamsCfgTask *newTask(const QString &devId, const QJsonObject &values, int, QObject *parent)
+{
+    return new Task(devId, values, parent);
+}
+
+/// The same for a task that is told which exchanges to run.
+template <typename Task>
+ParamsCfgTask *newTaskWithFlags(const QString &devId, const QJsonObject &values, int flags, QObject *parent)
+{
+    return new Task(devId, values, flags, parent);
+}
+
 } // namespace orda_batchCfg

@@ -95,9 +95,7 @@ const CfgFamily &VideoParamsCfgTask::family()
                            0, 2),
             CfgKey::number("bitRate", 10, 10240, 1024), // kbps
         },
-        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
-            return new VideoParamsCfgTask(devId, values, parent);
-        }};
+        newTask<VideoParamsCfgTask>};
     return video;
 }
 

@@ -20,9 +20,7 @@ const CfgFamily &MotionParamsCfgTask::family()
             CfgKey::choice("sensitivity",
                            {{10, QT_TR_NOOP("Low")}, {50, QT_TR_NOOP("Medium")}, {90, QT_TR_NOOP("High")}}),
         },
-        [](const QString &devId, const QJsonObject &values, int, QObject *parent) -> ParamsCfgTask * {
-            return new MotionParamsCfgTask(devId, values, parent);
-        }};
+        newTask<MotionParamsCfgTask>};
     return motion;
 }
 
