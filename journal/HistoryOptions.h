@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+
+namespace orda_journal {
+
+struct HistoryOptions
+{
+    /// $XDG_STATE_HOME/orda/history.db, where XDG_STATE_HOME is ~/.local/state unless it is set to an absolute path.
+    static QString defaultPath();
+
+    QString path = defaultPath();
+    int keptDays = 90; ///< older runs are removed …
+    qint64 keptBytes = qint64(1) << 30; ///< … and the oldest ones when the file grows beyond this …
+    int keptRuns = 20; ///< … but never the latest so many
+    /// How long a commit waits for another process that has the file, before the history counts as not writable.
+    std::chrono::milliseconds lockTimeout{5000};
+    /// Commits are at least so far apart while there is something to write: what comes in between shares one.
+    std::chrono::milliseconds groupTime{3};
+};
+
+} // namespace orda_journal

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "journal/Outcome.h"
+
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QMap>
+#include <QMetaType>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+namespace orda_journal {
+
+/// A run that is about to begin.
+struct RunStart
+{
+    QString id; ///< a UUID without braces
+    QString family; ///< CfgFamily::name
+    QString kind; ///< "apply" or "undo"
+    QString undoes; ///< id of the run that an undo takes back; else empty
+    QJsonObject values; ///< what is to be set; of an undo the values of the run that it takes back
+    QHash<QString, QJsonObject> ownValues = {}; ///< by device id, for devices whose values are not those of the run
+    QStringList devIds; ///< each once, in the order in which they were chosen
+};
+
+/// What a device was asked and what it answered in one exchange of a run, as texts: the requests as they left, the
+/// answers as they came. Empty where there is none.
+struct ExchangeRow
+{
+    QString devId;
+    int exchange = 0; ///< its place among the exchanges of the family
+    QString before; ///< the answer to the first read
+    QString sent; ///< the latest write request
+    QString after; ///< the answer to the latest read since that write
+};
+
+/// What became of a device.
+struct DeviceRow
+{
+    QString devId;
+    std::optional<Outcome> outcome; ///< none while the run is under way
+    int code = 0; ///< as in ParamsCfgTask::signalCfgResult()
+    QString message; ///< in the language of the client
+    QString late; ///< an answer that came after the outcome, as text
+    // What the device was called at the time of the run. The writer fills these in from the device store.
+    QString name = {}, serialNumber = {}, ip = {};
+    QJsonObject ownValues = {}; ///< empty: those of the run
+};
+
+/// A run as the history has it.
+struct RunRow
+{
+    QString id, family, kind, undoes;
+    QJsonObject values;
+    QString program; ///< that made it, such as "orda_client 1.0.0"
+    qint64 began = 0; ///< milliseconds since the epoch, UTC
+    qint64 ended = 0; ///< 0: under way, here or in another process
+    int devices = 0;
+    QMap<Outcome, int> counts = {}; ///< of a run that has ended; together as many as there are devices
+};
+
+/// A run with everything that is known of it.
+struct RunDetails
+{
+    RunRow run;
+    QVector<DeviceRow> devices = {}; ///< in the order in which they were chosen
+    QVector<ExchangeRow> exchanges = {}; ///< by device, then by exchange
+};
+
+} // namespace orda_journal
+
+Q_DECLARE_METATYPE(orda_journal::RunStart)
+Q_DECLARE_METATYPE(orda_journal::ExchangeRow)
+Q_DECLARE_METATYPE(orda_journal::DeviceRow)
