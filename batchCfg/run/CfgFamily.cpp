@@ -53,6 +53,15 @@ QString CfgFamily::recordFile() const
     return QStringLiteral("vms_%1_params_batch_cfg_record.txt").arg(name);
 }
 
+int CfgFamily::flagsOf(const QJsonObject &values) const
+{
+    int flags = 0;
+    for (const CfgKey &key : keys)
+        if (values.contains(key.name))
+            flags |= key.flag;
+    return flags;
+}
+
 const CfgKey &CfgFamily::key(const char *latin1) const
 {
     const auto found = std::find_if(keys.begin(), keys.end(), [latin1](const CfgKey &candidate) {

@@ -76,6 +76,8 @@ struct CfgFamily
     QString translated(const char *text) const;
     /// File name of the record of a run, without a directory.
     QString recordFile() const;
+    /// The flags of those keys that @p values has, joined: what CreateTask is given.
+    int flagsOf(const QJsonObject &values) const;
     /// One of the family's keys. Any other is a mistake in the program, which ends.
     const CfgKey &key(const char *latin1) const;
 };
