@@ -186,15 +186,10 @@ QJsonObject CfgExchange::withMembers(const QJsonObject &device, const QJsonObjec
     return changed;
 }
 
-QJsonObject CfgExchange::steeringOf(const QJsonObject &device) const
-{
-    return completeFrom({}, device, fromValues);
-}
-
 QJsonObject CfgExchange::writeBack(const QJsonObject &device, const QJsonObject &members) const
 {
     const QJsonObject wanted = withMembers(device, members);
-    return setParam(steeringOf(wanted), wanted);
+    return setParam(completeFrom({}, wanted, fromValues), wanted);
 }
 
 bool CfgExchange::holds(const QJsonObject &param, const QJsonObject &device) const

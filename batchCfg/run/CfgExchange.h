@@ -67,8 +67,6 @@ struct CfgExchange
     QJsonObject toValues(const QJsonObject &members) const;
     /// @p device with these members as they are here; those that it does not have are left out.
     QJsonObject withMembers(const QJsonObject &device, const QJsonObject &members) const;
-    /// Those members of @p device that a write takes from the values only.
-    QJsonObject steeringOf(const QJsonObject &device) const;
     /// The "param" of a write after which the device holds @p members, as far as it has them, and else what it holds
     /// now.
     QJsonObject writeBack(const QJsonObject &device, const QJsonObject &members) const;
