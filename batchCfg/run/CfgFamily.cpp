@@ -43,6 +43,24 @@ CfgKey CfgKey::choice(const char *name, const QVector<CfgChoice> &choices, int f
     return {QLatin1String(name), Choice, flag, 0, 0, initial, choices};
 }
 
+int CfgFamily::exchangeFrom(int from, int flags) const
+{
+    for (int i = from; i < exchanges.size(); ++i) {
+        const int flag = exchanges.at(i).flag;
+        if (flag == 0 || (flags & flag) != 0)
+            return i;
+    }
+    return -1;
+}
+
+QVector<int> CfgFamily::exchangesOf(int flags) const
+{
+    QVector<int> places;
+    for (int i = exchangeFrom(0, flags); i >= 0; i = exchangeFrom(i + 1, flags))
+        places.append(i);
+    return places.isEmpty() ? QVector<int>{exchanges.size() - 1} : places;
+}
+
 QString CfgFamily::translated(const char *text) const
 {
     return QCoreApplication::translate(context->className(), text);

@@ -72,6 +72,10 @@ struct CfgFamily
     QVector<CfgKey> keys;
     CreateTask createTask;
 
+    /// The first of the exchanges from @p from on that @p flags ask for, or -1.
+    int exchangeFrom(int from, int flags) const;
+    /// The exchanges that a run with @p flags goes through, in their order; the last one when they ask for none.
+    QVector<int> exchangesOf(int flags) const;
     /// One of the family's texts in the language of the application.
     QString translated(const char *text) const;
     /// File name of the record of a run, without a directory.
