@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>not reached directly</source>
-        <translation>无法直接连接</translation>
+        <translation>无法直接访问</translation>
     </message>
     <message>
         <source>neither a camera nor a recorder</source>
