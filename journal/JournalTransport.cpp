@@ -25,6 +25,8 @@ JournalTransport::JournalTransport(std::unique_ptr<vms_sdk::DeviceTransport> tra
     connect(m_transport.get(), &DeviceTransport::answered, this, &DeviceTransport::answered, Qt::DirectConnection);
     connect(m_transport.get(), &DeviceTransport::devStatusChanged, this, &DeviceTransport::devStatusChanged,
             Qt::DirectConnection);
+    connect(m_transport.get(), &DeviceTransport::linkTroubled, this, &DeviceTransport::linkTroubled,
+            Qt::DirectConnection);
     connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalRequestTimeout, this,
             &JournalTransport::handleTimeout);
     if (m_history) {
