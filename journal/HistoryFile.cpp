@@ -134,7 +134,8 @@ bool HistoryFile::connectToWrite()
         return false;
     // The first of these has an effect on an empty file only; removed runs then make the file smaller.
     run(QStringLiteral("PRAGMA auto_vacuum = INCREMENTAL"));
-    if (value(QStringLiteral("PRAGMA journal_mode = WAL")).toString() != QLatin1String("wal"))
+    const QString mode = value(QStringLiteral("PRAGMA journal_mode = WAL")).toString();
+    if (m_fault == NoFault && mode != QLatin1String("wal"))
         fail(Unusable, tr("%1: it cannot be shared by several processes there").arg(m_options.path));
     // With FULL a commit is on the disk when it returns, so nothing leaves for a device whose former state a power cut
     // could take away again. What a power cut may cost is what was not committed: outcomes of the last milliseconds,

@@ -71,7 +71,10 @@ bool RunRecorder::makeReady()
     const bool isOpen = m_file.openToWrite(&what);
     if (!what.isEmpty())
         m_reports.setAside(what);
-    return isOpen && settleRuns(&m_file) && prune();
+    if (!isOpen || !settleRuns(&m_file))
+        return false;
+    removeLeftLocks(m_file);
+    return prune();
 }
 
 bool RunRecorder::transaction(Place first, Place last)
