@@ -1,0 +1,412 @@
+#include "engine/ReadTask.h"
+#include "engine/WriteBackTask.h"
+#include "fleet/SimulatedDevice.h"
+#include "fleet/Site.h"
+#include "support/OrdaTest.h"
+#include "support/ScriptedTransport.h"
+
+#include <families/Families.h>
+#include <orda_data/DataSignals.h>
+#include <vms_client_sdk/ClientSdk.h>
+
+#include <random>
+
+using namespace orda_batchCfg;
+using namespace orda_engine;
+using Request = ScriptedTransport::Request;
+
+namespace {
+
+constexpr int allFlags = 7;
+
+const CfgFamily &familyOf(const QString &name)
+{
+    const auto &all = Families::all();
+    return std::find_if(all.begin(), all.end(), [&](const auto &entry) { return entry.family.name == name; })->family;
+}
+
+QJsonValue parsed(const QString &text)
+{
+    return QJsonDocument::fromJson('[' + text.toUtf8() + ']').array().at(0);
+}
+
+QString text(const QJsonValue &value)
+{
+    return value.isUndefined() ? "gone"
+                               : QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+}
+
+/// A simulated device as a run over one family meets it.
+struct Device
+{
+    const CfgFamily &family;
+    device_fleet::SimulatedDevice simulated;
+
+    ObjectsByExchange read(int flags, const QJsonObject &values)
+    {
+        ObjectsByExchange held;
+        for (const int place : family.exchangesOf(flags)) {
+            const CfgExchange &exchange = family.exchanges.at(place);
+            QJsonObject request{{"method", exchange.getMethod}};
+            if (exchange.getParam)
+                request.insert("param", exchange.getParam(values));
+            const QJsonObject result = simulated.answer(request).value("result").toObject();
+            held.insert(place, exchange.resultMember.isEmpty() ? result : result[exchange.resultMember].toObject());
+        }
+        return held;
+    }
+
+    void write(int place, const QJsonObject &param)
+    {
+        const QJsonObject answer =
+            simulated.answer({{"method", family.exchanges.at(place).setMethod}, {"param", param}});
+        QCOMPARE(answer["error"]["errorcode"].toInt(-99), 0);
+    }
+
+    void takeBack(const DeviceUndo &undo, const ObjectsByExchange &held)
+    {
+        for (auto it = undo.begin(); it != undo.end(); ++it)
+            if (!it->goBack.isEmpty())
+                write(it.key(), family.exchanges.at(it.key()).writeBack(held[it.key()], it->goBack));
+    }
+
+    QString dump() const { return text(simulated.parameters()); }
+};
+
+QString nameOf(int exchange, const QString &member)
+{
+    return QString("%1 %2").arg(exchange).arg(member);
+}
+
+QJsonObject membersIn(const CfgFamily &family, const ObjectsByExchange &held)
+{
+    QJsonObject all;
+    for (auto it = held.begin(); it != held.end(); ++it) {
+        const QJsonObject members = family.exchanges.at(it.key()).membersOf(*it);
+        for (auto member = members.begin(); member != members.end(); ++member)
+            all.insert(nameOf(it.key(), member.key()), *member);
+    }
+    return all;
+}
+
+/// Some of the family's keys, each with a value that it may have.
+QJsonObject drawMembers(const CfgFamily &family, std::mt19937 &random, int &flags)
+{
+    const auto below = [&random](int limit) { return int(random() % unsigned(limit)); };
+    const QString prefix = family.exchanges.at(0).listPrefix;
+    QJsonObject members;
+    for (int stream = 0; stream < (prefix.isEmpty() ? 1 : 3); ++stream)
+        for (const CfgKey &key : family.keys) {
+            if (below(3) == 0)
+                continue;
+            flags |= key.flag;
+            QJsonValue value = below(2) == 0;
+            if (key.type == CfgKey::NumberSwitch)
+                value = below(2);
+            else if (key.type == CfgKey::Text)
+                value = QString("text %1").arg(below(3));
+            else if (key.type == CfgKey::Number)
+                value = key.minimum + below(key.maximum - key.minimum + 1);
+            else if (key.type == CfgKey::Choice)
+                value = key.choices.at(below(key.choices.size())).value;
+            members.insert(prefix.isEmpty() ? key.name : QString("%1%2.%3").arg(prefix).arg(stream).arg(key.name),
+                           value);
+        }
+    return members;
+}
+
+/// What the device holds after a write that it takes as it came; null in @p since is a member that it loses.
+QJsonObject written(const CfgExchange &exchange, QJsonObject device, const QJsonObject &param, const QJsonObject &since)
+{
+    for (const QJsonObject &members :
+         {exchange.attribute.isEmpty() ? param : param[exchange.attribute].toObject(), since})
+        for (auto it = members.begin(); it != members.end(); ++it)
+            if (it->isNull())
+                device.remove(it.key());
+            else if (it.key() != "bdefault" && it.key() != "clienttype")
+                device.insert(it.key(), *it);
+    return device;
+}
+
+QString line(int exchange, const QString &member, const QJsonValue &first, const QJsonValue &second)
+{
+    return QString("%1 %2: %3 -> %4").arg(exchange).arg(member, text(first), text(second));
+}
+
+QStringList described(const QString &what, const QVector<MemberDifference> &differences)
+{
+    QStringList lines;
+    for (const MemberDifference &difference : differences)
+        lines << what + line(difference.exchange, difference.member, difference.wanted, difference.found);
+    return lines;
+}
+
+/// A run with drawn values over a drawn device. It may have ended before its last exchange.
+struct Run
+{
+    Run(const QString &name, int seed)
+        : family(familyOf(name))
+        , random(unsigned(seed))
+        , device{family, {"d", device_fleet::makeSiteDevice(quint32(seed), 0).parameters}}
+        , asked(drawMembers(family, random, flags))
+        , values(family.exchanges.at(0).toValues(asked))
+        , before(device.read(flags, values))
+        , reached(before)
+    {
+        while (reached.size() > 1 && random() % 3 == 0)
+            notReached.insert(reached.lastKey(), reached.take(reached.lastKey()));
+        plan = planOf(family, flags, values, reached);
+        for (auto it = reached.begin(); it != reached.end(); ++it) {
+            sent.insert(it.key(), family.exchanges.at(it.key()).setParam(values, *it));
+            device.write(it.key(), sent[it.key()]);
+        }
+        after = read();
+    }
+
+    /// What the device held before, with these changes.
+    QString beforeWith(const QVector<MemberChange> &changes) const
+    {
+        QJsonObject members = membersIn(family, before);
+        for (const MemberChange &change : changes)
+            members[nameOf(change.exchange, change.member)] = change.after;
+        return text(members);
+    }
+    ObjectsByExchange read() { return device.read(flags, values); }
+    QString heldNow() { return text(membersIn(family, read())); }
+    DeviceUndo undo(const ObjectsByExchange &held, bool force) { return undoOf(family, before, sent, held, force); }
+    QStringList differences(const ObjectsByExchange &held)
+    {
+        return described({}, differencesOf(family, flags, values, sent, held));
+    }
+
+    const CfgFamily &family;
+    std::mt19937 random;
+    Device device;
+    int flags = 0;
+    QJsonObject asked, values;
+    ObjectsByExchange before, reached, notReached, sent, after;
+    DevicePlan plan;
+};
+
+} // namespace
+
+/// What a run would change on a device, whether it has, and how it is taken back.
+class PlanTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void whatIsPlannedIsWrittenAndGoesBack_data()
+    {
+        columns<QString, int>({"name", "seed"});
+        for (const FamilyEntry &entry : Families::all())
+            for (int seed = 1; seed <= 60; ++seed)
+                QTest::addRow("%s, seed %d", qPrintable(entry.family.name), seed) << entry.family.name << seed;
+    }
+
+    void whatIsPlannedIsWrittenAndGoesBack()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, seed);
+        Run run(name, seed);
+        const DevicePlan &plan = run.plan;
+        QCOMPARE(text(run.family.exchanges.at(0).askedBy(run.values)), text(run.asked));
+        QCOMPARE(run.heldNow(), run.beforeWith(plan.changes + plan.added));
+        QCOMPARE(changesNothing(run.family, run.before, run.sent), plan.changes.isEmpty() && plan.added.isEmpty());
+        const DevicePlan rest = planOf(run.family, run.flags, run.values, run.notReached);
+        QCOMPARE(run.differences(run.after).size(), rest.changes.size() + rest.added.size());
+
+        // Another client's change of what the run has changed stays, unless it is written over by force.
+        Run shared = run;
+        if (!plan.changes.isEmpty()) {
+            MemberChange theirs = plan.changes.at(int(run.random() % unsigned(plan.changes.size())));
+            theirs.after = "theirs";
+            const CfgExchange &exchange = run.family.exchanges.at(theirs.exchange);
+            const QJsonObject param = exchange.writeBack(run.after[theirs.exchange], {{theirs.member, "theirs"}});
+            shared.device.write(theirs.exchange, param);
+            const ObjectsByExchange since = shared.read();
+            const DeviceUndo undo = run.undo(since, false);
+            const QStringList left = described({}, undo[theirs.exchange].changedSince);
+            QCOMPARE(left.size(), 1);
+            QVERIFY(shared.differences(since).contains(left.at(0)));
+            shared.device.takeBack(undo, since);
+            QCOMPARE(shared.heldNow(), shared.beforeWith(plan.added + QVector<MemberChange>{theirs}));
+            shared.device.takeBack(run.undo(shared.read(), true), shared.read());
+            QCOMPARE(shared.heldNow(), shared.beforeWith(plan.added));
+        }
+
+        const DeviceUndo undo = run.undo(run.after, false);
+        run.device.takeBack(undo, run.after);
+        QCOMPARE(run.heldNow(), run.beforeWith(plan.added));
+        if (plan.added.isEmpty())
+            QCOMPARE(run.device.dump(), text(device_fleet::makeSiteDevice(quint32(seed), 0).parameters));
+        int stays = 0;
+        for (const ExchangeUndo &exchange : undo)
+            stays += exchange.notRemovable.size();
+        QCOMPARE(stays, plan.added.size());
+        QCOMPARE(valuesOf(run.family, run.undo(run.read(), true), run.read()), QJsonObject());
+    }
+
+    void eachCase_data()
+    {
+        columns<QString, QString, QString, QString, QString, QString>(
+            {"name", "values", "before", "since", "plan", "outcome"});
+        rowsFrom("plan.txt");
+    }
+
+    void eachCase()
+    {
+        QFETCH(QString, name);
+        const CfgFamily &family = familyOf(name);
+        const QJsonObject values = parsed(field("values")).toObject();
+        int flags = 0;
+        for (const CfgKey &key : family.keys)
+            flags |= values.contains(key.name) ? key.flag : 0;
+        ObjectsByExchange before, sent, held;
+        for (const int place : family.exchangesOf(flags)) {
+            const CfgExchange &exchange = family.exchanges.at(place);
+            before.insert(place, parsed(field("before"))[place].toObject());
+            sent.insert(place, exchange.setParam(values, before[place]));
+            held.insert(place, written(exchange, before[place], sent[place], parsed(field("since"))[place].toObject()));
+        }
+        const DevicePlan plan = planOf(family, flags, values, before);
+        QStringList lines;
+        for (const MemberChange &change : plan.changes + plan.added)
+            lines << line(change.exchange, change.member, change.before, change.after);
+        for (const QString &member : plan.lacking)
+            lines << "lacks " + member;
+        QCOMPARE((lines << QString("already %1").arg(plan.alreadySo)).join("; "), field("plan"));
+
+        lines = described("wrong ", differencesOf(family, flags, values, sent, held));
+        const DeviceUndo undo = undoOf(family, before, sent, held, false);
+        for (auto it = undo.begin(); it != undo.end(); ++it) {
+            lines << described("left ", it->changedSince) << described("stays ", it->notRemovable);
+            for (const QString &member : it->alreadyBack)
+                lines << QString("%1 already %2").arg(it.key()).arg(member);
+            if (it->goBack.isEmpty())
+                continue;
+            const CfgExchange &exchange = family.exchanges.at(it.key());
+            lines << QString("%1 writes ").arg(it.key()) + text(exchange.writeBack(held[it.key()], it->goBack));
+            const QString byValues = text(exchange.setParam(valuesOf(family, {{it.key(), *it}}, held), held[it.key()]));
+            if (!lines.constLast().endsWith(byValues))
+                lines << "and not " + byValues;
+        }
+        QCOMPARE(lines.join("; "), field("outcome"));
+    }
+
+    void readsOnly_data()
+    {
+        columns<QString, QString, QStringList, QString, int>({"method", "answers", "methods", "message", "objects"});
+        const QStringList both{"ai_get_param", "ao_get_param"};
+        const QString unasked = answer("ao_get_param", {{"a", 1}}) + '\n' + answer("ao_set_param") + '\n';
+        row("both exchanges", "", "", both, "success", 2);
+        row("the second is refused", both[1], answer(both[1], {}, 7), both, "Failed to get audio out parameters(7)", 1);
+        row("the first is silent", both[0], "", QStringList{both[0]}, "set audio parameters time out", 0);
+        row("answers to what was not asked", both[0], unasked + answer(both[0]), both, "success", 2);
+    }
+
+    void readsOnly()
+    {
+        QFETCH(QStringList, methods);
+        QFETCH(int, objects);
+        Device device{familyOf("audio"), {"d", device_fleet::makeSiteDevice(1, 0).parameters}};
+        const ScriptedTransport *transport =
+            use(device, field("method"), [](auto &) { return field("answers").split('\n', Qt::SkipEmptyParts); });
+        ReadTask task(device.family, "d", {}, allFlags, nullptr);
+        const QSignalSpy results(&task, &ReadTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
+        QCOMPARE(results.at(0).at(1).toString(), field("message"));
+        QCOMPARE(transport->methods(), methods);
+        QCOMPARE(task.objects().size(), objects);
+        if (field("method").isEmpty())
+            QCOMPARE(task.objects(), device.read(allFlags, {}));
+    }
+
+    void takesBackWhatItsOwnReadAllows_data()
+    {
+        columns<QString, QString, QStringList, QString>({"in", "out", "methods", "left"});
+        const QStringList four{"ai_get_param", "ai_set_param", "ao_get_param", "ao_set_param"};
+        row("everything", "", "", four, "");
+        row("one was changed since the preview", R"({"aiGain": 7})", "", four, "0 aiGain: 99 -> 7");
+        row("nothing of the first goes back", R"({"aiGain": 7, "bEnable": 7})", "",
+            QStringList{four[0], four[2], four[3]}, "0 aiGain: 99 -> 7; 0 bEnable: 2 -> 7");
+        row("nothing of the second goes back", "", R"({"bEnable": 7})", QStringList{four[0], four[1], four[2]},
+            "1 bEnable: 2 -> 7");
+    }
+
+    void takesBackWhatItsOwnReadAllows()
+    {
+        QFETCH(QStringList, methods);
+        Device device{familyOf("audio"), {"d", device_fleet::makeSiteDevice(1, 0).parameters}};
+        const QString dump = device.dump();
+        const QJsonObject values{{"aiGain", 99}, {"bEnable", 2}}; // what no device has by itself
+        const ObjectsByExchange before = device.read(allFlags, values);
+        ObjectsByExchange sent;
+        for (int place = 0; place < 2; ++place) {
+            sent.insert(place, device.family.exchanges.at(place).setParam(values, before[place]));
+            device.write(place, sent[place]);
+        }
+        const QList<QJsonObject> theirs{parsed(field("in")).toObject(), parsed(field("out")).toObject()};
+        for (int place = 0; place < 2; ++place)
+            device.write(place, {{"audioAttr", theirs[place]}});
+        const ScriptedTransport *transport = use(device, {}, {});
+        WriteBackTask task(device.family, "d", values, before, sent, false, nullptr);
+        const QSignalSpy results(&task, &WriteBackTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
+        QCOMPARE(results.at(0).at(2).toInt(), 0);
+        QCOMPARE(transport->methods(), methods);
+        QStringList left;
+        for (const ExchangeUndo &undo : task.decided())
+            left << described({}, undo.changedSince);
+        QCOMPARE(left.join("; "), field("left"));
+        for (int place = 0; place < 2; ++place) // theirs apart, everything is as before
+            device.write(place, {{"audioAttr", mergeKnownKeys(theirs[place], before[place])}});
+        QCOMPARE(device.dump(), dump);
+    }
+
+    void cloudThatDropsAndReturns()
+    {
+        const QJsonObject parameters{{"qbcloud", QJsonObject{{"qbcloud_en", true}, {"qbcloud_type", "private"}}}};
+        Device device{familyOf("platform"), {"d", parameters}};
+        const QString get = "ifconfig_qbcloud_get_param", set = "ifconfig_qbcloud_set_param";
+        const ScriptedTransport *transport = use(device, set, [&](const Request &request) {
+            device.simulated.answer(request.json()); // the device takes it and drops out before it can answer
+            QTimer::singleShot(0, this, [] {
+                for (const auto status : {vms_sdk::DevOffline, vms_sdk::DevOnline})
+                    emit orda_data::DataSignals::instance().signalDevStatusChanged("d", status);
+            });
+            return QStringList();
+        });
+        const QJsonObject values{{"qbcloud_type", "private"}};
+        WriteBackTask task(device.family, "d", values, {{0, {{"qbcloud_en", true}, {"qbcloud_type", "public"}}}},
+                           {{0, values}}, false, nullptr);
+        const QSignalSpy results(&task, &WriteBackTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
+        QCOMPARE(results.at(0).at(2).toInt(), 0);
+        QCOMPARE(transport->methods(), (QStringList{get, set, get}));
+        QCOMPARE(text(transport->requests.at(0).json().value("param")),
+                 R"({"bdefault":false,"qbcloud_type":"private"})");
+        QCOMPARE(text(transport->requests.at(1).json().value("param")),
+                 R"({"qbcloud_en":true,"qbcloud_type":"public"})");
+        QCOMPARE(task.decided()[0].goBack.keys(), QStringList{"qbcloud_type"});
+    }
+
+private:
+    static QString field(const char *name) { return *static_cast<QString *>(QTest::qData(name, QMetaType::QString)); }
+
+    /// Requests go to @p device, those with @p method to @p script.
+    static ScriptedTransport *use(Device &device, const QString &method, const ScriptedTransport::Script &script)
+    {
+        auto transport = std::make_unique<ScriptedTransport>([&device, method, script](const Request &request) {
+            return request.method() == method ? script(request)
+                                              : QStringList{text(device.simulated.answer(request.json()))};
+        });
+        ScriptedTransport *raw = transport.get();
+        vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+        vms_sdk::ClientSdk::instance().setRequestTimeout(std::chrono::milliseconds(300));
+        return raw;
+    }
+};
+
+ORDA_TEST_MAIN(PlanTest)
+#include "plan_test.moc"
