@@ -69,24 +69,21 @@ struct Device
             if (!it->goBack.isEmpty())
                 write(it.key(), family.exchanges.at(it.key()).writeBack(held[it.key()], it->goBack));
     }
-
-    QString dump() const { return text(simulated.parameters()); }
 };
 
-QString nameOf(int exchange, const QString &member)
+/// What the device holds, with these changes.
+QString membersIn(const CfgFamily &family, const ObjectsByExchange &held, const QVector<MemberChange> &changes = {})
 {
-    return QString("%1 %2").arg(exchange).arg(member);
-}
-
-QJsonObject membersIn(const CfgFamily &family, const ObjectsByExchange &held)
-{
+    const QString name("%1 %2");
     QJsonObject all;
     for (auto it = held.begin(); it != held.end(); ++it) {
         const QJsonObject members = family.exchanges.at(it.key()).membersOf(*it);
         for (auto member = members.begin(); member != members.end(); ++member)
-            all.insert(nameOf(it.key(), member.key()), *member);
+            all.insert(name.arg(it.key()).arg(member.key()), *member);
     }
-    return all;
+    for (const MemberChange &change : changes)
+        all[name.arg(change.exchange).arg(change.member)] = change.after;
+    return text(all);
 }
 
 /// Some of the family's keys, each with a value that it may have.
@@ -141,53 +138,6 @@ QStringList described(const QString &what, const QVector<MemberDifference> &diff
     return lines;
 }
 
-/// A run with drawn values over a drawn device. It may have ended before its last exchange.
-struct Run
-{
-    Run(const QString &name, int seed)
-        : family(familyOf(name))
-        , random(unsigned(seed))
-        , device{family, {"d", device_fleet::makeSiteDevice(quint32(seed), 0).parameters}}
-        , asked(drawMembers(family, random, flags))
-        , values(family.exchanges.at(0).toValues(asked))
-        , before(device.read(flags, values))
-        , reached(before)
-    {
-        while (reached.size() > 1 && random() % 3 == 0)
-            notReached.insert(reached.lastKey(), reached.take(reached.lastKey()));
-        plan = planOf(family, flags, values, reached);
-        for (auto it = reached.begin(); it != reached.end(); ++it) {
-            sent.insert(it.key(), family.exchanges.at(it.key()).setParam(values, *it));
-            device.write(it.key(), sent[it.key()]);
-        }
-        after = read();
-    }
-
-    /// What the device held before, with these changes.
-    QString beforeWith(const QVector<MemberChange> &changes) const
-    {
-        QJsonObject members = membersIn(family, before);
-        for (const MemberChange &change : changes)
-            members[nameOf(change.exchange, change.member)] = change.after;
-        return text(members);
-    }
-    ObjectsByExchange read() { return device.read(flags, values); }
-    QString heldNow() { return text(membersIn(family, read())); }
-    DeviceUndo undo(const ObjectsByExchange &held, bool force) { return undoOf(family, before, sent, held, force); }
-    QStringList differences(const ObjectsByExchange &held)
-    {
-        return described({}, differencesOf(family, flags, values, sent, held));
-    }
-
-    const CfgFamily &family;
-    std::mt19937 random;
-    Device device;
-    int flags = 0;
-    QJsonObject asked, values;
-    ObjectsByExchange before, reached, notReached, sent, after;
-    DevicePlan plan;
-};
-
 } // namespace
 
 /// What a run would change on a device, whether it has, and how it is taken back.
@@ -208,43 +158,59 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(int, seed);
-        Run run(name, seed);
-        const DevicePlan &plan = run.plan;
-        QCOMPARE(text(run.family.exchanges.at(0).askedBy(run.values)), text(run.asked));
-        QCOMPARE(run.heldNow(), run.beforeWith(plan.changes + plan.added));
-        QCOMPARE(changesNothing(run.family, run.before, run.sent), plan.changes.isEmpty() && plan.added.isEmpty());
-        const DevicePlan rest = planOf(run.family, run.flags, run.values, run.notReached);
-        QCOMPARE(run.differences(run.after).size(), rest.changes.size() + rest.added.size());
+        std::mt19937 random{unsigned(seed)};
+        const CfgFamily &family = familyOf(name);
+        Device device{family, {"d", device_fleet::makeSiteDevice(quint32(seed), 0).parameters}};
+        const QString dump = text(device.simulated.parameters());
+        int flags = 0;
+        const QJsonObject asked = drawMembers(family, random, flags);
+        const QJsonObject values = family.exchanges.at(0).toValues(asked);
+        QCOMPARE(text(family.exchanges.at(0).askedBy(values)), text(asked));
+
+        const ObjectsByExchange before = device.read(flags, values);
+        ObjectsByExchange reached = before, notReached, sent;
+        while (reached.size() > 1 && random() % 3 == 0) // the run ends before its last exchange
+            notReached.insert(reached.lastKey(), reached.take(reached.lastKey()));
+        const DevicePlan plan = planOf(family, flags, values, reached);
+        for (auto it = reached.begin(); it != reached.end(); ++it) {
+            sent.insert(it.key(), family.exchanges.at(it.key()).setParam(values, *it));
+            device.write(it.key(), sent[it.key()]);
+        }
+        const ObjectsByExchange after = device.read(flags, values);
+        QCOMPARE(membersIn(family, after), membersIn(family, before, plan.changes + plan.added));
+        const DevicePlan rest = planOf(family, flags, values, notReached);
+        QCOMPARE(differencesOf(family, flags, values, sent, after).size(), rest.changes.size() + rest.added.size());
 
         // Another client's change of what the run has changed stays, unless it is written over by force.
-        Run shared = run;
         if (!plan.changes.isEmpty()) {
-            MemberChange theirs = plan.changes.at(int(run.random() % unsigned(plan.changes.size())));
+            Device shared = device;
+            MemberChange theirs = plan.changes.at(int(random() % unsigned(plan.changes.size())));
             theirs.after = "theirs";
-            const CfgExchange &exchange = run.family.exchanges.at(theirs.exchange);
-            const QJsonObject param = exchange.writeBack(run.after[theirs.exchange], {{theirs.member, "theirs"}});
-            shared.device.write(theirs.exchange, param);
-            const ObjectsByExchange since = shared.read();
-            const DeviceUndo undo = run.undo(since, false);
+            const CfgExchange &exchange = family.exchanges.at(theirs.exchange);
+            shared.write(theirs.exchange, exchange.writeBack(after[theirs.exchange], {{theirs.member, "theirs"}}));
+            const ObjectsByExchange since = shared.read(flags, values);
+            const DeviceUndo undo = undoOf(family, before, sent, since, false);
             const QStringList left = described({}, undo[theirs.exchange].changedSince);
             QCOMPARE(left.size(), 1);
-            QVERIFY(shared.differences(since).contains(left.at(0)));
-            shared.device.takeBack(undo, since);
-            QCOMPARE(shared.heldNow(), shared.beforeWith(plan.added + QVector<MemberChange>{theirs}));
-            shared.device.takeBack(run.undo(shared.read(), true), shared.read());
-            QCOMPARE(shared.heldNow(), shared.beforeWith(plan.added));
+            QVERIFY(described({}, differencesOf(family, flags, values, sent, since)).contains(left.at(0)));
+            shared.takeBack(undo, since);
+            const ObjectsByExchange kept = shared.read(flags, values);
+            QCOMPARE(membersIn(family, kept), membersIn(family, before, plan.added + QVector<MemberChange>{theirs}));
+            shared.takeBack(undoOf(family, before, sent, kept, true), kept);
+            QCOMPARE(membersIn(family, shared.read(flags, values)), membersIn(family, before, plan.added));
         }
 
-        const DeviceUndo undo = run.undo(run.after, false);
-        run.device.takeBack(undo, run.after);
-        QCOMPARE(run.heldNow(), run.beforeWith(plan.added));
+        const DeviceUndo undo = undoOf(family, before, sent, after, false);
+        device.takeBack(undo, after);
+        const ObjectsByExchange back = device.read(flags, values);
+        QCOMPARE(membersIn(family, back), membersIn(family, before, plan.added));
         if (plan.added.isEmpty())
-            QCOMPARE(run.device.dump(), text(device_fleet::makeSiteDevice(quint32(seed), 0).parameters));
+            QCOMPARE(text(device.simulated.parameters()), dump);
         int stays = 0;
         for (const ExchangeUndo &exchange : undo)
             stays += exchange.notRemovable.size();
         QCOMPARE(stays, plan.added.size());
-        QCOMPARE(valuesOf(run.family, run.undo(run.read(), true), run.read()), QJsonObject());
+        QCOMPARE(valuesOf(family, undoOf(family, before, sent, back, true), back), QJsonObject());
     }
 
     void eachCase_data()
@@ -278,11 +244,14 @@ private slots:
         QCOMPARE((lines << QString("already %1").arg(plan.alreadySo)).join("; "), field("plan"));
 
         lines = described("wrong ", differencesOf(family, flags, values, sent, held));
-        const DeviceUndo undo = undoOf(family, before, sent, held, false);
+        DeviceUndo undo = undoOf(family, before, sent, held, false), forced = undoOf(family, before, sent, held, true);
+        QCOMPARE(changesNothing(family, before, sent), plan.changes.isEmpty() && plan.added.isEmpty());
         for (auto it = undo.begin(); it != undo.end(); ++it) {
             lines << described("left ", it->changedSince) << described("stays ", it->notRemovable);
             for (const QString &member : it->alreadyBack)
                 lines << QString("%1 already %2").arg(it.key()).arg(member);
+            if (it->goBack != forced[it.key()].goBack)
+                lines << "forced " + forced[it.key()].goBack.keys().join(',');
             if (it->goBack.isEmpty())
                 continue;
             const CfgExchange &exchange = family.exchanges.at(it.key());
@@ -297,12 +266,12 @@ private slots:
     void readsOnly_data()
     {
         columns<QString, QString, QStringList, QString, int>({"method", "answers", "methods", "message", "objects"});
-        const QStringList both{"ai_get_param", "ao_get_param"};
-        const QString unasked = answer("ao_get_param", {{"a", 1}}) + '\n' + answer("ao_set_param") + '\n';
+        const QStringList both{audio[0], audio[2]};
         row("both exchanges", "", "", both, "success", 2);
         row("the second is refused", both[1], answer(both[1], {}, 7), both, "Failed to get audio out parameters(7)", 1);
         row("the first is silent", both[0], "", QStringList{both[0]}, "set audio parameters time out", 0);
-        row("answers to what was not asked", both[0], unasked + answer(both[0]), both, "success", 2);
+        row("answers to what was not asked", both[0], unasked().join('\n') + '\n' + answer(both[0]), both, "success",
+            2);
     }
 
     void readsOnly()
@@ -325,12 +294,12 @@ private slots:
     void takesBackWhatItsOwnReadAllows_data()
     {
         columns<QString, QString, QStringList, QString>({"in", "out", "methods", "left"});
-        const QStringList four{"ai_get_param", "ai_set_param", "ao_get_param", "ao_set_param"};
-        row("everything", "", "", four, "");
-        row("one was changed since the preview", R"({"aiGain": 7})", "", four, "0 aiGain: 99 -> 7");
+        row("everything", "", "", audio, "");
+        row("one was changed since the preview", R"({"aiGain": 7, "inputMode": "line"})", "", audio,
+            "0 aiGain: 99 -> 7");
         row("nothing of the first goes back", R"({"aiGain": 7, "bEnable": 7})", "",
-            QStringList{four[0], four[2], four[3]}, "0 aiGain: 99 -> 7; 0 bEnable: 2 -> 7");
-        row("nothing of the second goes back", "", R"({"bEnable": 7})", QStringList{four[0], four[1], four[2]},
+            QStringList{audio[0], audio[2], audio[3]}, "0 aiGain: 99 -> 7; 0 bEnable: 2 -> 7");
+        row("nothing of the second goes back", "", R"({"bEnable": 7})", QStringList{audio[0], audio[1], audio[2]},
             "1 bEnable: 2 -> 7");
     }
 
@@ -338,7 +307,6 @@ private slots:
     {
         QFETCH(QStringList, methods);
         Device device{familyOf("audio"), {"d", device_fleet::makeSiteDevice(1, 0).parameters}};
-        const QString dump = device.dump();
         const QJsonObject values{{"aiGain", 99}, {"bEnable", 2}}; // what no device has by itself
         const ObjectsByExchange before = device.read(allFlags, values);
         ObjectsByExchange sent;
@@ -349,7 +317,9 @@ private slots:
         const QList<QJsonObject> theirs{parsed(field("in")).toObject(), parsed(field("out")).toObject()};
         for (int place = 0; place < 2; ++place)
             device.write(place, {{"audioAttr", theirs[place]}});
-        const ScriptedTransport *transport = use(device, {}, {});
+        const ScriptedTransport *transport = use(device, audio[0], [&](const Request &request) {
+            return unasked() << text(device.simulated.answer(request.json()));
+        });
         WriteBackTask task(device.family, "d", values, before, sent, false, nullptr);
         const QSignalSpy results(&task, &WriteBackTask::signalCfgResult);
         QTRY_COMPARE(results.count(), 1);
@@ -359,9 +329,9 @@ private slots:
         for (const ExchangeUndo &undo : task.decided())
             left << described({}, undo.changedSince);
         QCOMPARE(left.join("; "), field("left"));
-        for (int place = 0; place < 2; ++place) // theirs apart, everything is as before
-            device.write(place, {{"audioAttr", mergeKnownKeys(theirs[place], before[place])}});
-        QCOMPARE(device.dump(), dump);
+        const ObjectsByExchange back = device.read(allFlags, values);
+        for (int place = 0; place < 2; ++place)
+            QCOMPARE(text(back[place]), text(mergeKnownKeys(before[place], theirs[place])));
     }
 
     void cloudThatDropsAndReturns()
@@ -392,7 +362,12 @@ private slots:
     }
 
 private:
+    const QStringList audio{"ai_get_param", "ai_set_param", "ao_get_param", "ao_set_param"};
+
     static QString field(const char *name) { return *static_cast<QString *>(QTest::qData(name, QMetaType::QString)); }
+
+    /// Answers to requests of the second exchange.
+    QStringList unasked() const { return {answer(audio[2], {{"a", 1}}), answer(audio[3])}; }
 
     /// Requests go to @p device, those with @p method to @p script.
     static ScriptedTransport *use(Device &device, const QString &method, const ScriptedTransport::Script &script)
