@@ -17,17 +17,18 @@ DevicePlan planOf(const CfgFamily &family, int flags, const QJsonObject &values,
         if (device == held.constEnd())
             continue;
         const CfgExchange &exchange = family.exchanges.at(place);
-        const QJsonObject members = exchange.membersOf(*device);
         const QJsonObject asked = exchange.askedBy(values);
-        const QJsonObject settings = exchange.settings(exchange.setParam(values, *device));
+        const QJsonObject param = exchange.setParam(values, *device);
+        const QVector<MemberChange> changes = family.changesBy(place, *device, param);
+        QSet<QString> changing;
+        for (const MemberChange &change : changes) {
+            (change.before.isUndefined() ? plan.added : plan.changes).append(change);
+            changing.insert(change.member);
+        }
+        const QJsonObject settings = exchange.settings(param);
         for (auto it = settings.begin(); it != settings.end(); ++it) {
             const QString name = exchange.nameInValues(it.key());
-            const QJsonValue before = members.value(it.key());
-            if (before.isUndefined())
-                plan.added.append({place, it.key(), before, it.value()});
-            else if (before != it.value())
-                plan.changes.append({place, it.key(), before, it.value()});
-            else if (asked.contains(name))
+            if (asked.contains(name) && !changing.contains(it.key()))
                 ++plan.alreadySo;
             written.insert(name);
         }

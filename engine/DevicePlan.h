@@ -14,14 +14,7 @@ namespace orda_engine {
 /// By exchange: what a device holds, as its read answers gave it, or the "param" of a write to it.
 using ObjectsByExchange = QMap<int, QJsonObject>;
 
-/// A member that a run writes with another value than the device holds.
-struct MemberChange
-{
-    int exchange;
-    QString member;
-    QJsonValue before; ///< undefined when the device does not have the member
-    QJsonValue after;
-};
+using orda_batchCfg::MemberChange;
 
 /// A member that is not as it was written.
 struct MemberDifference

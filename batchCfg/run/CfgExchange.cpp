@@ -84,6 +84,12 @@ CfgExchange CfgExchange::takingFromValues(const QStringList &keys) &&
     return std::move(*this);
 }
 
+QJsonObject CfgExchange::heldIn(const QJsonObject &answer) const
+{
+    const QJsonObject result = answer.value(QLatin1String("result")).toObject();
+    return resultMember.isEmpty() ? result : result.value(resultMember).toObject();
+}
+
 /// What stands before the dot in the names of each entry's members.
 QStringList CfgExchange::entryNames(const QJsonArray &entries) const
 {

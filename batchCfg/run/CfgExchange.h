@@ -50,6 +50,9 @@ struct CfgExchange
     /// The write takes these keys from the values only, and never repeats what the device has.
     CfgExchange takingFromValues(const QStringList &keys) &&;
 
+    /// The device's parameters out of the answer to a read.
+    QJsonObject heldIn(const QJsonObject &answer) const;
+
     // Members: what a device holds, or is to hold, as one flat object. Where the parameters have a list (listedIn()),
     // the second entry of a number, as recorders with several channels have it, is called "stream0(2)". Values of
     // members are compared by ==, for which 1 and 1.0 are the same.

@@ -61,6 +61,19 @@ QVector<int> CfgFamily::exchangesOf(int flags) const
     return places.isEmpty() ? QVector<int>{exchanges.size() - 1} : places;
 }
 
+QVector<MemberChange> CfgFamily::changesBy(int exchange, const QJsonObject &device, const QJsonObject &param) const
+{
+    QVector<MemberChange> changes;
+    const QJsonObject members = exchanges.at(exchange).membersOf(device);
+    const QJsonObject settings = exchanges.at(exchange).settings(param);
+    for (auto it = settings.begin(); it != settings.end(); ++it) {
+        const QJsonValue held = members.value(it.key());
+        if (held != it.value())
+            changes.append({exchange, it.key(), held, it.value()});
+    }
+    return changes;
+}
+
 QString CfgFamily::translated(const char *text) const
 {
     return QCoreApplication::translate(context->className(), text);
@@ -69,6 +82,15 @@ QString CfgFamily::translated(const char *text) const
 QString CfgFamily::recordFile() const
 {
     return QStringLiteral("vms_%1_params_batch_cfg_record.txt").arg(name);
+}
+
+int CfgFamily::flagsOf(const QJsonObject &values) const
+{
+    int flags = 0;
+    for (const CfgKey &key : keys)
+        if (values.contains(key.name))
+            flags |= key.flag;
+    return flags;
 }
 
 const CfgKey &CfgFamily::key(const char *latin1) const

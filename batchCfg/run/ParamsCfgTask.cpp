@@ -111,7 +111,7 @@ void ParamsCfgTask::handleAnswer(const QString &text)
         m_answered |= answered;
         qCDebug(logRun) << m_requestId << m_devId << "answers" << method << errorCode;
         if (isRead)
-            handleRead(i, answer.value(QLatin1String("result")).toObject(), errorCode);
+            handleRead(i, answer, errorCode);
         else
             handleWritten(i, errorCode);
         return;
@@ -119,14 +119,14 @@ void ParamsCfgTask::handleAnswer(const QString &text)
     qCDebug(logRun) << m_requestId << m_devId << "answer to a method that is none of ours dropped:" << method;
 }
 
-void ParamsCfgTask::handleRead(int exchange, const QJsonObject &result, int errorCode)
+void ParamsCfgTask::handleRead(int exchange, const QJsonObject &answer, int errorCode)
 {
     const CfgExchange &e = m_family.exchanges.at(exchange);
     if (errorCode != 0) {
         finish(m_family.translated(e.getFailure).arg(errorCode), errorCode);
         return;
     }
-    m_devParams = e.resultMember.isEmpty() ? result : result.value(e.resultMember).toObject();
+    m_devParams = e.heldIn(answer);
     if (e.checkWhenBack && m_written == exchange)
         checkSettings(exchange);
     else

@@ -64,7 +64,7 @@ private:
     void handleTimeout();
     void handleDevStatus(vms_sdk::DevStatus status);
 
-    void handleRead(int exchange, const QJsonObject &result, int errorCode);
+    void handleRead(int exchange, const QJsonObject &answer, int errorCode);
     void handleWritten(int exchange, int errorCode);
     void sendRead(int exchange);
     void sendWrite(int exchange);
