@@ -57,7 +57,8 @@ a sample client and a sample plug-in.")
 set(CPACK_DEBIAN_CLIENT_PACKAGE_NAME orda-client)
 set(CPACK_DEBIAN_CLIENT_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_CLIENT_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_CLIENT_PACKAGE_DEPENDS "${libraries} ${this_version}, fonts-dejavu-core, hicolor-icon-theme")
+# The history of runs is a SQLite file, which Qt opens by a plug-in.
+set(CPACK_DEBIAN_CLIENT_PACKAGE_DEPENDS "${libraries} ${this_version}, fonts-dejavu-core, hicolor-icon-theme, libqt5sql5-sqlite")
 set(CPACK_DEBIAN_CLIENT_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n, xdg-utils")
 set(CPACK_DEBIAN_CLIENT_PACKAGE_SUGGESTS "orda-fleet, qtwayland5")
 set(CPACK_DEBIAN_CLIENT_DESCRIPTION "configure many online cameras and recorders at once

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace orda_journal {
+
+class HistoryFile;
+
+// What keeps the history in order, on the thread of the writer. Each returns false when the file failed.
+
+/// Within a transaction: ends a run. Devices without an outcome get the one that can be known: a device to which
+/// something was sent may have it (Unknown), to the others nothing has left (Stopped).
+bool finishRun(HistoryFile *file, qint64 runNumber, qint64 ended);
+
+/// Ends the runs whose program is gone. Each run under way has a lock that ends with its process.
+bool settleRuns(HistoryFile *file);
+
+/// Removes runs as HistoryOptions says, and gives their space back to the disk.
+bool pruneRuns(HistoryFile *file);
+
+} // namespace orda_journal
