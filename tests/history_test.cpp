@@ -342,8 +342,11 @@ private slots:
         QVERIFY(QFile::rename(m_options.path, m_options.path + "-moved"));
         QVERIFY(!writing.onDisk(writing.writer.putExchange(start.id, {"dev-0", 0, "before", "sent", {}})));
         QVERIFY2(writing.failures.first().contains("renamed or removed"), qPrintable(writing.failures.first()));
-        QVERIFY(writing.onDisk(writing.wholeRun(startOf(1)), 1));
-        QCOMPARE(runs().size(), 1);
+        for (int i = 1; i < 3; ++i) { // between two runs it costs nothing
+            QVERIFY(writing.onDisk(writing.wholeRun(startOf(1)), 1));
+            QCOMPARE(runs().size(), 1);
+            QVERIFY(QFile::rename(m_options.path, m_options.path + QString::number(i)));
+        }
     }
 
     void fullOrReadOnlyDiskEndsTheRun()
