@@ -33,10 +33,11 @@ DeviceConnection::DeviceConnection(vms_sdk::WebSocketConnection *connection, con
     m_connection->setParent(this);
     m_connection->setMaxMessageBytes(vms_sdk::maxSignOnBytes);
     connect(m_connection, &vms_sdk::WebSocketConnection::textReceived, this, &DeviceConnection::handleText);
-    connect(m_connection, &vms_sdk::WebSocketConnection::ended, this, [this](int, const QString &why, bool isOffence) {
-        if (isOffence)
-            qCWarning(fleetLog) << m_device.id << "cut a client that" << why;
-    });
+    connect(m_connection, &vms_sdk::WebSocketConnection::ended, this,
+            [this](int, const QString &why, vms_sdk::TroubleReason reason) {
+                if (reason == vms_sdk::TroubleReason::Limits)
+                    qCWarning(fleetLog) << m_device.id << "cut a client that" << why;
+            });
     connect(m_connection, &vms_sdk::WebSocketConnection::finished, this, &DeviceConnection::closed);
     connect(&m_signOnTimer, &QTimer::timeout, this, &DeviceConnection::cut);
     m_signOnTimer.start(signOnLimit);

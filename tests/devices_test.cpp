@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 namespace {
 
 using States = QList<DevStatus>;
+using Reasons = QList<TroubleReason>;
 
 QSslConfiguration tlsWith(const QString &certificate)
 {
@@ -51,9 +52,19 @@ private slots:
         options.maxWaiting = 3;
         use(options);
         m_states.clear();
+        m_troubles.clear();
         m_answers.clear();
+        connect(&ClientSignals::instance(), &ClientSignals::signalDevTroubled, this,
+                [this](const QString &id, const LinkTrouble &trouble) { m_troubles[id].append(trouble); });
         connect(&ClientSignals::instance(), &ClientSignals::signalDevStatusChanged, this,
-                [this](const QString &id, DevStatus status) { m_states[id].append(status); });
+                [this](const QString &id, DevStatus status) {
+                    m_states[id].append(status);
+                    // Known before the change that it explains, and as seldom.
+                    const auto notOnline = std::count_if(m_states[id].cbegin(), m_states[id].cend(),
+                                                         [](DevStatus state) { return !isOnlineStatus(state); });
+                    if (!isOnlineStatus(status))
+                        QCOMPARE(m_troubles[id].size(), int(notOnline));
+                });
         connect(&ClientSignals::instance(), &ClientSignals::signalCommonRes, this,
                 [this](const QString &id, const QString &text) { m_answers.append(id + '|' + text); });
     }
@@ -96,18 +107,19 @@ private slots:
 
     void refusalsAreNotRetriedUnasked_data()
     {
-        columns<Fault, QString>({"fault", "warning"});
-        row("the device refuses", Refuses, "password");
-        row("another device", OtherSerial, "\"\\\\u0009\", not \"SN-1\"");
-        row("short nonce", ShortNonce, "nonce");
-        row("our own proof sent back", NoProof, "does not prove");
-        row("the welcome of an earlier sign-on", Replays, "does not prove");
+        columns<Fault, QString, TroubleReason>({"fault", "warning", "reason"});
+        row("the device refuses", Refuses, "password", TroubleReason::Password);
+        row("another device", OtherSerial, "\"\\\\u0009\", not \"SN-1\"", TroubleReason::SerialNumber);
+        row("short nonce", ShortNonce, "nonce", TroubleReason::SignOn);
+        row("our own proof sent back", NoProof, "does not prove", TroubleReason::SignOn);
+        row("the welcome of an earlier sign-on", Replays, "does not prove", TroubleReason::SignOn);
     }
 
     void refusalsAreNotRetriedUnasked()
     {
         QFETCH(QString, warning);
         QFETCH(Fault, fault);
+        QFETCH(TroubleReason, reason);
         TestDevice device(m_id), clock("clock");
         device.fault = fault;
         clock.fault = HangsUp; // lost and dialled again all the time
@@ -120,10 +132,13 @@ private slots:
 
         m_transport->connectAgain();
         QTRY_COMPARE(m_states[m_id].mid(2), States({DevConnecting, DevRefused}));
+        QCOMPARE(reasons(m_id), Reasons({reason, reason}));
+        QCOMPARE(reasons("clock").count(TroubleReason::ConnectionLost), reasons("clock").size());
         device.fault = NoFault;
         device.info.name = "changed";
         m_transport->setDevices({device.info, clock.info});
         QTRY_COMPARE(m_states[m_id].mid(4), States({DevOffline, DevConnecting, DevDefaultPassword}));
+        QCOMPARE(m_troubles[m_id].mid(4), QList<LinkTrouble>({{}, {}})); // nothing is left of the former record
         QCOMPARE(device.dials, 3);
     }
 
@@ -132,10 +147,15 @@ private slots:
         TestDevice device(m_id);
         m_transport->setDevices({device.info});
         QTRY_VERIFY(m_states[m_id].endsWith(DevDefaultPassword));
+        const qint64 before = QDateTime::currentMSecsSinceEpoch();
         device.fault = Refuses; // keeps it away until the request has been sent
         device.client->close();
         expectWarning("password");
         QTRY_COMPARE(m_states[m_id].mid(2), States({DevOffline, DevConnecting, DevRefused}));
+        QCOMPARE(reasons(m_id), Reasons({TroubleReason::ConnectionLost, TroubleReason::Password}));
+        const qint64 since = m_troubles[m_id].at(1).offlineSince;
+        QVERIFY(since >= before && since <= QDateTime::currentMSecsSinceEpoch());
+        QCOMPARE(m_troubles[m_id].constLast().offlineSince, since); // further attempts do not change it
         common_req("late", m_id, QString());
         device.fault = NoFault;
         m_transport->connectAgain();
@@ -179,6 +199,7 @@ private slots:
 
         device.stopReading();
         QTRY_COMPARE(m_states[m_id].mid(5), States({DevOffline, DevConnecting, DevDefaultPassword}));
+        QCOMPARE(reasons(m_id), Reasons({TroubleReason::Limits, TroubleReason::ConnectionLost}));
         QCOMPARE(m_states[idle.info.id].size(), 2);
     }
 
@@ -196,6 +217,8 @@ private slots:
         QTRY_VERIFY(m_states[m_id].endsWith(DevDefaultPassword));
         for (const DevInfo &device : silent.infos) // given up, and dialled again
             QTRY_VERIFY(m_states[device.id].startsWith(DevConnecting) && m_states[device.id].count(DevConnecting) > 1);
+        for (const DevInfo &device : silent.infos)
+            QCOMPARE(reasons(device.id).constFirst(), TroubleReason::NoAnswer);
         QCOMPARE(m_states[m_id].size(), 2);
     }
 
@@ -311,13 +334,56 @@ private slots:
         if (!isTrusted) // else the handshake is over before the pin is compared
             QCOMPARE(device.dials, int(isTaken));
         QSslConfiguration::setDefaultConfiguration(before);
-        if (!isTaken)
+        if (!isTaken) {
+            QCOMPARE(reasons(m_id).constFirst(), isOld ? TroubleReason::Tls : TroubleReason::Certificate);
             return;
+        }
         common_req("id", m_id, QString(500'000, 'q')); // large texts in both directions
         QTRY_COMPARE(device.received.size(), 1);
         const QString answer = '"' + QString(800'000, 'x') + '"';
         device.client->sendTextMessage("id\n[" + answer + ']');
         QTRY_COMPARE(m_answers, QStringList("id|[" + answer + ']'));
+    }
+
+    void whatCannotBeReachedSaysWhy_data()
+    {
+        columns<QString, QByteArray, TroubleReason, QString>({"url", "answer", "reason", "detail"});
+        const QByteArray none;
+        row("nobody listens", "", none, TroubleReason::ConnectionRefused, "refused");
+        row("a name that nobody knows", "ws://" + QString("much.too.long.").repeated(20), none,
+            TroubleReason::NoAddress, "not found");
+        row("no address", "nowhere", none, TroubleReason::NoAddress, "no address");
+        row("no WebSocket", "", QByteArray("HTTP/1.1 404 Not Found\r\n\r\n"), TroubleReason::SignOn, "HTTP 404");
+        row("no TLS", "wss", QByteArray("HTTP/1.1 400 Bad Request\r\n\r\n"), TroubleReason::Tls, "SSL");
+        row("gone", "", QByteArray("x"), TroubleReason::ConnectionLost, "closed");
+    }
+
+    void whatCannotBeReachedSaysWhy()
+    {
+        QFETCH(QString, url);
+        QFETCH(QByteArray, answer);
+        QFETCH(TroubleReason, reason);
+        QFETCH(QString, detail);
+        QTcpServer server;
+        server.listen(QHostAddress::LocalHost);
+        connect(&server, &QTcpServer::newConnection, &server, [&] {
+            server.nextPendingConnection()->write(answer);
+            server.findChild<QTcpSocket *>()->disconnectFromHost();
+        });
+        DevInfo device = SilentDevices(1).infos.constFirst();
+        device.port = server.serverPort();
+        device.tls = url == "wss";
+        device.url = device.tls ? QString() : url;
+        if (answer.isEmpty())
+            server.close();
+        if (detail == "no address")
+            expectWarning(detail);
+        m_transport->setDevices({device});
+        QTRY_VERIFY(m_states[device.id].contains(DevOffline));
+        QCOMPARE(reasons(device.id).constFirst(), reason);
+        const LinkTrouble &trouble = m_troubles[device.id].constLast();
+        QVERIFY2(trouble.detail.contains(detail), qPrintable(trouble.detail));
+        QCOMPARE(trouble.offlineSince, 0);
     }
 
     /// Its numbers can be so large that one exchange of keys holds up the thread of all devices for a second.
@@ -348,9 +414,24 @@ private:
         ClientSdk::instance().setTransport(std::move(transport));
     }
 
+    /// Of the attempts that have failed: what is told beside the states offline and refused.
+    Reasons reasons(const QString &id) const
+    {
+        Reasons list;
+        for (int i = 0, told = 0; i < m_states[id].size(); ++i) {
+            if (isOnlineStatus(m_states[id].at(i)))
+                continue;
+            if (m_states[id].at(i) != DevConnecting)
+                list.append(m_troubles[id].at(told).reason);
+            ++told;
+        }
+        return list;
+    }
+
     const QString m_id = "SN-1";
     WebSocketTransport *m_transport = nullptr;
     QHash<QString, States> m_states;
+    QHash<QString, QList<LinkTrouble>> m_troubles;
     QStringList m_answers;
 };
 

@@ -54,6 +54,31 @@ void onceInRun(QObject *context, Condition condition, Step step)
     timer->start(2ms);
 }
 
+/// Calls a function with the new value whenever a dynamic property of an object has changed.
+class PropertyWatch : public QObject
+{
+public:
+    PropertyWatch(QObject *watched, const char *name, std::function<void(const QVariant &)> changed)
+        : m_name(name)
+        , m_changed(std::move(changed))
+    {
+        watched->installEventFilter(this);
+    }
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QPointer<QObject> stillThere(watched);
+        if (event->type() == QEvent::DynamicPropertyChange
+            && static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == m_name)
+            m_changed(watched->property(m_name));
+        return !stillThere; // then the event must not go to it
+    }
+
+    QByteArray m_name;
+    std::function<void(const QVariant &)> m_changed;
+};
+
 } // namespace
 
 /// A run from the press of Configure to the summary, over the real form, and what may happen to it meanwhile.
@@ -190,6 +215,53 @@ private slots:
         QCOMPARE(f.transport->requests.size(), 5 * 4);
         f.configureAudio(); // and the next run is free to start
         QCOMPARE(m_summaries->count(), 2);
+    }
+
+    // A watcher sees a run before anything is asked or shown, and may decline it: then all is as if nobody had pressed.
+    void watcherMayDeclineARun()
+    {
+        const FormFixture f(2, healthy);
+        f.tickAll();
+        f.configureAudio();
+        QWidget *page = f.page("audioParametersPage");
+        const QVariant entryEnds = page->property("recordEntryEnds");
+        const QStringList entries = recordEntries();
+        f.transport->requests.clear();
+
+        enum { Decline, Allow, DeletePage } reply = Decline;
+        QVariantList announced;
+        PropertyWatch watch(page, "run", [&](const QVariant &run) {
+            announced.append(run);
+            QVERIFY(f.transport->requests.isEmpty() || !run.isValid());
+            const auto *overlay = f.form->findChild<orda_base::DisabledWaitingWt *>();
+            QVERIFY(!overlay || !overlay->isVisible());
+            if (run.isValid() && reply == Decline)
+                page->setProperty("runRefused", "not now");
+            if (run.isValid() && reply == DeletePage)
+                delete page;
+        });
+        f.configureAudio();
+        QCOMPARE(announced.size(), 2);
+        const QVariantMap run = announced.at(0).toMap();
+        QCOMPARE(run.value("family").toString(), "audio");
+        QCOMPARE(run.value("devIds").toStringList(), (QStringList{"dev0", "dev1"}));
+        QCOMPARE(run.value("values").toJsonObject().value("aiGain"), QJsonValue(50));
+        QVERIFY(!announced.at(1).isValid());
+        QVERIFY(f.transport->requests.isEmpty());
+        QCOMPARE(recordEntries(), entries);
+        QCOMPARE(page->property("recordEntryEnds"), entryEnds);
+        QCOMPARE(m_summaries->count(), 1);
+
+        reply = Allow;
+        f.configureAudio();
+        QCOMPARE(summary().text, summaryOf(2, 0));
+        QCOMPARE(announced.size(), 4);
+        QVERIFY(!page->property("run").isValid() && !page->property("runRefused").isValid());
+
+        reply = DeletePage;
+        f.transport->requests.clear();
+        f.configureAudio();
+        QVERIFY(!f.page("audioParametersPage") && f.transport->requests.isEmpty());
     }
 
     void formMayGoAtAnyMomentOfARun_data()

@@ -295,6 +295,11 @@ private slots:
         store.setDevStatus(b, DevRefused);
         store.setDevStatus("stranger", DevOnline);
         QCOMPARE(states.count(), 2);
+        const LinkTrouble silent{TroubleReason::NoAnswer, "no sign-on in time", 1};
+        for (const QString &id : {b, c, QString("stranger")})
+            emit ClientSignals::instance().signalDevTroubled(id, silent);
+        QCOMPARE(store.getDevTrouble(b), silent);
+        QCOMPARE(store.getDevTrouble("stranger"), LinkTrouble());
         QCOMPARE(store.getAllDevs(true), QList<DevInfo>({device(a)}));
 
         DevInfo renamed = device(a);
@@ -311,6 +316,7 @@ private slots:
         QCOMPARE(store.getDevStatus(a), DevOffline);
         store.setDevStatus(c, DevOnline);
         QCOMPARE(store.getDevStatus(c), DevOnline);
+        QCOMPARE(store.getDevTrouble(c), LinkTrouble());
     }
 
 private:

@@ -136,9 +136,12 @@ private slots:
         QCOMPARE(ended.size(), 1);
         QFETCH(QString, reason);
         QVERIFY2(ended.at(0).at(1).toString().contains(reason), qPrintable(ended.at(0).at(1).toString()));
-        const bool isOffence = !QRegularExpression("HTTP|not asked for|connection closed").match(reason).hasMatch();
-        QCOMPARE(ended.at(0).at(2).toBool(), isOffence);
-        QCOMPARE(ended.at(0).at(0).toInt(), reason == "connection closed" ? 4401 : 1006);
+        const bool isGoodbye = reason == "connection closed";
+        const bool isNoWebSocket = QRegularExpression("HTTP|not asked for").match(reason).hasMatch();
+        QCOMPARE(ended.at(0).at(2).value<TroubleReason>(), isGoodbye       ? TroubleReason::ConnectionLost
+                                                           : isNoWebSocket ? TroubleReason::SignOn
+                                                                           : TroubleReason::Limits);
+        QCOMPARE(ended.at(0).at(0).toInt(), isGoodbye ? 4401 : 1006);
         QVERIFY(m_connection->isFinished());
     }
 
@@ -249,22 +252,24 @@ private slots:
     {
         StatusChanges changes;
         const QString id = "d";
-        const auto add = [&](DevStatus status, qint64 now) { return changes.add(id, status, now).size(); };
+        const auto add = [&](DevStatus status, qint64 now) { return changes.add({id, status}, now).size(); };
         for (int i = 0; i < 10; ++i)
             QCOMPARE(add(i % 2 ? DevOnline : DevDefaultPassword, 5'000 + i), 1);
         QCOMPARE(add(DevLocked, 5'100), 0);
-        QCOMPARE(changes.add("other", DevOnline, 5'100).size(), 1);
+        QCOMPARE(changes.add({"other", DevOnline}, 5'100).size(), 1);
         QVERIFY(changes.isHolding());
         QCOMPARE(changes.takeDue(5'999).size(), 0);
-        QCOMPARE(changes.takeDue(6'000), QVector<StatusChanges::Change>({{id, DevLocked}}));
+        using Changes = QVector<StatusChanges::Change>;
+        QCOMPARE(changes.takeDue(6'000), Changes({{id, DevLocked}}));
         QVERIFY(!changes.isHolding());
 
         for (int i = 0; i < 9; ++i) // the merged one was the first of this second
             QCOMPARE(add(DevOnline, 6'001), 1);
-        QCOMPARE(add(DevOffline, 6'002), 0);
-        QCOMPARE(add(DevConnecting, 6'003), 0);
+        const LinkTrouble lost{TroubleReason::ConnectionLost, "first", 1}, silent{TroubleReason::NoAnswer, "then", 1};
+        QCOMPARE(changes.add({id, DevOffline, lost}, 6'002).size(), 0);
+        QCOMPARE(changes.add({id, DevOffline, silent}, 6'003).size(), 0);
         QCOMPARE(add(DevOnline, 6'004), 0);
-        QCOMPARE(changes.takeDue(7'000), QVector<StatusChanges::Change>({{id, DevOffline}, {id, DevOnline}}));
+        QCOMPARE(changes.takeDue(7'000), Changes({{id, DevOffline, silent}, {id, DevOnline}}));
         QCOMPARE(add(DevOffline, 9'000), 1);
     }
 

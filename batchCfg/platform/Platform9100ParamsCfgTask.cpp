@@ -19,26 +19,28 @@ QJsonObject writeParam(const QJsonObject &values, const QJsonObject &device)
 
 const CfgFamily &Platform9100ParamsCfgTask::family()
 {
-    static const CfgFamily platform9100{QStringLiteral("platform_9100"),
-                                        &staticMetaObject,
-                                        QT_TR_NOOP("Platform 9100 Parameters Configuration Result"),
-                                        QT_TR_NOOP("set platform 9100 parameters time out"),
-                                        {
-                                            CfgExchange("alarmservice_get_cfg", "alarmservice_set_cfg", writeParam)
-                                                .reading([](const QJsonObject &) { return QJsonObject(); })
-                                                .failing(QT_TR_NOOP("Failed to get platform 9100 parameters(%1)"),
-                                                         QT_TR_NOOP("Failed to set platform 9100 parameters(%1)")),
-                                        },
-                                        {
-                                            CfgKey::switchOf("bEnable"),
-                                            CfgKey::switchOf("bManualcfgonline"),
-                                            CfgKey::text("onlineserverip"),
-                                            CfgKey::number("onlineserverport", 0, highestPort, 15030),
-                                            CfgKey::switchOf("bManualcfgbussiness"),
-                                            CfgKey::text("businessserverip"),
-                                            CfgKey::number("businessserverport", 0, highestPort, 8081),
-                                        },
-                                        newTask<Platform9100ParamsCfgTask>};
+    static const CfgFamily platform9100{
+        QStringLiteral("platform_9100"),
+        &staticMetaObject,
+        QT_TR_NOOP("Platform 9100 Parameters Configuration Result"),
+        QT_TR_NOOP("set platform 9100 parameters time out"),
+        {
+            CfgExchange("alarmservice_get_cfg", "alarmservice_set_cfg", writeParam)
+                .reading([](const QJsonObject &) { return QJsonObject(); })
+                .failing(QT_TR_NOOP("Failed to get platform 9100 parameters(%1)"),
+                         QT_TR_NOOP("Failed to set platform 9100 parameters(%1)"))
+                .takingFromValues({QStringLiteral("bManualcfgonline"), QStringLiteral("bManualcfgbussiness")}),
+        },
+        {
+            CfgKey::switchOf("bEnable"),
+            CfgKey::switchOf("bManualcfgonline"),
+            CfgKey::text("onlineserverip"),
+            CfgKey::number("onlineserverport", 0, highestPort, 15030),
+            CfgKey::switchOf("bManualcfgbussiness"),
+            CfgKey::text("businessserverip"),
+            CfgKey::number("businessserverport", 0, highestPort, 8081),
+        },
+        newTask<Platform9100ParamsCfgTask>};
     return platform9100;
 }
 

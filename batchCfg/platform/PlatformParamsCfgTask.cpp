@@ -29,6 +29,7 @@ const CfgFamily &PlatformParamsCfgTask::family()
                 .reading(readParam)
                 .failing(QT_TR_NOOP("Failed to get platform parameters(%1)"),
                          QT_TR_NOOP("Failed to set platform parameters(%1)"))
+                .takingFromValues({QStringLiteral("qbcloud_type")})
                 .checkedWhenBack(cloudCheckLimit),
         },
         {

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace orda_batchCfg {
 
@@ -19,8 +21,15 @@ struct CfgExchange
     /// @param values what is to be set
     /// @param device the device's own parameters, as the read answer gave them
     using SetParam = std::function<QJsonObject(const QJsonObject &values, QJsonObject device)>;
+    /// A write whose "param" has what the device keeps in a member of its own.
+    struct WrappedParam
+    {
+        QString attribute; ///< the name of that member
+        SetParam setParam;
+    };
 
     CfgExchange(const char *getMethod, const char *setMethod, SetParam setParam);
+    CfgExchange(const char *getMethod, const char *setMethod, const WrappedParam &param);
 
     /// Without this the read request has no member "param".
     CfgExchange reading(GetParam param) &&;
@@ -35,6 +44,37 @@ struct CfgExchange
     /// @param limit counted from the first time that it is read again: then the result is that of a time-out. Nothing
     /// prolongs it, because a device that comes and goes without end would keep the whole run waiting.
     CfgExchange checkedWhenBack(std::chrono::milliseconds limit) &&;
+    /// The device's parameters, and the values, have a list of objects in @p member, told apart by the whole number
+    /// @p id. Their members are called by @p prefix and number: "stream0.bitRate".
+    CfgExchange listedIn(const char *member, const char *id, const char *prefix) &&;
+    /// The write takes these keys from the values only, and never repeats what the device has.
+    CfgExchange takingFromValues(const QStringList &keys) &&;
+
+    /// The device's parameters out of the answer to a read.
+    QJsonObject heldIn(const QJsonObject &answer) const;
+
+    // Members: what a device holds, or is to hold, as one flat object. Where the parameters have a list (listedIn()),
+    // the second entry of a number, as recorders with several channels have it, is called "stream0(2)". Values of
+    // members are compared by ==, for which 1 and 1.0 are the same.
+
+    /// Everything that a device holds.
+    /// @param device as the read answer gave it
+    QJsonObject membersOf(const QJsonObject &device) const;
+    /// What the values ask for, by member.
+    QJsonObject askedBy(const QJsonObject &values) const;
+    /// What the device keeps of a write's "param": all but what steers the request.
+    QJsonObject settings(const QJsonObject &param) const;
+    /// The name that askedBy() gives to what sets @p member: values do not tell apart the entries of one number.
+    QString nameInValues(const QString &member) const;
+    /// Values that ask for @p members. Of entries with the same number the first one's stand.
+    QJsonObject toValues(const QJsonObject &members) const;
+    /// @p device with these members as they are here; those that it does not have are left out.
+    QJsonObject withMembers(const QJsonObject &device, const QJsonObject &members) const;
+    /// The "param" of a write after which the device holds @p members, as far as it has them, and else what it holds
+    /// now.
+    QJsonObject writeBack(const QJsonObject &device, const QJsonObject &members) const;
+    /// Whether the device holds everything that a write with @p param sets.
+    bool holds(const QJsonObject &param, const QJsonObject &device) const;
 
     QString getMethod;
     QString setMethod;
@@ -44,8 +84,21 @@ struct CfgExchange
     const char *setFailure = "";
     int flag = 0; ///< 0: runs always
     QString resultMember; ///< empty: "result" itself
+    QString attribute; ///< the member of a write's "param" that has what the device keeps; empty: "param" itself
+    QString listMember, listId, listPrefix; ///< listedIn(); empty: there is no list
+    QStringList fromValues; ///< takingFromValues()
     bool checkWhenBack = false;
     std::chrono::milliseconds checkLimit{0};
+
+private:
+    struct EntryMember
+    {
+        int id;
+        bool isFirst; // of the entries with this number
+        QString key;
+    };
+    std::optional<EntryMember> entryMember(const QString &member) const;
+    QStringList entryNames(const QJsonArray &entries) const;
 };
 
 /// Reads with {"channelid": 0}: the first video channel, the one that a camera has.
@@ -58,6 +111,6 @@ QJsonObject mergeKnownKeys(QJsonObject device, const QJsonObject &values);
 QJsonObject completeFrom(QJsonObject values, const QJsonObject &device, const QStringList &keys);
 
 /// Writes {"channelid": 0, @p attribute: mergeKnownKeys(device, values)}.
-CfgExchange::SetParam mergedUnder(const char *attribute);
+CfgExchange::WrappedParam mergedUnder(const char *attribute);
 
 } // namespace orda_batchCfg

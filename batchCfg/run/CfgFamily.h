@@ -55,6 +55,15 @@ struct CfgKey
     QVector<CfgChoice> choices = {}; ///< of a Choice
 };
 
+/// A member of a device's settings that a write gives another value (CfgExchange::membersOf()).
+struct MemberChange
+{
+    int exchange; ///< its place in CfgFamily::exchanges
+    QString member;
+    QJsonValue before; ///< undefined when the device does not have the member
+    QJsonValue after;
+};
+
 /// What a family of parameters is, as data: what is asked of a device, what may be set, and the texts about it. It is
 /// constant and free of widgets: pages, tasks and other programs use the same.
 struct CfgFamily
@@ -72,10 +81,20 @@ struct CfgFamily
     QVector<CfgKey> keys;
     CreateTask createTask;
 
+    /// The first of the exchanges from @p from on that @p flags ask for, or -1.
+    int exchangeFrom(int from, int flags) const;
+    /// The exchanges that a run with @p flags goes through, in their order; the last one when they ask for none.
+    QVector<int> exchangesOf(int flags) const;
+    /// What a write changes on a device; what it merely repeats is not in it.
+    /// @param exchange its place among the exchanges
+    /// @param param of the write
+    QVector<MemberChange> changesBy(int exchange, const QJsonObject &device, const QJsonObject &param) const;
     /// One of the family's texts in the language of the application.
     QString translated(const char *text) const;
     /// File name of the record of a run, without a directory.
     QString recordFile() const;
+    /// The flags of those keys that @p values has, joined: what CreateTask is given.
+    int flagsOf(const QJsonObject &values) const;
     /// One of the family's keys. Any other is a mistake in the program, which ends.
     const CfgKey &key(const char *latin1) const;
 };

@@ -8,6 +8,14 @@
 
 namespace orda_batchCfg {
 
+namespace {
+
+// For watchers, in other programs too: docs/scripting.md.
+constexpr char runProperty[] = "run";
+constexpr char refusedProperty[] = "runRefused";
+
+} // namespace
+
 bool CfgRun::s_isUnderWay = false;
 
 bool CfgRun::isUnderWay()
@@ -25,6 +33,18 @@ CfgRun::CfgRun(int devices)
 CfgRun::~CfgRun()
 {
     s_isUnderWay = false;
+    if (m_page)
+        m_page->setProperty(runProperty, {});
+}
+
+bool CfgRun::announce(QObject *page, const QString &family, const QJsonObject &values, const QStringList &devIds)
+{
+    m_page = page;
+    page->setProperty(refusedProperty, {});
+    page->setProperty(runProperty, QVariantMap{{QStringLiteral("family"), family},
+                                               {QStringLiteral("values"), values},
+                                               {QStringLiteral("devIds"), devIds}});
+    return m_page && m_page->property(refusedProperty).toString().isEmpty();
 }
 
 void CfgRun::start(const QStringList &devIds, const MakeTask &makeTask)

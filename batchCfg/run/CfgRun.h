@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -30,6 +32,12 @@ public:
     /// Gives way to the next run. Tasks without a result are left to their parent.
     ~CfgRun() override;
 
+    /// Tells whoever watches @p page that a run is about to begin: the page's dynamic property "run" is set, and removed
+    /// when this object goes. Called before start(), or not at all.
+    /// @param values by the device's own keys
+    /// @return whether the run may begin: a watcher declines it by setting the property "runRefused" to a text
+    bool announce(QObject *page, const QString &family, const QJsonObject &values, const QStringList &devIds);
+
     /// Makes the tasks, in the order of @p devIds. Called once.
     void start(const QStringList &devIds, const MakeTask &makeTask);
 
@@ -53,6 +61,7 @@ private:
     void handleResult(const QString &devId, const QString &msg, int errorCode);
 
     static bool s_isUnderWay;
+    QPointer<QObject> m_page; // that the run was announced by
     int m_total;
     int m_success = 0;
     int m_failure = 0;

@@ -266,12 +266,18 @@ void ParamsCfgPage::configure()
     if (!takeRecord())
         return;
 
-    qCDebug(logRun) << m_family.name << "begins:" << devIds.size() << "devices";
+    const QJsonObject runValues = values();
     const auto shown = std::make_shared<ShownRun>(devIds.size());
+    const QPointer<ParamsCfgPage> self(this); // the form may be deleted by a watcher, and while the loop turns
+    if (!shown->run.announce(this, m_family.name, runValues, devIds)) {
+        if (self)
+            m_recorder->close();
+        return;
+    }
+    qCDebug(logRun) << m_family.name << "begins:" << devIds.size() << "devices";
     m_run = shown;
-    startRun(*shown, devIds);
+    startRun(*shown, runValues, devIds);
 
-    const QPointer<ParamsCfgPage> self(this); // the form may be deleted while the loop turns
     shown->loop.exec();
     if (!self)
         return; // nothing of ours is left to touch
@@ -289,14 +295,14 @@ bool ParamsCfgPage::takeRecord()
                   .arg(m_recorder->filePath(), holder));
         return false;
     }
-    setProperty("recordError", QString());
-    setProperty("recordEntryEnds", {});
     return true;
 }
 
-void ParamsCfgPage::startRun(ShownRun &shown, const QStringList &devIds)
+void ParamsCfgPage::startRun(ShownRun &shown, const QJsonObject &runValues, const QStringList &devIds)
 {
-    const auto makeTask = [this, runValues = values(), flags = taskFlags()](const QString &devId) {
+    setProperty("recordError", QString());
+    setProperty("recordEntryEnds", {});
+    const auto makeTask = [this, runValues, flags = taskFlags()](const QString &devId) {
         return m_family.createTask(devId, runValues, flags, this);
     };
     shown.overlay = new orda_base::DisabledWaitingWt(BatchCfgContact::instance().formWidget(), tr("Configuring..."));

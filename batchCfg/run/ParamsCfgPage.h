@@ -24,7 +24,7 @@ struct CfgFamily;
 /// The page's form has the check box "allParams" and the buttons "okBt" and "reportBt".
 ///
 /// What the module itself does not show is in dynamic properties for clients that do: "recordInUse", "recordError" and
-/// "recordEntryEnds" (docs/scripting.md).
+/// "recordEntryEnds", and a run that begins in "run", where it can be declined (docs/scripting.md).
 class ParamsCfgPage : public QWidget
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ private:
     int taskFlags() const;
     void configure();
     bool takeRecord();
-    void startRun(ShownRun &shown, const QStringList &devIds);
+    void startRun(ShownRun &shown, const QJsonObject &runValues, const QStringList &devIds);
     void handleResult(ShownRun &shown, const QString &devId, const QString &msg);
     void finishRun(const ShownRun &shown);
     void abandonRun();

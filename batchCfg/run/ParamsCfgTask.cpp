@@ -10,7 +10,6 @@
 #include <QTimer>
 #include <QUuid>
 
-#include <optional>
 #include <utility>
 
 namespace orda_batchCfg {
@@ -41,8 +40,7 @@ ParamsCfgTask::ParamsCfgTask(const CfgFamily &family, const QString &devId, cons
     , m_flags(flags)
     , m_values(values)
 {
-    const int first = selectedFrom(0);
-    sendRead(first >= 0 ? first : m_family.exchanges.size() - 1);
+    sendRead(m_family.exchangesOf(m_flags).constFirst());
     TaskRouter::instance().add(this);
 }
 
@@ -50,16 +48,6 @@ ParamsCfgTask::~ParamsCfgTask()
 {
     if (!m_finished)
         TaskRouter::instance().remove(this);
-}
-
-int ParamsCfgTask::selectedFrom(int from) const
-{
-    for (int i = from; i < m_family.exchanges.size(); ++i) {
-        const int flag = m_family.exchanges.at(i).flag;
-        if (flag == 0 || (m_flags & flag) != 0)
-            return i;
-    }
-    return -1;
 }
 
 void ParamsCfgTask::sendRead(int exchange)
@@ -85,7 +73,9 @@ void ParamsCfgTask::sendWrite(int exchange)
     m_written = exchange;
     m_answered &= ~answeredBit(exchange, false);
     const CfgExchange &e = m_family.exchanges.at(exchange);
-    const QJsonObject param = e.setParam(m_values, std::exchange(m_devParams, {}));
+    QJsonObject devParams = std::exchange(m_devParams, {});
+    const auto own = std::exchange(m_ownParam, std::nullopt);
+    const QJsonObject param = own ? *own : e.setParam(m_values, std::move(devParams));
     if (e.checkWhenBack)
         m_checked = param;
     send(e.setMethod, requestText(e.setMethod, param));
@@ -121,7 +111,7 @@ void ParamsCfgTask::handleAnswer(const QString &text)
         m_answered |= answered;
         qCDebug(logRun) << m_requestId << m_devId << "answers" << method << errorCode;
         if (isRead)
-            handleRead(i, answer.value(QLatin1String("result")).toObject(), errorCode);
+            handleRead(i, answer, errorCode);
         else
             handleWritten(i, errorCode);
         return;
@@ -129,18 +119,34 @@ void ParamsCfgTask::handleAnswer(const QString &text)
     qCDebug(logRun) << m_requestId << m_devId << "answer to a method that is none of ours dropped:" << method;
 }
 
-void ParamsCfgTask::handleRead(int exchange, const QJsonObject &result, int errorCode)
+void ParamsCfgTask::handleRead(int exchange, const QJsonObject &answer, int errorCode)
 {
     const CfgExchange &e = m_family.exchanges.at(exchange);
     if (errorCode != 0) {
         finish(m_family.translated(e.getFailure).arg(errorCode), errorCode);
         return;
     }
-    m_devParams = e.resultMember.isEmpty() ? result : result.value(e.resultMember).toObject();
+    m_devParams = e.heldIn(answer);
     if (e.checkWhenBack && m_written == exchange)
         checkSettings(exchange);
     else
-        TaskRouter::instance().callLater(this, &ParamsCfgTask::sendWrite, exchange);
+        handleDevParams(exchange, m_devParams);
+}
+
+void ParamsCfgTask::handleDevParams(int exchange, const QJsonObject &)
+{
+    writeLater(exchange);
+}
+
+void ParamsCfgTask::writeLater(int exchange, const std::optional<QJsonObject> &param)
+{
+    m_ownParam = param;
+    TaskRouter::instance().callLater(this, &ParamsCfgTask::sendWrite, exchange);
+}
+
+void ParamsCfgTask::dropUnaskedAnswers()
+{
+    m_answered = ~answeredBit(m_family.exchangesOf(m_flags).constFirst(), true);
 }
 
 void ParamsCfgTask::handleWritten(int exchange, int errorCode)
@@ -149,7 +155,12 @@ void ParamsCfgTask::handleWritten(int exchange, int errorCode)
         finish(m_family.translated(m_family.exchanges.at(exchange).setFailure).arg(errorCode), errorCode);
         return;
     }
-    const int next = selectedFrom(exchange + 1);
+    goOnAfter(exchange);
+}
+
+void ParamsCfgTask::goOnAfter(int exchange)
+{
+    const int next = m_family.exchangeFrom(exchange + 1, m_flags);
     if (next >= 0)
         TaskRouter::instance().callLater(this, &ParamsCfgTask::sendRead, next);
     else
@@ -158,13 +169,11 @@ void ParamsCfgTask::handleWritten(int exchange, int errorCode)
 
 void ParamsCfgTask::checkSettings(int exchange)
 {
-    for (auto it = m_checked.constBegin(); it != m_checked.constEnd(); ++it) {
-        if (it.value() != m_devParams.value(it.key())) {
-            finish(m_family.translated(m_family.exchanges.at(exchange).setFailure).arg(int(NotVerified)), NotVerified);
-            return;
-        }
-    }
-    finish(tr("success"), Success);
+    const CfgExchange &e = m_family.exchanges.at(exchange);
+    if (e.holds(m_checked, m_devParams))
+        finish(tr("success"), Success);
+    else
+        finish(m_family.translated(e.setFailure).arg(int(NotVerified)), NotVerified);
 }
 
 void ParamsCfgTask::handleTimeout()

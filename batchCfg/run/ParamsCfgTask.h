@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <chrono>
+#include <optional>
 
 namespace orda_batchCfg {
 
@@ -46,20 +47,29 @@ protected:
     /// In place of the limit of the family's exchanges.
     void setCheckLimit(std::chrono::milliseconds limit) { m_checkLimit = limit; }
 
+    /// An exchange has been read: goes on by writeLater() or goOnAfter(), once. Writes, unless a subclass knows better.
+    /// @param device what the device holds
+    virtual void handleDevParams(int exchange, const QJsonObject &device);
+    /// Writes after the pause: @p param, or else what the exchange makes of the values and of what was just read.
+    void writeLater(int exchange, const std::optional<QJsonObject> &param = {});
+    /// The next exchange after the pause, or the end with success.
+    void goOnAfter(int exchange);
+    /// For the constructor of a subclass: from now on what was never asked is dropped. The tasks of the families take
+    /// it for the answer to a step of theirs, as the protocol has it.
+    void dropUnaskedAnswers();
+
 private:
     friend class TaskRouter;
     void handleAnswer(const QString &text);
     void handleTimeout();
     void handleDevStatus(vms_sdk::DevStatus status);
 
-    void handleRead(int exchange, const QJsonObject &result, int errorCode);
+    void handleRead(int exchange, const QJsonObject &answer, int errorCode);
     void handleWritten(int exchange, int errorCode);
     void sendRead(int exchange);
     void sendWrite(int exchange);
     void send(const QString &method, const QString &text);
     static quint32 answeredBit(int exchange, bool isRead) { return 1U << unsigned(2 * exchange + (isRead ? 0 : 1)); }
-    /// The first exchange from @p from on that the flags ask for, or -1.
-    int selectedFrom(int from) const;
     void readAgain();
     void checkSettings(int exchange);
     void finish(const QString &msg, int errorCode);
@@ -70,6 +80,7 @@ private:
     int m_flags;
     QJsonObject m_values;
     QJsonObject m_devParams; // from the read to the write
+    std::optional<QJsonObject> m_ownParam; // what is to be written, where a subclass has made it
     QJsonObject m_checked; // the "param" that was written, where the device is to be read again
     std::chrono::milliseconds m_checkLimit{0}; // 0: the exchange's
     quint32 m_answered = 0; // bits of the requests answered since they were last sent: answeredBit()

@@ -2,12 +2,12 @@
 
 #include "families/Families.h"
 #include "run/BatchCfgContact.h"
+#include "run/DevEligibility.h"
 #include "shell/EmptyListHint.h"
 #include "shell/FamilyPages.h"
 #include "shell/OrderNumbers.h"
 #include "ui_BatchCfgForm.h"
 
-#include <XCOMMON/PwdStrength.h>
 #include <XCOMMON/XMenu.h>
 #include <orda_base/BaseTools.h>
 #include <orda_base/IpTableItem.h>
@@ -16,7 +16,6 @@
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_saas/LoginSignals.h>
-#include <orda_saas/SaasWorker.h>
 
 #include <QApplication>
 #include <QCursor>
@@ -46,10 +45,10 @@ enum Column
 
 constexpr int orderNumWidth = 80; // that of orderNumWt in the header row
 
-// Codes of DevInfo that the list tests.
-constexpr int reachedDirectly = 1;
-constexpr int kindCamera = 1;
-constexpr int kindRecorder = 6;
+bool isDevEligible(const vms_sdk::DevInfo &dev)
+{
+    return devEligibility(dev) == Eligibility::Eligible;
+}
 
 QTableWidgetItem *centred(QTableWidgetItem *item)
 {
@@ -194,22 +193,6 @@ void BatchCfgForm::connectStore()
     const auto &login = orda_saas::LoginSignals::instance();
     connect(&login, &orda_saas::LoginSignals::signalSaasLogoutSuccess, this, &BatchCfgForm::removeIneligibleDevs);
     connect(&login, &orda_saas::LoginSignals::signalEnterpriseStatus, this, &BatchCfgForm::addEligibleDevs);
-}
-
-bool BatchCfgForm::isDevEligible(const vms_sdk::DevInfo &dev) const
-{
-    if (dev.id.isEmpty())
-        return false;
-    const vms_sdk::DevStatus status = orda_data::DevsMgrData::instance().getDevStatus(dev.id);
-    if (dev.accessCode != reachedDirectly || (dev.kindCode != kindCamera && dev.kindCode != kindRecorder)
-        || !orda_base::BaseTools::instance().isDevOnline(status))
-        return false;
-    if (!dev.ip.isEmpty() || orda_saas::SaasWorker::instance().canOperateDevFreely(dev.serialNumber))
-        return true;
-    if (status == vms_sdk::DevDefaultPassword || status == vms_sdk::DevLocked)
-        return false;
-    const XCOMMON::PwdStrength strength = XCOMMON::checkPwdStrength(dev.password);
-    return strength != XCOMMON::PwdInvalid && strength != XCOMMON::PwdWeak;
 }
 
 void BatchCfgForm::addDevToTable(const vms_sdk::DevInfo &dev)

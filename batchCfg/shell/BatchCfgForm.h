@@ -56,7 +56,6 @@ private:
     void initShortcuts();
     void connectStore();
 
-    bool isDevEligible(const vms_sdk::DevInfo &dev) const;
     void addDevToTable(const vms_sdk::DevInfo &dev);
     void fillRow(int row, const vms_sdk::DevInfo &dev); // an empty one
     void removeDevs(const QStringList &devIds);

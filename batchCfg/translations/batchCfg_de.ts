@@ -202,6 +202,41 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::DevEligibility</name>
+    <message>
+        <source>no such device</source>
+        <translation>kein solches Gerät</translation>
+    </message>
+    <message>
+        <source>not reached directly</source>
+        <translation>nicht direkt erreichbar</translation>
+    </message>
+    <message>
+        <source>neither a camera nor a recorder</source>
+        <translation>weder Kamera noch Rekorder</translation>
+    </message>
+    <message>
+        <source>not online</source>
+        <translation>nicht online</translation>
+    </message>
+    <message>
+        <source>no IP address, and still with its factory password</source>
+        <translation>keine IP-Adresse und noch mit Werkskennwort</translation>
+    </message>
+    <message>
+        <source>no IP address, and locked</source>
+        <translation>keine IP-Adresse und gesperrt</translation>
+    </message>
+    <message>
+        <source>no IP address, and no password</source>
+        <translation>keine IP-Adresse und kein Passwort</translation>
+    </message>
+    <message>
+        <source>no IP address, and a weak password</source>
+        <translation>keine IP-Adresse und ein schwaches Passwort</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::EmptyListHint</name>
     <message>
         <source>No device in the list matches the search.</source>

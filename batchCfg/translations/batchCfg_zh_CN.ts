@@ -202,6 +202,41 @@
     </message>
 </context>
 <context>
+    <name>orda_batchCfg::DevEligibility</name>
+    <message>
+        <source>no such device</source>
+        <translation>没有此设备</translation>
+    </message>
+    <message>
+        <source>not reached directly</source>
+        <translation>无法直接访问</translation>
+    </message>
+    <message>
+        <source>neither a camera nor a recorder</source>
+        <translation>既非摄像机也非录像机</translation>
+    </message>
+    <message>
+        <source>not online</source>
+        <translation>不在线</translation>
+    </message>
+    <message>
+        <source>no IP address, and still with its factory password</source>
+        <translation>无 IP 地址，且仍为出厂密码</translation>
+    </message>
+    <message>
+        <source>no IP address, and locked</source>
+        <translation>无 IP 地址，且已锁定</translation>
+    </message>
+    <message>
+        <source>no IP address, and no password</source>
+        <translation>无 IP 地址，且无密码</translation>
+    </message>
+    <message>
+        <source>no IP address, and a weak password</source>
+        <translation>无 IP 地址，且密码弱</translation>
+    </message>
+</context>
+<context>
     <name>orda_batchCfg::EmptyListHint</name>
     <message>
         <source>No device in the list matches the search.</source>

@@ -71,6 +71,7 @@ const CfgFamily &VideoParamsCfgTask::family()
         QT_TR_NOOP("set stream parameters time out"),
         {
             CfgExchange("stream_get_params", "stream_set_params", writeParam)
+                .listedIn("streams", "streamid", "stream")
                 // All channels at once: -1, where the other families ask for the first one.
                 .reading([](const QJsonObject &) {
                     return QJsonObject{{QStringLiteral("channelid"), -1}};

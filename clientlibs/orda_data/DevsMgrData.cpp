@@ -19,6 +19,8 @@ DevsMgrData::DevsMgrData()
 {
     connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalDevStatusChanged, this,
             &DevsMgrData::setDevStatus);
+    connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalDevTroubled, this,
+            &DevsMgrData::setDevTrouble);
 }
 
 QList<DevInfo> DevsMgrData::getAllDevs(bool onlineOnly) const
@@ -49,6 +51,12 @@ vms_sdk::DevStatus DevsMgrData::getDevStatus(const QString &devId) const
 {
     const Entry *entry = find(devId);
     return entry ? entry->status : vms_sdk::DevOffline;
+}
+
+vms_sdk::LinkTrouble DevsMgrData::getDevTrouble(const QString &devId) const
+{
+    const Entry *entry = find(devId);
+    return entry ? entry->trouble : vms_sdk::LinkTrouble();
 }
 
 void DevsMgrData::updateDevs(const QList<DevInfo> &devs)
@@ -83,7 +91,16 @@ void DevsMgrData::setDevStatus(const QString &devId, vms_sdk::DevStatus status)
     if (known == m_index.constEnd() || m_entries.at(*known).status == status)
         return;
     m_entries[*known].status = status;
+    if (vms_sdk::isOnlineStatus(status))
+        m_entries[*known].trouble = {};
     emit DataSignals::instance().signalDevStatusChanged(devId, status);
+}
+
+void DevsMgrData::setDevTrouble(const QString &devId, const vms_sdk::LinkTrouble &trouble)
+{
+    const auto known = m_index.constFind(devId);
+    if (known != m_index.constEnd())
+        m_entries[*known].trouble = trouble;
 }
 
 const DevsMgrData::Entry *DevsMgrData::find(const QString &devId) const

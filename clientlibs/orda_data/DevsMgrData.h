@@ -2,6 +2,7 @@
 
 #include <orda_data/Export.h>
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/LinkTrouble.h>
 
 #include <QHash>
 #include <QObject>
@@ -13,8 +14,8 @@ namespace orda_data {
 using vms_sdk::DevInfo;
 
 /// The device store: the records of all devices and their states. It takes the states from the SDK
-/// (ClientSignals::signalDevStatusChanged), from the first call of instance() on. It reports changes through
-/// DataSignals. GUI thread only.
+/// (ClientSignals::signalDevStatusChanged), from the first call of instance() on, and why devices are not connected
+/// (signalDevTroubled). It reports changes of the first through DataSignals. GUI thread only.
 class ORDA_DATA_EXPORT DevsMgrData : public QObject
 {
     Q_OBJECT
@@ -30,6 +31,9 @@ public:
     DevInfo getDevInfoById(const QString &devId) const;
     /// DevOffline when @p devId is unknown.
     vms_sdk::DevStatus getDevStatus(const QString &devId) const;
+    /// Why the device is not connected, as the transport told it last; without a reason when it is online or unknown,
+    /// or when the transport does not tell.
+    vms_sdk::LinkTrouble getDevTrouble(const QString &devId) const;
 
     /// Adds new records as offline and replaces known ones, which keep their place and state. Raises
     /// signalUpdateDevs(devs, true, true). Call this before the transport gets the records, because the store ignores
@@ -39,6 +43,8 @@ public:
     void deleteDevs(const QStringList &devIds);
     /// Ignores unknown ids. Raises signalDevStatusChanged only when the state changes.
     void setDevStatus(const QString &devId, vms_sdk::DevStatus status);
+    /// Ignores unknown ids. A device that comes online loses it.
+    void setDevTrouble(const QString &devId, const vms_sdk::LinkTrouble &trouble);
 
 private:
     DevsMgrData();
@@ -47,6 +53,7 @@ private:
     {
         DevInfo info;
         vms_sdk::DevStatus status = vms_sdk::DevOffline;
+        vms_sdk::LinkTrouble trouble = {};
     };
 
     const Entry *find(const QString &devId) const;

@@ -61,6 +61,8 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
             passOnAnswer(answer->requestId, answer->text);
         else if (const auto *change = std::get_if<Inbox::StatusChange>(&item))
             raise([=](ClientSignals &sdk) { emit sdk.signalDevStatusChanged(change->devId, change->status); });
+        else if (const auto *news = std::get_if<Inbox::Trouble>(&item))
+            raise([=](ClientSignals &sdk) { emit sdk.signalDevTroubled(news->devId, news->trouble); });
     });
     // Direct, on the thread that raises them: the inbox carries them to this thread.
     QObject::connect(
@@ -73,6 +75,12 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
         m_transport.get(), &DeviceTransport::devStatusChanged, m_inbox.get(),
         [inbox = m_inbox.get()](const QString &devId, DevStatus status) {
             inbox->put(Inbox::StatusChange{devId, status});
+        },
+        Qt::DirectConnection);
+    QObject::connect(
+        m_transport.get(), &DeviceTransport::linkTroubled, m_inbox.get(),
+        [inbox = m_inbox.get()](const QString &devId, const LinkTrouble &trouble) {
+            inbox->put(Inbox::Trouble{devId, trouble});
         },
         Qt::DirectConnection);
 }

@@ -2,6 +2,7 @@
 
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/Export.h>
+#include <vms_client_sdk/LinkTrouble.h>
 
 #include <QObject>
 #include <QVariant>
@@ -23,6 +24,9 @@ Q_SIGNALS:
     /// The waiting time of @p requestId is over, answered or not. The second argument is empty.
     void signalRequestTimeout(const QString &requestId, const QVariant &);
     void signalDevStatusChanged(const QString &devId, vms_sdk::DevStatus status);
+    /// Why the device is not connected, right before its change to a state that is not online. Not every transport
+    /// tells it. It holds until the next one, or until the device is online.
+    void signalDevTroubled(const QString &devId, const vms_sdk::LinkTrouble &trouble);
 
 private:
     ClientSignals();

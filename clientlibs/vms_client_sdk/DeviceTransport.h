@@ -2,6 +2,7 @@
 
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/Export.h>
+#include <vms_client_sdk/LinkTrouble.h>
 
 #include <QObject>
 
@@ -27,6 +28,9 @@ Q_SIGNALS:
     // May be raised on any thread, from inside send() too: the SDK always queues them.
     void answered(const QString &requestId, const QString &text);
     void devStatusChanged(const QString &devId, vms_sdk::DevStatus status);
+    /// Why the device is not connected, for transports that know it: raised before each devStatusChanged() to a state
+    /// that is not online, and at no other time, so that a device that comes and goes is limited in both alike.
+    void linkTroubled(const QString &devId, const vms_sdk::LinkTrouble &trouble);
 };
 
 } // namespace vms_sdk

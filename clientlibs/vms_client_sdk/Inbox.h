@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/LinkTrouble.h>
 
 #include <QObject>
 #include <QTimer>
@@ -29,7 +30,12 @@ public:
         QString devId;
         DevStatus status;
     };
-    using Item = std::variant<Answer, StatusChange>;
+    struct Trouble
+    {
+        QString devId;
+        LinkTrouble trouble;
+    };
+    using Item = std::variant<Answer, StatusChange, Trouble>;
 
     /// @param consumer called on the thread of this object, from its event loop. It may delete this object, and may
     /// wait in an event loop of its own: the items after it are then passed on from there.

@@ -16,6 +16,7 @@ WebSocketTransport::WebSocketTransport(QObject *parent, const WebSocketOptions &
     // Direct: whoever listens to a transport queues its signals anyway, and once is enough.
     connect(m_worker, &NetworkWorker::answered, this, &DeviceTransport::answered, Qt::DirectConnection);
     connect(m_worker, &NetworkWorker::devStatusChanged, this, &DeviceTransport::devStatusChanged, Qt::DirectConnection);
+    connect(m_worker, &NetworkWorker::linkTroubled, this, &DeviceTransport::linkTroubled, Qt::DirectConnection);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &WebSocketTransport::shutdown);
     m_thread.setObjectName(QStringLiteral("vms_sdk network"));
     m_thread.start();

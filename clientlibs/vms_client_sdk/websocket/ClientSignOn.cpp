@@ -37,12 +37,12 @@ ClientSignOn::Outcome ClientSignOn::take(const QString &message)
 {
     const QByteArray text = message.toUtf8();
     if (const AnswerCheck check = checkAnswer(text); check.fault)
-        return {Step::Broken, QStringLiteral("its message %1").arg(QLatin1String(check.fault))};
+        return {Step::Broken, QStringLiteral("its message %1").arg(QLatin1String(check.fault)), TroubleReason::SignOn};
     const QJsonObject object = QJsonDocument::fromJson(text).object();
     const QLatin1String expected(m_deviceNonce.isEmpty() ? "hello" : "welcome");
     const QJsonValue content = object.value(expected);
     if (!content.isObject())
-        return {Step::Broken, QStringLiteral("no \"%1\" where it is due").arg(expected)};
+        return {Step::Broken, QStringLiteral("no \"%1\" where it is due").arg(expected), TroubleReason::SignOn};
     return m_deviceNonce.isEmpty() ? takeHello(content.toObject()) : takeWelcome(content.toObject());
 }
 
@@ -51,11 +51,12 @@ ClientSignOn::Outcome ClientSignOn::takeHello(const QJsonObject &hello)
     const QString serial = hello.value(QLatin1String("serial")).toString();
     if (!m_device.serialNumber.isEmpty() && serial != m_device.serialNumber)
         return {Step::Refused,
-                QStringLiteral("its serial number is %1, not %2").arg(quoted(serial), quoted(m_device.serialNumber))};
+                QStringLiteral("its serial number is %1, not %2").arg(quoted(serial), quoted(m_device.serialNumber)),
+                TroubleReason::SerialNumber};
 
     m_deviceNonce = hello.value(QLatin1String("nonce")).toString().toUtf8();
     if (!isNonceLongEnough(m_deviceNonce))
-        return {Step::Refused, QStringLiteral("its nonce is too short or not base64")};
+        return {Step::Refused, QStringLiteral("its nonce is too short or not base64"), TroubleReason::SignOn};
 
     m_clientNonce = makeNonce();
     const QByteArray proof = signOnProof(SignOnSide::Client, m_device.password, m_deviceNonce, m_clientNonce);
@@ -70,7 +71,7 @@ ClientSignOn::Outcome ClientSignOn::takeWelcome(const QJsonObject &welcome)
 {
     const QByteArray proof = welcome.value(QLatin1String("proof")).toString().toUtf8();
     if (!isSameProof(proof, signOnProof(SignOnSide::Device, m_device.password, m_deviceNonce, m_clientNonce)))
-        return {Step::Refused, QStringLiteral("it does not prove that it knows the password")};
+        return {Step::Refused, QStringLiteral("it does not prove that it knows the password"), TroubleReason::SignOn};
     m_state = onlineStateFrom(welcome.value(QLatin1String("state")));
     return {Step::Welcome, {}};
 }

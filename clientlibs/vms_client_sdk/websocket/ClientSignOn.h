@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/LinkTrouble.h>
 
 #include <QByteArray>
 #include <QJsonValue>
@@ -28,6 +29,7 @@ public:
     {
         Step step;
         QString text; ///< without secrets unless it is to be sent
+        TroubleReason reason = TroubleReason::None; ///< of Refused and Broken
     };
 
     explicit ClientSignOn(DevInfo device);

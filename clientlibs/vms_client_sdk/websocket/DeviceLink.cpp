@@ -7,6 +7,7 @@
 #include <vms_client_sdk/websocket/LinkHost.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
+#include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
@@ -77,13 +78,16 @@ DeviceLink::~DeviceLink()
 void DeviceLink::start()
 {
     if (m_url.isValid() && !m_url.host().isEmpty())
-        queue();
-    else
-        warn(QStringLiteral("has no address to dial"));
+        return queue();
+    const QString why = QStringLiteral("has no address to dial");
+    warn(why);
+    setTrouble(TroubleReason::NoAddress, why);
+    emit statusChanged(m_device.id, m_status, m_trouble);
 }
 
 void DeviceLink::end()
 {
+    m_trouble = {};
     rest(DevOffline, normalCloseCode);
 }
 
@@ -108,6 +112,7 @@ void DeviceLink::dial()
     m_hasPlace = true;
     m_host.setDeadline(this, m_host.options().connectLimit);
     m_signOn.emplace(m_device);
+    m_certificateFault.clear();
     m_connection = makeConnection();
     const bool isSecure = m_url.scheme() == QLatin1String("wss");
     m_connection->open(m_url, isSecure ? deviceTls() : QSslConfiguration()); // last: it can fail at once
@@ -139,8 +144,11 @@ void DeviceLink::onSslErrors(const QList<QSslError> &errors)
     for (const QSslError &error : errors)
         if (!tolerated.contains(error))
             faults.append(error.errorString());
-    if (!faults.isEmpty())
-        warn(QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; "))));
+    if (!faults.isEmpty()) {
+        m_certificateFault =
+            QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; ")));
+        warn(m_certificateFault);
+    }
     m_connection->tlsSocket()->ignoreSslErrors(tolerated); // the handshake goes on only if these are all the errors
 }
 
@@ -149,22 +157,25 @@ void DeviceLink::onLineUp()
     // A certificate without errors raises no sslErrors, but it may still not be the pinned one.
     const QSslSocket *tls = m_connection->tlsSocket();
     if (m_pin.isSet() && !(tls && m_pin.matches(tls->peerCertificate()))) {
-        warn(QStringLiteral("does not show the certificate of the inventory"));
-        lost(QStringLiteral("wrong certificate"));
+        const QString why = QStringLiteral("does not show the certificate of the inventory");
+        warn(why);
+        lost(TroubleReason::Certificate, why);
         return;
     }
     m_phase = Phase::SigningOn;
     m_host.setDeadline(this, m_host.options().placeLimit);
 }
 
-void DeviceLink::onEnded(int code, const QString &why, bool isOffence)
+void DeviceLink::onEnded(int code, const QString &why, TroubleReason reason)
 {
-    if (isOffence)
+    if (reason == TroubleReason::Limits)
         cut(why);
     else if (code == signOnRefusedCode)
-        refused(QStringLiteral("it does not accept the user name or the password"));
+        refused(TroubleReason::Password, QStringLiteral("it does not accept the user name or the password"));
+    else if (!m_certificateFault.isEmpty())
+        lost(TroubleReason::Certificate, m_certificateFault);
     else
-        lost(why);
+        lost(reason, why);
 }
 
 void DeviceLink::onText(const QByteArray &message)
@@ -185,11 +196,11 @@ void DeviceLink::onSignOnMessage(const QByteArray &message)
         m_connection->sendText(outcome.text.toUtf8());
         break;
     case ClientSignOn::Step::Refused:
-        refused(outcome.text);
+        refused(outcome.reason, outcome.text);
         break;
     case ClientSignOn::Step::Broken:
         warn(QStringLiteral("does not sign on as it should: %1").arg(outcome.text));
-        lost(QStringLiteral("broken sign-on"));
+        lost(outcome.reason, outcome.text);
         break;
     case ClientSignOn::Step::Welcome:
         signedOn();
@@ -205,6 +216,7 @@ void DeviceLink::signedOn()
     m_hasPlace = false;
     m_host.setDeadline(this, m_host.options().pingInterval);
     m_onlineFor.start();
+    m_trouble = {};
     m_warned.clear();
     m_unansweredPings = 0;
     if (!m_signOn->state())
@@ -301,18 +313,18 @@ void DeviceLink::deadlineReached()
     if (m_phase == Phase::Resting) {
         queue();
     } else if (m_phase == Phase::Connecting) {
-        lost(QStringLiteral("no connection in time"));
+        lost(TroubleReason::NoAnswer, QStringLiteral("no connection in time"));
     } else if (m_host.isReadingHeld()) {
         m_host.setDeadline(this, options.pingInterval); // what the device sent in time may not have been read yet
     } else if (m_phase == Phase::SigningOn) {
         if (!m_hasPlace)
-            return lost(QStringLiteral("no sign-on in time"));
+            return lost(TroubleReason::NoAnswer, QStringLiteral("no sign-on in time"));
         m_hasPlace = false;
         m_host.setDeadline(this, options.setUpLimit - options.placeLimit);
         if (!m_host.makeRoom(this)) // last: it dials another link
             qCDebug(sdkLog) << "device" << m_device.id << "keeps its place: too many others wait, too";
     } else if (m_unansweredPings == 2) {
-        lost(QStringLiteral("pings without an answer"));
+        lost(TroubleReason::ConnectionLost, QStringLiteral("pings without an answer"));
     } else if (m_connection->unfinishedFor() > options.pingInterval.count()) {
         cut(QStringLiteral("does not finish its message"));
     } else {
@@ -327,10 +339,11 @@ void DeviceLink::ping()
     m_connection->ping();
 }
 
-void DeviceLink::lost(const QString &why)
+void DeviceLink::lost(TroubleReason reason, const QString &why)
 {
     qCInfo(sdkLog) << "device" << m_device.id << "lost:" << why;
     ++m_losses;
+    setTrouble(reason, why);
     rest(DevOffline, goingAwayCloseCode);
     m_host.setDeadline(this, backOff(m_host.options(), m_losses + m_cuts));
 }
@@ -340,18 +353,26 @@ void DeviceLink::cut(const QString &why)
     warn(why);
     ++m_cuts;
     m_wasOnline = false; // others are dialled first
-    lost(why);
+    lost(TroubleReason::Limits, why);
 }
 
-void DeviceLink::refused(const QString &why)
+void DeviceLink::refused(TroubleReason reason, const QString &why)
 {
     warn(QStringLiteral("sign-on refused: %1").arg(why));
+    setTrouble(reason, why);
     rest(DevRefused, signOnRefusedCode);
+}
+
+void DeviceLink::setTrouble(TroubleReason reason, const QString &why)
+{
+    m_trouble.reason = reason;
+    m_trouble.detail = escaped(why);
 }
 
 void DeviceLink::rest(DevStatus status, int closeCode)
 {
-    m_phase = Phase::Resting;
+    if (std::exchange(m_phase, Phase::Resting) == Phase::Online)
+        m_trouble.offlineSince = QDateTime::currentMSecsSinceEpoch();
     m_hasPlace = false;
     m_host.clearDeadline(this);
     m_host.setUnfinished(this, 0);
@@ -367,7 +388,7 @@ void DeviceLink::rest(DevStatus status, int closeCode)
 void DeviceLink::setStatus(DevStatus status)
 {
     if (std::exchange(m_status, status) != status)
-        emit statusChanged(m_device.id, status);
+        emit statusChanged(m_device.id, status, m_trouble);
 }
 
 void DeviceLink::warn(const QString &what)

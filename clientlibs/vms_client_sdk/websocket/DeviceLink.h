@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/LinkTrouble.h>
 #include <vms_client_sdk/websocket/ClientSignOn.h>
 #include <vms_client_sdk/websocket/PinnedCertificate.h>
 
@@ -46,7 +47,7 @@ public:
 
 Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
-    void statusChanged(const QString &devId, vms_sdk::DevStatus status);
+    void statusChanged(const QString &devId, vms_sdk::DevStatus status, const vms_sdk::LinkTrouble &trouble);
 
 private:
     enum class Phase
@@ -59,7 +60,7 @@ private:
 
     WebSocketConnection *makeConnection();
     void onLineUp();
-    void onEnded(int code, const QString &why, bool isOffence);
+    void onEnded(int code, const QString &why, TroubleReason reason);
     void onSslErrors(const QList<QSslError> &errors);
     void onText(const QByteArray &message);
     void onSignOnMessage(const QByteArray &message);
@@ -70,8 +71,9 @@ private:
     void sawTraffic();
     void ping();
     void queue();
-    void lost(const QString &why);
-    void refused(const QString &why);
+    void lost(TroubleReason reason, const QString &why);
+    void refused(TroubleReason reason, const QString &why);
+    void setTrouble(TroubleReason reason, const QString &why);
     void rest(DevStatus status, int closeCode);
     void setStatus(DevStatus status);
     void warn(const QString &what);
@@ -82,6 +84,8 @@ private:
     LinkHost &m_host;
     Phase m_phase = Phase::Resting;
     DevStatus m_status = DevOffline;
+    LinkTrouble m_trouble; ///< since it was last online
+    QString m_certificateFault; ///< of this attempt
     WebSocketConnection *m_connection = nullptr; ///< a fresh one per attempt; owned until the host closes it
     std::optional<ClientSignOn> m_signOn;
     bool m_hasPlace = false; ///< is one of the few links that are dialled at a time

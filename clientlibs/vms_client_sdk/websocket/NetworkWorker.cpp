@@ -61,15 +61,18 @@ std::unique_ptr<DeviceLink> NetworkWorker::makeLink(const DevInfo &device)
     return link;
 }
 
-void NetworkWorker::onStatusChanged(const QString &devId, DevStatus status)
+void NetworkWorker::onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble)
 {
-    passOnChanges(m_statusChanges.add(devId, status, m_clock.elapsed()));
+    passOnChanges(m_statusChanges.add({devId, status, trouble}, m_clock.elapsed()));
 }
 
 void NetworkWorker::passOnChanges(const QVector<StatusChanges::Change> &changes)
 {
-    for (const auto &[devId, status] : changes)
+    for (const auto &[devId, status, trouble] : changes) {
+        if (!isOnlineStatus(status))
+            emit linkTroubled(devId, trouble);
         emit devStatusChanged(devId, status);
+    }
     if (!m_statusChanges.isHolding())
         m_statusTimer.stop();
     else if (!m_statusTimer.isActive())

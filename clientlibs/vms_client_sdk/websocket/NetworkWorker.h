@@ -34,6 +34,7 @@ public:
 Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
     void devStatusChanged(const QString &devId, vms_sdk::DevStatus status);
+    void linkTroubled(const QString &devId, const vms_sdk::LinkTrouble &trouble);
 
 private:
     using Links = std::unordered_map<QString, std::unique_ptr<DeviceLink>>;
@@ -45,7 +46,7 @@ private:
 
     std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
     void sendRequests();
-    void onStatusChanged(const QString &devId, DevStatus status);
+    void onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble);
     void passOnChanges(const QVector<StatusChanges::Change> &changes);
     void setReading(bool isReading);
 

@@ -8,24 +8,27 @@ constexpr qint64 secondMs = 1000;
 
 } // namespace
 
-QVector<StatusChanges::Change> StatusChanges::add(const QString &devId, DevStatus status, qint64 now)
+QVector<StatusChanges::Change> StatusChanges::add(const Change &change, qint64 now)
 {
     if (now - m_sweptAt >= secondMs) { // forgets the devices that have been quiet
         m_sweptAt = now;
         for (auto it = m_recent.begin(); it != m_recent.end();)
             it = !it->isHeld && now - it->since >= secondMs ? m_recent.erase(it) : std::next(it);
     }
-    Recent &recent = m_recent[devId];
+    Recent &recent = m_recent[change.devId];
     if (!recent.isHeld && now - recent.since >= secondMs)
-        recent = {now, 0, false, DevOffline, false};
+        recent = {now};
     if (recent.passed < maxPerSecond) {
         ++recent.passed;
-        return {{devId, status}};
+        return {change};
     }
-    recent.wasOffline = recent.wasOffline || !isOnlineStatus(status);
+    if (!isOnlineStatus(change.status)) {
+        recent.wasOffline = true;
+        recent.trouble = change.trouble;
+    }
     m_heldCount += recent.isHeld ? 0 : 1;
     recent.isHeld = true;
-    recent.held = status;
+    recent.held = change.status;
     return {};
 }
 
@@ -37,9 +40,9 @@ QVector<StatusChanges::Change> StatusChanges::takeDue(qint64 now)
             continue;
         const bool isBack = it->wasOffline && isOnlineStatus(it->held);
         if (isBack)
-            due.append({it.key(), DevOffline});
-        due.append({it.key(), it->held});
-        *it = {now, isBack ? 2 : 1, false, DevOffline, false};
+            due.append({it.key(), DevOffline, it->trouble});
+        due.append({it.key(), it->held, isOnlineStatus(it->held) ? LinkTrouble() : it->trouble});
+        *it = {now, isBack ? 2 : 1};
         --m_heldCount;
     }
     return due;

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/LinkTrouble.h>
 
 #include <QHash>
 #include <QVector>
-
-#include <utility>
 
 namespace vms_sdk {
 
@@ -17,10 +16,20 @@ class StatusChanges
 public:
     static constexpr int maxPerSecond = 10; ///< a device that is set up, lost and set up again needs five
 
-    using Change = std::pair<QString, DevStatus>;
+    struct Change
+    {
+        QString devId;
+        DevStatus status;
+        LinkTrouble trouble = {}; ///< of a state that is not online
+
+        friend bool operator==(const Change &a, const Change &b)
+        {
+            return a.devId == b.devId && a.status == b.status && a.trouble == b.trouble;
+        }
+    };
 
     /// @return the changes that pass now: this one or none
-    QVector<Change> add(const QString &devId, DevStatus status, qint64 now);
+    QVector<Change> add(const Change &change, qint64 now);
     /// The merged changes whose second is over. A device that was offline in between is reported offline first, for
     /// those who wait until it has been away and is back.
     QVector<Change> takeDue(qint64 now);
@@ -35,6 +44,7 @@ private:
         bool isHeld = false;
         DevStatus held = DevOffline;
         bool wasOffline = false; ///< among the merged ones
+        LinkTrouble trouble = {}; ///< the latest of the merged ones
     };
 
     QHash<QString, Recent> m_recent; ///< by device id; about the last second

@@ -40,6 +40,20 @@ QByteArray closePayload(int code, const QString &reason = {})
     return payload + reason.toUtf8().left(maxReasonBytes);
 }
 
+TroubleReason reasonOf(QAbstractSocket::SocketError error, bool isConnecting)
+{
+    switch (error) {
+    case QAbstractSocket::ConnectionRefusedError:
+        return TroubleReason::ConnectionRefused;
+    case QAbstractSocket::HostNotFoundError:
+        return TroubleReason::NoAddress;
+    case QAbstractSocket::SslHandshakeFailedError:
+        return TroubleReason::Tls;
+    default: // no route to it, for instance
+        return isConnecting ? TroubleReason::NoAnswer : TroubleReason::ConnectionLost;
+    }
+}
+
 } // namespace
 
 WebSocketConnection::WebSocketConnection(const PeerLimits &limits, QObject *parent)
@@ -124,11 +138,11 @@ void WebSocketConnection::readHandshake()
     if (state == HttpHead::State::Incomplete)
         return;
     if (state == HttpHead::State::TooLarge)
-        return end(QStringLiteral("its handshake is longer than anybody needs"), true);
+        return end(QStringLiteral("its handshake is longer than anybody needs"), TroubleReason::Limits);
     const QString fault = handshakeFault();
     m_head = {};
     if (!fault.isEmpty())
-        return end(fault);
+        return end(fault, TroubleReason::SignOn);
     m_phase = Phase::Open;
     readFrames(); // they may have come with the handshake
 }
@@ -284,7 +298,7 @@ void WebSocketConnection::takeControl(int opcode)
         send(WebSocketFrames::Close, payload.left(2));
         m_phase = Phase::Ended; // before onDisconnected(), which the next line can lead to
         m_socket->disconnectFromHost();
-        end(QStringLiteral("connection closed"));
+        end(QStringLiteral("connection closed"), TroubleReason::ConnectionLost);
     }
 }
 
@@ -344,17 +358,18 @@ void WebSocketConnection::onError(QAbstractSocket::SocketError error)
 {
     // When the peer closes the connection, disconnected() follows.
     if (error != QAbstractSocket::RemoteHostClosedError)
-        end(m_socket->errorString());
+        end(m_socket->errorString(), reasonOf(error, m_phase == Phase::Connecting));
 }
 
 void WebSocketConnection::onDisconnected()
 {
     const QPointer<WebSocketConnection> self(this);
+    const bool isTlsUp = !tlsSocket() || !m_isClient || !m_key.isEmpty(); // the handshake has been sent
     m_isReading = true;
     if (m_phase == Phase::Open)
         readFrames(); // what came before the end
     if (self)
-        end(QStringLiteral("connection closed"));
+        end(QStringLiteral("connection closed"), isTlsUp ? TroubleReason::ConnectionLost : TroubleReason::Tls);
     if (self)
         emit finished();
 }
@@ -363,16 +378,16 @@ void WebSocketConnection::fail(int code, const QString &why)
 {
     send(WebSocketFrames::Close, closePayload(code));
     const QPointer<WebSocketConnection> self(this);
-    end(why, true);
+    end(why, TroubleReason::Limits);
     if (self)
         m_socket->abort(); // not closed in order: a peer that breaks the rules would go on sending
 }
 
-void WebSocketConnection::end(const QString &why, bool isOffence)
+void WebSocketConnection::end(const QString &why, TroubleReason reason)
 {
     m_phase = Phase::Ended;
     if (!std::exchange(m_hasEnded, true))
-        emit ended(m_closeCode, why, isOffence);
+        emit ended(m_closeCode, why, reason);
 }
 
 } // namespace vms_sdk

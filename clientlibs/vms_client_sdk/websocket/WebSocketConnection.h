@@ -1,5 +1,6 @@
 #pragma once
 
+#include <vms_client_sdk/LinkTrouble.h>
 #include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketFrames.h>
 
@@ -77,8 +78,8 @@ Q_SIGNALS:
     void unfinishedChanged(int bytes);
     /// The connection is of no more use: no signal but finished() follows. Raised once, not after close() or abort().
     /// @param code the peer's close code, 1006 where it gave none
-    /// @param isOffence the peer went beyond what it may send
-    void ended(int code, const QString &why, bool isOffence);
+    /// @param reason Limits: the peer went beyond what it may send
+    void ended(int code, const QString &why, vms_sdk::TroubleReason reason);
     void finished(); ///< the socket is closed; the last signal
 
 private:
@@ -105,7 +106,7 @@ private:
     void reportUnfinished();
     void send(WebSocketFrames::Opcode opcode, const QByteArray &payload);
     void fail(int code, const QString &why);
-    void end(const QString &why, bool isOffence = false);
+    void end(const QString &why, TroubleReason reason);
 
     const PeerLimits m_limits;
     QUrl m_url;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "engine/DevicePlan.h"
+#include "engine/Selection.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace orda_batchCfg {
+class CfgRun;
+}
+
+namespace orda_engine {
+
+class ReadTask;
+
+/// Reads many devices at once, for the jobs, which see to it that they may be asked now. Used once.
+class ReadBatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ReadBatch(const Selection &selection, QObject *parent = nullptr);
+    ~ReadBatch() override;
+
+    /// Sends the first requests. @param devIds at least one
+    void start(const QStringList &devIds);
+    /// No signal comes any more. May be called from inside one.
+    void cancel();
+
+signals:
+    /// Once for each device. @param code, @param message as in ParamsCfgTask::signalCfgResult()
+    /// @param held as in ReadTask::objects()
+    void signalRead(const QString &devId, int code, const QString &message, const orda_engine::ObjectsByExchange &held);
+    /// After the last one, from the event loop.
+    void signalFinished();
+
+private:
+    const Selection m_selection;
+    QHash<QString, ReadTask *> m_tasks; // without a result yet, by device id
+    std::unique_ptr<orda_batchCfg::CfgRun> m_run; // after the tasks, which it hears
+};
+
+} // namespace orda_engine

@@ -1,0 +1,79 @@
+#include "engine/RecordedRun.h"
+
+#include <families/Families.h>
+
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace orda_engine {
+
+using orda_batchCfg::CfgExchange;
+using orda_batchCfg::Families;
+using orda_batchCfg::FamilyEntry;
+using orda_journal::Outcome;
+
+namespace {
+
+// A write has left, or may have.
+bool mayBeWritten(const orda_journal::DeviceRow &device)
+{
+    switch (device.outcome.value_or(Outcome::Unknown)) {
+    case Outcome::Done:
+    case Outcome::Unknown:
+    case Outcome::PartlyWritten:
+    case Outcome::Differs:
+        return true;
+    case Outcome::Unchanged:
+    case Outcome::Failed:
+    case Outcome::Stopped:
+    case Outcome::NotReached:
+        break;
+    }
+    return false;
+}
+
+QJsonObject objectOf(const QString &text)
+{
+    return QJsonDocument::fromJson(text.toUtf8()).object();
+}
+
+} // namespace
+
+RecordedRun::RecordedRun(const orda_journal::RunDetails &details)
+    : m_id(details.run.id)
+{
+    const QVector<FamilyEntry> &families = Families::all();
+    const auto entry = std::find_if(families.begin(), families.end(), [&details](const FamilyEntry &candidate) {
+        return candidate.family.name == details.run.family;
+    });
+    if (entry == families.end()) {
+        m_error = tr("The run is of \"%1\", of which this program knows nothing.").arg(details.run.family);
+        return;
+    }
+    m_written.family = &entry->family;
+    m_written.values = details.run.values;
+    for (const orda_journal::ExchangeRow &row : details.exchanges)
+        take(row);
+    for (const orda_journal::DeviceRow &device : details.devices) {
+        if (!mayBeWritten(device) || !m_devices.contains(device.devId))
+            continue;
+        m_written.devIds.append(device.devId);
+        if (!device.ownValues.isEmpty())
+            m_written.ownValues.insert(device.devId, device.ownValues);
+    }
+    if (m_written.devIds.isEmpty())
+        m_error = tr("The run has written to no device.");
+}
+
+void RecordedRun::take(const orda_journal::ExchangeRow &row)
+{
+    if (row.before.isEmpty() || row.sent.isEmpty() || row.exchange >= m_written.family->exchanges.size())
+        return; // nothing has left
+    const CfgExchange &exchange = m_written.family->exchanges.at(row.exchange);
+    RecordedDevice &device = m_devices[row.devId];
+    device.before.insert(row.exchange, exchange.heldIn(objectOf(row.before)));
+    device.sent.insert(row.exchange, objectOf(row.sent).value(QLatin1String("param")).toObject());
+}
+
+} // namespace orda_engine

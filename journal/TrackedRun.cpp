@@ -1,0 +1,263 @@
+#include "journal/TrackedRun.h"
+
+#include "run/CfgFamily.h"
+#include "run/ParamsCfgTask.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <utility>
+
+namespace orda_journal {
+
+using orda_batchCfg::CfgExchange;
+using orda_batchCfg::CfgFamily;
+using orda_batchCfg::ParamsCfgTask;
+
+namespace {
+
+QJsonObject objectIn(const QJsonObject &object, const char *member)
+{
+    return object.value(QLatin1String(member)).toObject();
+}
+
+} // namespace
+
+TrackedRun::TrackedRun(const RunStart &start, const CfgFamily &family)
+    : m_start(start)
+    , m_family(family)
+    , m_devices(start.devIds.size())
+{
+    m_placeById.reserve(start.devIds.size());
+    m_placeByRequest.reserve(start.devIds.size());
+    for (int place = 0; place < m_devices.size(); ++place) {
+        m_placeById.insert(start.devIds.at(place), place);
+        m_devices[place].exchanges.resize(family.exchanges.size());
+    }
+}
+
+int TrackedRun::deviceOf(const QString &requestId) const
+{
+    const int place = m_placeByRequest.value(requestId, -1);
+    return place >= 0 && m_devices.at(place).requestId == requestId ? place : -1;
+}
+
+TrackedRun::Request TrackedRun::requestOf(const QString &devId, const QString &text)
+{
+    const int place = placeOf(devId);
+    if (place < 0)
+        return {};
+    if (text == m_lastRead) {
+        m_lastRequest.device = place;
+        return m_lastRequest;
+    }
+    const QJsonObject json = QJsonDocument::fromJson(text.toUtf8()).object();
+    Request request;
+    request.method = json.value(QLatin1String("method")).toString();
+    for (int i = 0; i < m_family.exchanges.size(); ++i) {
+        const CfgExchange &exchange = m_family.exchanges.at(i);
+        request.isWrite = request.method == exchange.setMethod;
+        if (!request.isWrite && request.method != exchange.getMethod)
+            continue;
+        request.device = place;
+        request.exchange = i;
+        if (request.isWrite) {
+            request.param = objectIn(json, "param");
+        } else {
+            m_lastRead = text;
+            m_lastRequest = request;
+        }
+        return request;
+    }
+    return {};
+}
+
+bool TrackedRun::hasLeft(const Request &request) const
+{
+    return m_devices.at(request.device).exchanges.at(request.exchange).hasLeft;
+}
+
+bool TrackedRun::knowsBefore(const Request &write) const
+{
+    return m_devices.at(write.device).exchanges.at(write.exchange).hasBefore;
+}
+
+ExchangeRow TrackedRun::take(const Request &request, const QString &requestId, const QString &text)
+{
+    Device &device = m_devices[request.device];
+    Exchange &exchange = device.exchanges[request.exchange];
+    if (device.requestId != requestId) {
+        device.requestId = requestId;
+        m_placeByRequest.insert(requestId, request.device);
+    }
+    if (!request.isWrite) {
+        exchange.isReadAnswered = false;
+        exchange.awaitsRead = true;
+        return {};
+    }
+    exchange.isWriteAnswered = false;
+    exchange.sent = request.param;
+    exchange.changes = m_family.changesBy(request.exchange, exchange.before, request.param);
+    exchange.isHeld = true;
+    return {m_start.devIds.at(request.device), request.exchange, std::exchange(exchange.beforeText, {}), text, {}};
+}
+
+bool TrackedRun::letLeave(int place, int number, const QString &requestId)
+{
+    Device &device = m_devices[place];
+    Exchange &exchange = device.exchanges[number];
+    if (!exchange.isHeld || device.requestId != requestId)
+        return false;
+    exchange.isHeld = false;
+    exchange.hasLeft = true;
+    exchange.awaitsWrite = true;
+    return true;
+}
+
+void TrackedRun::dropHeld(int place)
+{
+    for (Exchange &exchange : m_devices[place].exchanges)
+        exchange.isHeld = false;
+}
+
+TrackedRun::Answer TrackedRun::takeAnswer(const QString &requestId, const QString &text)
+{
+    const int place = m_placeByRequest.value(requestId, -1);
+    if (place < 0)
+        return {};
+    Device &device = m_devices[place];
+    if (requestId == device.overdueId)
+        return {place, -1, true};
+    if (requestId != device.requestId)
+        return {};
+    QJsonParseError fault{};
+    const QJsonObject answer = QJsonDocument::fromJson(text.toUtf8(), &fault).object();
+    if (fault.error != QJsonParseError::NoError) {
+        const Result result{ParamsCfgTask::NotJson, ParamsCfgTask::tr("Failed to parse json data")};
+        return {place, -1, false, false, result};
+    }
+    const QString method = answer.value(QLatin1String("method")).toString();
+    const int code = objectIn(answer, "error").value(QLatin1String("errorcode")).toInt(0);
+    for (int i = 0; i < device.exchanges.size(); ++i) {
+        const CfgExchange &family = m_family.exchanges.at(i);
+        Exchange &exchange = device.exchanges[i];
+        if (method == family.getMethod && !std::exchange(exchange.isReadAnswered, true)) {
+            exchange.awaitsRead = false;
+            const QJsonObject held = family.heldIn(answer);
+            if (code == 0 && !std::exchange(exchange.hasBefore, true)) {
+                exchange.beforeText = text;
+                exchange.before = held;
+            }
+            return {place, i, false, code == 0 && exchange.hasLeft, resultOfRead(device, i, held, code)};
+        }
+        if (method == family.setMethod && !std::exchange(exchange.isWriteAnswered, true)) {
+            if (std::exchange(exchange.awaitsWrite, false) && code == 0)
+                exchange.isWritten = true;
+            return {place, i, false, false, resultOfWrite(place, i, code)};
+        }
+    }
+    return {};
+}
+
+std::optional<Result> TrackedRun::resultOfRead(const Device &device, int exchange, const QJsonObject &held,
+                                               int code) const
+{
+    const CfgExchange &family = m_family.exchanges.at(exchange);
+    if (code != 0)
+        return Result{code, m_family.translated(family.getFailure).arg(code)};
+    const Exchange &tracked = device.exchanges.at(exchange);
+    if (!family.checkWhenBack || !tracked.hasLeft)
+        return {};
+    if (family.holds(tracked.sent, held))
+        return Result{ParamsCfgTask::Success, ParamsCfgTask::tr("success")};
+    return Result{ParamsCfgTask::NotVerified,
+                  m_family.translated(family.setFailure).arg(int(ParamsCfgTask::NotVerified))};
+}
+
+std::optional<Result> TrackedRun::resultOfWrite(int device, int exchange, int code) const
+{
+    if (code != 0)
+        return Result{code, m_family.translated(m_family.exchanges.at(exchange).setFailure).arg(code)};
+    if (exchange == lastExchange(device))
+        return Result{ParamsCfgTask::Success, ParamsCfgTask::tr("success")};
+    return {};
+}
+
+// The one with which a task of this device ends, as ParamsCfgTask goes through them.
+int TrackedRun::lastExchange(int device) const
+{
+    const int flags = m_family.flagsOf(m_start.ownValues.value(m_start.devIds.at(device), m_start.values));
+    return m_family.exchangesOf(flags).constLast();
+}
+
+Result TrackedRun::timeout() const
+{
+    return {ParamsCfgTask::TimedOut, m_family.translated(m_family.timeoutText)};
+}
+
+Result TrackedRun::refusal(const Request &request, int code) const
+{
+    const CfgExchange &exchange = m_family.exchanges.at(request.exchange);
+    return {code, m_family.translated(request.isWrite ? exchange.setFailure : exchange.getFailure).arg(code)};
+}
+
+Settled TrackedRun::settle(int place, const Result &result)
+{
+    const Device &device = m_devices.at(place);
+    bool isWritten = false;
+    bool isUnanswered = false;
+    bool hasChanged = false;
+    for (const Exchange &exchange : device.exchanges) {
+        isWritten = isWritten || exchange.isWritten;
+        isUnanswered = isUnanswered || exchange.awaitsWrite;
+        hasChanged = hasChanged || (exchange.hasLeft && !exchange.changes.isEmpty());
+    }
+    if (result.code == ParamsCfgTask::Success)
+        return settled(place, hasChanged ? Outcome::Done : Outcome::Unchanged, result);
+    if (isUnanswered)
+        return settled(place, Outcome::Unknown, result);
+    if (isWritten)
+        return settled(place, Outcome::PartlyWritten, result);
+    return settled(place, result.code == StoppedCode ? Outcome::Stopped : Outcome::Failed, result);
+}
+
+Settled TrackedRun::settleNotReached(int place, const QString &reason)
+{
+    return settled(place, Outcome::NotReached, {0, reason});
+}
+
+Settled TrackedRun::settled(int place, Outcome outcome, const Result &result)
+{
+    dropHeld(place);
+    Device &device = m_devices[place];
+    device.isSettled = true;
+    Settled settled;
+    settled.row.devId = m_start.devIds.at(place);
+    settled.row.outcome = outcome;
+    settled.row.code = result.code;
+    settled.row.message = result.message;
+    QStringList written;
+    bool isAwaited = false;
+    for (int i = 0; i < device.exchanges.size(); ++i) {
+        Exchange &exchange = device.exchanges[i];
+        isAwaited = isAwaited || exchange.awaitsRead || exchange.awaitsWrite;
+        if (exchange.hasLeft) {
+            settled.changes += exchange.changes;
+            settled.sent.insert(i, exchange.sent);
+        }
+        if (exchange.isWritten)
+            written.append(m_family.exchanges.at(i).setMethod);
+        if (result.code == ParamsCfgTask::Success)
+            exchange.before = exchange.sent = {}; // it is not tried again
+    }
+    if (isAwaited)
+        device.overdueId = device.requestId;
+    if (outcome == Outcome::PartlyWritten) {
+        settled.row.message = QCoreApplication::translate("orda_journal::TrackedRun", "%1; written before: %2")
+                                  .arg(result.message, written.join(QLatin1String(", ")));
+    }
+    return settled;
+}
+
+} // namespace orda_journal

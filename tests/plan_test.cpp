@@ -1,0 +1,387 @@
+#include "engine/ReadTask.h"
+#include "engine/WriteBackTask.h"
+#include "fleet/SimulatedDevice.h"
+#include "fleet/Site.h"
+#include "support/OrdaTest.h"
+#include "support/ScriptedTransport.h"
+
+#include <families/Families.h>
+#include <orda_data/DataSignals.h>
+#include <vms_client_sdk/ClientSdk.h>
+
+#include <random>
+
+using namespace orda_batchCfg;
+using namespace orda_engine;
+using Request = ScriptedTransport::Request;
+
+namespace {
+
+constexpr int allFlags = 7;
+
+const CfgFamily &familyOf(const QString &name)
+{
+    const auto &all = Families::all();
+    return std::find_if(all.begin(), all.end(), [&](const auto &entry) { return entry.family.name == name; })->family;
+}
+
+QJsonValue parsed(const QString &text)
+{
+    return QJsonDocument::fromJson('[' + text.toUtf8() + ']').array().at(0);
+}
+
+QString text(const QJsonValue &value)
+{
+    return value.isUndefined() ? "gone"
+                               : QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+}
+
+/// A simulated device as a run over one family meets it.
+struct Device
+{
+    const CfgFamily &family;
+    device_fleet::SimulatedDevice simulated;
+
+    ObjectsByExchange read(int flags, const QJsonObject &values)
+    {
+        ObjectsByExchange held;
+        for (const int place : family.exchangesOf(flags)) {
+            const CfgExchange &exchange = family.exchanges.at(place);
+            QJsonObject request{{"method", exchange.getMethod}};
+            if (exchange.getParam)
+                request.insert("param", exchange.getParam(values));
+            const QJsonObject result = simulated.answer(request).value("result").toObject();
+            held.insert(place, exchange.resultMember.isEmpty() ? result : result[exchange.resultMember].toObject());
+        }
+        return held;
+    }
+
+    void write(int place, const QJsonObject &param)
+    {
+        const QJsonObject answer =
+            simulated.answer({{"method", family.exchanges.at(place).setMethod}, {"param", param}});
+        QCOMPARE(answer["error"]["errorcode"].toInt(-99), 0);
+    }
+
+    void takeBack(const DeviceUndo &undo, const ObjectsByExchange &held)
+    {
+        for (auto it = undo.begin(); it != undo.end(); ++it)
+            if (!it->goBack.isEmpty())
+                write(it.key(), family.exchanges.at(it.key()).writeBack(held[it.key()], it->goBack));
+    }
+};
+
+/// What the device holds, with these changes.
+QString membersIn(const CfgFamily &family, const ObjectsByExchange &held, const QVector<MemberChange> &changes = {})
+{
+    const QString name("%1 %2");
+    QJsonObject all;
+    for (auto it = held.begin(); it != held.end(); ++it) {
+        const QJsonObject members = family.exchanges.at(it.key()).membersOf(*it);
+        for (auto member = members.begin(); member != members.end(); ++member)
+            all.insert(name.arg(it.key()).arg(member.key()), *member);
+    }
+    for (const MemberChange &change : changes)
+        all[name.arg(change.exchange).arg(change.member)] = change.after;
+    return text(all);
+}
+
+/// Some of the family's keys, each with a value that it may have.
+QJsonObject drawMembers(const CfgFamily &family, std::mt19937 &random, int &flags)
+{
+    const auto below = [&random](int limit) { return int(random() % unsigned(limit)); };
+    const QString prefix = family.exchanges.at(0).listPrefix;
+    QJsonObject members;
+    for (int stream = 0; stream < (prefix.isEmpty() ? 1 : 3); ++stream)
+        for (const CfgKey &key : family.keys) {
+            if (below(3) == 0)
+                continue;
+            flags |= key.flag;
+            QJsonValue value = below(2) == 0;
+            if (key.type == CfgKey::NumberSwitch)
+                value = below(2);
+            else if (key.type == CfgKey::Text)
+                value = QString("text %1").arg(below(3));
+            else if (key.type == CfgKey::Number)
+                value = key.minimum + below(key.maximum - key.minimum + 1);
+            else if (key.type == CfgKey::Choice)
+                value = key.choices.at(below(key.choices.size())).value;
+            members.insert(prefix.isEmpty() ? key.name : QString("%1%2.%3").arg(prefix).arg(stream).arg(key.name),
+                           value);
+        }
+    return members;
+}
+
+/// What the device holds after a write that it takes as it came; null in @p since is a member that it loses.
+QJsonObject written(const CfgExchange &exchange, QJsonObject device, const QJsonObject &param, const QJsonObject &since)
+{
+    for (const QJsonObject &members :
+         {exchange.attribute.isEmpty() ? param : param[exchange.attribute].toObject(), since})
+        for (auto it = members.begin(); it != members.end(); ++it)
+            if (it->isNull())
+                device.remove(it.key());
+            else if (it.key() != "bdefault" && it.key() != "clienttype")
+                device.insert(it.key(), *it);
+    return device;
+}
+
+QString line(int exchange, const QString &member, const QJsonValue &first, const QJsonValue &second)
+{
+    return QString("%1 %2: %3 -> %4").arg(exchange).arg(member, text(first), text(second));
+}
+
+QStringList described(const QString &what, const QVector<MemberDifference> &differences)
+{
+    QStringList lines;
+    for (const MemberDifference &difference : differences)
+        lines << what + line(difference.exchange, difference.member, difference.wanted, difference.found);
+    return lines;
+}
+
+} // namespace
+
+/// What a run would change on a device, whether it has, and how it is taken back.
+class PlanTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void whatIsPlannedIsWrittenAndGoesBack_data()
+    {
+        columns<QString, int>({"name", "seed"});
+        for (const FamilyEntry &entry : Families::all())
+            for (int seed = 1; seed <= 60; ++seed)
+                QTest::addRow("%s, seed %d", qPrintable(entry.family.name), seed) << entry.family.name << seed;
+    }
+
+    void whatIsPlannedIsWrittenAndGoesBack()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, seed);
+        std::mt19937 random{unsigned(seed)};
+        const CfgFamily &family = familyOf(name);
+        Device device{family, {"d", device_fleet::makeSiteDevice(quint32(seed), 0).parameters}};
+        const QString dump = text(device.simulated.parameters());
+        int flags = 0;
+        const QJsonObject asked = drawMembers(family, random, flags);
+        const QJsonObject values = family.exchanges.at(0).toValues(asked);
+        QCOMPARE(text(family.exchanges.at(0).askedBy(values)), text(asked));
+
+        const ObjectsByExchange before = device.read(flags, values);
+        ObjectsByExchange reached = before, notReached, sent;
+        while (reached.size() > 1 && random() % 3 == 0) // the run ends before its last exchange
+            notReached.insert(reached.lastKey(), reached.take(reached.lastKey()));
+        const DevicePlan plan = planOf(family, flags, values, reached);
+        for (auto it = reached.begin(); it != reached.end(); ++it) {
+            sent.insert(it.key(), family.exchanges.at(it.key()).setParam(values, *it));
+            device.write(it.key(), sent[it.key()]);
+        }
+        const ObjectsByExchange after = device.read(flags, values);
+        QCOMPARE(membersIn(family, after), membersIn(family, before, plan.changes + plan.added));
+        const DevicePlan rest = planOf(family, flags, values, notReached);
+        QCOMPARE(differencesOf(family, flags, values, sent, after).size(), rest.changes.size() + rest.added.size());
+
+        // Another client's change of what the run has changed stays, unless it is written over by force.
+        if (!plan.changes.isEmpty()) {
+            Device shared = device;
+            MemberChange theirs = plan.changes.at(int(random() % unsigned(plan.changes.size())));
+            theirs.after = "theirs";
+            const CfgExchange &exchange = family.exchanges.at(theirs.exchange);
+            shared.write(theirs.exchange, exchange.writeBack(after[theirs.exchange], {{theirs.member, "theirs"}}));
+            const ObjectsByExchange since = shared.read(flags, values);
+            const DeviceUndo undo = undoOf(family, before, sent, since, false);
+            const QStringList left = described({}, undo[theirs.exchange].changedSince);
+            QCOMPARE(left.size(), 1);
+            QVERIFY(described({}, differencesOf(family, flags, values, sent, since)).contains(left.at(0)));
+            shared.takeBack(undo, since);
+            const ObjectsByExchange kept = shared.read(flags, values);
+            QCOMPARE(membersIn(family, kept), membersIn(family, before, plan.added + QVector<MemberChange>{theirs}));
+            shared.takeBack(undoOf(family, before, sent, kept, true), kept);
+            QCOMPARE(membersIn(family, shared.read(flags, values)), membersIn(family, before, plan.added));
+        }
+
+        const DeviceUndo undo = undoOf(family, before, sent, after, false);
+        device.takeBack(undo, after);
+        const ObjectsByExchange back = device.read(flags, values);
+        QCOMPARE(membersIn(family, back), membersIn(family, before, plan.added));
+        if (plan.added.isEmpty())
+            QCOMPARE(text(device.simulated.parameters()), dump);
+        int stays = 0;
+        for (const ExchangeUndo &exchange : undo)
+            stays += exchange.notRemovable.size();
+        QCOMPARE(stays, plan.added.size());
+        QCOMPARE(valuesOf(family, undoOf(family, before, sent, back, true), back), QJsonObject());
+    }
+
+    void eachCase_data()
+    {
+        columns<QString, QString, QString, QString, QString, QString>(
+            {"name", "values", "before", "since", "plan", "outcome"});
+        rowsFrom("plan.txt");
+    }
+
+    void eachCase()
+    {
+        QFETCH(QString, name);
+        const CfgFamily &family = familyOf(name);
+        const QJsonObject values = parsed(field("values")).toObject();
+        int flags = 0;
+        for (const CfgKey &key : family.keys)
+            flags |= values.contains(key.name) ? key.flag : 0;
+        ObjectsByExchange before, sent, held;
+        for (const int place : family.exchangesOf(flags)) {
+            const CfgExchange &exchange = family.exchanges.at(place);
+            before.insert(place, parsed(field("before"))[place].toObject());
+            sent.insert(place, exchange.setParam(values, before[place]));
+            held.insert(place, written(exchange, before[place], sent[place], parsed(field("since"))[place].toObject()));
+        }
+        const DevicePlan plan = planOf(family, flags, values, before);
+        QStringList lines;
+        for (const MemberChange &change : plan.changes + plan.added)
+            lines << line(change.exchange, change.member, change.before, change.after);
+        for (const QString &member : plan.lacking)
+            lines << "lacks " + member;
+        QCOMPARE((lines << QString("already %1").arg(plan.alreadySo)).join("; "), field("plan"));
+
+        lines = described("wrong ", differencesOf(family, flags, values, sent, held));
+        DeviceUndo undo = undoOf(family, before, sent, held, false), forced = undoOf(family, before, sent, held, true);
+        QCOMPARE(changesNothing(family, before, sent), plan.changes.isEmpty() && plan.added.isEmpty());
+        for (auto it = undo.begin(); it != undo.end(); ++it) {
+            lines << described("left ", it->changedSince) << described("stays ", it->notRemovable);
+            for (const QString &member : it->alreadyBack)
+                lines << QString("%1 already %2").arg(it.key()).arg(member);
+            if (it->goBack != forced[it.key()].goBack)
+                lines << "forced " + forced[it.key()].goBack.keys().join(',');
+            if (it->goBack.isEmpty())
+                continue;
+            const CfgExchange &exchange = family.exchanges.at(it.key());
+            lines << QString("%1 writes ").arg(it.key()) + text(exchange.writeBack(held[it.key()], it->goBack));
+            const QString byValues = text(exchange.setParam(valuesOf(family, {{it.key(), *it}}, held), held[it.key()]));
+            if (!lines.constLast().endsWith(byValues))
+                lines << "and not " + byValues;
+        }
+        QCOMPARE(lines.join("; "), field("outcome"));
+    }
+
+    void readsOnly_data()
+    {
+        columns<QString, QString, QStringList, QString, int>({"method", "answers", "methods", "message", "objects"});
+        const QStringList both{audio[0], audio[2]};
+        row("both exchanges", "", "", both, "success", 2);
+        row("the second is refused", both[1], answer(both[1], {}, 7), both, "Failed to get audio out parameters(7)", 1);
+        row("the first is silent", both[0], "", QStringList{both[0]}, "set audio parameters time out", 0);
+        row("answers to what was not asked", both[0], unasked().join('\n') + '\n' + answer(both[0]), both, "success",
+            2);
+    }
+
+    void readsOnly()
+    {
+        QFETCH(QStringList, methods);
+        QFETCH(int, objects);
+        Device device{familyOf("audio"), {"d", device_fleet::makeSiteDevice(1, 0).parameters}};
+        const ScriptedTransport *transport =
+            use(device, field("method"), [](auto &) { return field("answers").split('\n', Qt::SkipEmptyParts); });
+        ReadTask task(device.family, "d", {}, allFlags, nullptr);
+        const QSignalSpy results(&task, &ReadTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
+        QCOMPARE(results.at(0).at(1).toString(), field("message"));
+        QCOMPARE(transport->methods(), methods);
+        QCOMPARE(task.objects().size(), objects);
+        if (field("method").isEmpty())
+            QCOMPARE(task.objects(), device.read(allFlags, {}));
+    }
+
+    void takesBackWhatItsOwnReadAllows_data()
+    {
+        columns<QString, QString, QStringList, QString>({"in", "out", "methods", "left"});
+        row("everything", "", "", audio, "");
+        row("one was changed since the preview", R"({"aiGain": 7, "inputMode": "line"})", "", audio,
+            "0 aiGain: 99 -> 7");
+        row("nothing of the first goes back", R"({"aiGain": 7, "bEnable": 7})", "",
+            QStringList{audio[0], audio[2], audio[3]}, "0 aiGain: 99 -> 7; 0 bEnable: 2 -> 7");
+        row("nothing of the second goes back", "", R"({"bEnable": 7})", QStringList{audio[0], audio[1], audio[2]},
+            "1 bEnable: 2 -> 7");
+    }
+
+    void takesBackWhatItsOwnReadAllows()
+    {
+        QFETCH(QStringList, methods);
+        Device device{familyOf("audio"), {"d", device_fleet::makeSiteDevice(1, 0).parameters}};
+        const QJsonObject values{{"aiGain", 99}, {"bEnable", 2}}; // what no device has by itself
+        const ObjectsByExchange before = device.read(allFlags, values);
+        ObjectsByExchange sent;
+        for (int place = 0; place < 2; ++place) {
+            sent.insert(place, device.family.exchanges.at(place).setParam(values, before[place]));
+            device.write(place, sent[place]);
+        }
+        const QList<QJsonObject> theirs{parsed(field("in")).toObject(), parsed(field("out")).toObject()};
+        for (int place = 0; place < 2; ++place)
+            device.write(place, {{"audioAttr", theirs[place]}});
+        const ScriptedTransport *transport = use(device, audio[0], [&](const Request &request) {
+            return unasked() << text(device.simulated.answer(request.json()));
+        });
+        WriteBackTask task(device.family, "d", values, before, sent, false, nullptr);
+        const QSignalSpy results(&task, &WriteBackTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
+        QCOMPARE(results.at(0).at(2).toInt(), 0);
+        QCOMPARE(transport->methods(), methods);
+        QStringList left;
+        for (const ExchangeUndo &undo : task.decided())
+            left << described({}, undo.changedSince);
+        QCOMPARE(left.join("; "), field("left"));
+        const ObjectsByExchange back = device.read(allFlags, values);
+        for (int place = 0; place < 2; ++place)
+            QCOMPARE(text(back[place]), text(mergeKnownKeys(before[place], theirs[place])));
+    }
+
+    void cloudThatDropsAndReturns()
+    {
+        const QJsonObject parameters{{"qbcloud", QJsonObject{{"qbcloud_en", true}, {"qbcloud_type", "private"}}}};
+        Device device{familyOf("platform"), {"d", parameters}};
+        const QString get = "ifconfig_qbcloud_get_param", set = "ifconfig_qbcloud_set_param";
+        const ScriptedTransport *transport = use(device, set, [&](const Request &request) {
+            device.simulated.answer(request.json()); // the device takes it and drops out before it can answer
+            QTimer::singleShot(0, this, [] {
+                for (const auto status : {vms_sdk::DevOffline, vms_sdk::DevOnline})
+                    emit orda_data::DataSignals::instance().signalDevStatusChanged("d", status);
+            });
+            return QStringList();
+        });
+        const QJsonObject values{{"qbcloud_type", "private"}};
+        WriteBackTask task(device.family, "d", values, {{0, {{"qbcloud_en", true}, {"qbcloud_type", "public"}}}},
+                           {{0, values}}, false, nullptr);
+        const QSignalSpy results(&task, &WriteBackTask::signalCfgResult);
+        QTRY_COMPARE(results.count(), 1);
+        QCOMPARE(results.at(0).at(2).toInt(), 0);
+        QCOMPARE(transport->methods(), (QStringList{get, set, get}));
+        QCOMPARE(text(transport->requests.at(0).json().value("param")),
+                 R"({"bdefault":false,"qbcloud_type":"private"})");
+        QCOMPARE(text(transport->requests.at(1).json().value("param")),
+                 R"({"qbcloud_en":true,"qbcloud_type":"public"})");
+        QCOMPARE(task.decided()[0].goBack.keys(), QStringList{"qbcloud_type"});
+    }
+
+private:
+    const QStringList audio{"ai_get_param", "ai_set_param", "ao_get_param", "ao_set_param"};
+
+    static QString field(const char *name) { return *static_cast<QString *>(QTest::qData(name, QMetaType::QString)); }
+
+    /// Answers to requests of the second exchange.
+    QStringList unasked() const { return {answer(audio[2], {{"a", 1}}), answer(audio[3])}; }
+
+    /// Requests go to @p device, those with @p method to @p script.
+    static ScriptedTransport *use(Device &device, const QString &method, const ScriptedTransport::Script &script)
+    {
+        auto transport = std::make_unique<ScriptedTransport>([&device, method, script](const Request &request) {
+            return request.method() == method ? script(request)
+                                              : QStringList{text(device.simulated.answer(request.json()))};
+        });
+        ScriptedTransport *raw = transport.get();
+        vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+        vms_sdk::ClientSdk::instance().setRequestTimeout(std::chrono::milliseconds(300));
+        return raw;
+    }
+};
+
+ORDA_TEST_MAIN(PlanTest)
+#include "plan_test.moc"
