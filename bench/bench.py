@@ -50,7 +50,7 @@ class Table:
 
 def environment(directory):
     return dict(os.environ, QT_QPA_PLATFORM="offscreen", QT_LOGGING_RULES="*.debug=false", TMPDIR=directory,
-                XDG_RUNTIME_DIR=directory)
+                XDG_RUNTIME_DIR=directory, XDG_STATE_HOME=directory)
 
 
 def run(command, env):

@@ -1,6 +1,11 @@
 #include "client/ClientSession.h"
 #include "fleet/EmbeddedFleet.h"
 #include "fleet/FaultPlan.h"
+#include "journal/HistoryWriter.h"
+#include "journal/JournalTransport.h"
+#include "journal/PageWatch.h"
+
+#include <families/Families.h>
 
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
@@ -8,14 +13,26 @@
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/WebSocketTransport.h>
 
+#include <QWidget>
+
 namespace orda_client {
 
-ClientSession::ClientSession(QObject *parent)
+ClientSession::ClientSession(const orda_journal::HistoryOptions &history, QObject *parent)
     : QObject(parent)
 {
+    using orda_journal::JournalTransport;
     auto transport = std::make_unique<vms_sdk::WebSocketTransport>();
     m_transport = transport.get();
-    vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+    auto journal = std::make_unique<JournalTransport>(std::move(transport),
+                                                      std::make_unique<orda_journal::HistoryWriter>(history));
+    m_journal = journal.get();
+    m_pageWatch = new orda_journal::PageWatch(m_journal, this);
+    connect(m_journal, &JournalTransport::signalHistoryFailed, this, [this](const QString &why) {
+        emit signalAlert(tr("The history of runs cannot be written, so nothing is written to devices: %1").arg(why));
+    });
+    connect(m_journal, &JournalTransport::signalHistorySetAside, this, &ClientSession::signalAlert);
+    connect(m_pageWatch, &orda_journal::PageWatch::signalDeclined, this, &ClientSession::signalAlert);
+    vms_sdk::ClientSdk::instance().setTransport(std::move(journal));
 
     const auto &data = orda_data::DataSignals::instance();
     connect(&data, &orda_data::DataSignals::signalUpdateDevs, this, &ClientSession::followStore);
@@ -77,6 +94,13 @@ void ClientSession::replaceDevices(const QList<vms_sdk::DevInfo> &devices)
 void ClientSession::followStore()
 {
     m_transport->setDevices(orda_data::DevsMgrData::instance().getAllDevs(false));
+}
+
+void ClientSession::watchPages(const QObject *form)
+{
+    for (const orda_batchCfg::FamilyEntry &family : orda_batchCfg::Families::all())
+        if (auto *page = form->findChild<QWidget *>(QLatin1String(family.pageName)))
+            m_pageWatch->watch(page);
 }
 
 void ClientSession::connectAgain()

@@ -9,6 +9,11 @@
 namespace device_fleet {
 class EmbeddedFleet;
 }
+namespace orda_journal {
+class JournalTransport;
+class PageWatch;
+struct HistoryOptions;
+} // namespace orda_journal
 namespace vms_sdk {
 struct DevInfo;
 class WebSocketTransport;
@@ -17,13 +22,13 @@ class WebSocketTransport;
 namespace orda_client {
 
 /// Brings devices into the client: fills the store from an inventory or from an embedded fleet, and keeps the SDK
-/// connected to what the store holds.
+/// connected to what the store holds. What runs do to the devices goes into the history.
 class ClientSession : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ClientSession(QObject *parent = nullptr);
+    explicit ClientSession(const orda_journal::HistoryOptions &history, QObject *parent = nullptr);
     /// Closes all connections, then ends the embedded fleet.
     ~ClientSession() override;
 
@@ -32,19 +37,26 @@ public:
     /// The store then holds the devices of this file and no others. @return as startDemo()
     QString openInventory(const QString &file);
 
+    /// Lets the runs of the form's pages into the history.
+    void watchPages(const QObject *form);
+
     /// Tries the devices again that refused the sign-on.
     void connectAgain();
 
 signals:
     /// Something in an input that the user should know of but that stops nothing.
     void signalWarning(const QString &text);
+    /// Something that the user must know of: a run was declined, or cannot be recorded.
+    void signalAlert(const QString &text);
 
 private:
     void replaceDevices(const QList<vms_sdk::DevInfo> &devices);
     void followStore();
 
     std::unique_ptr<device_fleet::EmbeddedFleet> m_fleet;
-    QPointer<vms_sdk::WebSocketTransport> m_transport; // the SDK owns it
+    QPointer<orda_journal::JournalTransport> m_journal; // the SDK owns it
+    QPointer<vms_sdk::WebSocketTransport> m_transport; // the journal owns it
+    orda_journal::PageWatch *m_pageWatch;
 };
 
 } // namespace orda_client

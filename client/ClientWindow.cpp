@@ -16,6 +16,7 @@
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
+#include <orda_worker/DictDef.h>
 #include <orda_worker/EventConfirmInfo.h>
 #include <orda_worker/SystemAssistant.h>
 #include <shell/BatchCfgInit.h>
@@ -93,12 +94,16 @@ ClientWindow::ClientWindow(ClientSession *session, QWidget *parent)
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
     area->setWidget(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
+    session->watchPages(area->widget());
     setCentralWidget(area);
     buildMenu();
     buildStatusBar();
     resize(openingSize(this, wantedSize));
 
     connect(session, &ClientSession::signalWarning, this, &ClientWindow::showLast);
+    connect(session, &ClientSession::signalAlert, this, [](const QString &text) {
+        orda_worker::SystemAssistant::instance().messageAlert(orda_worker::DictDef::instance().alertTitle(), text);
+    });
     connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,
             &ClientWindow::showRemoteConfig);
     const auto &assistant = orda_worker::AssistantSignals::instance();

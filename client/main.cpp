@@ -3,6 +3,7 @@
 #include "client/ClientWindow.h"
 #include "client/RunDriver.h"
 #include "client/Translations.h"
+#include "journal/HistoryOptions.h"
 #include "programs/Complaint.h"
 
 #include <orda_base/Theme.h>
@@ -72,7 +73,7 @@ int main(int argc, char *argv[])
                       : options.theme == QLatin1String("dark") ? Theme::Dark
                                                                : Theme::Light);
 
-    ClientSession session;
+    ClientSession session(orda_journal::HistoryOptions{});
     QObject::connect(&session, &ClientSession::signalWarning, &app, complain);
     ClientWindow window(&session);
     window.show();

@@ -36,6 +36,7 @@ const std::array<QString, 3> &suffixes()
 
 constexpr int cachedKiB = 16 * 1024; // what a run of 10,000 devices has under way, so that it is not read again
 constexpr int walPages = 16 * 1024; // 64 MiB: moved to the file after a run and not within it
+constexpr int keptWalBytes = 4 * 1024 * 1024; // what the second file shrinks to when it has been moved
 
 } // namespace
 
@@ -134,7 +135,8 @@ bool HistoryFile::connectToWrite()
         return false;
     // The first of these has an effect on an empty file only; removed runs then make the file smaller.
     run(QStringLiteral("PRAGMA auto_vacuum = INCREMENTAL"));
-    if (value(QStringLiteral("PRAGMA journal_mode = WAL")).toString() != QLatin1String("wal"))
+    const QString mode = value(QStringLiteral("PRAGMA journal_mode = WAL")).toString();
+    if (m_fault == NoFault && mode != QLatin1String("wal"))
         fail(Unusable, tr("%1: it cannot be shared by several processes there").arg(m_options.path));
     // With FULL a commit is on the disk when it returns, so nothing leaves for a device whose former state a power cut
     // could take away again. What a power cut may cost is what was not committed: outcomes of the last milliseconds,
@@ -143,6 +145,7 @@ bool HistoryFile::connectToWrite()
     run(QStringLiteral("PRAGMA foreign_keys = ON"));
     run(QStringLiteral("PRAGMA cache_size = -%1").arg(cachedKiB));
     run(QStringLiteral("PRAGMA wal_autocheckpoint = %1").arg(walPages));
+    run(QStringLiteral("PRAGMA journal_size_limit = %1").arg(keptWalBytes));
     return m_fault == NoFault && (version == historySteps().size() || migrate());
 }
 
@@ -209,32 +212,37 @@ bool HistoryFile::fail(Fault fault, const QString &error)
 }
 
 // Takes the error of a query. The first one stands: it is the cause of those after it.
-bool HistoryFile::note(const QSqlQuery &query)
+void HistoryFile::note(const QSqlQuery &query)
 {
     const QSqlError error = query.lastError();
     if (error.type() == QSqlError::NoError || m_fault != NoFault)
-        return m_fault == NoFault;
+        return;
     const int code = error.nativeErrorCode().toInt() & 0xff; // without the detail in the higher bits
-    const auto as = [this](Fault fault, const QString &what) {
-        return fail(fault, QStringLiteral("%1: %2").arg(m_options.path, what));
-    };
-    switch (code) {
+    const bool isDamaged = code == SqliteCorrupt || code == SqliteNotADatabase;
+    const QString what = textOf(code);
+    fail(isDamaged ? Damaged : Unusable,
+         QStringLiteral("%1: %2").arg(m_options.path, what.isEmpty() ? error.databaseText() : what));
+}
+
+QString HistoryFile::textOf(int sqliteCode)
+{
+    switch (sqliteCode) {
     case SqliteCorrupt:
     case SqliteNotADatabase:
-        return as(Damaged, tr("it is damaged"));
+        return tr("it is damaged");
     case SqliteFull:
-        return as(Unusable, tr("the disk is full"));
+        return tr("the disk is full");
     case SqliteIoError:
-        return as(Unusable, tr("the disk could not be read or written"));
+        return tr("the disk could not be read or written");
     case SqliteReadOnly:
-        return as(Unusable, tr("it is read-only"));
+        return tr("it is read-only");
     case SqliteBusy:
     case SqliteLocked:
-        return as(Unusable, tr("another process has it locked"));
+        return tr("another process has it locked");
     case SqliteCannotOpen:
-        return as(Unusable, tr("it cannot be opened"));
+        return tr("it cannot be opened");
     default:
-        return as(Unusable, error.databaseText());
+        return {};
     }
 }
 
@@ -249,7 +257,10 @@ QSqlQuery HistoryFile::prepare(const QString &sql)
 
 bool HistoryFile::run(QSqlQuery &query)
 {
-    return query.exec() || note(query);
+    if (query.exec())
+        return true;
+    note(query);
+    return m_fault != NoFault ? false : fail(Unusable, m_options.path);
 }
 
 bool HistoryFile::run(const QString &sql)
@@ -260,7 +271,9 @@ bool HistoryFile::run(const QString &sql)
 
 bool HistoryFile::next(QSqlQuery &query)
 {
-    return query.next() || (note(query), false);
+    const bool isThere = query.next();
+    note(query); // of a row that cannot be read, too
+    return isThere;
 }
 
 QVariant HistoryFile::value(const QString &sql)

@@ -84,11 +84,12 @@ private:
     // A null QString would become NULL.
     static QVariant bound(const QString &text) { return text.isNull() ? QLatin1String("") : text; }
 
+    static QString textOf(int sqliteCode);
     bool connectToWrite();
     bool connectTo(const QString &options);
     bool migrate();
     bool moveAside(QString *what);
-    bool note(const QSqlQuery &query);
+    void note(const QSqlQuery &query);
 
     HistoryOptions m_options;
     QString m_connection; // name, for Qt

@@ -5,6 +5,8 @@
 #include "run/ParamsCfgTask.h"
 
 #include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPair>
@@ -125,6 +127,19 @@ bool settleRuns(HistoryFile *file)
         lock.releaseAndRemove();
     }
     return file->fault() == HistoryFile::NoFault;
+}
+
+void removeLeftLocks(const HistoryFile &file)
+{
+    const QDir directory = QFileInfo(file.options().path).absoluteDir();
+    const QStringList names = directory.entryList({QStringLiteral("*.lock")}, QDir::Files);
+    for (const QString &name : names) {
+        FileLock lock;
+        const QString path = directory.filePath(name);
+        if (file.lockPath(name.chopped(int(qstrlen(".lock")))) == path
+            && lock.take(path, std::chrono::milliseconds(0)).isEmpty())
+            lock.releaseAndRemove();
+    }
 }
 
 bool pruneRuns(HistoryFile *file)

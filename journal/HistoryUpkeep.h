@@ -15,6 +15,9 @@ bool finishRun(HistoryFile *file, qint64 runNumber, qint64 ended);
 /// Ends the runs whose program is gone. Each run under way has a lock that ends with its process.
 bool settleRuns(HistoryFile *file);
 
+/// Removes the locks that programs left which were killed shortly before a run or shortly after one.
+void removeLeftLocks(const HistoryFile &file);
+
 /// Removes runs as HistoryOptions says, and gives their space back to the disk.
 bool pruneRuns(HistoryFile *file);
 

@@ -26,13 +26,16 @@ public:
     ~HistoryWriter() override;
 
     /// Each of these returns a ticket, larger than all before; signalCommitted() tells how far the disk has it.
+    /// Rows of another run than the one that was begun last are dropped.
     /// Names, serial numbers and addresses of the devices are taken from the device store at this moment.
     quint64 beginRun(const RunStart &run);
     /// Replaces what the history has of this exchange, field by field: empty fields stay as they are.
     quint64 putExchange(const QString &runId, const ExchangeRow &row);
-    /// Outcome, code, message and late answer of the device.
+    /// Outcome, code, message and late answer of the device; after endRun() only the late answer.
     quint64 putDevice(const QString &runId, const DeviceRow &row);
-    /// After the outcomes of all its devices. Counts them, then removes runs that are too old or too many.
+    /// After the outcomes of all its devices. Counts them, then removes runs that are too old or too many. A device
+    /// without an outcome gets Unknown when something was sent to it, else Stopped; so does one of a run that never
+    /// ended, because its program did, when the next run begins.
     quint64 endRun(const QString &runId);
 
 signals:

@@ -115,23 +115,28 @@ std::optional<FileIdentity> identityOf(const QString &path)
 QString FileLock::take(const QString &path, std::chrono::milliseconds timeout)
 {
     release();
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK,
-                          S_IRUSR | S_IWUSR);
-    if (fd < 0)
-        return faultOfSystem(path);
     const QDeadlineTimer deadline(timeout);
-    while (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
-        const bool isTaken = errno == EWOULDBLOCK || errno == EINTR;
-        if (!isTaken || deadline.hasExpired()) {
-            const QString why = isTaken ? fault(path, Texts::tr("another process has it locked")) : faultOfSystem(path);
-            ::close(fd);
-            return why;
+    for (;;) {
+        const int fd = ::open(QFile::encodeName(path).constData(),
+                              O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, S_IRUSR | S_IWUSR);
+        if (fd < 0)
+            return faultOfSystem(path);
+        struct stat info = {};
+        const bool isLocked = ::flock(fd, LOCK_EX | LOCK_NB) == 0;
+        const bool isBusy = !isLocked && (errno == EWOULDBLOCK || errno == EINTR);
+        if (isLocked && ::fstat(fd, &info) == 0 && identityOf(path) == FileIdentity{info.st_dev, info.st_ino}) {
+            m_fd = fd;
+            m_path = path;
+            return {};
         }
+        const QString why = isBusy ? fault(path, Texts::tr("another process has it locked")) : faultOfSystem(path);
+        ::close(fd);
+        if (isLocked)
+            continue; // whoever had it has removed the file: this is the lock of none
+        if (!isBusy || deadline.hasExpired())
+            return why;
         QThread::msleep(5); // flock() itself waits without end
     }
-    m_fd = fd;
-    m_path = path;
-    return {};
 }
 
 void FileLock::release()

@@ -45,7 +45,6 @@ public:
     /// @return why the lock was not taken, as a text for the user; empty: taken
     QString take(const QString &path, std::chrono::milliseconds timeout);
     void release();
-    /// For a lock whose name nobody uses again: whoever waits for it would then hold the lock of no file.
     void releaseAndRemove();
 
 private:

@@ -71,7 +71,10 @@ bool RunRecorder::makeReady()
     const bool isOpen = m_file.openToWrite(&what);
     if (!what.isEmpty())
         m_reports.setAside(what);
-    return isOpen && settleRuns(&m_file) && prune();
+    if (!isOpen || !settleRuns(&m_file))
+        return false;
+    removeLeftLocks(m_file);
+    return prune();
 }
 
 bool RunRecorder::transaction(Place first, Place last)
@@ -80,7 +83,6 @@ bool RunRecorder::transaction(Place first, Place last)
         const QString why = m_runLock.take(m_file.lockPath(m_runId), std::chrono::milliseconds(0));
         if (!why.isEmpty())
             return m_file.fail(HistoryFile::Unusable, why);
-        m_rows = std::make_unique<RunRows>(&m_file);
     } else if (!m_file.isInPlace()) {
         // Nobody would find the rest of the run there.
         return m_file.fail(HistoryFile::Unusable,
@@ -88,7 +90,9 @@ bool RunRecorder::transaction(Place first, Place last)
     }
     if (!m_file.begin())
         return false;
-    bool isWritten = true;
+    if (is<RunBegin>(*first))
+        m_rows = std::make_unique<RunRows>(&m_file);
+    bool isWritten = m_file.fault() == HistoryFile::NoFault;
     for (auto entry = first; entry != last && isWritten; ++entry)
         isWritten = writeEntry(*entry);
     if (isWritten && m_file.commit())

@@ -1,6 +1,7 @@
 #include "support/OrdaTest.h"
 
 #include "client/ClientSession.h"
+#include "journal/HistoryOptions.h"
 #include "client/ClientWindow.h"
 #include "client/FailedDevices.h"
 
@@ -35,7 +36,7 @@ private slots:
     /// The screen of these tests has 800 x 800 pixels, which is less than the form needs.
     void opensOnASmallScreen()
     {
-        ClientSession session;
+        ClientSession session(orda_journal::HistoryOptions{});
         ClientWindow window(&session);
         window.show();
         const QRect screen = window.screen()->availableGeometry();
@@ -50,7 +51,7 @@ private slots:
     /// A device that stays away is dialled again and again; the summary of a run outlives that.
     void tellsChangesOnly()
     {
-        ClientSession session;
+        ClientSession session(orda_journal::HistoryOptions{});
         ClientWindow window(&session);
         window.show();
         auto &store = orda_data::DevsMgrData::instance();
@@ -77,7 +78,7 @@ private slots:
         QVERIFY(faults.open());
         faults.write(R"({"faults": [{"devices": ["dev-0002"], "methods": ["ai_get_param"], "fault": "no-answer"}]})");
         faults.close();
-        ClientSession session;
+        ClientSession session(orda_journal::HistoryOptions{});
         vms_sdk::ClientSdk::instance().setRequestTimeout(2s);
         ClientWindow window(&session);
         window.show();

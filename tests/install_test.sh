@@ -47,7 +47,7 @@ text=$(grep -rIlF -e "$source" -e "$build" -e "$scratch/first" "$prefix" || true
 [ -z "$text" ] || fail "paths of the build in" "$text"
 runpaths=$(find "$prefix" -type f \( -name '*.so.*' -o -path '*/bin/*' \) -exec readelf -d {} + | grep -E 'R(UN)?PATH' | grep -vE '\[\$ORIGIN[^:]*\]' || true)
 [ -z "$runpaths" ] || fail "libraries are looked for at" "$runpaths"
-result=$("$prefix/bin/orda_client" --demo 5 --run audio 2>&1) || fail "the installed client says: $result"
+result=$(XDG_STATE_HOME=$scratch/tmp "$prefix/bin/orda_client" --demo 5 --run audio 2>&1) || fail "the installed client says: $result"
 for program in orda_client orda_fleet; do # each option has its entry in the manual, and the other way round
   diff <("$prefix/bin/$program" --help | grep -oP '^  (-., )?--\K[a-z-]+' | sort) \
     <(sed -nE 's/^\.It .*Fl Fl ([a-z-]+).*/\1/p' "$source/man/$program.1" | sort) || fail "the manual of $program is not up to date"

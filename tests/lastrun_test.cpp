@@ -4,6 +4,7 @@
 #include "support/Store.h"
 
 #include "client/ClientSession.h"
+#include "journal/HistoryOptions.h"
 #include "client/ClientWindow.h"
 #include "client/Families.h"
 #include "client/LastRunWindow.h"
@@ -62,7 +63,7 @@ struct Client
         child<QAction>(window, "showLastRun")->trigger();
     }
 
-    ClientSession session;
+    ClientSession session{orda_journal::HistoryOptions()};
     ClientWindow window{&session};
     const LastRunWindow &lastRun() const { return *window.findChild<LastRunWindow *>(); }
     QAbstractItemModel *shown() const { return child<QTableView>(lastRun(), "record")->model(); }

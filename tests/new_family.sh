@@ -14,7 +14,7 @@ mv docs/examples/motion/*.{cpp,h,ui,qrc} batchCfg/motion/
 git apply docs/examples/motion/elsewhere.patch
 places=$(git diff --name-only -- . ':!docs' | wc -l)
 [ "$places" -le 4 ] || { echo "new_family: $places files were edited outside the family's folder, besides the translations" >&2; exit 1; }
-export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 TMPDIR=$scratch XDG_RUNTIME_DIR=$scratch QT_QPA_PLATFORM=offscreen
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 TMPDIR=$scratch XDG_RUNTIME_DIR=$scratch XDG_STATE_HOME=$scratch QT_QPA_PLATFORM=offscreen
 cmake --preset release >/dev/null
 cmake --build build --parallel "$(nproc)" >build.log || { tail -40 build.log; exit 1; }
 # "translations" would ask for the German and Chinese of the new texts.

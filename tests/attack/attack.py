@@ -44,7 +44,7 @@ class Program:
         self.command, self.home, self.peak, self.process = command, home, 0, None
 
     async def __aenter__(self):
-        environment = dict(os.environ, TMPDIR=self.home, XDG_RUNTIME_DIR=self.home, HOME=self.home, LC_ALL="C.UTF-8",
+        environment = dict(os.environ, TMPDIR=self.home, XDG_RUNTIME_DIR=self.home, XDG_STATE_HOME=self.home, HOME=self.home, LC_ALL="C.UTF-8",
                            QT_QPA_PLATFORM="offscreen")
         with open(f"{self.home}/{os.path.basename(self.command[0])}.log", "wb") as log:
             self.process = await asyncio.create_subprocess_exec(*self.command, env=environment, stdout=asyncio.subprocess.PIPE,
