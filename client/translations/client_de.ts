@@ -104,6 +104,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSession</name>
+    <message>
+        <source>The history of runs cannot be written, so nothing is written to devices: %1</source>
+        <translation>Der Verlauf der Läufe lässt sich nicht schreiben, deshalb wird auf Geräte nichts geschrieben: %1</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientWindow</name>
     <message>
         <source>offline</source>

@@ -104,6 +104,13 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSession</name>
+    <message>
+        <source>The history of runs cannot be written, so nothing is written to devices: %1</source>
+        <translation>无法写入运行历史记录，因此不会向设备写入任何内容：%1</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientWindow</name>
     <message>
         <source>offline</source>
