@@ -204,7 +204,8 @@ private slots:
         writer.putExchange(start.id, {"dev-1", 1, {}, "sent", {}});
         writer.putExchange(start.id, {"dev-1", 1, {}, "sent again", "after"});
         writer.putExchange(start.id, {"dev-1", 0, "first", {}, {}});
-        QVERIFY(writing.onDisk(writer.putDevice(start.id, {"dev-0", Outcome::NotReached, -3, "off line", {}})));
+        writer.putDevice(start.id, {"dev-0", Outcome::Unknown, -61004, "time out", {}});
+        QVERIFY(writing.onDisk(writer.putDevice(start.id, {"dev-0", {}, 0, {}, "while others go on"})));
         QCOMPARE(reader.run(start.id)->run.ended, 0);
         QVERIFY(!reader.run(start.id)->devices.at(1).outcome);
         writer.putDevice(start.id, {"dev-1", Outcome::PartlyWritten, -12, "no", {}});
@@ -219,7 +220,8 @@ private slots:
                  (QStringList{"osd", "undo", "earlier"}));
         QVERIFY(details.run.program.startsWith("history_test"));
         QVERIFY(details.run.began > 0 && details.run.ended >= details.run.began);
-        QCOMPARE(details.run.counts, (Counts{{Outcome::PartlyWritten, 1}, {Outcome::NotReached, 2}}));
+        QCOMPARE(details.run.counts,
+                 (Counts{{Outcome::Unknown, 1}, {Outcome::PartlyWritten, 1}, {Outcome::NotReached, 1}}));
         QStringList devices, exchanges;
         for (const DeviceRow &row : details.devices)
             devices.append(QStringList{row.devId, outcomeName(*row.outcome), QString::number(row.code), row.message,
@@ -228,7 +230,7 @@ private slots:
         for (const ExchangeRow &row : details.exchanges)
             exchanges.append(
                 QStringList{row.devId, QString::number(row.exchange), row.before, row.sent, row.after}.join('|'));
-        QCOMPARE(devices, (QStringList{"dev-0|not-reached|-3|off line||||",
+        QCOMPARE(devices, (QStringList{"dev-0|unknown|-61004|time out|while others go on|||",
                                        QString::fromUtf8("dev-1|partly-written|-12|no|late answer|Tür 1|SN1|10.0.0.1"),
                                        "dev-2|not-reached|-3|off line||||"}));
         QCOMPARE(details.devices.at(2).ownValues, (QJsonObject{{"speed", 3}}));
