@@ -111,6 +111,7 @@ bool TrackedRun::letLeave(int place, int number, const QString &requestId)
         return false;
     exchange.isHeld = false;
     exchange.hasLeft = true;
+    exchange.isDoubtful = exchange.isDoubtful || exchange.awaitsWrite;
     exchange.awaitsWrite = true;
     return true;
 }
@@ -210,7 +211,8 @@ Settled TrackedRun::settle(int place, const Result &result)
     bool hasChanged = false;
     for (const Exchange &exchange : device.exchanges) {
         isWritten = isWritten || exchange.isWritten;
-        isUnanswered = isUnanswered || exchange.awaitsWrite;
+        // A device that refuses what it was sent again may have taken it the first time.
+        isUnanswered = isUnanswered || exchange.awaitsWrite || (exchange.isDoubtful && !exchange.isWritten);
         hasChanged = hasChanged || (exchange.hasLeft && !exchange.changes.isEmpty());
     }
     if (result.code == ParamsCfgTask::Success)

@@ -100,6 +100,7 @@ private:
         bool isHeld = false; // the write waits for the history
         bool hasLeft = false;
         bool isWritten = false; // the device said so
+        bool isDoubtful = false; // an earlier write of it had no answer, so the device may have it
     };
     struct Device
     {
