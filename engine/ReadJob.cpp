@@ -65,12 +65,13 @@ void ReadJob::report(const DeviceReading &reading)
 {
     m_unreported.remove(reading.devId);
     emit signalRead(reading);
-    emit signalProgress(m_selection.devIds.size() - m_unreported.size(), m_selection.devIds.size());
+    if (!m_isOver) // what heard of the device may have cancelled the job
+        emit signalProgress(m_selection.devIds.size() - m_unreported.size(), m_selection.devIds.size());
 }
 
 void ReadJob::cancel()
 {
-    if (m_isOver)
+    if (m_isOver || std::exchange(m_isCancelled, true))
         return;
     if (m_batch)
         m_batch->cancel();

@@ -66,6 +66,7 @@ private:
     std::unique_ptr<ReadBatch> m_batch;
     QSet<QString> m_unreported; // device ids
     bool m_hasTurn = false;
+    bool m_isCancelled = false;
     bool m_isOver = false;
 };
 
