@@ -16,7 +16,7 @@ ReadBatch::ReadBatch(const Selection &selection, QObject *parent)
 
 ReadBatch::~ReadBatch() = default;
 
-void ReadBatch::start(const QStringList &devIds)
+void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &flags)
 {
     m_run = std::make_unique<CfgRun>(devIds.size());
     connect(m_run.get(), &CfgRun::signalResult, this, [this](const QString &devId, const QString &message, int code) {
@@ -24,9 +24,9 @@ void ReadBatch::start(const QStringList &devIds)
         if (m_run && m_run->isOver())
             QMetaObject::invokeMethod(this, &ReadBatch::signalFinished, Qt::QueuedConnection);
     });
-    m_run->start(devIds, [this](const QString &devId) {
-        auto *task =
-            new ReadTask(*m_selection.family, devId, m_selection.readValuesOf(devId), m_selection.flagsOf(devId), this);
+    m_run->start(devIds, [this, &flags](const QString &devId) {
+        auto *task = new ReadTask(*m_selection.family, devId, m_selection.readValuesOf(devId),
+                                  flags.value(devId, m_selection.flagsOf(devId)), this);
         m_tasks.insert(devId, task);
         return task;
     });

@@ -25,7 +25,8 @@ public:
     ~ReadBatch() override;
 
     /// Sends the first requests. @param devIds at least one
-    void start(const QStringList &devIds);
+    /// @param flags by device id: of the exchanges to read, in place of those that the selection needs
+    void start(const QStringList &devIds, const QHash<QString, int> &flags = {});
     /// No signal comes any more. May be called from inside one.
     void cancel();
 

@@ -157,7 +157,8 @@ void WriteJob::endAttempt()
 void WriteJob::takeSettled(const Settled &settled)
 {
     const Outcome outcome = *settled.row.outcome;
-    if (m_options.verify && (outcome == Outcome::Done || outcome == Outcome::Unchanged)) {
+    const bool isWritten = !settled.sent.isEmpty(); // an undo may find nothing to write
+    if (m_options.verify && isWritten && (outcome == Outcome::Done || outcome == Outcome::Unchanged)) {
         m_written.append(settled.row.devId);
         m_settled.insert(settled.row.devId, settled);
     } else {
@@ -178,7 +179,17 @@ void WriteJob::verifyWave()
         m_readAgain.reset();
         nextWave();
     });
-    m_readAgain->start(written);
+    m_readAgain->start(written, writtenFlags());
+}
+
+// What is read again is what was written: the values of an undo may ask for fewer exchanges.
+QHash<QString, int> WriteJob::writtenFlags() const
+{
+    QHash<QString, int> flags;
+    for (auto settled = m_settled.begin(); settled != m_settled.end(); ++settled)
+        for (auto param = settled->sent.begin(); param != settled->sent.end(); ++param)
+            flags[settled.key()] |= m_selection.family->exchanges.at(param.key()).flag;
+    return flags;
 }
 
 void WriteJob::takeReading(const QString &devId, int code, const QString &message, const ObjectsByExchange &held)

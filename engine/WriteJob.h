@@ -85,6 +85,7 @@ private:
     void endAttempt();
     void takeSettled(const orda_journal::Settled &settled);
     void verifyWave();
+    QHash<QString, int> writtenFlags() const;
     void takeReading(const QString &devId, int code, const QString &message, const ObjectsByExchange &held);
     void report(const orda_journal::Settled &settled);
     void stop(const QString &why);
@@ -105,7 +106,7 @@ private:
     int m_attempt = 0;
     QVector<QPair<QString, orda_journal::Result>> m_failed; // of the attempt, to be tried again
     QStringList m_written; // of the wave, to be verified
-    QHash<QString, orda_journal::Settled> m_settled; // their outcomes
+    QHash<QString, orda_journal::Settled> m_settled; // their outcomes, until they are reported
     int m_reported = 0;
     QString m_stopped; // why
     bool m_hasTurn = false;
