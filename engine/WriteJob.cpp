@@ -248,8 +248,14 @@ void WriteJob::finish(const QString &error)
     if (std::exchange(m_isOver, true))
         return;
     m_run.reset();
+    qDeleteAll(std::exchange(m_tasks, {})); // they must not send anything over the next connection
     if (m_readAgain)
         m_readAgain->cancel();
+    const auto unverified = std::exchange(m_settled, {}); // when the connection went away
+    for (Settled settled : unverified) {
+        settled.row.message = tr("%1; not verified: %2").arg(settled.row.message, tr("the connection has ended"));
+        report(settled);
+    }
     if (std::exchange(m_hasTurn, false) && m_journal) {
         m_journal->disconnect(this);
         m_journal->end();
