@@ -1,0 +1,677 @@
+#include "engine/ApplyJob.h"
+#include "engine/ReadJob.h"
+#include "engine/UndoJob.h"
+#include "fleet/EmbeddedFleet.h"
+#include "fleet/ParameterTemplates.h"
+#include "fleet/Site.h"
+#include "journal/HistoryReader.h"
+#include "journal/HistoryWriter.h"
+#include "journal/JournalTransport.h"
+#include "support/FleetOf.h"
+#include "support/OrdaTest.h"
+#include "support/Store.h"
+
+#include <families/Families.h>
+#include <run/ParamsCfgTask.h>
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/Inventory.h>
+#include <vms_client_sdk/Requests.h>
+#include <vms_client_sdk/WebSocketTransport.h>
+
+#include <csignal>
+#include <iostream>
+#include <sys/resource.h>
+
+using namespace device_fleet;
+using namespace orda_engine;
+using namespace orda_journal;
+using namespace std::chrono_literals;
+using orda_batchCfg::CfgFamily;
+using orda_batchCfg::Families;
+using vms_sdk::ClientSdk;
+using Milliseconds = std::chrono::milliseconds;
+
+namespace {
+
+/// Changes something on nearly every device.
+constexpr char usualValues[] =
+    "{'audio': {'bEnable': true, 'encType': 'g711a', 'sampleRate': 8000, 'aiGain': 13, 'aoGain': 14},"
+    " 'video': {'streams': [{'streamid': 0, 'bitRate': 777}, {'streamid': 2, 'frameRate': 20}]},"
+    " 'image': {'flip': 'both', 'expertmode': 'indoor', 'lightmode': 'off'},"
+    " 'platform': {'qbcloud_en': true, 'qbcloud_type': 'private', 'qbcloud_addr': 'https://new.example'},"
+    " 'platform_9100': {'bEnable': true, 'onlineserverip': '192.0.2.77', 'businessserverport': 9000},"
+    " 'network': {'discoveryflag': 1, 'bIPLock': true, 'bSmartOnline': false},"
+    " 'osd': {'bShowOSD': false, 'timePos': 'hide', 'channelName': 'HD IPC', 'bLargeOSD': true}}";
+
+QJsonObject parsed(QString text)
+{
+    return QJsonDocument::fromJson(text.replace('\'', '"').toUtf8()).object();
+}
+
+Selection selectionOf(const QString &family, const QList<vms_sdk::DevInfo> &devices, const QString &values = {})
+{
+    Selection selection;
+    for (const auto &entry : Families::all())
+        if (entry.family.name == family)
+            selection.family = &entry.family;
+    for (const auto &device : devices)
+        selection.devIds.append(device.id);
+    selection.values = values.isEmpty() ? parsed(usualValues).value(family).toObject() : parsed(values);
+    return selection;
+}
+
+/// The name of what the exchange is about, in a dump.
+QString objectOf(const CfgFamily &family, int exchange)
+{
+    for (const ParameterObject &object : parameterObjects())
+        if (object.readMethod == family.exchanges.at(exchange).getMethod)
+            return object.name;
+    return {};
+}
+
+/// A device of a dump with members like "0 aiGain" in place of the objects that the family is about.
+QJsonObject flat(const CfgFamily &family, QJsonObject device)
+{
+    for (int place = 0; place < family.exchanges.size(); ++place) {
+        const QJsonObject answer{{"result", device.take(objectOf(family, place))}};
+        const QJsonObject members = family.exchanges.at(place).membersOf(family.exchanges.at(place).heldIn(answer));
+        for (auto it = members.begin(); it != members.end(); ++it)
+            device[QString("%1 %2").arg(place).arg(it.key())] = *it;
+    }
+    return device;
+}
+
+bool mayHaveChanged(Outcome outcome)
+{
+    return QList{Outcome::Done, Outcome::Unknown, Outcome::PartlyWritten, Outcome::Differs}.contains(outcome);
+}
+
+JournalTransport *connectTo(const QList<vms_sdk::DevInfo> &devices, const QString &history, Milliseconds waitingTime)
+{
+    HistoryOptions options;
+    options.path = history;
+    auto network = std::make_unique<vms_sdk::WebSocketTransport>();
+    auto *connections = network.get();
+    auto journal = std::make_unique<JournalTransport>(std::move(network), std::make_unique<HistoryWriter>(options));
+    auto *transport = journal.get();
+    ClientSdk::instance().setTransport(std::move(journal));
+    ClientSdk::instance().setRequestTimeout(waitingTime);
+    orda_data::DevsMgrData::instance().updateDevs(devices);
+    connections->setDevices(devices);
+    return transport;
+}
+
+bool areOnline(int devices)
+{
+    return QTest::qWaitFor([=] { return orda_data::DevsMgrData::instance().devCount(true) == devices; }, 20000);
+}
+
+/// A fleet and the client over it.
+struct Site : QObject
+{
+    explicit Site(const FleetOptions &options)
+        : fleet(options)
+    {
+        const QString error = fleet.start();
+        if (!error.isEmpty())
+            qFatal("%s", qPrintable(error));
+        inventory = fleet.inventory();
+        for (int i = 0; i < options.devices; ++i)
+            online += makeSiteDevice(options.seed, i).online ? 1 : 0;
+        connect(&fleet, &EmbeddedFleet::requestReceived, this,
+                [this](const QString &devId, const QString &method) { asked[devId].append(method); });
+    }
+    ~Site() override { ClientSdk::instance().setTransport(nullptr), clearStore(); }
+
+    bool open(Milliseconds waitingTime = 5s)
+    {
+        journal = connectTo(inventory, history(), waitingTime);
+        return areOnline(online);
+    }
+    /// Of a family, those devices that can be written to.
+    Selection reachable(const QString &family) const
+    {
+        Selection selection = selectionOf(family, inventory);
+        QStringList &ids = selection.devIds;
+        ids.erase(std::remove_if(ids.begin(), ids.end(), [](auto id) { return !reachOf(id).canBeWritten; }), ids.end());
+        return selection;
+    }
+    QString history() const { return place.filePath("orda/history.db"); }
+    QJsonObject devices() const { return fleet.dump()["devices"].toObject(); }
+    RunDetails run(const QString &id) const
+    {
+        HistoryOptions options;
+        options.path = history();
+        HistoryReader reader(options);
+        return reader.run(reader.findRuns(id).value(0)).value_or(RunDetails());
+    }
+    /// Whether the history has of each device that was written to what it held and what it was sent.
+    bool isKnown(const RunDetails &run, const CfgFamily &family, const QJsonObject &before) const
+    {
+        const QJsonObject now = devices();
+        QMap<QString, ExchangeRow> rows; // by device and object
+        for (const ExchangeRow &row : run.exchanges)
+            rows[row.devId + objectOf(family, row.exchange)] = row;
+        for (const QString &devId : before.keys()) {
+            const QJsonObject held = before[devId].toObject();
+            for (const QString &object : held.keys()) {
+                const ExchangeRow row = rows.value(devId + object);
+                const QJsonValue known = parsed(row.before).value("result"); // there is a fault that leaves it out
+                const bool isKnown = !row.before.isEmpty() && (known.isUndefined() || known == held[object]);
+                if (held[object] != now[devId][object] && (row.sent.isEmpty() || !isKnown))
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    QTemporaryDir place;
+    EmbeddedFleet fleet;
+    QList<vms_sdk::DevInfo> inventory;
+    int online = 0;
+    QMap<QString, QStringList> asked; // methods by device
+    JournalTransport *journal = nullptr; // the SDK owns it
+};
+
+/// Runs a job and keeps its accounts: one outcome a device, the same in the history, and none that hides a change.
+struct Ran
+{
+    Ran(const Site &site, WriteJob &job, bool isRecorded = true) { check(site, job, isRecorded); }
+
+    void check(const Site &site, WriteJob &job, bool isRecorded)
+    {
+        const QJsonObject before = site.devices();
+        const QSignalSpy finished(&job, &WriteJob::signalFinished);
+        QObject::connect(&job, &WriteJob::signalWaveBegan, [this](int, int devices) { waves.append(devices); });
+        QObject::connect(&job, &WriteJob::signalStopped, [this] { ++stops; });
+        int reports = 0;
+        QObject::connect(&job, &WriteJob::signalOutcome, [this, &reports](const Settled &settled) {
+            ++reports;
+            rows.insert(settled.row.devId, settled.row);
+        });
+        job.start();
+        QVERIFY(QTest::qWaitFor([&] { return finished.count() == 1; }, 60000));
+        QCOMPARE(finished.at(0).at(0).toString(), "");
+        QCOMPARE(reports, job.selection().devIds.size());
+        QCOMPARE(rows.size(), reports);
+        const QJsonObject after = site.devices();
+        for (const DeviceRow &row : qAsConst(rows))
+            QVERIFY2(mayHaveChanged(*row.outcome) || before[row.devId] == after[row.devId], qPrintable(row.message));
+        if (!isRecorded)
+            return;
+        QVERIFY(QTest::qWaitFor([&] { return site.run(job.runId()).run.ended > 0; }));
+        details = site.run(job.runId());
+        QCOMPARE(details.devices.size(), reports);
+        QMap<Outcome, int> counts;
+        for (const DeviceRow &row : qAsConst(details.devices)) {
+            QCOMPARE(outcomeName(*row.outcome), outcomeName(*rows[row.devId].outcome));
+            ++counts[*row.outcome];
+        }
+        QCOMPARE(details.run.counts, counts);
+        QVERIFY(site.isKnown(details, *job.selection().family, before));
+    }
+
+    int stops = 0;
+    QMap<QString, DeviceRow> rows;
+    QList<int> waves;
+    RunDetails details;
+};
+
+Ran takenBack(const Site &site, const RunDetails &details, bool force = false, bool verify = false)
+{
+    const RecordedRun run(details);
+    WriteOptions options;
+    options.verify = verify;
+    UndoJob undo(site.journal, run, run.written().devIds, force, options);
+    return {site, undo};
+}
+
+WriteOptions inWaves(const QString &sizes)
+{
+    QString error;
+    return {Waves::parse(sizes, &error)};
+}
+
+/// The program as another process: "apply INVENTORY HISTORY FAMILY ONLINE" sets the usual values until it is killed.
+int applyUntilKilled(const QStringList &arguments)
+{
+    const auto devices = vms_sdk::readInventory(arguments.at(2)).devices;
+    JournalTransport *journal = connectTo(devices, arguments.at(3), 5s);
+    ApplyJob job(journal, selectionOf(arguments.at(4), devices), inWaves("25"));
+    QObject::connect(&job, &WriteJob::signalWaveBegan, [](int wave) { std::cout << wave << std::endl; });
+    if (!areOnline(arguments.at(5).toInt()))
+        return 1;
+    job.start();
+    return QCoreApplication::exec();
+}
+
+void offered(bool all = true)
+{
+    columns<QString>({"family"});
+    for (const auto &entry : Families::all())
+        if (entry.key && (all || QStringList{"audio", "platform"}.contains(entry.family.name)))
+            row(qPrintable(entry.family.name), entry.family.name);
+}
+
+bool hasManySeeds()
+{
+    return qEnvironmentVariableIsSet("ORDA_STORM_SEEDS");
+}
+
+} // namespace
+
+/// Reading, planning, setting, verifying and taking back over real sockets: what becomes of each device, what the
+/// history has of it, and what the devices hold in the end.
+class EngineTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void whatIsPlannedIsDoneAndTakenBack_data()
+    {
+        // What another client sends in between, what of that stays, and what the undo says of it.
+        columns<QString, QString, QString, QString, QString, QString>(
+            {"family", "values", "refused", "since", "left", "named"});
+        for (const auto &entry : Families::all())
+            if (entry.key)
+                row(qPrintable(entry.family.name), entry.family.name, "", "", "", "", "");
+        row("cloud type", "platform", "{'qbcloud_type': 'private'}", "", "", "", "");
+        row("9100, manual flags sent", "platform_9100", "{'bManualcfgonline': true, 'bManualcfgbussiness': false}", "",
+            "", "", "");
+        row("second exchange changed by a value of the first", "audio", "{'encType': 'g711a', 'aoGain': 74}", "", "",
+            "", "");
+        row("second exchange refused", "audio", "", "ao_set_param", "", "", "");
+        row("keys that a device gets", "video", "{'streams': [{'streamid': 1, 'smartencode': 'open', 'width': 8}]}", "",
+            "", "", "not there before and cannot be taken out: stream1.smartencode");
+        row("keys that a device gets later", "osd", "{'bLargeOSD': false, 'timePos': 'hide'}", "",
+            "{'method': 'chnosd_set_param', 'param': {'attr': {'bLargeOSD': true}}}", "{'0 bLargeOSD': true}", "");
+        row("network address changed since", "network", "", "",
+            "{'method': 'ifconfig_eth_set', 'param': {'ip': '10.9.9.9'}}", "{'1 ip': '10.9.9.9'}", "");
+        const char *theirs = "{'method': 'chnosd_set_param', 'param': {'attr': {'channelName': 'Theirs'}}}";
+        row("changed since", "osd", "", "", theirs, "{'0 channelName': 'Theirs'}",
+            "changed since and left as it is: channelName: \"Theirs\"");
+        row("changed since, by force", "osd", "", "", theirs, "", "");
+    }
+
+    void whatIsPlannedIsDoneAndTakenBack()
+    {
+        QFETCH(QString, family);
+        QFETCH(QString, values);
+        QFETCH(QString, refused);
+        QFETCH(QString, since);
+        QFETCH(QString, left);
+        QFETCH(QString, named);
+        Site site(fleetOf(80));
+        QVERIFY(site.open());
+        const Selection selection = selectionOf(family, site.inventory, values);
+        const QJsonObject before = site.devices();
+        QMap<QString, QJsonObject> expected, back; // flat, of the devices that can be written to
+        QSet<QString> changing, gaining;
+        ReadJob reading(site.journal, selection);
+        connect(&reading, &ReadJob::signalRead, this, [&](const DeviceReading &device) {
+            if (!device.isRead())
+                return;
+            const QString &devId = device.devId;
+            expected[devId] = back[devId] = flat(*selection.family, before[devId].toObject());
+            const DevicePlan plan = planOf(*selection.family, selection.flagsOf(devId), selection.values, device.held);
+            for (const MemberChange &change : plan.changes + plan.added) {
+                const QString member = QString("%1 %2").arg(change.exchange).arg(change.member);
+                QCOMPARE(back[devId].value(member), change.before);
+                if (selection.family->exchanges.at(change.exchange).setMethod != refused)
+                    expected[devId][member] = change.after;
+                changing.insert(devId);
+            }
+            for (const MemberChange &change : plan.added) {
+                back[devId][QString("%1 %2").arg(change.exchange).arg(change.member)] = change.after;
+                gaining.insert(devId);
+            }
+        });
+        const QSignalSpy finished(&reading, &ReadJob::signalFinished);
+        reading.start();
+        QVERIFY(QTest::qWaitFor([&] { return finished.count() == 1; }));
+        QVERIFY(expected.size() > 60 && !changing.isEmpty());
+        QCOMPARE(site.devices(), before);
+        for (const QStringList &methods : qAsConst(site.asked))
+            QVERIFY2(methods.filter("_set").isEmpty(), qPrintable(methods.join(' ')));
+
+        if (!refused.isEmpty())
+            site.fleet.setFault(FaultPlan::any(), refused, {});
+        WriteOptions options;
+        options.verify = true;
+        ApplyJob apply(site.journal, selection, options);
+        const Ran applied(site, apply);
+        const QJsonObject after = site.devices();
+        for (const DeviceRow &row : applied.rows) {
+            const bool isReached = expected.contains(row.devId);
+            QCOMPARE(outcomeName(*row.outcome), !isReached                     ? "not-reached"
+                                                : !refused.isEmpty()           ? "partly-written"
+                                                : changing.contains(row.devId) ? "done"
+                                                                               : "unchanged");
+            if (isReached)
+                QCOMPARE(flat(*selection.family, after[row.devId].toObject()), expected[row.devId]);
+        }
+        site.fleet.clearFaults();
+        const QStringList written = RecordedRun(applied.details).written().devIds;
+        const QSignalSpy answers(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes);
+        for (const QString &devId : written)
+            vms_sdk::common_req(devId, devId, QJsonDocument(parsed(since)).toJson());
+        QTRY_COMPARE(answers.count(), written.size());
+        QCOMPARE(site.devices() == after, since.isEmpty());
+
+        const Ran undone = takenBack(site, applied.details, left.isEmpty() && !since.isEmpty(), true);
+        const QJsonObject restored = site.devices();
+        for (const DeviceRow &row : undone.rows) {
+            const QJsonObject theirs = parsed(left);
+            for (const QString &member : theirs.keys())
+                back[row.devId][member] = theirs[member];
+            QCOMPARE(flat(*selection.family, restored[row.devId].toObject()), back[row.devId]);
+            QVERIFY2(*row.outcome == Outcome::Done || *row.outcome == Outcome::Unchanged, qPrintable(row.message));
+            QVERIFY2(restored[row.devId] == before[row.devId] || row.message.contains(named), qPrintable(row.message));
+        }
+        QCOMPARE(restored == before, left.isEmpty() && gaining.isEmpty());
+        if (since.isEmpty()) {
+            takenBack(site, undone.details);
+            QCOMPARE(site.devices(), after);
+        }
+    }
+
+    void faultAtEveryRequest_data() { offered(hasManySeeds()); }
+
+    void faultAtEveryRequest()
+    {
+        allowWarnings("message over 1024 KiB"); // the fault of the huge answer
+        QFETCH(QString, family);
+        Site site(fleetOf(120));
+        QVERIFY(site.open(300ms));
+        Selection selection = site.reachable(family);
+        QList<FaultRule> faults{{Fault::LateAnswer, 0, 100ms}, {Fault::LateAnswer, 0, 500ms}}; // in time, and not
+        for (int fault = 0; fault <= int(Fault::DropAndReturn); ++fault)
+            faults.append({Fault(fault), -5, 150ms});
+        faults.append({Fault::DropAndReturn, 0, 150ms, ReturnWith::OldSettings});
+        faults.append({Fault::DropAndReturn, 0, 150ms, ReturnWith::MissingMember});
+        QStringList spoilt;
+        int cell = 0;
+        for (const FaultRule &fault : qAsConst(faults))
+            for (const auto &exchange : selection.family->exchanges)
+                for (const QString &method : {exchange.getMethod, exchange.setMethod}) {
+                    const QString devId = selection.devIds.at(cell++);
+                    site.fleet.setFault(devId, method, fault);
+                    if (fault.fault == Fault::NoResult || fault.returnWith == ReturnWith::MissingMember)
+                        spoilt.append(devId); // what it had is not known, or cannot come back
+                }
+        selection.devIds = selection.devIds.mid(0, cell);
+        QJsonObject before = site.devices();
+        ApplyJob apply(site.journal, selection, inWaves("50%")); // some are late while others go on
+        const Ran applied(site, apply);
+        site.fleet.clearFaults();
+        ClientSdk::instance().setRequestTimeout(5s);
+        QVERIFY(areOnline(site.online));
+        takenBack(site, applied.details);
+        QJsonObject after = site.devices();
+        for (const QString &devId : qAsConst(spoilt))
+            after.remove(devId), before.remove(devId);
+        QCOMPARE(after, before);
+    }
+
+    void wavesRetriesAndStop_data() { seeds(qMax(20, qEnvironmentVariableIntValue("ORDA_STORM_SEEDS"))); }
+
+    void wavesRetriesAndStop()
+    {
+        QFETCH(int, seed);
+        QRandomGenerator random{quint32(seed)};
+        const auto oneOf = [&random](const QStringList &list) { return list.at(random.bounded(list.size())); };
+        Site site(fleetOf(60, quint32(seed)));
+        QVERIFY(site.open(400ms));
+        const Selection selection = selectionOf(oneOf({"audio", "video", "image", "network", "osd"}), site.inventory);
+        const QString firstRead = selection.family->exchanges[0].getMethod;
+        for (const QString &devId : selection.devIds) {
+            const auto &exchange = selection.family->exchanges.at(random.bounded(selection.family->exchanges.size()));
+            const QList faults{Fault::ErrorCode, Fault::ErrorCode, Fault::Garbage, Fault::AnswerTwice,
+                               seed % 10 == 0 ? Fault::NoAnswer : Fault::LateAnswer};
+            if (random.bounded(4) == 0)
+                site.fleet.setFault(devId, oneOf({exchange.getMethod, exchange.setMethod}),
+                                    {faults.at(random.bounded(faults.size())), -5, Milliseconds(seed)});
+        }
+        const QString sizes = oneOf({"60", "1, 10, 25%", "7", "10%, 50%"});
+        WriteOptions options = inWaves(sizes);
+        options.maxFailPercentage = oneOf({"0", "20", "40", "100", "100"}).toInt();
+        options.retries = random.bounded(3);
+        options.verify = random.bounded(2) == 0;
+        ApplyJob job(site.journal, selection, options);
+        const int count = random.bounded(1, 40);
+        const QString ending = oneOf({"", "", "at a moment", "at an outcome", "at a wave", "without the connection"});
+        const auto cancel = [&](bool isTime) { isTime ? job.cancel() : void(); };
+        if (ending == "at a moment")
+            QTimer::singleShot(5 * count, &job, &WriteJob::cancel);
+        else if (ending == "at an outcome") // again and again
+            connect(&job, &WriteJob::signalProgress, this, [&](int finished) { cancel(finished >= count); });
+        else if (ending == "at a wave")
+            connect(&job, &WriteJob::signalWaveBegan, this, [&](int wave) { cancel(wave == count / 10); });
+        else if (ending == "without the connection") // when a device is read again
+            connect(&site.fleet, &EmbeddedFleet::requestReceived, this, [&](const QString &devId) {
+                if (site.asked[devId].count(firstRead) == 2)
+                    ClientSdk::instance().setTransport(nullptr);
+            });
+        const QJsonObject before = site.devices();
+        const Ran ran(site, job);
+
+        const QStringList expected = sizes.split(", ");
+        int begun = 0;
+        bool isOverShare = false;
+        for (int wave = 0; wave < ran.waves.size(); ++wave) {
+            const QString size = expected.value(wave, expected.last());
+            const int devices = size.endsWith('%') ? 60 * size.chopped(1).toInt() / 100 : size.toInt();
+            QCOMPARE(ran.waves[wave], qMin(devices, 60 - begun));
+            QVERIFY(!isOverShare);
+            int failures = 0;
+            for (const QString &devId : selection.devIds.mid(begun, ran.waves[wave])) {
+                const Outcome outcome = *ran.rows[devId].outcome;
+                failures += outcome == Outcome::Failed || (mayHaveChanged(outcome) && outcome != Outcome::Done) ? 1 : 0;
+                QVERIFY(site.asked[devId].count(firstRead) <= 1 + options.retries + (options.verify ? 1 : 0));
+            }
+            isOverShare = failures * 100 > options.maxFailPercentage * ran.waves[wave];
+            begun += ran.waves[wave];
+        }
+        QVERIFY(ending.isEmpty() ? ran.stops == int(isOverShare) : ran.stops <= 1 && ran.stops >= int(isOverShare));
+        QVERIFY(ran.stops == 1 || begun == 60 || ending == "without the connection");
+        for (const QString &devId : selection.devIds.mid(begun)) {
+            QCOMPARE(outcomeName(*ran.rows[devId].outcome), "stopped");
+            QVERIFY(!site.asked.contains(devId) && site.devices()[devId] == before[devId]);
+        }
+    }
+
+    void shareOfFailures_data()
+    {
+        columns<int, int>({"share", "waves"});
+        row("reached", 40, 2);
+        row("exceeded", 39, 1);
+    }
+
+    void shareOfFailures()
+    {
+        Site site(fleetOf(20));
+        QVERIFY(site.open());
+        Selection selection = site.reachable("osd");
+        selection.devIds = selection.devIds.mid(0, 10);
+        QFETCH(int, share);
+        for (const int failing : {0, 4})
+            site.fleet.setFault(selection.devIds.at(failing), FaultPlan::any(), {});
+        WriteOptions options = inWaves("5");
+        options.maxFailPercentage = share;
+        ApplyJob job(site.journal, selection, options);
+        QTEST(Ran(site, job).waves.size(), "waves");
+    }
+
+    void retriedDevice_data()
+    {
+        columns<int, int, QString>({"first", "second", "outcome"});
+        row("taken at last", int(Fault::ErrorCode), int(Fault::AnswerTwice), "done");
+        row("refused again", int(Fault::ErrorCode), int(Fault::ErrorCode), "failed");
+        row("no answer at last", int(Fault::ErrorCode), int(Fault::NoAnswer), "unknown");
+        row("in the device since the first time", int(Fault::DropAndReturn), int(Fault::ErrorCode), "unknown");
+    }
+
+    void retriedDevice()
+    {
+        QFETCH(int, first);
+        QFETCH(int, second);
+        QFETCH(QString, outcome);
+        Site site(fleetOf(1));
+        QVERIFY(site.open(1s)); // so that a device that was cut off is back
+        const QJsonObject before = site.devices();
+        site.fleet.setFault("dev-0001", "chnosd_set_param", {Fault(first), -5, 10ms});
+        connect(&site.fleet, &EmbeddedFleet::requestReceived, this, [&](const QString &devId, const QString &method) {
+            if (method == "chnosd_set_param")
+                site.fleet.setFault(devId, method, {Fault(second)});
+        });
+        WriteOptions options;
+        options.retries = 1;
+        ApplyJob job(site.journal, selectionOf("osd", site.inventory), options);
+        const Ran ran(site, job);
+        QCOMPARE(site.asked["dev-0001"].count("chnosd_set_param"), 2);
+        QCOMPARE(outcomeName(*ran.rows["dev-0001"].outcome), outcome);
+        site.fleet.disconnect(this);
+        site.fleet.clearFaults();
+        takenBack(site, ran.details);
+        QCOMPARE(site.devices(), before);
+    }
+
+    void cancelledReading()
+    {
+        Site site(fleetOf(60));
+        QVERIFY(site.open());
+        ReadJob job(site.journal, selectionOf("osd", site.inventory));
+        QStringList said;
+        connect(&job, &ReadJob::signalRead, this, [&](const DeviceReading &device) {
+            said.append(device.devId);
+            if (device.code != 0 || said.size() == 30)
+                job.cancel();
+        });
+        connect(&job, &ReadJob::signalProgress, this, [&](int finished) { QVERIFY(finished <= said.size()); });
+        connect(&job, &ReadJob::signalProgress, this, [&] { QVERIFY(!said.contains("finished")); });
+        connect(&job, &ReadJob::signalFinished, this, [&] { said.append("finished"); });
+        job.start();
+        QTRY_VERIFY(!said.isEmpty() && said.last() == "finished");
+        QTest::qWait(50); // what was asked is answered
+        QCOMPARE(said.size(), 61);
+        QCOMPARE(said.removeDuplicates(), 0);
+        QVERIFY(!site.journal->isBusy());
+    }
+
+    void suddenEnd_data() { seeds(qMax(5, qEnvironmentVariableIntValue("ORDA_STORM_SEEDS"))); }
+
+    void suddenEnd()
+    {
+        QFETCH(int, seed);
+        QRandomGenerator random{quint32(seed)};
+        const CfgFamily &family = Families::all().at(1 + random.bounded(Families::all().size() - 1)).family;
+        FleetOptions options = fleetOf(100, quint32(seed));
+        options.latency = 2ms;
+        Site site(options);
+        const QJsonObject before = site.devices();
+        const QString inventory = site.place.filePath("inventory.json");
+        QCOMPARE(vms_sdk::writeInventory(inventory, site.inventory), "");
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QCoreApplication::applicationFilePath(),
+                      {"apply", inventory, site.history(), family.name, QString::number(site.online)});
+        QVERIFY(process.waitForReadyRead());
+        QThread::usleep(random.bounded(150'000U));
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        QTRY_COMPARE(site.fleet.connectedDevices(), 0); // they have read everything
+        const QJsonObject after = site.devices();
+        const RunDetails killed = site.run("last");
+        QVERIFY(site.isKnown(killed, family, before));
+        if (killed.run.id.isEmpty())
+            return; // it had not even begun
+
+        QVERIFY(site.open());
+        takenBack(site, killed);
+        QCOMPARE(site.devices(), before);
+        const RunDetails ended = site.run(killed.run.id);
+        QVERIFY(ended.run.ended > 0);
+        const QList<int> counts = ended.run.counts.values();
+        QCOMPARE(std::accumulate(counts.begin(), counts.end(), 0), 100);
+        for (const DeviceRow &row : ended.devices)
+            QVERIFY(mayHaveChanged(row.outcome.value()) || before[row.devId] == after[row.devId]);
+    }
+
+    void fullDisk()
+    {
+        allowWarnings("history.db");
+        Site site(fleetOf(200));
+        QVERIFY(site.open());
+        const Selection selection = selectionOf("audio", site.inventory);
+        const QJsonObject before = site.devices();
+        rlimit limit{};
+        ::getrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit small{300 * 1024, limit.rlim_max};
+        std::signal(SIGXFSZ, SIG_IGN);
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+        ApplyJob job(site.journal, selection, inWaves("50"));
+        const Ran ran(site, job, false);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        QVERIFY(ran.stops == 1 && site.devices() != before);
+        for (const DeviceRow &row : ran.rows)
+            QVERIFY(row.code != orda_batchCfg::ParamsCfgTask::TimedOut);
+        QVERIFY(ran.waves.size() < 4);
+        QVERIFY(site.isKnown(site.run(job.runId()), *selection.family, before));
+        takenBack(site, site.run(job.runId())); // the history is written again
+        QCOMPARE(site.devices(), before);
+    }
+
+    void whoCanBeWrittenTo()
+    {
+        constexpr quint32 seed = 1;
+        allowWarnings("refused|serial"); // by the devices that are made to
+        Site site(fleetOf(400, seed));
+        QMap<QString, QString> reasons; // "" for devices that can be written to
+        QStringList wrong{"refused: user name or password", "the serial number is another one", "connection refused"};
+        for (int i = 0; i < site.inventory.size(); ++i) {
+            vms_sdk::DevInfo &info = site.inventory[i];
+            const SiteDevice device = makeSiteDevice(seed, i);
+            const bool isWeak = info.password.size() < 12;
+            QString &reason = reasons[info.id];
+            reason = info.accessCode != 1                        ? "not reached directly"
+                   : info.kindCode != 1 && info.kindCode != 6    ? "neither a camera nor a recorder"
+                   : !device.online                              ? "off line"
+                   : !info.ip.isEmpty()                          ? ""
+                   : device.state == vms_sdk::DevDefaultPassword ? "no IP address, and still with its factory"
+                   : device.state == vms_sdk::DevLocked          ? "no IP address, and locked"
+                   : isWeak                                      ? "no IP address, and a weak password"
+                                                                 : "";
+            if (!reason.isEmpty() || info.ip.isEmpty() || wrong.isEmpty())
+                continue;
+            reason = wrong.takeFirst();
+            info.password += reason.contains("password") ? "!" : "";
+            info.serialNumber += reason.contains("serial") ? "!" : "";
+            info.port = reason.contains("connection") ? 1 : info.port;
+            --site.online;
+        }
+        QVERIFY(site.open());
+        ApplyJob job(site.journal, selectionOf("osd", site.inventory));
+        const Ran ran(site, job);
+        for (const DeviceRow &row : ran.rows) {
+            const QString reason = reasons[row.devId];
+            QCOMPARE(*row.outcome == Outcome::NotReached, !reason.isEmpty());
+            QVERIFY2(row.message.contains(reason), qPrintable(row.devId + ": " + row.message + ", not " + reason));
+            QCOMPARE(site.asked.contains(row.devId), reason.isEmpty());
+        }
+        const QStringList all = reasons.values();
+        QCOMPARE(QSet<QString>(all.begin(), all.end()).size(), 9);
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_NO_GLIB", "1");
+    const QCoreApplication app(argc, argv); // the engine needs no more
+    if (QCoreApplication::arguments().value(1) == "apply")
+        return applyUntilKilled(QCoreApplication::arguments());
+    EngineTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "engine_test.moc"
