@@ -247,6 +247,11 @@ private slots:
         QCOMPARE((lines << QString("already %1").arg(plan.alreadySo)).join("; "), field("plan"));
 
         lines = described("wrong ", differencesOf(family, flags, values, sent, held));
+        for (const int place : places) {
+            const CfgExchange &exchange = family.exchanges.at(place);
+            const QJsonObject was = exchange.membersOf(before[place]), is = exchange.membersOf(held[place]);
+            QCOMPARE(exchange.membersOf(exchange.withMembers(held[place], was)), mergeKnownKeys(is, was));
+        }
         DeviceUndo undo = undoOf(family, before, sent, held, false), forced = undoOf(family, before, sent, held, true);
         QCOMPARE(changesNothing(family, before, sent), plan.changes.isEmpty() && plan.added.isEmpty());
         for (auto it = undo.begin(); it != undo.end(); ++it) {
