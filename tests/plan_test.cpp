@@ -170,8 +170,10 @@ private slots:
 
         const ObjectsByExchange before = device.read(flags, values);
         ObjectsByExchange reached = before, notReached, sent;
-        while (reached.size() > 1 && random() % 3 == 0) // the run ends before its last exchange
-            notReached.insert(reached.lastKey(), reached.take(reached.lastKey()));
+        while (reached.size() > 1 && random() % 3 == 0) { // the run ends before its last exchange
+            const int last = reached.lastKey();
+            notReached.insert(last, reached.take(last));
+        }
         const DevicePlan plan = planOf(family, flags, values, reached);
         for (auto it = reached.begin(); it != reached.end(); ++it) {
             sent.insert(it.key(), family.exchanges.at(it.key()).setParam(values, *it));
