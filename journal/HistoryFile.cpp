@@ -133,8 +133,8 @@ bool HistoryFile::connectToWrite()
         fail(Unusable, tr("%1: it was written by a newer version of this program").arg(m_options.path));
     if (m_fault != NoFault)
         return false;
-    // The first of these has an effect on an empty file only; removed runs then make the file smaller.
-    run(QStringLiteral("PRAGMA auto_vacuum = INCREMENTAL"));
+    if (version == 0) // before the first table: removed runs then make the file smaller
+        run(QStringLiteral("PRAGMA auto_vacuum = INCREMENTAL"));
     const QString mode = value(QStringLiteral("PRAGMA journal_mode = WAL")).toString();
     if (m_fault == NoFault && mode != QLatin1String("wal"))
         fail(Unusable, tr("%1: it cannot be shared by several processes there").arg(m_options.path));

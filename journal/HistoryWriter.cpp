@@ -111,8 +111,10 @@ HistoryWriter::HistoryWriter(const HistoryOptions &options, QObject *parent)
 
 HistoryWriter::~HistoryWriter()
 {
-    if (!m_thread->end())
-        m_thread.release(); // it hangs in a call of the system
+    if (!m_thread->end()) {
+        const Thread *const hanging = m_thread.release(); // in a call of the system, and still uses what it has
+        Q_UNUSED(hanging)
+    }
 }
 
 quint64 HistoryWriter::beginRun(const RunStart &run)

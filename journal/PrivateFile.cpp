@@ -37,7 +37,7 @@ QString makeDirectories(const QString &path)
     if (QFileInfo::exists(path))
         return {};
     const QString above = QFileInfo(path).path();
-    const QString why = above == path ? QString() : makeDirectories(above);
+    QString why = above == path ? QString() : makeDirectories(above);
     if (!why.isEmpty() || ::mkdir(QFile::encodeName(path).constData(), S_IRWXU) == 0 || errno == EEXIST)
         return why;
     return faultOfSystem(path);
@@ -94,7 +94,7 @@ QString makePrivateFile(const QString &path)
     }
     if (errno != EEXIST)
         return faultOfSystem(path);
-    const QString why = refusalOfFile(path);
+    QString why = refusalOfFile(path);
     if (!why.isEmpty())
         return why;
     struct stat info = {};
@@ -129,7 +129,7 @@ QString FileLock::take(const QString &path, std::chrono::milliseconds timeout)
             m_path = path;
             return {};
         }
-        const QString why = isBusy ? fault(path, Texts::tr("another process has it locked")) : faultOfSystem(path);
+        QString why = isBusy ? fault(path, Texts::tr("another process has it locked")) : faultOfSystem(path);
         ::close(fd);
         if (isLocked)
             continue; // whoever had it has removed the file: this is the lock of none

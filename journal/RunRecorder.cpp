@@ -40,11 +40,10 @@ void RunRecorder::writeTogether(Place first, Place last)
     const bool begins = is<RunBegin>(*first);
     if (begins) {
         forgetRun();
-        m_isLost = false;
         m_runId = first->runId;
     }
-    if (m_isLost || m_runId.isEmpty())
-        return;
+    if (m_runId.isEmpty())
+        return; // the run was lost
     bool isWritten = (!begins || makeReady()) && transaction(first, last);
     if (!isWritten && begins && m_file.fault() == HistoryFile::Damaged) // nothing of this run is in the damaged file
         isWritten = setAside() && makeReady() && transaction(first, last);
@@ -146,7 +145,6 @@ void RunRecorder::loseRun()
         setAside();
     forgetRun();
     m_file.close();
-    m_isLost = true;
     m_reports.failed(tr("The history cannot be written. %1").arg(why));
 }
 

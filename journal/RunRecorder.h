@@ -39,10 +39,9 @@ private:
 
     HistoryFile m_file;
     Reports m_reports;
-    QString m_runId; // of the run that was begun last; it stays for late answers
+    QString m_runId; // of the run that was begun last, for late answers after its end too; empty when that was lost
     FileLock m_runLock; // as long as the run is under way
     std::unique_ptr<RunRows> m_rows;
-    bool m_isLost = false; // nothing more of the run is written
     bool m_isDamaged = false; // found after the end of a run; set aside before the next
 };
 
