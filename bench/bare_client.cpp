@@ -23,6 +23,8 @@
 
 // The least that a client on QtWebSockets can be: connects to all devices of an inventory, configures the OSD of each
 // over the same texts with the same pause, prints what that took, and ends. No store, no time-outs, no form.
+//   bare_client INVENTORY [--read]
+// With --read it reads only.
 
 namespace {
 
@@ -36,8 +38,9 @@ class BareDevice : public QObject
 public:
     using Done = std::function<void()>;
 
-    BareDevice(const vms_sdk::DevInfo &device, const Done &isOnline, const Done &isConfigured)
-        : m_url(vms_sdk::deviceUrl(device))
+    BareDevice(const vms_sdk::DevInfo &device, bool onlyReads, const Done &isOnline, const Done &isConfigured)
+        : m_onlyReads(onlyReads)
+        , m_url(vms_sdk::deviceUrl(device))
         , m_signOn(device)
         , m_isOnline(isOnline)
         , m_isConfigured(isConfigured)
@@ -79,12 +82,17 @@ private:
             if (!osd_exchange::isAccepted(text))
                 qFatal("a device refused to be configured");
             m_isConfigured();
+        } else if (m_onlyReads) {
+            if (osd_exchange::writeRequest(text).isEmpty()) // what a plan works out, too
+                qFatal("a device refused to be read");
+            m_isConfigured();
         } else {
             const QString write = osd_exchange::writeRequest(text);
             QTimer::singleShot(10ms, this, [this, write] { send(write); });
         }
     }
 
+    bool m_onlyReads;
     QUrl m_url;
     QWebSocket m_socket;
     vms_sdk::ClientSignOn m_signOn;
@@ -117,6 +125,7 @@ int main(int argc, char *argv[])
     if (!inventory.error.isEmpty() || inventory.devices.isEmpty())
         qFatal("bare_client INVENTORY: %s", qPrintable(inventory.error));
 
+    const bool onlyReads = QCoreApplication::arguments().contains(QStringLiteral("--read"));
     std::vector<std::unique_ptr<BareDevice>> devices;
     std::size_t dialled = 0;
     std::size_t online = 0;
@@ -146,7 +155,7 @@ int main(int argc, char *argv[])
         }
     };
     for (const vms_sdk::DevInfo &dev : inventory.devices)
-        devices.push_back(std::make_unique<BareDevice>(dev, isOnline, isConfigured));
+        devices.push_back(std::make_unique<BareDevice>(dev, onlyReads, isOnline, isConfigured));
     for (int i = 0; i < settingUpAtOnce; ++i)
         dialNext();
     return QCoreApplication::exec();

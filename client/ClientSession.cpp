@@ -27,9 +27,8 @@ ClientSession::ClientSession(const orda_journal::HistoryOptions &history, QObjec
                                                       std::make_unique<orda_journal::HistoryWriter>(history));
     m_journal = journal.get();
     m_pageWatch = new orda_journal::PageWatch(m_journal, this);
-    connect(m_journal, &JournalTransport::signalHistoryFailed, this, [this](const QString &why) {
-        emit signalAlert(tr("The history of runs cannot be written, so nothing is written to devices: %1").arg(why));
-    });
+    connect(m_journal, &JournalTransport::signalHistoryFailed, this,
+            [this](const QString &why) { emit signalAlert(tr("%1\nNothing more is written to devices.").arg(why)); });
     connect(m_journal, &JournalTransport::signalHistorySetAside, this, &ClientSession::signalAlert);
     connect(m_pageWatch, &orda_journal::PageWatch::signalDeclined, this, &ClientSession::signalAlert);
     vms_sdk::ClientSdk::instance().setTransport(std::move(journal));

@@ -73,7 +73,10 @@ int main(int argc, char *argv[])
                       : options.theme == QLatin1String("dark") ? Theme::Dark
                                                                : Theme::Light);
 
-    ClientSession session(orda_journal::HistoryOptions{});
+    QString warning;
+    ClientSession session(orda_journal::HistoryOptions::configured(&warning));
+    if (!warning.isEmpty())
+        complain(warning);
     QObject::connect(&session, &ClientSession::signalWarning, &app, complain);
     ClientWindow window(&session);
     window.show();

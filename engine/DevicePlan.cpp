@@ -28,9 +28,11 @@ DevicePlan planOf(const CfgFamily &family, int flags, const QJsonObject &values,
         const QJsonObject settings = exchange.settings(param);
         for (auto it = settings.begin(); it != settings.end(); ++it) {
             const QString name = exchange.nameInValues(it.key());
-            if (asked.contains(name) && !changing.contains(it.key()))
-                ++plan.alreadySo;
+            if (!asked.contains(name))
+                continue;
             written.insert(name);
+            if (!changing.contains(it.key()))
+                ++plan.alreadySo;
         }
         for (auto it = asked.begin(); it != asked.end(); ++it)
             lacking.insert(it.key());

@@ -17,11 +17,12 @@ struct ExchangeUndo
 /// By exchange, those that the run has changed or may have changed.
 using DeviceUndo = QMap<int, ExchangeUndo>;
 
+/// @param place of the exchange
 /// @param before what the device held before its write
 /// @param sent "param" of the write
 /// @param held what the device holds now
 /// @param force puts back what was changed since, too, as far as the device still has it
-ExchangeUndo undoOf(const orda_batchCfg::CfgFamily &family, int exchange, const QJsonObject &before,
+ExchangeUndo undoOf(const orda_batchCfg::CfgFamily &family, int place, const QJsonObject &before,
                     const QJsonObject &sent, const QJsonObject &held, bool force);
 
 /// All exchanges of a device, also one that was written only in part: an exchange that is missing in one of the three

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <chrono>
@@ -8,8 +9,16 @@ namespace orda_journal {
 
 struct HistoryOptions
 {
+    Q_DECLARE_TR_FUNCTIONS(orda_journal::HistoryOptions)
+
+public:
     /// $XDG_STATE_HOME/orda/history.db, where XDG_STATE_HOME is ~/.local/state unless it is set to an absolute path.
     static QString defaultPath();
+
+    /// With keptDays and keptMegabytes as the user has set them in orda/history.ini of the configuration directory
+    /// ($XDG_CONFIG_HOME, else ~/.config); without the file as they are here.
+    /// @param warning what of the file is not used, for the user; else empty
+    static HistoryOptions configured(QString *warning);
 
     QString path = defaultPath();
     int keptDays = 90; ///< older runs are removed …

@@ -134,7 +134,7 @@ TrackedRun::Answer TrackedRun::takeAnswer(const QString &requestId, const QStrin
     QJsonParseError fault{};
     const QJsonObject answer = QJsonDocument::fromJson(text.toUtf8(), &fault).object();
     if (fault.error != QJsonParseError::NoError) {
-        const Result result{ParamsCfgTask::NotJson, ParamsCfgTask::tr("Failed to parse json data")};
+        const Result result{ParamsCfgTask::NotJson, ParamsCfgTask::notJsonText()};
         return {place, -1, false, false, result};
     }
     const QString method = answer.value(QLatin1String("method")).toString();
@@ -170,7 +170,7 @@ std::optional<Result> TrackedRun::resultOfRead(const Device &device, int exchang
     if (!family.checkWhenBack || !tracked.hasLeft)
         return {};
     if (family.holds(tracked.sent, held))
-        return Result{ParamsCfgTask::Success, ParamsCfgTask::tr("success")};
+        return Result{ParamsCfgTask::Success, ParamsCfgTask::successText()};
     return Result{ParamsCfgTask::NotVerified,
                   m_family.translated(family.setFailure).arg(int(ParamsCfgTask::NotVerified))};
 }
@@ -180,7 +180,7 @@ std::optional<Result> TrackedRun::resultOfWrite(int device, int exchange, int co
     if (code != 0)
         return Result{code, m_family.translated(m_family.exchanges.at(exchange).setFailure).arg(code)};
     if (exchange == lastExchange(device))
-        return Result{ParamsCfgTask::Success, ParamsCfgTask::tr("success")};
+        return Result{ParamsCfgTask::Success, ParamsCfgTask::successText()};
     return {};
 }
 

@@ -45,7 +45,8 @@ struct Device
     ObjectsByExchange read(int flags, const QJsonObject &values)
     {
         ObjectsByExchange held;
-        for (const int place : family.exchangesOf(flags)) {
+        const QVector<int> places = family.exchangesOf(flags);
+        for (const int place : places) {
             const CfgExchange &exchange = family.exchanges.at(place);
             QJsonObject request{{"method", exchange.getMethod}};
             if (exchange.getParam)
@@ -229,7 +230,8 @@ private slots:
         for (const CfgKey &key : family.keys)
             flags |= values.contains(key.name) ? key.flag : 0;
         ObjectsByExchange before, sent, held;
-        for (const int place : family.exchangesOf(flags)) {
+        const QVector<int> places = family.exchangesOf(flags);
+        for (const int place : places) {
             const CfgExchange &exchange = family.exchanges.at(place);
             before.insert(place, parsed(field("before"))[place].toObject());
             sent.insert(place, exchange.setParam(values, before[place]));
@@ -237,7 +239,8 @@ private slots:
         }
         const DevicePlan plan = planOf(family, flags, values, before);
         QStringList lines;
-        for (const MemberChange &change : plan.changes + plan.added)
+        const QVector<MemberChange> changes = plan.changes + plan.added;
+        for (const MemberChange &change : changes)
             lines << line(change.exchange, change.member, change.before, change.after);
         for (const QString &member : plan.lacking)
             lines << "lacks " + member;
@@ -248,7 +251,7 @@ private slots:
         QCOMPARE(changesNothing(family, before, sent), plan.changes.isEmpty() && plan.added.isEmpty());
         for (auto it = undo.begin(); it != undo.end(); ++it) {
             lines << described("left ", it->changedSince) << described("stays ", it->notRemovable);
-            for (const QString &member : it->alreadyBack)
+            for (const QString &member : qAsConst(it->alreadyBack))
                 lines << QString("%1 already %2").arg(it.key()).arg(member);
             if (it->goBack != forced[it.key()].goBack)
                 lines << "forced " + forced[it.key()].goBack.keys().join(',');

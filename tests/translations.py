@@ -60,7 +60,7 @@ def faults(file):
 
 def main():
     found = []
-    for part in ("batchCfg", "clientlibs", "client"):
+    for part in ("batchCfg", "clientlibs", "journal", "engine", "client"):
         files = catalogues(part)
         if "--update" in sys.argv:
             update(part, files)

@@ -138,7 +138,7 @@ std::optional<CfgExchange::EntryMember> CfgExchange::entryMember(const QString &
     const QString number = member.mid(listPrefix.size(), dot - listPrefix.size());
     const int bracket = number.indexOf(QLatin1Char('('));
     bool isNumber = false;
-    const int id = number.left(bracket).toInt(&isNumber);
+    const int id = number.leftRef(bracket).toInt(&isNumber);
     if (!isNumber)
         return std::nullopt;
     return EntryMember{id, bracket < 0, member.mid(dot + 1)};
@@ -146,6 +146,8 @@ std::optional<CfgExchange::EntryMember> CfgExchange::entryMember(const QString &
 
 QString CfgExchange::nameInValues(const QString &member) const
 {
+    if (!member.contains(QLatin1Char('(')))
+        return member; // nearly all of them, and this is asked for each
     const auto entry = entryMember(member);
     return entry ? QStringLiteral("%1%2.%3").arg(listPrefix).arg(entry->id).arg(entry->key) : member;
 }

@@ -44,6 +44,16 @@ ParamsCfgTask::ParamsCfgTask(const CfgFamily &family, const QString &devId, cons
     TaskRouter::instance().add(this);
 }
 
+QString ParamsCfgTask::successText()
+{
+    return tr("success");
+}
+
+QString ParamsCfgTask::notJsonText()
+{
+    return tr("Failed to parse json data");
+}
+
 ParamsCfgTask::~ParamsCfgTask()
 {
     if (!m_finished)
@@ -92,7 +102,7 @@ void ParamsCfgTask::handleAnswer(const QString &text)
     QJsonParseError parseError{};
     const QJsonObject answer = QJsonDocument::fromJson(text.toUtf8(), &parseError).object();
     if (parseError.error != QJsonParseError::NoError) {
-        finish(tr("Failed to parse json data"), NotJson);
+        finish(notJsonText(), NotJson);
         return;
     }
     const QString method = answer.value(QLatin1String("method")).toString();
@@ -164,14 +174,14 @@ void ParamsCfgTask::goOnAfter(int exchange)
     if (next >= 0)
         TaskRouter::instance().callLater(this, &ParamsCfgTask::sendRead, next);
     else
-        finish(tr("success"), Success);
+        finish(successText(), Success);
 }
 
 void ParamsCfgTask::checkSettings(int exchange)
 {
     const CfgExchange &e = m_family.exchanges.at(exchange);
     if (e.holds(m_checked, m_devParams))
-        finish(tr("success"), Success);
+        finish(successText(), Success);
     else
         finish(m_family.translated(e.setFailure).arg(int(NotVerified)), NotVerified);
 }

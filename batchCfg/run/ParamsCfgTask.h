@@ -28,6 +28,10 @@ public:
         TimedOut = -61004, ///< the SDK gave up waiting
     };
 
+    // Messages of results that are the same in all families.
+    static QString successText();
+    static QString notJsonText();
+
     ~ParamsCfgTask() override;
 
     QString requestId() const { return m_requestId; }

@@ -104,6 +104,15 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSession</name>
+    <message>
+        <source>%1
+Nothing more is written to devices.</source>
+        <translation>%1
+Auf Geräte wird nichts mehr geschrieben.</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientWindow</name>
     <message>
         <source>offline</source>

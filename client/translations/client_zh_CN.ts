@@ -104,6 +104,15 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSession</name>
+    <message>
+        <source>%1
+Nothing more is written to devices.</source>
+        <translation>%1
+不会再向设备写入任何内容。</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientWindow</name>
     <message>
         <source>offline</source>

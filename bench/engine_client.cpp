@@ -1,0 +1,228 @@
+#include "OsdExchange.h"
+
+#include <engine/ApplyJob.h>
+#include <engine/ReadJob.h>
+#include <families/Families.h>
+#include <journal/HistoryReader.h>
+#include <journal/HistoryWriter.h>
+#include <journal/JournalTransport.h>
+#include <orda_data/DataSignals.h>
+#include <orda_data/DevsMgrData.h>
+#include <run/CfgRun.h>
+#include <run/ParamsCfgTask.h>
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/Inventory.h>
+#include <vms_client_sdk/OpenFiles.h>
+#include <vms_client_sdk/WebSocketTransport.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+#include <QTimer>
+#include <QUuid>
+
+#include <chrono>
+#include <ctime>
+#include <memory>
+
+// The OSD of all devices of an inventory by the engine, without a form: prints what it took as JSON, and ends.
+//   engine_client plan|apply|apply-unrecorded|tasks INVENTORY
+// "apply" has the history (in XDG_STATE_HOME), "apply-unrecorded" the engine without it, "tasks" the tasks alone, as a
+// page starts them, with nothing between SDK and network.
+//   engine_client history RUNS DEVICES
+// Writes so many runs over so many devices into the history and reads the list of them.
+
+namespace {
+
+using namespace std::chrono_literals;
+using orda_batchCfg::CfgRun;
+using orda_engine::ApplyJob;
+using orda_engine::ReadJob;
+using orda_engine::Selection;
+using orda_journal::JournalTransport;
+
+Selection osdOf(const QList<vms_sdk::DevInfo> &devices)
+{
+    Selection selection;
+    for (const orda_batchCfg::FamilyEntry &entry : orda_batchCfg::Families::all())
+        if (entry.family.name == QLatin1String("osd"))
+            selection.family = &entry.family;
+    for (const vms_sdk::DevInfo &dev : devices)
+        selection.devIds.append(dev.id);
+    selection.values = {{QStringLiteral("bShowOSD"), false},
+                        {QStringLiteral("timeFormat"), QStringLiteral("YYYY-MM-DD hh:mm:ss")},
+                        {QStringLiteral("timePos"), QStringLiteral("left_top")},
+                        {QStringLiteral("channelName"), QStringLiteral("HD IPC")},
+                        {QStringLiteral("position"), QStringLiteral("left_top")},
+                        {QStringLiteral("bLargeOSD"), false}};
+    return selection;
+}
+
+// Once in the life of the process: the most memory that it has had.
+int peakKiB()
+{
+    QFile file(QStringLiteral("/proc/self/status"));
+    file.open(QIODevice::ReadOnly);
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    for (const QByteArray &line : lines)
+        if (line.startsWith("VmHWM:"))
+            return line.simplified().split(' ').value(1).toInt();
+    return 0;
+}
+
+class Measurement : public QObject
+{
+public:
+    Measurement(const QString &mode, const QList<vms_sdk::DevInfo> &devices)
+        : m_mode(mode)
+        , m_selection(osdOf(devices))
+    {
+        auto network = std::make_unique<vms_sdk::WebSocketTransport>();
+        vms_sdk::WebSocketTransport *connections = network.get();
+        std::unique_ptr<vms_sdk::DeviceTransport> transport = std::move(network);
+        if (mode != QLatin1String("tasks")) {
+            auto history = mode == QLatin1String("apply") ? std::make_unique<orda_journal::HistoryWriter>() : nullptr;
+            auto journal = std::make_unique<JournalTransport>(std::move(transport), std::move(history));
+            m_journal = journal.get();
+            transport = std::move(journal);
+        }
+        vms_sdk::ClientSdk::instance().setTransport(std::move(transport));
+        connect(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged, this,
+                [this](const QString &, vms_sdk::DevStatus status) {
+                    if (vms_sdk::isOnlineStatus(status) && ++m_online == m_selection.devIds.size())
+                        QTimer::singleShot(200ms, this, &Measurement::begin);
+                });
+        orda_data::DevsMgrData::instance().updateDevs(devices);
+        connections->setDevices(devices);
+    }
+
+private:
+    void begin()
+    {
+        m_connectedKiB = peakKiB();
+        m_cpu = std::clock();
+        m_clock.start();
+        if (m_mode == QLatin1String("plan"))
+            plan();
+        else if (m_mode == QLatin1String("tasks"))
+            runTasks();
+        else
+            apply();
+    }
+
+    void plan()
+    {
+        auto *job = new ReadJob(m_journal, m_selection, this);
+        connect(job, &ReadJob::signalRead, this, [this](const orda_engine::DeviceReading &reading) {
+            const auto plan = orda_engine::planOf(*m_selection.family, m_selection.flagsOf(reading.devId),
+                                                  m_selection.values, reading.held);
+            m_good += reading.isRead() && plan.changes.size() + plan.alreadySo > 0 ? 1 : 0;
+        });
+        connect(job, &ReadJob::signalFinished, this, &Measurement::end);
+        job->start();
+    }
+
+    void apply()
+    {
+        auto *job = new ApplyJob(m_journal, m_selection, {}, this);
+        connect(job, &ApplyJob::signalOutcome, this,
+                [this](const orda_journal::Settled &settled) { m_good += settled.row.code == 0 ? 1 : 0; });
+        connect(job, &ApplyJob::signalFinished, this, &Measurement::end);
+        job->start();
+    }
+
+    void runTasks()
+    {
+        m_run = std::make_unique<CfgRun>(m_selection.devIds.size());
+        connect(m_run.get(), &CfgRun::signalResult, this, [this](const QString &, const QString &, int code) {
+            m_good += code == 0 ? 1 : 0;
+            if (m_run->isOver())
+                end();
+        });
+        m_run->start(m_selection.devIds, [this](const QString &devId) {
+            return m_selection.family->createTask(devId, m_selection.values, 0, this);
+        });
+    }
+
+    void end()
+    {
+        const double runMs = double(m_clock.nsecsElapsed()) / 1e6;
+        const double cpuMs = double(std::clock() - m_cpu) * 1e3 / CLOCKS_PER_SEC; // of all threads
+        if (m_good != m_selection.devIds.size())
+            qFatal("only %d of %d devices", m_good, m_selection.devIds.size());
+        QTextStream(stdout) << QJsonDocument({{QStringLiteral("runMs"), runMs},
+                                              {QStringLiteral("cpuMs"), cpuMs},
+                                              {QStringLiteral("connectedKiB"), m_connectedKiB},
+                                              {QStringLiteral("peakKiB"), peakKiB()}})
+                                   .toJson(QJsonDocument::Compact)
+                            << Qt::endl;
+        if (m_mode == QLatin1String("apply"))
+            vms_sdk::ClientSdk::instance().setTransport(nullptr); // the history is whole
+        std::_Exit(0); // closing thousands of sockets is not measured
+    }
+
+    QString m_mode;
+    Selection m_selection;
+    JournalTransport *m_journal = nullptr;
+    std::unique_ptr<CfgRun> m_run;
+    QElapsedTimer m_clock;
+    std::clock_t m_cpu = 0;
+    int m_online = 0;
+    int m_connectedKiB = 0;
+    int m_good = 0;
+};
+
+void listHistory(int runs, int devices)
+{
+    {
+        orda_journal::HistoryWriter writer;
+        for (int run = 0; run < runs; ++run) {
+            orda_journal::RunStart start;
+            start.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+            start.family = QStringLiteral("osd");
+            start.kind = QStringLiteral("apply");
+            for (int device = 0; device < devices; ++device)
+                start.devIds.append(QStringLiteral("dev-%1").arg(device));
+            writer.beginRun(start);
+            for (const QString &devId : qAsConst(start.devIds)) {
+                writer.putExchange(start.id, {devId, 0, osd_exchange::readAnswer(), osd_exchange::readAnswer(), {}});
+                orda_journal::DeviceRow row;
+                row.devId = devId;
+                row.outcome = orda_journal::Outcome::Done;
+                writer.putDevice(start.id, row);
+            }
+            writer.endRun(start.id);
+        }
+    }
+    QElapsedTimer clock;
+    clock.start();
+    orda_journal::HistoryReader reader;
+    const QVector<orda_journal::RunRow> rows = reader.runs();
+    const double listMs = double(clock.nsecsElapsed()) / 1e6;
+    if (rows.size() != runs || rows.constFirst().counts.value(orda_journal::Outcome::Done) != devices)
+        qFatal("the history has %d runs: %s", rows.size(), qPrintable(reader.error()));
+    QTextStream(stdout) << QJsonDocument(QJsonObject{{QStringLiteral("listMs"), listMs}}).toJson(QJsonDocument::Compact)
+                        << Qt::endl;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_NO_GLIB", "1"); // as the programs do
+    const QCoreApplication app(argc, argv);
+    vms_sdk::raiseOpenFileLimit();
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("history")) {
+        listHistory(arguments.value(2).toInt(), arguments.value(3).toInt());
+        return 0;
+    }
+    const vms_sdk::Inventory inventory = vms_sdk::readInventory(arguments.value(2));
+    if (!inventory.error.isEmpty() || inventory.devices.isEmpty())
+        qFatal("engine_client MODE INVENTORY: %s", qPrintable(inventory.error));
+    const Measurement measurement(arguments.value(1), inventory.devices);
+    return QCoreApplication::exec();
+}
