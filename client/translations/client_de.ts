@@ -106,10 +106,8 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
 <context>
     <name>orda_client::ClientSession</name>
     <message>
-        <source>%1
-Nothing more is written to devices.</source>
-        <translation>%1
-Auf Geräte wird nichts mehr geschrieben.</translation>
+        <source>%1. Nothing was written to devices after that.</source>
+        <translation>%1. Danach wurde auf Geräte nichts mehr geschrieben.</translation>
     </message>
 </context>
 <context>

@@ -106,10 +106,8 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
 <context>
     <name>orda_client::ClientSession</name>
     <message>
-        <source>%1
-Nothing more is written to devices.</source>
-        <translation>%1
-不会再向设备写入任何内容。</translation>
+        <source>%1. Nothing was written to devices after that.</source>
+        <translation>%1。此后未再向设备写入任何内容。</translation>
     </message>
 </context>
 <context>
