@@ -15,6 +15,8 @@
 
 #include <QWidget>
 
+#include <utility>
+
 namespace orda_client {
 
 ClientSession::ClientSession(const orda_journal::HistoryOptions &history, QObject *parent)
@@ -27,9 +29,13 @@ ClientSession::ClientSession(const orda_journal::HistoryOptions &history, QObjec
                                                       std::make_unique<orda_journal::HistoryWriter>(history));
     m_journal = journal.get();
     m_pageWatch = new orda_journal::PageWatch(m_journal, this);
+    // After the run's summary, which would hide it.
     connect(m_journal, &JournalTransport::signalHistoryFailed, this, [this](const QString &why) {
-        emit signalAlert(tr("The history of runs cannot be written, so nothing is written to devices: %1").arg(why));
+        m_historyFault = tr("%1. Nothing was written to devices after that.").arg(why);
+        if (!m_journal->isBusy())
+            tellHistoryFault();
     });
+    connect(m_journal, &JournalTransport::signalRunEnded, this, &ClientSession::tellHistoryFault);
     connect(m_journal, &JournalTransport::signalHistorySetAside, this, &ClientSession::signalAlert);
     connect(m_pageWatch, &orda_journal::PageWatch::signalDeclined, this, &ClientSession::signalAlert);
     vms_sdk::ClientSdk::instance().setTransport(std::move(journal));
@@ -101,6 +107,12 @@ void ClientSession::watchPages(const QObject *form)
     for (const orda_batchCfg::FamilyEntry &family : orda_batchCfg::Families::all())
         if (auto *page = form->findChild<QWidget *>(QLatin1String(family.pageName)))
             m_pageWatch->watch(page);
+}
+
+void ClientSession::tellHistoryFault()
+{
+    if (!m_historyFault.isEmpty())
+        emit signalAlert(std::exchange(m_historyFault, {}));
 }
 
 void ClientSession::connectAgain()

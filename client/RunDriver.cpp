@@ -69,8 +69,8 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
     connect(&assistant, &orda_worker::AssistantSignals::signalMessageAlerted, this,
             [this](const QString &, const QString &text) {
                 complain(text);
-                if (m_window->findChild<QWidget *>(m_family->pageName)->property("run").isValid())
-                    return; // the run goes on to its summary
+                if (m_hasSummary)
+                    return; // it is about the run that has just ended
                 end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? ExitNoDevice : ExitRecordInUse);
             });
 }

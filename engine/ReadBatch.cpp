@@ -16,7 +16,7 @@ ReadBatch::ReadBatch(const Selection &selection, QObject *parent)
 
 ReadBatch::~ReadBatch() = default;
 
-void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &flags)
+void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &ownFlags)
 {
     m_run = std::make_unique<CfgRun>(devIds.size());
     connect(m_run.get(), &CfgRun::signalResult, this, [this](const QString &devId, const QString &message, int code) {
@@ -24,9 +24,14 @@ void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &flag
         if (m_run && m_run->isOver())
             QMetaObject::invokeMethod(this, &ReadBatch::signalFinished, Qt::QueuedConnection);
     });
-    m_run->start(devIds, [this, &flags](const QString &devId) {
-        auto *task = new ReadTask(*m_selection.family, devId, m_selection.readValuesOf(devId),
-                                  flags.value(devId, m_selection.flagsOf(devId)), this);
+    // Nearly all devices are asked the same: it is worked out once.
+    const QJsonObject values = m_selection.readValuesFor(m_selection.values);
+    const int flags = m_selection.flagsFor(m_selection.values);
+    m_run->start(devIds, [this, &ownFlags, &values, flags](const QString &devId) {
+        const auto own = m_selection.ownValues.constFind(devId);
+        const bool isAsOthers = own == m_selection.ownValues.constEnd();
+        auto *task = new ReadTask(*m_selection.family, devId, isAsOthers ? values : m_selection.readValuesFor(*own),
+                                  ownFlags.value(devId, isAsOthers ? flags : m_selection.flagsFor(*own)), this);
         m_tasks.insert(devId, task);
         return task;
     });

@@ -25,8 +25,8 @@ public:
     ~ReadBatch() override;
 
     /// Sends the first requests. @param devIds at least one
-    /// @param flags by device id: of the exchanges to read, in place of those that the selection needs
-    void start(const QStringList &devIds, const QHash<QString, int> &flags = {});
+    /// @param ownFlags by device id: of the exchanges to read, in place of those that the selection needs
+    void start(const QStringList &devIds, const QHash<QString, int> &ownFlags = {});
     /// No signal comes any more. May be called from inside one.
     void cancel();
 

@@ -87,7 +87,7 @@ int other(const QStringList &arguments)
         return 0;
     }
     Writing writing(options);
-    QObject::connect(&writing.writer, &HistoryWriter::signalCommitted, qApp, [&writing](quint64 ticket) {
+    QObject::connect(&writing.writer, &HistoryWriter::signalCommitted, &writing.writer, [&writing](quint64 ticket) {
         std::cout << std::upper_bound(writing.tickets.cbegin(), writing.tickets.cend(), ticket)
                          - writing.tickets.cbegin()
                   << std::endl;
@@ -161,6 +161,11 @@ class HistoryTest : public OrdaTest
         if (error)
             *error = reader.error();
         return found;
+    }
+    void overwritePageOf(const QString &table)
+    {
+        const QString page = QString("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(table);
+        overwrite(m_options.path, table.isEmpty() ? 0 : (sql(m_options.path, page).toInt() - 1) * 4096);
     }
     void writeRuns(int count, const QString &text = "{}")
     {
@@ -314,11 +319,10 @@ private slots:
         writeRuns(3);
         QString error;
         QVERIFY(runs(&error).size() == 3 && error.isEmpty());
-        const QString root = QString("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(page);
         if (page == "end")
             QVERIFY(QFile::resize(m_options.path, 4096 + 100));
         else
-            overwrite(m_options.path, page.isEmpty() ? 0 : (sql(m_options.path, root).toInt() - 1) * 4096);
+            overwritePageOf(page);
         overwrite(m_options.path + "-wal", 0); // nothing that SQLite takes for its own, and kept all the same
         QVERIFY(runs(&error).size() == 3 || isSeenInList);
         QCOMPARE(error.contains("history.db: it is damaged"), isSeenInList);
@@ -409,17 +413,19 @@ private slots:
 
     void processesWriteAtOnce_data()
     {
-        columns<bool>({"isDamaged"});
-        row("new file", false);
-        row("damaged file", true);
+        columns<QString>({"damage"});
+        row("new file", "none");
+        row("damaged file", "");
+        row("damaged page", "devices");
     }
 
     void processesWriteAtOnce()
     {
-        QFETCH(bool, isDamaged);
+        QFETCH(QString, damage);
+        const bool isDamaged = damage != "none";
         if (isDamaged) {
             writeRuns(1);
-            overwrite(m_options.path, 0);
+            overwritePageOf(damage);
         }
         constexpr int each = 15;
         Other first({"write", m_options.path, QString::number(each)}),
@@ -546,7 +552,7 @@ int main(int argc, char *argv[])
 {
     if (argc > 3) {
         QCoreApplication app(argc, argv);
-        return other(app.arguments());
+        return other(QCoreApplication::arguments());
     }
     QCoreApplication app(argc, argv);
     HistoryTest test;

@@ -106,8 +106,8 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
 <context>
     <name>orda_client::ClientSession</name>
     <message>
-        <source>The history of runs cannot be written, so nothing is written to devices: %1</source>
-        <translation>Der Verlauf der Läufe lässt sich nicht schreiben, deshalb wird auf Geräte nichts geschrieben: %1</translation>
+        <source>%1. Nothing was written to devices after that.</source>
+        <translation>%1. Danach wurde auf Geräte nichts mehr geschrieben.</translation>
     </message>
 </context>
 <context>

@@ -106,8 +106,8 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
 <context>
     <name>orda_client::ClientSession</name>
     <message>
-        <source>The history of runs cannot be written, so nothing is written to devices: %1</source>
-        <translation>无法写入运行历史记录，因此不会向设备写入任何内容：%1</translation>
+        <source>%1. Nothing was written to devices after that.</source>
+        <translation>%1。此后未再向设备写入任何内容。</translation>
     </message>
 </context>
 <context>
