@@ -130,5 +130,9 @@
         <source>not begun: %1</source>
         <translation>nicht begonnen: %1</translation>
     </message>
+    <message>
+        <source>the connection has ended</source>
+        <translation>die Verbindung ist beendet</translation>
+    </message>
 </context>
 </TS>

@@ -130,5 +130,9 @@
         <source>not begun: %1</source>
         <translation>未开始：%1</translation>
     </message>
+    <message>
+        <source>the connection has ended</source>
+        <translation>连接已结束</translation>
+    </message>
 </context>
 </TS>
