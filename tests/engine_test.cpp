@@ -428,7 +428,7 @@ private slots:
         for (const QString &devId : selection.devIds) {
             const auto &exchange = selection.family->exchanges.at(random.bounded(selection.family->exchanges.size()));
             const QList faults{Fault::ErrorCode, Fault::ErrorCode, Fault::Garbage, Fault::AnswerTwice,
-                               seed % 10 == 0 ? Fault::NoAnswer : Fault::LateAnswer};
+                               seed % 20 == 10 ? Fault::NoAnswer : Fault::LateAnswer};
             if (random.bounded(4) == 0)
                 site.fleet.setFault(devId, oneOf({exchange.getMethod, exchange.setMethod}),
                                     {faults.at(random.bounded(faults.size())), -5, Milliseconds(seed)});
