@@ -518,7 +518,7 @@ private slots:
         QFETCH(int, second);
         QFETCH(QString, outcome);
         Site site(fleetOf(1));
-        QVERIFY(site.open(1s)); // so that a device that was cut off is back
+        QVERIFY(site.open(1500ms)); // so that a device that was cut off is back
         const QJsonObject before = site.devices();
         site.fleet.setFault("dev-0001", "chnosd_set_param", {Fault(first), -5, 10ms});
         connect(&site.fleet, &EmbeddedFleet::requestReceived, this, [&](const QString &devId, const QString &method) {
