@@ -31,7 +31,8 @@ public:
     quint64 beginRun(const RunStart &run);
     /// Replaces what the history has of this exchange, field by field: empty fields stay as they are.
     quint64 putExchange(const QString &runId, const ExchangeRow &row);
-    /// Outcome, code, message and late answer of the device; after endRun() only the late answer.
+    /// Outcome, code and message of the device, unless the row has no outcome or the run has ended; and the late answer
+    /// where there is one.
     quint64 putDevice(const QString &runId, const DeviceRow &row);
     /// After the outcomes of all its devices. Counts them, then removes runs that are too old or too many. A device
     /// without an outcome gets Unknown when something was sent to it, else Stopped; so does one of a run that never

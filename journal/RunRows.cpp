@@ -25,8 +25,8 @@ RunRows::RunRows(HistoryFile *file)
                          "before = iif(excluded.before = '', before, excluded.before), "
                          "sent = iif(excluded.sent = '', sent, excluded.sent), "
                          "after = iif(excluded.after = '', after, excluded.after)")))
-    , m_putDevice(file->prepare(
-          QStringLiteral("UPDATE devices SET outcome = ?, code = ?, message = ?, late = ? WHERE number = ?")))
+    , m_putDevice(
+          file->prepare(QStringLiteral("UPDATE devices SET outcome = ?, code = ?, message = ? WHERE number = ?")))
     , m_putLate(file->prepare(QStringLiteral("UPDATE devices SET late = ? WHERE number = ?")))
 {
 }
@@ -64,10 +64,10 @@ bool RunRows::write(const DeviceRow &row)
     const qint64 device = numberOf(row.devId);
     if (device == 0)
         return true;
-    if (m_hasEnded)
-        return row.late.isEmpty() || m_file->run(m_putLate, row.late, device);
-    return m_file->run(m_putDevice, row.outcome ? outcomeName(*row.outcome) : QString(), row.code, row.message,
-                       row.late, device);
+    if (row.outcome && !m_hasEnded
+        && !m_file->run(m_putDevice, outcomeName(*row.outcome), row.code, row.message, device))
+        return false;
+    return row.late.isEmpty() || m_file->run(m_putLate, row.late, device);
 }
 
 bool RunRows::write(const RunEnd &end)

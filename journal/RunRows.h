@@ -43,7 +43,7 @@ public:
 
     bool write(const RunBegin &begin);
     bool write(const ExchangeRow &row);
-    /// After the end only the late answer is written: the outcomes have been counted.
+    /// A row without an outcome brings a late answer. After the end an outcome is ignored: they have been counted.
     bool write(const DeviceRow &row);
     bool write(const RunEnd &end);
 

@@ -87,7 +87,7 @@ int other(const QStringList &arguments)
         return 0;
     }
     Writing writing(options);
-    QObject::connect(&writing.writer, &HistoryWriter::signalCommitted, qApp, [&writing](quint64 ticket) {
+    QObject::connect(&writing.writer, &HistoryWriter::signalCommitted, &writing.writer, [&writing](quint64 ticket) {
         std::cout << std::upper_bound(writing.tickets.cbegin(), writing.tickets.cend(), ticket)
                          - writing.tickets.cbegin()
                   << std::endl;
@@ -162,6 +162,11 @@ class HistoryTest : public OrdaTest
             *error = reader.error();
         return found;
     }
+    void overwritePageOf(const QString &table)
+    {
+        const QString page = QString("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(table);
+        overwrite(m_options.path, table.isEmpty() ? 0 : (sql(m_options.path, page).toInt() - 1) * 4096);
+    }
     void writeRuns(int count, const QString &text = "{}")
     {
         Writing writing(m_options);
@@ -204,7 +209,8 @@ private slots:
         writer.putExchange(start.id, {"dev-1", 1, {}, "sent", {}});
         writer.putExchange(start.id, {"dev-1", 1, {}, "sent again", "after"});
         writer.putExchange(start.id, {"dev-1", 0, "first", {}, {}});
-        QVERIFY(writing.onDisk(writer.putDevice(start.id, {"dev-0", Outcome::NotReached, -3, "off line", {}})));
+        writer.putDevice(start.id, {"dev-0", Outcome::Unknown, -61004, "time out", {}});
+        QVERIFY(writing.onDisk(writer.putDevice(start.id, {"dev-0", {}, 0, {}, "while others go on"})));
         QCOMPARE(reader.run(start.id)->run.ended, 0);
         QVERIFY(!reader.run(start.id)->devices.at(1).outcome);
         writer.putDevice(start.id, {"dev-1", Outcome::PartlyWritten, -12, "no", {}});
@@ -219,7 +225,8 @@ private slots:
                  (QStringList{"osd", "undo", "earlier"}));
         QVERIFY(details.run.program.startsWith("history_test"));
         QVERIFY(details.run.began > 0 && details.run.ended >= details.run.began);
-        QCOMPARE(details.run.counts, (Counts{{Outcome::PartlyWritten, 1}, {Outcome::NotReached, 2}}));
+        QCOMPARE(details.run.counts,
+                 (Counts{{Outcome::Unknown, 1}, {Outcome::PartlyWritten, 1}, {Outcome::NotReached, 1}}));
         QStringList devices, exchanges;
         for (const DeviceRow &row : details.devices)
             devices.append(QStringList{row.devId, outcomeName(*row.outcome), QString::number(row.code), row.message,
@@ -228,7 +235,7 @@ private slots:
         for (const ExchangeRow &row : details.exchanges)
             exchanges.append(
                 QStringList{row.devId, QString::number(row.exchange), row.before, row.sent, row.after}.join('|'));
-        QCOMPARE(devices, (QStringList{"dev-0|not-reached|-3|off line||||",
+        QCOMPARE(devices, (QStringList{"dev-0|unknown|-61004|time out|while others go on|||",
                                        QString::fromUtf8("dev-1|partly-written|-12|no|late answer|Tür 1|SN1|10.0.0.1"),
                                        "dev-2|not-reached|-3|off line||||"}));
         QCOMPARE(details.devices.at(2).ownValues, (QJsonObject{{"speed", 3}}));
@@ -312,11 +319,10 @@ private slots:
         writeRuns(3);
         QString error;
         QVERIFY(runs(&error).size() == 3 && error.isEmpty());
-        const QString root = QString("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(page);
         if (page == "end")
             QVERIFY(QFile::resize(m_options.path, 4096 + 100));
         else
-            overwrite(m_options.path, page.isEmpty() ? 0 : (sql(m_options.path, root).toInt() - 1) * 4096);
+            overwritePageOf(page);
         overwrite(m_options.path + "-wal", 0); // nothing that SQLite takes for its own, and kept all the same
         QVERIFY(runs(&error).size() == 3 || isSeenInList);
         QCOMPARE(error.contains("history.db: it is damaged"), isSeenInList);
@@ -407,17 +413,19 @@ private slots:
 
     void processesWriteAtOnce_data()
     {
-        columns<bool>({"isDamaged"});
-        row("new file", false);
-        row("damaged file", true);
+        columns<QString>({"damage"});
+        row("new file", "none");
+        row("damaged file", "");
+        row("damaged page", "devices");
     }
 
     void processesWriteAtOnce()
     {
-        QFETCH(bool, isDamaged);
+        QFETCH(QString, damage);
+        const bool isDamaged = damage != "none";
         if (isDamaged) {
             writeRuns(1);
-            overwrite(m_options.path, 0);
+            overwritePageOf(damage);
         }
         constexpr int each = 15;
         Other first({"write", m_options.path, QString::number(each)}),
@@ -544,7 +552,7 @@ int main(int argc, char *argv[])
 {
     if (argc > 3) {
         QCoreApplication app(argc, argv);
-        return other(app.arguments());
+        return other(QCoreApplication::arguments());
     }
     QCoreApplication app(argc, argv);
     HistoryTest test;
