@@ -97,6 +97,7 @@ private:
         bool isWriteAnswered = false;
         bool awaitsRead = false;
         bool awaitsWrite = false; // the write has left, and the device has not said what became of it
+        bool isInDoubt = false; // so had one of an earlier attempt, and nobody awaits its answer any more
         bool isHeld = false; // the write waits for the history
         bool hasLeft = false;
         bool isWritten = false; // the device said so
@@ -111,7 +112,7 @@ private:
 
     std::optional<Result> resultOfRead(const Device &device, int exchange, const QJsonObject &held, int code) const;
     std::optional<Result> resultOfWrite(int device, int exchange, int code) const;
-    int lastExchange(int device) const;
+    bool isLastExchange(int device, int exchange) const;
     Settled settled(int device, Outcome outcome, const Result &result);
 
     RunStart m_start;
