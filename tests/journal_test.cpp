@@ -1,0 +1,457 @@
+#include "engine/ApplyJob.h"
+#include "engine/ReadJob.h"
+#include "journal/HistoryReader.h"
+#include "journal/HistoryWriter.h"
+#include "journal/JournalTransport.h"
+#include "journal/PageWatch.h"
+#include "support/FamilyTable.h"
+#include "support/FormFixture.h"
+#include "support/OrdaTest.h"
+
+#include <families/Families.h>
+#include <orda_data/DevsMgrData.h>
+#include <orda_worker/AssistantSignals.h>
+#include <run/CfgRun.h>
+#include <vms_client_sdk/ClientSdk.h>
+#include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/Requests.h>
+
+#include <QtSql>
+
+using namespace orda_engine;
+using namespace orda_journal;
+using namespace std::chrono_literals;
+using Request = ScriptedTransport::Request;
+using Steps = QMap<int, QString>;
+
+namespace {
+
+struct CountingTransport : ScriptedTransport
+{
+    using ScriptedTransport::ScriptedTransport;
+    void passedOn(const QString &, const QString &text) override { passed << text; }
+
+    QStringList passed;
+};
+
+QStringList healthy(const Request &request)
+{
+    return {answer(request.method(), {{"bShowOSD", true}, {"aiGain", 3}, {"aoGain", 3}, {"qbcloud_addr", "old"}})};
+}
+
+HistoryOptions optionsIn(const QTemporaryDir &place)
+{
+    HistoryOptions options;
+    options.path = place.filePath("state/history.db");
+    options.lockTimeout = QByteArray(QTest::currentDataTag()).endsWith("too long") ? 50ms : 5s;
+    return options;
+}
+
+/// The form with the journal between its pages and two devices, over a history of its own.
+struct Site : FormFixture
+{
+    explicit Site(ScriptedTransport::Script answers)
+        : FormFixture(2, silent, 250ms)
+        , script(std::move(answers))
+    {
+        setTransport();
+        tickAll();
+        QObject::connect(&orda_worker::AssistantSignals::instance(),
+                         &orda_worker::AssistantSignals::signalMessageAlerted, &jobs,
+                         [this](auto, const QString &text) { decline(text); });
+    }
+
+    void setTransport()
+    {
+        auto scripted = std::make_unique<CountingTransport>([this](const Request &request) {
+            if (request.method().contains("_set_") && !isRecorded(request))
+                unrecorded << request.devId + ' ' + request.method();
+            return script(request);
+        });
+        transport = inner = scripted.get();
+        QObject::connect(inner, &ScriptedTransport::answered, [this](auto, const QString &text) { raised << text; });
+        auto made = std::make_unique<JournalTransport>(std::move(scripted), std::make_unique<HistoryWriter>(options));
+        journal = made.get();
+        QObject::connect(journal, &JournalTransport::signalRunBegan, [this](const RunStart &run) {
+            ++begun;
+            values = run.values;
+        });
+        QObject::connect(journal, &JournalTransport::signalHistoryFailed, [this] { ++historyFailures; });
+        QObject::connect(journal, &JournalTransport::signalSettled, [this](const Settled &settled) {
+            outcomes.insert(settled.row.devId, settled.row);
+            if (onSettled)
+                onSettled(settled.row.devId);
+        });
+        watch = std::make_unique<PageWatch>(journal);
+        QObject::connect(watch.get(), &PageWatch::signalDeclined, [this](auto why) { decline(why); });
+        for (QWidget *widget : form->findChildren<QWidget *>())
+            watch->watch(widget);
+        vms_sdk::ClientSdk::instance().setTransport(std::move(made));
+    }
+
+    // What another connection than the one that writes it sees in the history at this moment.
+    bool isRecorded(const Request &write)
+    {
+        const auto run = reader.run(reader.findRuns("last").value(0));
+        return run && std::any_of(run->exchanges.begin(), run->exchanges.end(), [&](const ExchangeRow &row) {
+                   return row.devId == write.devId && row.sent == write.text && raised.contains(row.before);
+               });
+    }
+
+    void begin(const QString &kind, const QString &family = "osd")
+    {
+        const auto &all = orda_batchCfg::Families::all();
+        const auto entry = std::find_if(all.begin(), all.end(), [&](auto &each) { return each.family.name == family; });
+        const Selection selection{&entry->family, {"dev0", "dev1"}, values};
+        if (kind == "page")
+            return QTimer::singleShot(0, form, [this, row = familyRow(family)] {
+                const int before = begun;
+                configure(row.navigationKey, row.pageName);
+                ended += begun - before;
+            });
+        if (kind == "read")
+            return follow(new ReadJob(journal, selection, &jobs));
+        auto *job = new ApplyJob(journal, selection, {{}, 100, kind == "retry" ? 1 : 0, kind == "verify"}, &jobs);
+        QObject::connect(job, &WriteJob::signalOutcome, [this](auto &settled) { reported << settled.row.devId; });
+        follow(job);
+    }
+
+    template <typename Job>
+    void follow(Job *job)
+    {
+        QObject::connect(job, &Job::signalFinished,
+                         [this](const QString &error) { error.isEmpty() ? void(++ended) : decline(error); });
+        job->start();
+    }
+
+    void decline(const QString &why)
+    {
+        declined << why;
+        if (onDeclined)
+            onDeclined();
+    }
+
+    void awaitHistory(bool isRunOver) // of the latest run
+    {
+        while (reader.runs().isEmpty() || (reader.runs().at(0).ended != 0) != isRunOver)
+            QThread::msleep(1);
+    }
+
+    QList<Request> requests(const QString &devId) const
+    {
+        QList<Request> found = transport->requests;
+        const auto isOther = [&](const Request &request) { return request.devId != devId; };
+        found.erase(std::remove_if(found.begin(), found.end(), isOther), found.end());
+        return found;
+    }
+
+    void answerAll(const QString &devId) const
+    {
+        for (const Request &request : requests(devId))
+            emit transport->answered(request.requestId, healthy(request).at(0));
+    }
+
+    void take(const QString &step)
+    {
+        if (step == "barred")
+            QVERIFY(QFile(place.filePath("state")).open(QIODevice::WriteOnly));
+        if (step == "breaks") {
+            awaitHistory(false);
+            QVERIFY(QDir().rename(place.filePath("state"), place.filePath("gone")));
+        }
+        if (step.contains("locks")) { // as another process does it
+            awaitHistory(false);
+            database.setDatabaseName(options.path);
+            QVERIFY(database.open() && !database.exec("BEGIN EXCLUSIVE").lastError().isValid());
+        }
+        if (step.contains("stops"))
+            journal->stop();
+        if (step.contains("halts")) // when the write is waiting
+            QTimer::singleShot(60, form, [this] { journal->stop(); });
+        if (step.contains("leaves"))
+            orda_data::DevsMgrData::instance().deleteDevs({"dev0"});
+        if (step.contains("drops"))
+            QTimer::singleShot(step.contains("locks") ? 60 : 0, form, [this] {
+                emit transport->devStatusChanged("dev0", vms_sdk::DevOffline);
+                emit transport->devStatusChanged("dev0", vms_sdk::DevOnline);
+            });
+    }
+
+    QStringList says(const QString &step, const Request &request)
+    {
+        take(step);
+        const QString refused = answer(request.method(), {}, -5);
+        const QHash<QString, QStringList> words{
+            {"refuses", {refused}},
+            {"garbage", {"{"}},
+            {"silent", {}},
+            {"lacks it", {answer(request.method())}},
+            {"twice", {healthy(request).at(0), refused}},
+            {"early", {answer("ao_set_param")}},
+            {"foreign", {answer("x"), answer("ai_set_param"), healthy(request).at(0)}},
+            {"holds it", {answer(request.method(), requests("dev0").value(1).json()["param"].toObject())}},
+        };
+        return words.value(step.section(", ", -1), healthy(request));
+    }
+
+    QTemporaryDir place;
+    const HistoryOptions options = optionsIn(place);
+    HistoryReader reader{options};
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", place.path());
+    ScriptedTransport::Script script;
+    CountingTransport *inner = nullptr;
+    JournalTransport *journal = nullptr;
+    std::unique_ptr<PageWatch> watch;
+    QStringList unrecorded, raised, reported, declined;
+    QMultiMap<QString, DeviceRow> outcomes;
+    std::function<void(const QString &devId)> onSettled;
+    std::function<void()> onDeclined;
+    int begun = 0, ended = 0, historyFailures = 0;
+    QJsonObject values{{"bShowOSD", false}}; // of the latest run
+    QObject jobs;
+};
+
+QStringList textsOf(const QList<DeviceRow> &devices)
+{
+    QStringList texts;
+    for (const DeviceRow &device : devices)
+        texts << QString("%1 %2 %3").arg(outcomeName(*device.outcome)).arg(device.code).arg(device.message);
+    return texts;
+}
+
+} // namespace
+
+/// What is written to devices and what the history has of it, over pages and over the engine's jobs.
+class JournalTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void theWireIsAsWithoutTheJournal()
+    {
+        for (const char *family : {"audio", "osd", "platform", "video"}) {
+            const FamilyRow row = familyRow(family);
+            QStringList bare;
+            const auto texts = [](const FormFixture &form) {
+                QStringList sent;
+                for (const Request &request : form.transport->requests)
+                    sent << request.devId + request.text;
+                std::stable_sort(sent.begin(), sent.end(), [](auto &a, auto &b) { return a.left(4) < b.left(4); });
+                return sent;
+            };
+            {
+                const FormFixture form(2, healthy);
+                form.tickAll();
+                form.configure(row.navigationKey, row.pageName);
+                bare = texts(form);
+            }
+            Site site(healthy);
+            site.configure(row.navigationKey, row.pageName);
+            QCOMPARE(texts(site), bare);
+            QCOMPARE(site.unrecorded, QStringList());
+            QSignalSpy troubles(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalDevTroubled);
+            emit site.transport->linkTroubled("dev0", {});
+            QTRY_COMPARE(troubles.count(), 1);
+        }
+    }
+
+    void everyDeviceHasOneOutcome_data()
+    {
+        columns<QString, QString, QString, QString>({"family", "does", "expected", "count"});
+        rowsFrom("outcomes.txt");
+    }
+
+    void everyDeviceHasOneOutcome()
+    {
+        QFETCH(QString, family);
+        QFETCH(QString, does);
+        QFETCH(QString, expected);
+        QFETCH(QString, count);
+        const QString what = QTest::currentDataTag();
+        const bool isRetried = what.startsWith("tried again");
+        const bool hasHistory = !what.startsWith("no history");
+        Steps steps;
+        for (const QString &step : does.split("; "))
+            steps.insert(step.section(' ', 0, 0).toInt(), step.section(' ', 1));
+        Site site(silent);
+        site.script = [&](const Request &request) {
+            if (request.devId != "dev0")
+                return site.outcomes.contains("dev0") || isRetried ? healthy(request) : QStringList();
+            return site.says(steps.value(site.requests("dev0").size()), request);
+        };
+        QString late;
+        site.onSettled = [&](const QString &devId) {
+            if (devId != "dev0")
+                return;
+            site.database.close();
+            late = healthy(site.requests("dev0").last()).at(0);
+            emit site.transport->answered(site.requests("dev0").last().requestId, late);
+            site.answerAll("dev1");
+        };
+        QTimer renewal; // the second waits, however long the first takes
+        QObject::connect(&renewal, &QTimer::timeout, [&] {
+            for (const Request &request : site.requests("dev1"))
+                vms_sdk::renewal_request_id(request.requestId);
+        });
+        renewal.start(50ms);
+        if (family.endsWith(" in"))
+            site.box("alarmOutVolume")->click();
+        const FamilyRow row = familyRow(family.section(' ', 0, 0));
+
+        QStringList messages;
+        const QStringList kinds = isRetried ? QStringList{"retry"} : QStringList{"page", "apply"};
+        for (int run = 0; run < kinds.size(); ++run) {
+            orda_data::DevsMgrData::instance().updateDevs({FormFixture::device(0)});
+            orda_data::DevsMgrData::instance().setDevStatus("dev0", vms_sdk::DevOnline);
+            site.transport->requests.clear();
+            site.outcomes.clear();
+            site.take(steps.value(0));
+            if (!hasHistory)
+                expectWarning("The history cannot be written");
+            site.begin(kinds.at(run), row.name);
+            QTRY_COMPARE(site.ended, run + 1);
+            QCOMPARE(QStringList(site.outcomes.uniqueKeys()), QStringList(site.outcomes.keys()));
+            QCOMPARE(site.requests("dev0").size(), count.toInt());
+            QStringList outcomes;
+            if (hasHistory) {
+                site.awaitHistory(true);
+                const auto details = site.reader.run(site.reader.findRuns("last").value(0));
+                QCOMPARE(details->run.family, row.name);
+                QCOMPARE(details->run.values, site.values);
+                QMap<Outcome, int> counts;
+                for (const DeviceRow &device : details->devices) {
+                    outcomes << outcomeName(*device.outcome) + QString(" %1").arg(device.code)
+                                    + (device.late == late ? " late" : device.late);
+                    ++counts[*device.outcome];
+                }
+                QCOMPARE(details->run.counts, counts);
+                QCOMPARE(details->devices.at(0).name, "Cam 0");
+                QCOMPARE(textsOf(details->devices.toList()), textsOf(site.outcomes.values()));
+            } else {
+                for (const DeviceRow &device : qAsConst(site.outcomes))
+                    outcomes << outcomeName(*device.outcome) + QString(" %1").arg(device.code);
+                QCOMPARE(site.historyFailures, run + 1);
+            }
+            QCOMPARE(outcomes.join(", "), expected);
+            const QString said = site.outcomes.value("dev0").message;
+            if (kinds.at(run) == "page")
+                QVERIFY2(said.startsWith(recordedMessages(row).value("SN0")), qPrintable(said));
+            messages << said;
+            QCOMPARE(said, messages.at(0));
+            if (!hasHistory) { // nor is it lost for good
+                QFile::remove(site.place.filePath("state"));
+                QDir(site.place.filePath("gone")).removeRecursively();
+            }
+        }
+        if (!hasHistory) {
+            steps.clear();
+            site.outcomes.clear();
+            site.begin("apply", row.name);
+            QTRY_COMPARE(site.ended, 3);
+            QCOMPARE(textsOf(site.outcomes.values()).join(' ').count("0 success"), 2);
+        }
+        QCOMPARE(site.unrecorded, QStringList());
+        QTRY_COMPARE(site.inner->passed, site.raised);
+    }
+
+    void oneRunAtATime_data()
+    {
+        columns<QString, QString>({"holder", "other"});
+        for (const QString holder : {"turn", "page that nobody watches", "page", "read", "apply"})
+            for (const QString other : {"page", "read", "apply"})
+                if (holder + other != "pagepage") // the module's own affair
+                    row(qPrintable(other + " during " + holder), holder, other);
+    }
+
+    void oneRunAtATime()
+    {
+        QFETCH(QString, holder);
+        QFETCH(QString, other);
+        Site site(silent);
+        site.script = [&](const Request &) {
+            QTimer::singleShot(0, &site.jobs, [&] { site.begin(other); });
+            site.script = silent;
+            return QStringList();
+        };
+        site.onDeclined = [&] {
+            QTimer::singleShot(0, &site.jobs, [&] {
+                site.script = healthy;
+                site.answerAll("dev0");
+                site.answerAll("dev1");
+            });
+        };
+        if (holder == "turn" || holder == "page that nobody watches") {
+            std::optional<orda_batchCfg::CfgRun> unwatched;
+            holder == "turn" ? void(site.journal->beginReading()) : void(unwatched.emplace(1));
+            site.begin(other);
+            QTRY_COMPARE(site.declined.size(), 1);
+            QVERIFY(site.transport->requests.isEmpty());
+            site.journal->end();
+            ++site.ended;
+        } else {
+            site.begin(holder);
+        }
+        QTRY_COMPARE(site.ended, 1);
+        QCOMPARE(site.declined.size(), 1);
+        QVERIFY(site.declined.at(0).startsWith("A configuration is under way"));
+        site.begin(other);
+        QTRY_COMPARE(site.ended, 2);
+        QCOMPARE(site.declined.size(), 1);
+        QVERIFY(!site.journal->isBusy());
+    }
+
+    void runThatLosesItsOwner_data()
+    {
+        columns<QString, bool, int>({"kind", "isTransportGone", "requests"});
+        for (const bool gone : {false, true}) { // the write to dev0 on its way, dev1 not read; both read; both verified
+            row(gone ? "page, transport gone" : "page, deleted", QString("page"), gone, 3);
+            row(gone ? "apply, transport gone" : "apply, deleted", QString("apply"), gone, 3);
+            row(gone ? "read, transport gone" : "read, deleted", QString("read"), gone, 2);
+            row(gone ? "verify, transport gone" : "verify, deleted", QString("verify"), gone, 6);
+        }
+    }
+
+    void runThatLosesItsOwner()
+    {
+        QFETCH(QString, kind);
+        QFETCH(bool, isTransportGone);
+        QFETCH(int, requests);
+        Site site(silent);
+        site.script = [&](const Request &request) {
+            const int sent = site.transport->requests.size();
+            if (sent == requests)
+                QTimer::singleShot(0, &site.jobs, [&] {
+                    if (isTransportGone)
+                        vms_sdk::ClientSdk::instance().setTransport(nullptr);
+                    if (kind == "page")
+                        return delete site.page("osdParamsCfgPage"); // which ends its waiting
+                    if (!isTransportGone)
+                        delete site.jobs.children().at(0);
+                    site.ended += isTransportGone ? 0 : 1;
+                });
+            const bool answers = kind == "verify" ? sent < 5 : sent == 1 && kind != "read";
+            return answers ? healthy(request) : QStringList();
+        };
+        site.begin(kind);
+        QTRY_COMPARE(site.ended, 1);
+        if (isTransportGone && (kind == "apply" || kind == "verify"))
+            QCOMPARE(site.reported, (QStringList{"dev0", "dev1"}));
+        if (kind != "read") {
+            QCOMPARE(QStringList(site.outcomes.keys()), (QStringList{"dev0", "dev1"}));
+            site.awaitHistory(true);
+            const bool isVerified = kind == "verify";
+            const QMap<Outcome, int> unverified{{Outcome::Unknown, 1}, {Outcome::Stopped, 1}};
+            QCOMPARE(site.reader.runs().at(0).counts,
+                     isVerified ? (QMap<Outcome, int>{{Outcome::Done, 2}}) : unverified);
+        }
+        if (isTransportGone)
+            site.setTransport();
+        site.script = healthy;
+        site.begin("apply");
+        QTRY_COMPARE(site.ended, 2);
+        QVERIFY(site.unrecorded.isEmpty() && !site.journal->isBusy());
+    }
+};
+
+ORDA_TEST_MAIN(JournalTest)
+#include "journal_test.moc"
