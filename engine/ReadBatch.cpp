@@ -24,9 +24,14 @@ void ReadBatch::start(const QStringList &devIds)
         if (m_run && m_run->isOver())
             QMetaObject::invokeMethod(this, &ReadBatch::finish, Qt::QueuedConnection);
     });
-    m_run->start(devIds, [this](const QString &devId) {
-        auto *task =
-            new ReadTask(*m_selection.family, devId, m_selection.readValuesOf(devId), m_selection.flagsOf(devId), this);
+    // Nearly all devices are asked the same: it is worked out once.
+    const QJsonObject values = m_selection.readValuesFor(m_selection.values);
+    const int flags = m_selection.flagsFor(m_selection.values);
+    m_run->start(devIds, [this, &values, flags](const QString &devId) {
+        const auto own = m_selection.ownValues.constFind(devId);
+        const bool isAsOthers = own == m_selection.ownValues.constEnd();
+        auto *task = new ReadTask(*m_selection.family, devId, isAsOthers ? values : m_selection.readValuesFor(*own),
+                                  isAsOthers ? flags : m_selection.flagsFor(*own), this);
         m_tasks.insert(devId, task);
         return task;
     });

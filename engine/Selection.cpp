@@ -7,9 +7,8 @@ namespace orda_engine {
 using orda_batchCfg::CfgExchange;
 using orda_batchCfg::CfgKey;
 
-int Selection::flagsOf(const QString &devId) const
+int Selection::flagsFor(const QJsonObject &wanted) const
 {
-    const QJsonObject wanted = valuesOf(devId);
     if (!wanted.isEmpty())
         return family->flagsOf(wanted);
     int all = 0;
@@ -18,9 +17,8 @@ int Selection::flagsOf(const QString &devId) const
     return all;
 }
 
-QJsonObject Selection::readValuesOf(const QString &devId) const
+QJsonObject Selection::readValuesFor(QJsonObject wanted) const
 {
-    QJsonObject wanted = valuesOf(devId);
     for (const CfgKey &key : family->keys)
         if (!wanted.contains(key.name) && key.type == CfgKey::Choice)
             wanted.insert(key.name, key.choices.at(key.initial).value);

@@ -18,11 +18,12 @@ struct Selection
     QJsonObject values; ///< what is to be set, by the device's own keys; empty for reading all that the family has
     QHash<QString, QJsonObject> ownValues = {}; ///< by device id: in place of values
 
-    const QJsonObject valuesOf(const QString &devId) const { return ownValues.value(devId, values); }
-    /// The flags of the exchanges that these values need; of all exchanges without values.
-    int flagsOf(const QString &devId) const;
-    /// Values for the device's read requests: some say what is asked for by a value.
-    QJsonObject readValuesOf(const QString &devId) const;
+    QJsonObject valuesOf(const QString &devId) const { return ownValues.value(devId, values); }
+    /// The flags of the exchanges that @p wanted needs; of all exchanges when it is empty.
+    int flagsFor(const QJsonObject &wanted) const;
+    int flagsOf(const QString &devId) const { return flagsFor(valuesOf(devId)); }
+    /// Values for read requests, of which some say by a value what is asked for: those that @p wanted lacks are added.
+    QJsonObject readValuesFor(QJsonObject wanted) const;
 };
 
 } // namespace orda_engine

@@ -139,7 +139,8 @@ void WriteJob::endAttempt()
         return;
     m_run.reset();
     QStringList again;
-    for (const auto &[devId, result] : std::exchange(m_failed, {})) {
+    const auto failed = std::exchange(m_failed, {});
+    for (const auto &[devId, result] : failed) {
         if (m_stopped.isEmpty() && reachOf(devId).canBeWritten)
             again.append(devId);
         else
@@ -235,7 +236,8 @@ void WriteJob::stop(const QString &why)
 
 void WriteJob::settleRest()
 {
-    for (const QString &devId : m_selection.devIds.mid(m_begun))
+    const QStringList rest = m_selection.devIds.mid(m_begun);
+    for (const QString &devId : rest)
         m_journal->settle(devId, tr("not begun: %1").arg(m_stopped), orda_journal::StoppedCode);
     finish({});
 }

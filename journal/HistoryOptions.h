@@ -27,7 +27,7 @@ public:
     /// How long a commit waits for another process that has the file, before the history counts as not writable.
     std::chrono::milliseconds lockTimeout{5000};
     /// Commits are at least so far apart while there is something to write: what comes in between shares one.
-    std::chrono::milliseconds groupTime{3};
+    std::chrono::milliseconds groupTime{10};
 };
 
 } // namespace orda_journal

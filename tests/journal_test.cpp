@@ -298,7 +298,9 @@ private slots:
         QStringList messages;
         const QStringList kinds = isRetried ? QStringList{"retry"} : QStringList{"page", "apply"};
         for (int run = 0; run < kinds.size(); ++run) {
-            orda_data::DevsMgrData::instance().updateDevs({FormFixture::device(0)});
+            vms_sdk::DevInfo dev = FormFixture::device(0);
+            dev.password = "never written down";
+            orda_data::DevsMgrData::instance().updateDevs({dev});
             orda_data::DevsMgrData::instance().setDevStatus("dev0", vms_sdk::DevOnline);
             site.transport->requests.clear();
             site.outcomes.clear();
@@ -351,6 +353,10 @@ private slots:
             QTRY_COMPARE(site.ended, 3);
             for (const DeviceRow &device : qAsConst(site.outcomes))
                 QCOMPARE(device.message, "success");
+        }
+        for (const QFileInfo &info : QDir(site.place.filePath("state")).entryInfoList(QDir::Files)) {
+            QFile file(info.filePath());
+            QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains("never written down"));
         }
         QCOMPARE(site.unrecorded, QStringList());
         QTRY_COMPARE(site.transport->passed, site.raised);

@@ -170,8 +170,10 @@ private slots:
 
         const ObjectsByExchange before = device.read(flags, values);
         ObjectsByExchange reached = before, notReached, sent;
-        while (reached.size() > 1 && random() % 3 == 0) // the run ends before its last exchange
-            notReached.insert(reached.lastKey(), reached.take(reached.lastKey()));
+        while (reached.size() > 1 && random() % 3 == 0) { // the run ends before its last exchange
+            const int last = reached.lastKey();
+            notReached.insert(last, reached.take(last));
+        }
         const DevicePlan plan = planOf(family, flags, values, reached);
         for (auto it = reached.begin(); it != reached.end(); ++it) {
             sent.insert(it.key(), family.exchanges.at(it.key()).setParam(values, *it));
@@ -247,6 +249,11 @@ private slots:
         QCOMPARE((lines << QString("already %1").arg(plan.alreadySo)).join("; "), field("plan"));
 
         lines = described("wrong ", differencesOf(family, flags, values, sent, held));
+        for (const int place : places) {
+            const CfgExchange &exchange = family.exchanges.at(place);
+            const QJsonObject was = exchange.membersOf(before[place]), is = exchange.membersOf(held[place]);
+            QCOMPARE(exchange.membersOf(exchange.withMembers(held[place], was)), mergeKnownKeys(is, was));
+        }
         DeviceUndo undo = undoOf(family, before, sent, held, false), forced = undoOf(family, before, sent, held, true);
         QCOMPARE(changesNothing(family, before, sent), plan.changes.isEmpty() && plan.added.isEmpty());
         for (auto it = undo.begin(); it != undo.end(); ++it) {

@@ -183,7 +183,7 @@ QJsonObject CfgExchange::withMembers(const QJsonObject &device, const QJsonObjec
         QJsonObject entry = entries.at(i).toObject();
         for (auto it = entry.begin(); it != entry.end(); ++it) {
             const auto member = members.constFind(names.at(i) + QLatin1Char('.') + it.key());
-            if (member != members.constEnd() && it.key() != listId)
+            if (member != members.constEnd())
                 *it = *member;
         }
         if (entries.at(i).isObject())
