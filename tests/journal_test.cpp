@@ -469,6 +469,8 @@ private slots:
         QCOMPARE(QStringList(site.outcomes.keys()), expected.isEmpty() ? found : QStringList({"dev0", "dev1"}));
         if (isTransportGone)
             site.setTransport();
+        QCOMPARE(site.journal->beginReading(), QString()); // what the history tells now is of an earlier turn
+        site.journal->end();
         site.script = healthy;
         site.begin("apply");
         QTRY_COMPARE(site.ended, 2);
