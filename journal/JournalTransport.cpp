@@ -68,7 +68,7 @@ QString JournalTransport::beginRun(const RunStart &run, Owner owner)
     });
     if (entry == families.end())
         return tr("There are no parameters called \"%1\".").arg(run.family);
-    const QString refusal = takeTurn(Turn::Running, owner);
+    QString refusal = takeTurn(Turn::Running, owner);
     if (!refusal.isEmpty())
         return refusal;
     m_hasFailed = false;
