@@ -22,7 +22,7 @@ void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &ownF
     connect(m_run.get(), &CfgRun::signalResult, this, [this](const QString &devId, const QString &message, int code) {
         emit signalRead(devId, code, message, m_tasks.take(devId)->objects());
         if (m_run && m_run->isOver())
-            QMetaObject::invokeMethod(this, &ReadBatch::signalFinished, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(this, &ReadBatch::finish, Qt::QueuedConnection);
     });
     // Nearly all devices are asked the same: it is worked out once.
     const QJsonObject values = m_selection.readValuesFor(m_selection.values);
@@ -35,6 +35,14 @@ void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &ownF
         m_tasks.insert(devId, task);
         return task;
     });
+}
+
+void ReadBatch::finish()
+{
+    if (!m_run)
+        return; // cancelled meanwhile
+    m_run.reset(); // gives way to the next run, however long this object lives
+    emit signalFinished();
 }
 
 void ReadBatch::cancel()

@@ -38,6 +38,8 @@ signals:
     void signalFinished();
 
 private:
+    void finish();
+
     const Selection m_selection;
     QHash<QString, ReadTask *> m_tasks; // without a result yet, by device id
     std::unique_ptr<orda_batchCfg::CfgRun> m_run; // after the tasks, which it hears

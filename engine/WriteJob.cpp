@@ -73,8 +73,7 @@ void WriteJob::begin()
     m_hasTurn = true;
     connect(m_journal, &JournalTransport::signalSettled, this, &WriteJob::takeSettled);
     connect(m_journal, &JournalTransport::signalHistoryFailed, this, &WriteJob::stop);
-    // The SDK forgets all requests with the transport, which has settled all devices by then.
-    connect(m_journal, &QObject::destroyed, this, [this] { finish({}); });
+    connect(m_journal, &QObject::destroyed, this, &WriteJob::loseTransport);
     if (!m_stopped.isEmpty())
         m_journal->stop();
     nextWave();
@@ -220,6 +219,15 @@ void WriteJob::report(const Settled &settled)
     ++m_waveFailures;
     if (m_waveFailures * 100 > m_options.maxFailPercentage * m_waveDevices)
         stop(tr("more than %1 % of the devices failed").arg(m_options.maxFailPercentage));
+}
+
+// The SDK forgets all requests with the transport, which has settled all devices by then.
+void WriteJob::loseTransport()
+{
+    for (const QString &devId : m_selection.devIds)
+        if (m_settled.contains(devId))
+            takeReading(devId, orda_journal::StoppedCode, tr("stopped"), {});
+    finish({});
 }
 
 void WriteJob::cancel()

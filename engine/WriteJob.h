@@ -88,6 +88,7 @@ private:
     QHash<QString, int> writtenFlags() const;
     void takeReading(const QString &devId, int code, const QString &message, const ObjectsByExchange &held);
     void report(const orda_journal::Settled &settled);
+    void loseTransport();
     void stop(const QString &why);
     void settleRest();
     void finish(const QString &error);

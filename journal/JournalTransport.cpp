@@ -3,6 +3,7 @@
 #include "families/Families.h"
 #include "journal/HistoryWriter.h"
 #include "journal/Logging.h"
+#include "run/CfgRun.h"
 
 #include <vms_client_sdk/ClientSignals.h>
 
@@ -42,14 +43,21 @@ JournalTransport::~JournalTransport()
     end();
 }
 
-QString JournalTransport::beginReading()
+QString JournalTransport::takeTurn(Turn turn, Owner owner)
 {
-    if (isBusy())
+    // A page's run counts itself when it is announced; that of a page that nobody watches is not announced here.
+    if (isBusy() || (owner == Owner::Engine && orda_batchCfg::CfgRun::isUnderWay()))
         return tr("A configuration is under way. Please wait until it has ended.");
     m_run.reset(); // its late answers are not told from what is read now
     m_isStopped = false;
-    m_turn = Turn::Reading;
+    m_turn = turn;
+    m_owner = owner;
     return {};
+}
+
+QString JournalTransport::beginReading()
+{
+    return takeTurn(Turn::Reading, Owner::Engine);
 }
 
 QString JournalTransport::beginRun(const RunStart &run, Owner owner)
@@ -60,11 +68,9 @@ QString JournalTransport::beginRun(const RunStart &run, Owner owner)
     });
     if (entry == families.end())
         return tr("There are no parameters called \"%1\".").arg(run.family);
-    const QString refusal = beginReading();
+    QString refusal = takeTurn(Turn::Running, owner);
     if (!refusal.isEmpty())
         return refusal;
-    m_turn = Turn::Running;
-    m_owner = owner;
     m_hasFailed = false;
     m_run = std::make_unique<TrackedRun>(run, entry->family);
     if (m_history)

@@ -84,7 +84,7 @@ private:
         QString requestId, devId, method, text;
     };
 
-    void connectHistory();
+    QString takeTurn(Turn turn, Owner owner);
     void hold(const TrackedRun::Request &request, const QString &requestId, const QString &text);
     void letLeave(const Held &write);
     void letLeaveUpTo(quint64 ticket);

@@ -90,6 +90,10 @@ ExchangeRow TrackedRun::take(const Request &request, const QString &requestId, c
     if (device.requestId != requestId) {
         device.requestId = requestId;
         m_placeByRequest.insert(requestId, request.device);
+        for (Exchange &earlier : device.exchanges) {
+            earlier.awaitsRead = false;
+            earlier.isInDoubt = std::exchange(earlier.awaitsWrite, false) || earlier.isInDoubt;
+        }
     }
     if (!request.isWrite) {
         exchange.isReadAnswered = false;
@@ -111,7 +115,6 @@ bool TrackedRun::letLeave(int place, int number, const QString &requestId)
         return false;
     exchange.isHeld = false;
     exchange.hasLeft = true;
-    exchange.isDoubtful = exchange.isDoubtful || exchange.awaitsWrite;
     exchange.awaitsWrite = true;
     return true;
 }
@@ -153,8 +156,10 @@ TrackedRun::Answer TrackedRun::takeAnswer(const QString &requestId, const QStrin
             return {place, i, false, code == 0 && exchange.hasLeft, resultOfRead(device, i, held, code)};
         }
         if (method == family.setMethod && !std::exchange(exchange.isWriteAnswered, true)) {
-            if (std::exchange(exchange.awaitsWrite, false) && code == 0)
+            if (std::exchange(exchange.awaitsWrite, false) && code == 0) {
                 exchange.isWritten = true;
+                exchange.isInDoubt = false;
+            }
             return {place, i, false, false, resultOfWrite(place, i, code)};
         }
     }
@@ -168,7 +173,8 @@ std::optional<Result> TrackedRun::resultOfRead(const Device &device, int exchang
     if (code != 0)
         return Result{code, m_family.translated(family.getFailure).arg(code)};
     const Exchange &tracked = device.exchanges.at(exchange);
-    if (!family.checkWhenBack || !tracked.hasLeft)
+    // The task takes a write that waits for the history for one that has left.
+    if (!family.checkWhenBack || !(tracked.hasLeft || tracked.isHeld))
         return {};
     if (family.holds(tracked.sent, held))
         return Result{ParamsCfgTask::Success, ParamsCfgTask::successText()};
@@ -180,16 +186,16 @@ std::optional<Result> TrackedRun::resultOfWrite(int device, int exchange, int co
 {
     if (code != 0)
         return Result{code, m_family.translated(m_family.exchanges.at(exchange).setFailure).arg(code)};
-    if (exchange == lastExchange(device))
+    if (isLastExchange(device, exchange))
         return Result{ParamsCfgTask::Success, ParamsCfgTask::successText()};
     return {};
 }
 
-// The one with which a task of this device ends, as ParamsCfgTask goes through them.
-int TrackedRun::lastExchange(int device) const
+// As ParamsCfgTask goes through them: it ends after an exchange that it was not to run, too, when a device says so.
+bool TrackedRun::isLastExchange(int device, int exchange) const
 {
     const int flags = m_family.flagsOf(m_start.ownValues.value(m_start.devIds.at(device), m_start.values));
-    return m_family.exchangesOf(flags).constLast();
+    return m_family.exchangeFrom(exchange + 1, flags) < 0;
 }
 
 Result TrackedRun::timeout() const
@@ -211,8 +217,7 @@ Settled TrackedRun::settle(int place, const Result &result)
     bool hasChanged = false;
     for (const Exchange &exchange : device.exchanges) {
         isWritten = isWritten || exchange.isWritten;
-        // A device that refuses what it was sent again may have taken it the first time.
-        isUnanswered = isUnanswered || exchange.awaitsWrite || (exchange.isDoubtful && !exchange.isWritten);
+        isUnanswered = isUnanswered || exchange.awaitsWrite || exchange.isInDoubt;
         hasChanged = hasChanged || (exchange.hasLeft && !exchange.changes.isEmpty());
     }
     if (result.code == ParamsCfgTask::Success)

@@ -68,10 +68,11 @@ public:
     /// The request goes out now; a write as soon as the history has it.
     /// @return what the history has to hold before a write leaves; of a read nothing
     ExchangeRow take(const Request &request, const QString &requestId, const QString &text);
-    /// The history has the write. @return whether it may leave; not when it was dropped meanwhile
-    bool letLeave(int device, int exchange, const QString &requestId);
+    /// The history has the write. @param number of the exchange @return whether it may leave; not when it was dropped
+    /// meanwhile
+    bool letLeave(int place, int number, const QString &requestId);
     /// Writes of the device that have not left yet do not leave any more.
-    void dropHeld(int device);
+    void dropHeld(int place);
 
     Answer takeAnswer(const QString &requestId, const QString &text);
     Result timeout() const;
@@ -80,9 +81,9 @@ public:
 
     bool isSettled(int device) const { return m_devices.at(device).isSettled; }
     /// Decides the outcome. Called once for a device.
-    Settled settle(int device, const Result &result);
+    Settled settle(int place, const Result &result);
     /// Nothing was sent to the device. @param reason for the user
-    Settled settleNotReached(int device, const QString &reason);
+    Settled settleNotReached(int place, const QString &reason);
 
 private:
     struct Exchange
@@ -97,10 +98,10 @@ private:
         bool isWriteAnswered = false;
         bool awaitsRead = false;
         bool awaitsWrite = false; // the write has left, and the device has not said what became of it
+        bool isInDoubt = false; // so had one of an earlier attempt, and nobody awaits its answer any more
         bool isHeld = false; // the write waits for the history
         bool hasLeft = false;
         bool isWritten = false; // the device said so
-        bool isDoubtful = false; // an earlier write of it had no answer, so the device may have it
     };
     struct Device
     {
@@ -112,8 +113,8 @@ private:
 
     std::optional<Result> resultOfRead(const Device &device, int exchange, const QJsonObject &held, int code) const;
     std::optional<Result> resultOfWrite(int device, int exchange, int code) const;
-    int lastExchange(int device) const;
-    Settled settled(int device, Outcome outcome, const Result &result);
+    bool isLastExchange(int device, int exchange) const;
+    Settled settled(int place, Outcome outcome, const Result &result);
 
     RunStart m_start;
     const orda_batchCfg::CfgFamily &m_family; // constant, and never deleted

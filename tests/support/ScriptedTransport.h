@@ -38,6 +38,8 @@ public:
         emit sent(requests.size());
     }
 
+    void passedOn(const QString &, const QString &text) override { passed.append(text); }
+
     QStringList methods() const
     {
         QStringList names;
@@ -48,6 +50,7 @@ public:
 
     Script script;
     QList<Request> requests;
+    QStringList passed; // answers that were passed on
 
 signals:
     void sent(int count); ///< requests so far
