@@ -276,7 +276,6 @@ private slots:
         for (const auto &entry : Families::all())
             if (entry.key)
                 row(qPrintable(entry.family.name), entry.family.name, "", "", "", "", "");
-        row("cloud type", "platform", "{'qbcloud_type': 'private'}", "", "", "", "");
         row("9100, manual flags sent", "platform_9100", "{'bManualcfgonline': true, 'bManualcfgbussiness': false}", "",
             "", "", "");
         row("second exchange changed by a value of the first", "audio", "{'encType': 'g711a', 'aoGain': 74}", "", "",
@@ -383,7 +382,7 @@ private slots:
         allowWarnings("message over 1024 KiB"); // the fault of the huge answer
         QFETCH(QString, family);
         Site site(fleetOf(120));
-        QVERIFY(site.open(300ms));
+        QVERIFY(site.open(250ms));
         Selection selection = site.reachable(family);
         QList<FaultRule> faults{{Fault::LateAnswer, 0, 100ms}, {Fault::LateAnswer, 0, 500ms}}; // in time, and not
         for (int fault = 0; fault <= int(Fault::DropAndReturn); ++fault)
@@ -518,7 +517,7 @@ private slots:
         QFETCH(int, second);
         QFETCH(QString, outcome);
         Site site(fleetOf(1));
-        QVERIFY(site.open(1500ms)); // so that a device that was cut off is back
+        QVERIFY(site.open(1300ms)); // so that a device that was cut off is back
         const QJsonObject before = site.devices();
         site.fleet.setFault("dev-0001", "chnosd_set_param", {Fault(first), -5, 10ms});
         connect(&site.fleet, &EmbeddedFleet::requestReceived, this, [&](const QString &devId, const QString &method) {
