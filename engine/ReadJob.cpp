@@ -10,8 +10,8 @@ namespace orda_engine {
 ReadJob::ReadJob(orda_journal::JournalTransport *journal, const Selection &selection, QObject *parent)
     : QObject(parent)
     , m_journal(journal)
-    , m_selection(selection)
-    , m_unreported(selection.devIds.begin(), selection.devIds.end())
+    , m_selection(selection.withoutDuplicates())
+    , m_unreported(m_selection.devIds.begin(), m_selection.devIds.end())
 {
 }
 

@@ -7,6 +7,13 @@ namespace orda_engine {
 using orda_batchCfg::CfgExchange;
 using orda_batchCfg::CfgKey;
 
+Selection Selection::withoutDuplicates() const
+{
+    Selection once = *this;
+    once.devIds.removeDuplicates();
+    return once;
+}
+
 int Selection::flagsFor(const QJsonObject &wanted) const
 {
     if (!wanted.isEmpty())

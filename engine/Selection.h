@@ -13,8 +13,11 @@ namespace orda_engine {
 /// Which devices a job is about, and which parameters of theirs.
 struct Selection
 {
+    /// The same with each device once, at its first place: the jobs make sure of it.
+    Selection withoutDuplicates() const;
+
     const orda_batchCfg::CfgFamily *family = nullptr; ///< one of Families::all(), which is never deleted
-    QStringList devIds; ///< each once, in the order in which they are to be reported where nothing else decides it
+    QStringList devIds; ///< in the order in which they are to be reported where nothing else decides it
     QJsonObject values; ///< what is to be set, by the device's own keys; empty for reading all that the family has
     QHash<QString, QJsonObject> ownValues = {}; ///< by device id: in place of values
 

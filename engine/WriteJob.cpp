@@ -34,7 +34,7 @@ bool isFailure(Outcome outcome)
 WriteJob::WriteJob(JournalTransport *journal, const Selection &selection, const WriteOptions &options, QObject *parent)
     : QObject(parent)
     , m_journal(journal)
-    , m_selection(selection)
+    , m_selection(selection.withoutDuplicates())
     , m_options(options)
     , m_runId(QUuid::createUuid().toString(QUuid::WithoutBraces))
 {

@@ -33,7 +33,7 @@ struct ExchangeRow
 {
     QString devId;
     int exchange = 0; ///< its place among the exchanges of the family
-    QString before; ///< the answer to the first read
+    QString before; ///< the answer to the last read before the first write
     QString sent; ///< the latest write request
     QString after; ///< the answer to the latest read since that write
 };

@@ -149,7 +149,9 @@ TrackedRun::Answer TrackedRun::takeAnswer(const QString &requestId, const QStrin
         if (method == family.getMethod && !std::exchange(exchange.isReadAnswered, true)) {
             exchange.awaitsRead = false;
             const QJsonObject held = family.heldIn(answer);
-            if (code == 0 && !std::exchange(exchange.hasBefore, true)) {
+            // A device that is tried again and was not written to yet is taken as it is found now.
+            if (code == 0 && !exchange.hasLeft) {
+                exchange.hasBefore = true;
                 exchange.beforeText = text;
                 exchange.before = held;
             }

@@ -89,7 +89,7 @@ private:
     struct Exchange
     {
         QString beforeText; // the answer, until the history has it
-        QJsonObject before; // what the device held at first
+        QJsonObject before; // what the device held before its first write
         QJsonObject sent; // the "param" of the latest write
         QVector<orda_batchCfg::MemberChange> changes; // from before to sent
         bool hasBefore = false;
