@@ -1,4 +1,5 @@
 #include "OsdExchange.h"
+#include "ProcessMemory.h"
 
 #include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/Inventory.h>
@@ -7,7 +8,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkRequest>
@@ -101,17 +101,6 @@ private:
     bool m_hasRead = false;
 };
 
-int residentKiB()
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    file.open(QIODevice::ReadOnly);
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    for (const QByteArray &line : lines)
-        if (line.startsWith("VmRSS:"))
-            return line.simplified().split(' ').value(1).toInt();
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -140,7 +129,7 @@ int main(int argc, char *argv[])
         if (++online < devices.size())
             return;
         figures.insert(QStringLiteral("connectMs"), clock.elapsed());
-        figures.insert(QStringLiteral("memoryKiB"), residentKiB());
+        figures.insert(QStringLiteral("memoryKiB"), processMemoryKiB("VmRSS"));
         QTimer::singleShot(200ms, QCoreApplication::instance(), [&] {
             clock.start();
             for (const auto &device : devices)

@@ -1,4 +1,5 @@
 #include "OsdExchange.h"
+#include "ProcessMemory.h"
 
 #include <engine/ApplyJob.h>
 #include <engine/ReadJob.h>
@@ -17,7 +18,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
@@ -61,18 +61,6 @@ Selection osdOf(const QList<vms_sdk::DevInfo> &devices)
     return selection;
 }
 
-// Once in the life of the process: the most memory that it has had.
-int peakKiB()
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    file.open(QIODevice::ReadOnly);
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    for (const QByteArray &line : lines)
-        if (line.startsWith("VmHWM:"))
-            return line.simplified().split(' ').value(1).toInt();
-    return 0;
-}
-
 class Measurement : public QObject
 {
 public:
@@ -102,7 +90,7 @@ public:
 private:
     void begin()
     {
-        m_connectedKiB = peakKiB();
+        m_connectedKiB = processMemoryKiB("VmHWM");
         m_cpu = std::clock();
         m_clock.start();
         if (m_mode == QLatin1String("plan"))
@@ -156,7 +144,7 @@ private:
         QTextStream(stdout) << QJsonDocument({{QStringLiteral("runMs"), runMs},
                                               {QStringLiteral("cpuMs"), cpuMs},
                                               {QStringLiteral("connectedKiB"), m_connectedKiB},
-                                              {QStringLiteral("peakKiB"), peakKiB()}})
+                                              {QStringLiteral("peakKiB"), processMemoryKiB("VmHWM")}})
                                    .toJson(QJsonDocument::Compact)
                             << Qt::endl;
         if (m_mode == QLatin1String("apply"))

@@ -262,9 +262,10 @@ void WriteJob::finish(const QString &error)
     if (m_readAgain)
         m_readAgain->cancel();
     const auto unverified = std::exchange(m_settled, {}); // when the connection went away
-    for (Settled settled : unverified) {
-        settled.row.message = tr("%1; not verified: %2").arg(settled.row.message, tr("the connection has ended"));
-        report(settled);
+    for (const Settled &settled : unverified) {
+        Settled told = settled;
+        told.row.message = tr("%1; not verified: %2").arg(told.row.message, tr("the connection has ended"));
+        report(told);
     }
     if (std::exchange(m_hasTurn, false) && m_journal) {
         m_journal->disconnect(this);
