@@ -29,14 +29,11 @@ ClientSession::ClientSession(const orda_journal::HistoryOptions &history, QObjec
                                                       std::make_unique<orda_journal::HistoryWriter>(history));
     m_journal = journal.get();
     m_pageWatch = new orda_journal::PageWatch(m_journal, this);
-    // After the run's summary, which would hide it.
     connect(m_journal, &JournalTransport::signalHistoryFailed, this, [this](const QString &why) {
-        m_historyFault = tr("%1. Nothing was written to devices after that.").arg(why);
-        if (!m_journal->isBusy())
-            tellHistoryFault();
+        tellAfterRun(tr("%1. Nothing was written to devices after that.").arg(why));
     });
-    connect(m_journal, &JournalTransport::signalRunEnded, this, &ClientSession::tellHistoryFault);
-    connect(m_journal, &JournalTransport::signalHistorySetAside, this, &ClientSession::signalAlert);
+    connect(m_journal, &JournalTransport::signalHistorySetAside, this, &ClientSession::tellAfterRun);
+    connect(m_journal, &JournalTransport::signalRunEnded, this, &ClientSession::tellAlerts);
     connect(m_pageWatch, &orda_journal::PageWatch::signalDeclined, this, &ClientSession::signalAlert);
     vms_sdk::ClientSdk::instance().setTransport(std::move(journal));
 
@@ -109,10 +106,19 @@ void ClientSession::watchPages(const QObject *form)
             m_pageWatch->watch(page);
 }
 
-void ClientSession::tellHistoryFault()
+// The run's summary would hide it, and whoever drives the client takes an alert before the summary for its end.
+void ClientSession::tellAfterRun(const QString &text)
 {
-    if (!m_historyFault.isEmpty())
-        emit signalAlert(std::exchange(m_historyFault, {}));
+    m_alerts.append(text);
+    if (!m_journal->isBusy())
+        tellAlerts();
+}
+
+void ClientSession::tellAlerts()
+{
+    const QStringList alerts = std::exchange(m_alerts, {});
+    for (const QString &text : alerts)
+        emit signalAlert(text);
 }
 
 void ClientSession::connectAgain()

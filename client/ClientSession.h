@@ -52,13 +52,14 @@ signals:
 private:
     void replaceDevices(const QList<vms_sdk::DevInfo> &devices);
     void followStore();
-    void tellHistoryFault();
+    void tellAfterRun(const QString &text);
+    void tellAlerts();
 
     std::unique_ptr<device_fleet::EmbeddedFleet> m_fleet;
     QPointer<orda_journal::JournalTransport> m_journal; // the SDK owns it
     QPointer<vms_sdk::WebSocketTransport> m_transport; // the journal owns it
     orda_journal::PageWatch *m_pageWatch;
-    QString m_historyFault; // not told yet
+    QStringList m_alerts; // not told yet
 };
 
 } // namespace orda_client

@@ -200,7 +200,12 @@ private slots:
         const QMap<QString, QString> recorded = recordedMessages(familyRow("osd"));
         QCOMPARE(recorded.size(), 6);
         QCOMPARE(int(std::count(recorded.begin(), recorded.end(), "success")), 6);
-        QCOMPARE(another("osd"), 0); // the dead one's lock is gone
+        QFile history(qEnvironmentVariable("XDG_STATE_HOME") + "/orda/history.db");
+        QVERIFY(history.open(QIODevice::WriteOnly) && history.write("damaged") == 7);
+        history.close();
+        QFile::remove(history.fileName() + "-wal");
+        QCOMPARE(another("osd"), 0); // the dead one's lock is gone; a history set aside stops nothing
+        QVERIFY2(said.contains("history.db is damaged"), said);
     }
 
     void fullDiskIsCalledByItsName()
