@@ -11,7 +11,7 @@ namespace orda_engine {
 /// What the history has of one device.
 struct RecordedDevice
 {
-    ObjectsByExchange before; ///< what it held
+    ObjectsByExchange before; ///< what it held; of what the run did not ask for, what it last repeated
     ObjectsByExchange sent; ///< "param" of its writes
 };
 
