@@ -102,6 +102,8 @@ void WriteJob::nextWave()
             reached.append(devId);
         else
             m_journal->settleNotReached(devId, reach.text);
+        if (m_isOver)
+            return; // the connection went while this was told
     }
     tryDevices(reached);
 }
@@ -129,7 +131,7 @@ void WriteJob::takeResult(const QString &devId, const QString &message, int code
         m_failed.append({devId, {code, message}});
     else if (m_journal)
         m_journal->settle(devId, code == ParamsCfgTask::Success ? messageOf(task, message) : message, code);
-    if (m_run->isOver())
+    if (m_run && m_run->isOver())
         QMetaObject::invokeMethod(this, &WriteJob::endAttempt, Qt::QueuedConnection);
 }
 
@@ -226,7 +228,7 @@ void WriteJob::loseTransport()
 {
     for (const QString &devId : m_selection.devIds)
         if (m_settled.contains(devId))
-            takeReading(devId, orda_journal::StoppedCode, tr("stopped"), {});
+            takeReading(devId, orda_journal::StoppedCode, tr("the connection has ended"), {});
     finish({});
 }
 
@@ -261,12 +263,6 @@ void WriteJob::finish(const QString &error)
     qDeleteAll(std::exchange(m_tasks, {})); // they must not send anything over the next connection
     if (m_readAgain)
         m_readAgain->cancel();
-    const auto unverified = std::exchange(m_settled, {}); // when the connection went away
-    for (const Settled &settled : unverified) {
-        Settled told = settled;
-        told.row.message = tr("%1; not verified: %2").arg(told.row.message, tr("the connection has ended"));
-        report(told);
-    }
     if (std::exchange(m_hasTurn, false) && m_journal) {
         m_journal->disconnect(this);
         m_journal->end();
