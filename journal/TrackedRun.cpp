@@ -138,6 +138,7 @@ TrackedRun::Answer TrackedRun::takeAnswer(const QString &requestId, const QStrin
     QJsonParseError fault{};
     const QJsonObject answer = QJsonDocument::fromJson(text.toUtf8(), &fault).object();
     if (fault.error != QJsonParseError::NoError) {
+        dropHeld(place); // it ends every task, one that is tried again too
         const Result result{ParamsCfgTask::NotJson, ParamsCfgTask::notJsonText()};
         return {place, -1, false, false, result};
     }
