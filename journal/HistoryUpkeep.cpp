@@ -13,6 +13,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <limits>
 
 namespace orda_journal {
 
@@ -74,10 +75,12 @@ bool remove(HistoryFile *file, qint64 runNumber)
 // without rows.
 bool giveSpaceBack(HistoryFile *file)
 {
-    for (;;) {
+    for (int before = std::numeric_limits<int>::max();;) {
         const int pages = file->value(QStringLiteral("PRAGMA freelist_count")).toInt();
-        if (pages == 0 || file->fault() != HistoryFile::NoFault || !file->begin())
+        // A file that another program has rewritten may not give its space back.
+        if (pages == 0 || pages >= before || file->fault() != HistoryFile::NoFault || !file->begin())
             break;
+        before = pages;
         QSqlQuery query = file->prepare(QStringLiteral("PRAGMA incremental_vacuum(1)"));
         for (int page = std::min(pages, pagesAtOnce); page > 0 && file->fault() == HistoryFile::NoFault; --page)
             file->run(query);

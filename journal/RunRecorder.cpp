@@ -73,7 +73,7 @@ bool RunRecorder::makeReady()
     if (!isOpen || !settleRuns(&m_file))
         return false;
     removeLeftLocks(m_file);
-    return prune();
+    return true; // old runs are removed after this one, whose writes would wait for it
 }
 
 bool RunRecorder::transaction(Place first, Place last)
