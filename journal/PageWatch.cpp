@@ -20,6 +20,12 @@ PageWatch::PageWatch(JournalTransport *journal, QObject *parent)
 {
 }
 
+PageWatch::~PageWatch()
+{
+    if (m_runningPage)
+        endRun();
+}
+
 void PageWatch::watch(QObject *page)
 {
     page->installEventFilter(this);

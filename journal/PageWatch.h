@@ -15,6 +15,8 @@ class PageWatch : public QObject
 
 public:
     explicit PageWatch(JournalTransport *journal, QObject *parent = nullptr);
+    /// Ends the record of a run that is under way.
+    ~PageWatch() override;
 
     /// The runs of this page from now on.
     void watch(QObject *page);
