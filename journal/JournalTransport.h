@@ -61,7 +61,7 @@ public:
 
 signals:
     void signalRunBegan(const orda_journal::RunStart &run);
-    /// A device has its outcome; it may get another one later, when it is tried again or verified.
+    /// A device of the run has its outcome: once for each. What noteDiffers() makes of it later is not told here.
     void signalSettled(const orda_journal::Settled &settled);
     void signalRunEnded(const QString &runId);
     /// The history cannot be written: the run that is under way writes to no device any more.
