@@ -145,9 +145,11 @@ void WriteJob::endAttempt()
     for (const auto &[devId, result] : failed) {
         if (m_stopped.isEmpty() && reachOf(devId).canBeWritten)
             again.append(devId);
-        else
+        else if (m_journal)
             m_journal->settle(devId, result.message, result.code);
     }
+    if (m_isOver)
+        return; // the connection went while this was told
     if (again.isEmpty()) {
         verifyWave();
         return;
@@ -251,7 +253,8 @@ void WriteJob::settleRest()
 {
     const QStringList rest = m_selection.devIds.mid(m_begun);
     for (const QString &devId : rest)
-        m_journal->settle(devId, tr("not begun: %1").arg(m_stopped), orda_journal::StoppedCode);
+        if (m_journal)
+            m_journal->settle(devId, tr("not begun: %1").arg(m_stopped), orda_journal::StoppedCode);
     finish({});
 }
 
