@@ -210,6 +210,8 @@ def measure_site(options, env, directory, table):
 
 
 def measure_engine(options, env, directory, table):
+    directory = directory / "engine"  # another fleet, and so other inventories
+    directory.mkdir()
     fleet = Fleet(options, max(options.sizes), directory, env)
     for size in options.sizes:
         inventory = fleet.inventory(size)

@@ -83,6 +83,7 @@ public:
                     if (vms_sdk::isOnlineStatus(status) && ++m_online == m_selection.devIds.size())
                         QTimer::singleShot(200ms, this, &Measurement::begin);
                 });
+        QTimer::singleShot(120s, this, [] { qFatal("not all devices are online, or not all have ended"); });
         orda_data::DevsMgrData::instance().updateDevs(devices);
         connections->setDevices(devices);
     }
