@@ -115,6 +115,7 @@ HistoryWriter::~HistoryWriter()
         const Thread *const hanging = m_thread.release(); // in a call of the system, and still uses what it has
         Q_UNUSED(hanging)
     }
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall); // what became of the last rows
 }
 
 quint64 HistoryWriter::beginRun(const RunStart &run)

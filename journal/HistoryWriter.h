@@ -22,7 +22,7 @@ class HistoryWriter : public QObject
 
 public:
     explicit HistoryWriter(const HistoryOptions &options = {}, QObject *parent = nullptr);
-    /// Writes what has been handed over, for at most ten seconds.
+    /// Writes what has been handed over, for at most ten seconds, and raises the signals about it.
     ~HistoryWriter() override;
 
     /// Each of these returns a ticket, larger than all before; signalCommitted() tells how far the disk has it.

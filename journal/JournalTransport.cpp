@@ -41,6 +41,7 @@ JournalTransport::~JournalTransport()
 {
     m_transport.reset(); // nothing is answered any more
     end();
+    m_history.reset(); // now, as it may still tell that it cannot be written
 }
 
 QString JournalTransport::takeTurn(Turn turn, Owner owner)

@@ -53,6 +53,8 @@ struct Site : FormFixture
                          [this](auto, const QString &text) { decline(text); });
     }
 
+    ~Site() { vms_sdk::ClientSdk::instance().setTransport(nullptr); } // before its history goes
+
     void setTransport()
     {
         auto scripted = std::make_unique<ScriptedTransport>([this](const Request &request) {
