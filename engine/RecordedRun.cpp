@@ -52,6 +52,10 @@ RecordedRun::RecordedRun(const orda_journal::RunDetails &details)
         m_error = tr("The run is of \"%1\", of which this program knows nothing.").arg(details.run.family);
         return;
     }
+    if (details.run.isUnderWay) {
+        m_error = tr("The run is still under way.");
+        return;
+    }
     m_written.family = &entry->family;
     m_written.values = details.run.values;
     for (const orda_journal::DeviceRow &device : details.devices)

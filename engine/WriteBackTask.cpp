@@ -21,6 +21,7 @@ WriteBackTask::WriteBackTask(const CfgFamily &family, const QString &devId, cons
                              QObject *parent)
     : ParamsCfgTask(family, devId, values, flagsOf(family, sent), parent)
     , m_family(family)
+    , m_runValues(values)
     , m_before(before)
     , m_sent(sent)
     , m_force(force)
@@ -35,7 +36,7 @@ void WriteBackTask::handleDevParams(int exchange, const QJsonObject &device)
     if (goBack.isEmpty())
         goOnAfter(exchange);
     else
-        writeLater(exchange, m_family.exchanges.at(exchange).writeBack(device, goBack));
+        writeLater(exchange, m_family.exchanges.at(exchange).writeBack(device, goBack, m_runValues));
 }
 
 } // namespace orda_engine

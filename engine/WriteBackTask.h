@@ -31,6 +31,7 @@ protected:
 
 private:
     const orda_batchCfg::CfgFamily &m_family;
+    const QJsonObject m_runValues;
     ObjectsByExchange m_before, m_sent;
     bool m_force;
     DeviceUndo m_decided;

@@ -73,6 +73,8 @@ public:
         if (file.run(query, value))
             while (file.next(query))
                 found.append(runOf(query));
+        for (RunRow &run : found)
+            run.isUnderWay = run.ended == 0 && FileLock::isTaken(file.lockPath(run.id));
         return found;
     }
 

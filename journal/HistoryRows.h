@@ -58,7 +58,8 @@ struct RunRow
     QJsonObject values;
     QString program; ///< that made it, such as "orda_client 1.0.0"
     qint64 began = 0; ///< milliseconds since the epoch, UTC
-    qint64 ended = 0; ///< 0: under way, here or in another process
+    qint64 ended = 0; ///< 0: under way, or its program has ended before
+    bool isUnderWay = false; ///< here or in another process
     int devices = 0;
     QMap<Outcome, int> counts = {}; ///< of a run that has ended; together as many as there are devices
 };

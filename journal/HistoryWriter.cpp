@@ -62,7 +62,9 @@ protected:
     {
         RunRecorder recorder(
             m_options, {[this](quint64 ticket) { report([ticket](auto *to) { emit to->signalCommitted(ticket); }); },
-                        [this](const QString &why) { report([why](auto *to) { emit to->signalFailed(why); }); },
+                        [this](const QString &why, const QString &runId) {
+                            report([why, runId](auto *to) { emit to->signalFailed(why, runId); });
+                        },
                         [this](const QString &what) { report([what](auto *to) { emit to->signalSetAside(what); }); }});
         for (RunEntries entries; takeQueued(&entries); entries.clear()) {
             recorder.write(entries);

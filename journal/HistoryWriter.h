@@ -42,9 +42,9 @@ public:
 signals:
     /// Everything up to @p ticket is on the disk.
     void signalCommitted(quint64 ticket);
-    /// The run that is under way is not recorded beyond the last signalCommitted().
+    /// The run is not recorded beyond the last signalCommitted().
     /// @param why for the user: which file, and what is wrong with it
-    void signalFailed(const QString &why);
+    void signalFailed(const QString &why, const QString &runId);
     /// A damaged history was renamed. @param what for the user: both names
     void signalSetAside(const QString &what);
 

@@ -215,11 +215,13 @@ void JournalTransport::stop()
     refuseHeld();
 }
 
-void JournalTransport::historyFailed(const QString &why)
+void JournalTransport::historyFailed(const QString &why, const QString &runId)
 {
     qCWarning(logJournal).noquote() << why;
-    m_hasFailed = true;
-    refuseHeld();
+    if (m_run && m_run->start().id == runId) { // and not one that has ended before
+        m_hasFailed = true;
+        refuseHeld();
+    }
     emit signalHistoryFailed(why);
 }
 

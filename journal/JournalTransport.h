@@ -92,7 +92,7 @@ private:
     void refuseHeld();
     void answerInstead(const QString &requestId, const QString &method, int code);
     void handleTimeout(const QString &requestId);
-    void historyFailed(const QString &why);
+    void historyFailed(const QString &why, const QString &runId);
     void record(const Settled &settled);
 
     std::unique_ptr<vms_sdk::DeviceTransport> m_transport;

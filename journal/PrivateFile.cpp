@@ -112,6 +112,16 @@ std::optional<FileIdentity> identityOf(const QString &path)
     return FileIdentity{info.st_dev, info.st_ino};
 }
 
+bool FileLock::isTaken(const QString &path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0)
+        return false;
+    const bool isFree = ::flock(fd, LOCK_SH | LOCK_NB) == 0;
+    ::close(fd);
+    return !isFree;
+}
+
 QString FileLock::take(const QString &path, std::chrono::milliseconds timeout)
 {
     release();

@@ -47,6 +47,9 @@ public:
     void release();
     void releaseAndRemove();
 
+    /// Whether somebody has the lock. Makes no file.
+    static bool isTaken(const QString &path);
+
 private:
     int m_fd = -1;
     QString m_path;

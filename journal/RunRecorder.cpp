@@ -141,11 +141,12 @@ void RunRecorder::forgetRun()
 void RunRecorder::loseRun()
 {
     const QString why = m_file.error();
+    const QString runId = m_runId;
     if (m_file.fault() == HistoryFile::Damaged)
         setAside();
     forgetRun();
     m_file.close();
-    m_reports.failed(tr("The history cannot be written. %1").arg(why));
+    m_reports.failed(tr("The history cannot be written. %1").arg(why), runId);
 }
 
 } // namespace orda_journal

@@ -18,7 +18,8 @@ public:
     struct Reports
     {
         std::function<void(quint64 ticket)> committed;
-        std::function<void(const QString &why)> failed, setAside;
+        std::function<void(const QString &why, const QString &runId)> failed;
+        std::function<void(const QString &what)> setAside;
     };
 
     RunRecorder(const HistoryOptions &options, Reports reports);

@@ -194,10 +194,12 @@ QJsonObject CfgExchange::withMembers(const QJsonObject &device, const QJsonObjec
     return changed;
 }
 
-QJsonObject CfgExchange::writeBack(const QJsonObject &device, const QJsonObject &members) const
+QJsonObject CfgExchange::writeBack(const QJsonObject &device, const QJsonObject &members,
+                                   const QJsonObject &values) const
 {
     const QJsonObject wanted = withMembers(device, members);
-    return setParam(completeFrom({}, wanted, fromValues), wanted);
+    const QJsonObject steering = completeFrom(completeFrom({}, wanted, fromValues), values, fromValues);
+    return setParam(steering, wanted);
 }
 
 bool CfgExchange::holds(const QJsonObject &param, const QJsonObject &device) const

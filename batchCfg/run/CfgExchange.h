@@ -72,7 +72,8 @@ struct CfgExchange
     QJsonObject withMembers(const QJsonObject &device, const QJsonObject &members) const;
     /// The "param" of a write after which the device holds @p members, as far as it has them, and else what it holds
     /// now.
-    QJsonObject writeBack(const QJsonObject &device, const QJsonObject &members) const;
+    /// @param values that steer the write where the device does not say what it has
+    QJsonObject writeBack(const QJsonObject &device, const QJsonObject &members, const QJsonObject &values = {}) const;
     /// Whether the device holds everything that a write with @p param sets.
     bool holds(const QJsonObject &param, const QJsonObject &device) const;
 

@@ -96,6 +96,10 @@
         <source>The run has written to no device.</source>
         <translation>Der Lauf hat auf kein Gerät geschrieben.</translation>
     </message>
+    <message>
+        <source>The run is still under way.</source>
+        <translation>Der Lauf ist noch nicht beendet.</translation>
+    </message>
 </context>
 <context>
     <name>orda_engine::Waves</name>

@@ -96,6 +96,10 @@
         <source>The run has written to no device.</source>
         <translation>该运行没有写入任何设备。</translation>
     </message>
+    <message>
+        <source>The run is still under way.</source>
+        <translation>该运行仍在进行中。</translation>
+    </message>
 </context>
 <context>
     <name>orda_engine::Waves</name>
