@@ -61,13 +61,6 @@ struct Device
             simulated.answer({{"method", family.exchanges.at(place).setMethod}, {"param", param}});
         QCOMPARE(answer["error"]["errorcode"].toInt(-99), 0);
     }
-
-    void takeBack(const DeviceUndo &undo, const ObjectsByExchange &held)
-    {
-        for (auto it = undo.begin(); it != undo.end(); ++it)
-            if (!it->goBack.isEmpty())
-                write(it.key(), family.exchanges.at(it.key()).writeBack(held[it.key()], it->goBack));
-    }
 };
 
 /// What the device holds, with these changes.
@@ -86,7 +79,7 @@ QString membersIn(const CfgFamily &family, const ObjectsByExchange &held, const 
 }
 
 /// Some of the family's keys, each with a value that it may have.
-QJsonObject drawMembers(const CfgFamily &family, std::mt19937 &random, int &flags)
+QJsonObject drawMembers(const CfgFamily &family, std::mt19937 &random)
 {
     const auto below = [&random](int limit) { return int(random() % unsigned(limit)); };
     const QString prefix = family.exchanges.at(0).listPrefix;
@@ -95,7 +88,6 @@ QJsonObject drawMembers(const CfgFamily &family, std::mt19937 &random, int &flag
         for (const CfgKey &key : family.keys) {
             if (below(3) == 0)
                 continue;
-            flags |= key.flag;
             QJsonValue value = below(2) == 0;
             if (key.type == CfgKey::NumberSwitch)
                 value = below(2);
@@ -161,9 +153,9 @@ private slots:
         const CfgFamily &family = familyOf(name);
         Device device{family, {"d", device_fleet::makeSiteDevice(quint32(seed), 0).parameters}};
         const QString dump = text(device.simulated.parameters());
-        int flags = 0;
-        const QJsonObject asked = drawMembers(family, random, flags);
+        const QJsonObject asked = drawMembers(family, random);
         const QJsonObject values = family.exchanges.at(0).toValues(asked);
+        const int flags = family.flagsOf(values);
         QCOMPARE(text(family.exchanges.at(0).askedBy(values)), text(asked));
 
         const ObjectsByExchange before = device.read(flags, values);
@@ -183,7 +175,9 @@ private slots:
         QCOMPARE(differencesOf(family, flags, values, sent, after).size(), rest.changes.size() + rest.added.size());
 
         const DeviceUndo undo = undoOf(family, before, sent, after, false);
-        device.takeBack(undo, after);
+        for (auto it = undo.begin(); it != undo.end(); ++it)
+            if (!it->goBack.isEmpty())
+                device.write(it.key(), family.exchanges.at(it.key()).writeBack(after[it.key()], it->goBack));
         const ObjectsByExchange back = device.read(flags, values);
         QCOMPARE(membersIn(family, back), membersIn(family, before, plan.added));
         if (plan.added.isEmpty())
@@ -203,9 +197,7 @@ private slots:
         QFETCH(QString, name);
         const CfgFamily &family = familyOf(name);
         const QJsonObject values = parsed(field("values")).toObject();
-        int flags = 0;
-        for (const CfgKey &key : family.keys)
-            flags |= values.contains(key.name) ? key.flag : 0;
+        const int flags = family.flagsOf(values);
         ObjectsByExchange before, sent, held;
         const QVector<int> places = family.exchangesOf(flags);
         for (const int place : places) {
