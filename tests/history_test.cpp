@@ -49,27 +49,24 @@ struct Writing
 
     quint64 wholeRun(const RunStart &start, const QString &text = "{}")
     {
-        const auto put = [this](quint64 ticket) {
-            tickets.append(ticket);
+        writer.beginRun(start);
+        for (const QString &devId : start.devIds) {
+            writer.putExchange(start.id, {devId, 0, text, "sent", {}});
             QTest::qWait(pause);
-        };
-        put(writer.beginRun(start));
+        }
         for (const QString &devId : start.devIds)
-            put(writer.putExchange(start.id, {devId, 0, text, "sent", {}}));
-        for (const QString &devId : start.devIds)
-            put(writer.putDevice(start.id, {devId, Outcome::Done, 0, "success", {}}));
-        put(writer.endRun(start.id));
-        return tickets.constLast();
+            writer.putDevice(start.id, {devId, Outcome::Done, 0, "success", {}});
+        return writer.endRun(start.id);
     }
 
     int pause = 0; // in milliseconds: a run is in several transactions then
     quint64 committed = 0;
     QStringList failures, aside;
-    QVector<quint64> tickets;
     HistoryWriter writer; // the last: its thread ends before the rest
 };
 
-/// The program as another process: "write PATH RUNS" says again and again how many steps are on the disk.
+/// The program as another process: "write PATH RUNS" says again and again how many steps are on the disk,
+/// each of which has a ticket.
 int writeAsOther(const QStringList &arguments)
 {
     HistoryOptions options;
@@ -77,7 +74,7 @@ int writeAsOther(const QStringList &arguments)
     Writing writing(options);
     writing.pause = 1;
     QObject::connect(&writing.writer, &HistoryWriter::signalCommitted, &writing.writer,
-                     [&writing](quint64 ticket) { std::cout << writing.tickets.lastIndexOf(ticket) + 1 << std::endl; });
+                     [](quint64 ticket) { std::cout << ticket << std::endl; });
     for (int run = 0; run < arguments.at(3).toInt(); ++run)
         if (!writing.onDisk(writing.wholeRun(startOf(devicesOfRun))))
             return 1;
@@ -93,12 +90,6 @@ struct Other : QProcess
     }
     ~Other() override { kill(), waitForFinished(); }
 };
-
-void overwrite(const QString &path, qint64 from)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(from) && file.write(QByteArray(4096, 'x')) == 4096);
-}
 
 QVariant sql(const QString &path, const QString &statement)
 {
@@ -162,10 +153,12 @@ class HistoryTest : public OrdaTest
     {
         return QProcess::execute("/bin/sh", {"-c", QString("cd '%1' && { %2; }").arg(directory(), command)}) == 0;
     }
-    void overwritePageOf(const QString &table)
+    bool overwritePageOf(const QString &table) const // or the beginning
     {
         const QString page = QString("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(table);
-        overwrite(m_options.path, table.isEmpty() ? 0 : (sql(m_options.path, page).toInt() - 1) * 4096);
+        const int before = table.isEmpty() ? 0 : sql(m_options.path, page).toInt() - 1;
+        return inShell("yes | dd of=history.db bs=4096 count=1 conv=notrunc iflag=fullblock status=none seek="
+                       + QString::number(before));
     }
     void writeRuns(int count, const QString &text = "{}")
     {
@@ -299,11 +292,8 @@ private slots:
         QFETCH(QString, page);
         QFETCH(bool, isSeenInList);
         writeRuns(3);
-        if (page == "end")
-            QVERIFY(QFile::resize(m_options.path, 4096 + 100));
-        else
-            overwritePageOf(page);
-        overwrite(m_options.path + "-wal", 0); // nothing that SQLite takes for its own, and kept all the same
+        QVERIFY(page == "end" ? inShell("truncate -s 4200 history.db") : overwritePageOf(page));
+        QVERIFY(inShell("yes | head -c 4096 >history.db-wal")); // not SQLite's own, and kept all the same
         {
             HistoryReader reader(m_options);
             QCOMPARE(reader.runs().size() == 3 && reader.error().isEmpty(), !isSeenInList);
@@ -369,7 +359,7 @@ private slots:
         const bool isDamaged = damage != "none";
         if (isDamaged) {
             writeRuns(1);
-            overwritePageOf(damage);
+            QVERIFY(overwritePageOf(damage));
         }
         constexpr int each = 3;
         Other killed(m_options.path, 1000000), other(m_options.path, each);
