@@ -6,7 +6,6 @@
 
 #include <QtSql>
 
-#include <csignal>
 #include <iostream>
 #include <sys/mount.h>
 #include <sys/stat.h>
@@ -364,7 +363,7 @@ private slots:
         QVERIFY(writing.onDisk(writing.wholeRun(startOf(devicesOfRun))));
         QVERIFY(killed.waitForReadyRead());
         QTest::qWait(random.bounded(200));
-        ::kill(pid_t(killed.processId()), SIGKILL);
+        killed.kill();
         QVERIFY(killed.waitForFinished());
         const int told = killed.readAllStandardOutput().trimmed().split('\n').last().toInt();
         for (int i = 1; i < each; ++i)

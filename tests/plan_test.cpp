@@ -283,6 +283,15 @@ private slots:
         QCOMPARE(membersIn(device.family, device.read(allFlags, values)), membersIn(device.family, expected));
     }
 
+    void cloudIsReadAsTheRunReadIt()
+    {
+        Device device{familyOf("platform"), {"d", {}}};
+        const QJsonObject values{{"qbcloud_type", "private"}};
+        const ScriptedTransport *transport = use(device);
+        const WriteBackTask task(device.family, "d", values, {{0, {}}}, {{0, values}}, false, nullptr);
+        QCOMPARE(transport->requests.at(0).json().value("param")["qbcloud_type"].toString(), "private");
+    }
+
 private:
     const QStringList audio{"ai_get_param", "ai_set_param", "ao_get_param", "ao_set_param"};
 
