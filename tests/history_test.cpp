@@ -239,7 +239,7 @@ private slots:
     {
         const mode_t before = ::umask(0);
         const auto restore = qScopeGuard([before] { ::umask(before); });
-        for (const QString id : {"aaaa0000-0000-4000-8000-000000000001", "aaaa0000-0000-4000-8000-000000000002"}) {
+        for (const char *id : {"aaaa0000-0000-4000-8000-000000000001", "aaaa0000-0000-4000-8000-000000000002"}) {
             Writing writing(m_options);
             QVERIFY(writing.onDisk(writing.writer.beginRun(startOf(1, id))));
             const QString files = "700 .\n600 %1.lock\n600 history.db\n600 history.db-shm\n600 history.db-wal\n"
@@ -305,7 +305,7 @@ private slots:
         QCOMPARE(writing.aside.size(), 1);
         QVERIFY(writing.aside.first().contains(m_options.path + ' ') && writing.aside.first().contains(aside.first()));
         QCOMPARE(runs().size(), 1);
-        QCOMPARE(runs().first().counts, (Counts{{Outcome::Done, 2}}));
+        QCOMPARE(runs().constFirst().counts, (Counts{{Outcome::Done, 2}}));
     }
 
     void whatEndsARun_data()
@@ -339,7 +339,7 @@ private slots:
         QTimer::singleShot(100, &writing.writer, [&other] { other.close(); }); // it waits so long
         QVERIFY(inShell("rm -f big; test ! -e moved || mv moved history.db"));
         QVERIFY(writing.onDisk(writing.wholeRun(startOf(1)), 1));
-        QCOMPARE(runs().last().counts, (Counts{{Outcome::Unknown, 1}, {Outcome::Stopped, 2}}));
+        QCOMPARE(runs().constLast().counts, (Counts{{Outcome::Unknown, 1}, {Outcome::Stopped, 2}}));
         QVERIFY(inShell("mv history.db between-two-runs")); // costs nothing
         QVERIFY(writing.onDisk(writing.wholeRun(startOf(1)), 1));
         QCOMPARE(runs().size(), 1);
@@ -417,7 +417,7 @@ private slots:
         m_options.keptBytes = qint64(keptKiB) * 1024;
         writeRuns(1, text);
         QCOMPARE(runs().size(), left + 1);
-        QCOMPARE(runs().last().ended, 0);
+        QCOMPARE(runs().constLast().ended, 0);
         QCOMPARE(sql(m_options.path, "SELECT min(number) FROM runs WHERE number > 1").toInt(), 13 - left);
         QCOMPARE(sql(m_options.path, "SELECT count(*) FROM exchanges").toInt(), left * devicesOfRun);
         const qint64 size = QFileInfo(m_options.path).size();
