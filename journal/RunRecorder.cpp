@@ -64,13 +64,15 @@ bool RunRecorder::makeReady()
 {
     if (m_isDamaged && !setAside())
         return false;
-    if (m_file.isOpen() && m_file.isInPlace())
-        return settleRuns(&m_file);
-    QString what;
-    const bool isOpen = m_file.openToWrite(&what);
-    if (!what.isEmpty())
-        m_reports.setAside(what);
-    if (!isOpen || !settleRuns(&m_file))
+    if (!m_file.isOpen() || !m_file.isInPlace()) {
+        QString what;
+        const bool isOpen = m_file.openToWrite(&what);
+        if (!what.isEmpty())
+            m_reports.setAside(what);
+        if (!isOpen)
+            return false;
+    }
+    if (!settleRuns(&m_file))
         return false;
     removeLeftLocks(m_file);
     return true; // old runs are removed after this one, whose writes would wait for it
