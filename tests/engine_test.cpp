@@ -4,9 +4,9 @@
 #include "fleet/EmbeddedFleet.h"
 #include "fleet/ParameterTemplates.h"
 #include "fleet/Site.h"
-#include "journal/HistoryReader.h"
 #include "journal/HistoryWriter.h"
 #include "journal/JournalTransport.h"
+#include "support/Accounts.h"
 #include "support/FleetOf.h"
 #include "support/OrdaTest.h"
 #include "support/Store.h"
@@ -104,7 +104,7 @@ JournalTransport *connectTo(const QList<vms_sdk::DevInfo> &devices, const QStrin
 
 bool areOnline(int devices)
 {
-    return QTest::qWaitFor([=] { return orda_data::DevsMgrData::instance().devCount(true) == devices; }, 20000);
+    return isReached([=] { return orda_data::DevsMgrData::instance().devCount(true) == devices; });
 }
 
 /// A fleet and the client over it.
@@ -191,7 +191,7 @@ struct Ran
             rows.insert(settled.row.devId, settled.row);
         });
         job.start();
-        QVERIFY(QTest::qWaitFor([&] { return finished.count() == 1; }, 60000));
+        QVERIFY(isReached([&] { return finished.count() == 1; }, 60s));
         QCOMPARE(finished.at(0).at(0).toString(), "");
         QCOMPARE(reports, job.selection().devIds.size());
         QCOMPARE(rows.size(), reports);
@@ -200,7 +200,7 @@ struct Ran
             QVERIFY2(mayHaveChanged(*row.outcome) || before[row.devId] == after[row.devId], qPrintable(row.message));
         if (!isRecorded)
             return;
-        QVERIFY(QTest::qWaitFor([&] { return site.run(job.runId()).run.ended > 0; }));
+        QVERIFY(isReached([&] { return site.run(job.runId()).run.ended > 0; }));
         details = site.run(job.runId());
         QCOMPARE(details.devices.size(), reports);
         QMap<Outcome, int> counts;
@@ -328,7 +328,7 @@ private slots:
         });
         const QSignalSpy finished(&reading, &ReadJob::signalFinished);
         reading.start();
-        QVERIFY(QTest::qWaitFor([&] { return finished.count() == 1; }));
+        QVERIFY(isReached([&] { return finished.count() == 1; }));
         QVERIFY(expected.size() > 60 && !changing.isEmpty());
         QCOMPARE(site.devices(), before);
         for (const QStringList &methods : qAsConst(site.asked))
