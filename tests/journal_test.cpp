@@ -97,6 +97,7 @@ struct Site : FormFixture
         if (kind == "read")
             return follow(new ReadJob(journal, selection, &jobs));
         auto *job = new ApplyJob(journal, selection, {{}, 100, kind == "retry" ? 1 : 0, kind == "verify"}, &jobs);
+        QObject::connect(job, &WriteJob::signalStopped, [this] { ++stops; });
         QObject::connect(job, &WriteJob::signalOutcome, [this](auto &settled) { reported << settled.row.devId; });
         follow(job);
     }
@@ -200,7 +201,7 @@ struct Site : FormFixture
     QVector<DeviceRow> settledDevices;
     std::function<void(const QString &devId)> onSettled;
     std::function<void()> onDeclined;
-    int begun = 0, ended = 0;
+    int begun = 0, ended = 0, stops = 0;
     QJsonObject values{{"bShowOSD", false}}; // of the latest run
     QObject jobs;
 };
@@ -326,6 +327,7 @@ private slots:
             messages << said;
             QCOMPARE(said, messages.at(0));
         }
+        QCOMPARE(site.stops, hasHistory ? 0 : 1); // that of the job
         steps.clear();
         site.script = healthy;
         run("apply");
