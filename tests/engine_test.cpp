@@ -408,15 +408,14 @@ private slots:
                 site.fleet.setFault(devId, oneOf({exchange.getMethod, exchange.setMethod}),
                                     {faults.at(random.bounded(faults.size())), -5, Milliseconds(seed)});
         }
-        const QString sizes = oneOf({"1, 10, 25%", "5", "5", "10%, 50%"});
+        const QString sizes = oneOf({"60", "1, 10, 25%", "7", "10%, 50%"});
         WriteOptions options = inWaves(sizes);
-        options.maxFailPercentage = oneOf({"0", "20", "20", "40", "100"}).toInt(); // of 5 devices often just as many
+        options.maxFailPercentage = oneOf({"0", "20", "40", "100", "100"}).toInt();
         options.retries = random.bounded(3);
         options.verify = random.bounded(2) == 0;
         ApplyJob job(site.journal, selection, options);
         const int count = random.bounded(1, 40);
-        const QString ending =
-            oneOf({"", "", "", "at a moment", "at an outcome", "at a wave", "without the connection"});
+        const QString ending = oneOf({"", "", "at a moment", "at an outcome", "at a wave", "without the connection"});
         const auto cancel = [&](bool isTime) { isTime ? job.cancel() : void(); };
         if (ending == "at a moment")
             QTimer::singleShot(5 * count, &job, &WriteJob::cancel);
@@ -463,6 +462,28 @@ private slots:
         ClientSdk::instance().setRequestTimeout(5s);
         takenBack(site, ran.details);
         QCOMPARE(site.devices(), before);
+    }
+
+    void shareOfFailures_data()
+    {
+        columns<int, int>({"share", "waves"});
+        row("reached", 40, 2);
+        row("exceeded", 39, 1);
+    }
+
+    void shareOfFailures()
+    {
+        QFETCH(int, share);
+        Site site(fleetOf(20));
+        QVERIFY(site.open());
+        Selection selection = site.reachable("osd");
+        selection.devIds = selection.devIds.mid(0, 10);
+        for (const int failing : {0, 4})
+            site.fleet.setFault(selection.devIds.at(failing), FaultPlan::any(), {});
+        WriteOptions options = inWaves("5");
+        options.maxFailPercentage = share;
+        ApplyJob job(site.journal, selection, options);
+        QTEST(Ran(site, job).waves.size(), "waves");
     }
 
     void cancelledReading()
