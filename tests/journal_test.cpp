@@ -344,7 +344,7 @@ private slots:
     void oneRunAtATime_data()
     {
         columns<QString, QString>({"holder", "other"});
-        for (const QString holder : {"page that nobody watches", "page", "read", "apply"})
+        for (const QString holder : {"turn", "page that nobody watches", "page", "read", "apply"})
             for (const QString other : {"page", "read", "apply"})
                 if (holder + other != "pagepage") // the module's own affair
                     row(qPrintable(other + " during " + holder), holder, other);
@@ -366,11 +366,13 @@ private slots:
                 site.answerAll("dev");
             });
         };
-        if (holder == "page that nobody watches") {
-            const orda_batchCfg::CfgRun unwatched(1);
+        if (holder == "turn" || holder == "page that nobody watches") {
+            std::optional<orda_batchCfg::CfgRun> unwatched;
+            holder == "turn" ? void(site.journal->beginReading()) : void(unwatched.emplace(1));
             site.begin(other);
             QVERIFY(isReached([&] { return !site.declined.isEmpty(); }));
             QVERIFY(site.transport->requests.isEmpty());
+            site.journal->end();
             ++site.ended;
         } else {
             site.begin(holder);
