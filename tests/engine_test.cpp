@@ -143,9 +143,11 @@ struct Site : QObject
         QMap<QString, ExchangeRow> rows; // by device and object
         for (const ExchangeRow &row : run.exchanges)
             rows[row.devId + objectOf(family, row.exchange)] = row;
-        for (const QString &devId : before.keys()) {
+        const auto ids = before.keys();
+        for (const QString &devId : ids) {
             const QJsonObject held = before[devId].toObject();
-            for (const QString &object : held.keys()) {
+            const auto names = held.keys();
+            for (const QString &object : names) {
                 const ExchangeRow row = rows.value(devId + object);
                 const QJsonValue known = parsed(row.before).value("result"); // there is a fault that leaves it out
                 const bool isKnown = !row.before.isEmpty() && (known.isUndefined() || known == held[object]);
@@ -173,9 +175,9 @@ struct Ran
     {
         const QJsonObject before = site.devices();
         const QSignalSpy finished(&job, &WriteJob::signalFinished);
-        QObject::connect(&job, &WriteJob::signalWaveBegan, [this](int, int devices) { waves.append(devices); });
-        QObject::connect(&job, &WriteJob::signalStopped, [this] { ++stops; });
-        QObject::connect(&job, &WriteJob::signalOutcome, [this](const Settled &settled) { rows << settled.row; });
+        QObject::connect(&job, &WriteJob::signalWaveBegan, &job, [this](int, int devices) { waves.append(devices); });
+        QObject::connect(&job, &WriteJob::signalStopped, &job, [this] { ++stops; });
+        QObject::connect(&job, &WriteJob::signalOutcome, &job, [this](const Settled &settled) { rows << settled.row; });
         job.start();
         QVERIFY(isReached([&] { return finished.count() == 1; }, 60s));
         QCOMPARE(finished.at(0).at(0).toString(), "");
@@ -259,7 +261,8 @@ private slots:
     {
         columns<QString, QString, QString, QString, QString, QString>(
             {"family", "values", "refused", "since", "left", "named"});
-        for (const QString &family : offered())
+        const auto families = offered();
+        for (const QString &family : families)
             row(qPrintable(family), family, "", "", "", "", "");
         rowsFrom("undo.txt");
     }
@@ -285,7 +288,8 @@ private slots:
             const QString &devId = device.devId;
             expected[devId] = back[devId] = flat(*selection.family, before[devId].toObject());
             const DevicePlan plan = planOf(*selection.family, selection.flagsOf(devId), selection.values, device.held);
-            for (const MemberChange &change : plan.changes + plan.added) {
+            const auto planned = plan.changes + plan.added;
+            for (const MemberChange &change : planned) {
                 const QString member = QString("%1 %2").arg(change.exchange).arg(change.member);
                 QCOMPARE(back[devId].value(member), change.before);
                 if (selection.family->exchanges.at(change.exchange).setMethod != refused)
@@ -333,7 +337,8 @@ private slots:
         const QJsonObject restored = site.devices();
         for (const DeviceRow &row : undone.rows) {
             const QJsonObject theirs = parsed(left);
-            for (const QString &member : theirs.keys())
+            const auto members = theirs.keys();
+            for (const QString &member : members)
                 back[row.devId][member] = theirs[member];
             QCOMPARE(flat(*selection.family, restored[row.devId].toObject()), back[row.devId]);
             QVERIFY2(*row.outcome == Outcome::Done || *row.outcome == Outcome::Unchanged, qPrintable(row.message));
@@ -349,7 +354,8 @@ private slots:
     void faultAtEveryRequest_data()
     {
         columns<QString>({"family"});
-        for (const QString &family : seedsOr(0) > 0 ? offered() : QStringList{"audio", "platform"})
+        const auto families = seedsOr(0) > 0 ? offered() : QStringList{"audio", "platform"};
+        for (const QString &family : families)
             row(qPrintable(family), family);
     }
 
@@ -440,7 +446,8 @@ private slots:
             QCOMPARE(ran.waves[wave], qMin(devices, 60 - begun));
             QVERIFY(!isOverShare);
             int failures = 0;
-            for (const QString &devId : selection.devIds.mid(begun, ran.waves[wave])) {
+            const auto wanted = selection.devIds.mid(begun, ran.waves[wave]);
+            for (const QString &devId : wanted) {
                 const Outcome outcome = ran.outcomes[devId];
                 failures += outcome == Outcome::Failed || (mayHaveChanged(outcome) && outcome != Outcome::Done) ? 1 : 0;
                 QVERIFY(site.asked[devId].count(firstRead) <= 1 + options.retries + (options.verify ? 1 : 0));
@@ -450,7 +457,8 @@ private slots:
         }
         QVERIFY(ending.isEmpty() ? ran.stops == int(isOverShare) : ran.stops <= 1 && ran.stops >= int(isOverShare));
         QVERIFY(ran.stops == 1 || begun == 60 || ending == "without the connection");
-        for (const QString &devId : selection.devIds.mid(begun)) {
+        const auto rest = selection.devIds.mid(begun);
+        for (const QString &devId : rest) {
             QCOMPARE(outcomeName(ran.outcomes[devId]), "stopped");
             QVERIFY(!site.asked.contains(devId));
         }

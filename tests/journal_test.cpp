@@ -55,22 +55,23 @@ struct Site : FormFixture
             return script(request);
         });
         transport = scripted.get();
-        QObject::connect(transport, &ScriptedTransport::answered,
+        QObject::connect(transport, &ScriptedTransport::answered, transport,
                          [this](auto, const QString &text) { raised << text; });
         auto made = std::make_unique<JournalTransport>(std::move(scripted), std::make_unique<HistoryWriter>(options));
         journal = made.get();
-        QObject::connect(journal, &JournalTransport::signalRunBegan, [this](const RunStart &run) {
+        QObject::connect(journal, &JournalTransport::signalRunBegan, journal, [this](const RunStart &run) {
             ++begun;
             values = run.values;
         });
-        QObject::connect(journal, &JournalTransport::signalSettled, [this](const Settled &settled) {
+        QObject::connect(journal, &JournalTransport::signalSettled, journal, [this](const Settled &settled) {
             settledDevices << settled.row;
             if (onSettled)
                 onSettled(settled.row.devId);
         });
         watch = std::make_unique<PageWatch>(journal);
-        QObject::connect(watch.get(), &PageWatch::signalDeclined, [this](auto why) { decline(why); });
-        for (QWidget *widget : form->findChildren<QWidget *>())
+        QObject::connect(watch.get(), &PageWatch::signalDeclined, watch.get(), [this](auto why) { decline(why); });
+        const auto widgets = form->findChildren<QWidget *>();
+        for (QWidget *widget : widgets)
             watch->watch(widget);
         vms_sdk::ClientSdk::instance().setTransport(std::move(made));
     }
@@ -99,8 +100,8 @@ struct Site : FormFixture
         if (kind == "read")
             return follow(new ReadJob(journal, selection, &jobs));
         auto *job = new ApplyJob(journal, selection, {{}, 100, kind == "retry" ? 1 : 0, kind == "verify"}, &jobs);
-        QObject::connect(job, &WriteJob::signalStopped, [this] { ++stops; });
-        QObject::connect(job, &WriteJob::signalOutcome, [this](auto &settled) { reported << settled.row.devId; });
+        QObject::connect(job, &WriteJob::signalStopped, job, [this] { ++stops; });
+        QObject::connect(job, &WriteJob::signalOutcome, job, [this](auto &settled) { reported << settled.row.devId; });
         follow(job);
     }
 
@@ -141,7 +142,8 @@ struct Site : FormFixture
 
     void answerAll(const QString &devId) const
     {
-        for (const Request &request : requests(devId))
+        const auto asked = requests(devId);
+        for (const Request &request : asked)
             emit transport->answered(request.requestId, healthy(request).at(0));
     }
 
@@ -222,7 +224,7 @@ private slots:
             const auto sentOver = [row = familyRow(family)](const FormFixture &form) {
                 form.configure(row.navigationKey, row.pageName);
                 QMap<QString, QStringList> texts; // by device
-                for (const Request &request : form.transport->requests)
+                for (const Request &request : qAsConst(form.transport->requests))
                     texts[request.devId] << request.text;
                 return texts;
             };
@@ -256,7 +258,8 @@ private slots:
         const bool isAnswered = !what.endsWith("the other times out");
         const bool hasHistory = !what.startsWith("no history");
         QMap<int, QString> steps;
-        for (const QString &step : does.split("; "))
+        const QStringList parts = does.split("; ");
+        for (const QString &step : parts)
             steps.insert(step.section(' ', 0, 0).toInt(), step.section(' ', 1));
         Site site(silent, isAnswered && !does.contains("silent") && !does.contains("locks") ? 5s : 200ms);
         site.options.lockTimeout = what.endsWith("too long") ? 50ms : 5s;
@@ -271,15 +274,16 @@ private slots:
             if (devId != "dev0")
                 return;
             site.database.close();
-            late = healthy(site.requests("dev0").last()).at(0);
+            late = healthy(site.requests("dev0").constLast()).at(0);
             for (const QString &text : {QString("{"), late})
-                emit site.transport->answered(site.requests("dev0").last().requestId, text);
+                emit site.transport->answered(site.requests("dev0").constLast().requestId, text);
             if (isAnswered)
                 site.answerAll("dev1");
         };
         QTimer renewal; // the second waits longer than the first may
         QObject::connect(&renewal, &QTimer::timeout, [&] {
-            for (const Request &request : site.requests("dev1"))
+            const auto again = site.requests("dev1");
+            for (const Request &request : again)
                 vms_sdk::renewal_request_id(request.requestId);
         });
         if (isAnswered)
@@ -335,7 +339,8 @@ private slots:
         run("apply");
         for (const DeviceRow &device : qAsConst(site.settledDevices))
             QCOMPARE(device.message, "success");
-        for (const QFileInfo &info : QDir(site.place.filePath("state")).entryInfoList(QDir::Files)) {
+        const auto files = QDir(site.place.filePath("state")).entryInfoList(QDir::Files);
+        for (const QFileInfo &info : files) {
             QFile file(info.filePath());
             QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains("never written down"));
         }
@@ -346,8 +351,10 @@ private slots:
     void oneRunAtATime_data()
     {
         columns<QString, QString>({"holder", "other"});
-        for (const QString holder : {"turn", "page that nobody watches", "page", "read", "apply"})
-            for (const QString other : {"page", "read", "apply"})
+        const QStringList holders{"turn", "page that nobody watches", "page", "read", "apply"};
+        const QStringList others{"page", "read", "apply"};
+        for (const QString &holder : holders)
+            for (const QString &other : others)
                 if (holder + other != "pagepage") // the module's own affair
                     row(qPrintable(other + " during " + holder), holder, other);
     }
@@ -425,7 +432,8 @@ private slots:
         if (isTransportGone && (kind == "apply" || kind == "verify"))
             QCOMPARE(site.reported, (QStringList{"dev0", "dev1"}));
         QStringList found;
-        for (const QString &account : accountsOf(site.settledDevices))
+        const auto accounts = accountsOf(site.settledDevices);
+        for (const QString &account : accounts)
             found << account.section(' ', 0, 0);
         QCOMPARE(found.join(", "), expected);
         if (!expected.isEmpty()) {
