@@ -1,9 +1,9 @@
 #include "support/OrdaTest.h"
 
 #include "client/ClientSession.h"
-#include "journal/HistoryOptions.h"
 #include "client/ClientWindow.h"
 #include "client/FailedDevices.h"
+#include "journal/HistoryOptions.h"
 
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>

@@ -4,11 +4,11 @@
 #include "support/Store.h"
 
 #include "client/ClientSession.h"
-#include "journal/HistoryOptions.h"
 #include "client/ClientWindow.h"
 #include "client/Families.h"
 #include "client/LastRunWindow.h"
 #include "fleet/EmbeddedFleet.h"
+#include "journal/HistoryOptions.h"
 
 #include <vms_client_sdk/ClientSignals.h>
 

@@ -228,7 +228,12 @@ private slots:
         const QStringList entries = recordEntries();
         f.transport->requests.clear();
 
-        enum { Decline, Allow, DeletePage } reply = Decline;
+        enum
+        {
+            Decline,
+            Allow,
+            DeletePage
+        } reply = Decline;
         QVariantList announced;
         PropertyWatch watch(page, "run", [&](const QVariant &run) {
             announced.append(run);

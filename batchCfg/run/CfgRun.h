@@ -32,8 +32,8 @@ public:
     /// Gives way to the next run. Tasks without a result are left to their parent.
     ~CfgRun() override;
 
-    /// Tells whoever watches @p page that a run is about to begin: the page's dynamic property "run" is set, and removed
-    /// when this object goes. Called before start(), or not at all.
+    /// Tells whoever watches @p page that a run is about to begin: the page's dynamic property "run" is set, and
+    /// removed when this object goes. Called before start(), or not at all.
     /// @param values by the device's own keys
     /// @return whether the run may begin: a watcher declines it by setting the property "runRefused" to a text
     bool announce(QObject *page, const QString &family, const QJsonObject &values, const QStringList &devIds);
