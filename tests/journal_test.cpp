@@ -120,7 +120,7 @@ struct Site : FormFixture
             onDeclined();
     }
 
-    void awaitHistory(bool isRunOver) // of the latest run
+    void awaitHistory(bool isRunOver) const // of the latest run
     {
         HistoryReader reader(options);
         while (reader.runs().isEmpty() || (reader.runs().at(0).ended != 0) != isRunOver)
