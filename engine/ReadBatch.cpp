@@ -2,11 +2,16 @@
 
 #include "engine/ReadTask.h"
 
-#include <run/CfgRun.h>
+#include <vms_client_sdk/Requests.h>
 
 namespace orda_engine {
 
-using orda_batchCfg::CfgRun;
+namespace {
+
+// A run renews all others with each result, which is half of the time that 10,000 readings take.
+constexpr qint64 renewalMs = 20;
+
+} // namespace
 
 ReadBatch::ReadBatch(const Selection &selection, QObject *parent)
     : QObject(parent)
@@ -14,40 +19,52 @@ ReadBatch::ReadBatch(const Selection &selection, QObject *parent)
 {
 }
 
-ReadBatch::~ReadBatch() = default;
-
 void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &ownFlags)
 {
-    m_run = std::make_unique<CfgRun>(devIds.size());
-    connect(m_run.get(), &CfgRun::signalResult, this, [this](const QString &devId, const QString &message, int code) {
-        emit signalRead(devId, code, message, m_tasks.take(devId)->objects());
-        if (m_run && m_run->isOver())
-            QMetaObject::invokeMethod(this, &ReadBatch::finish, Qt::QueuedConnection);
-    });
     // Nearly all devices are asked the same: it is worked out once.
     const QJsonObject values = m_selection.readValuesFor(m_selection.values);
     const int flags = m_selection.flagsFor(m_selection.values);
-    m_run->start(devIds, [this, &ownFlags, &values, flags](const QString &devId) {
+    m_sinceRenewal.start();
+    for (const QString &devId : devIds) {
         const auto own = m_selection.ownValues.constFind(devId);
         const bool isAsOthers = own == m_selection.ownValues.constEnd();
         auto *task = new ReadTask(*m_selection.family, devId, isAsOthers ? values : m_selection.readValuesFor(*own),
                                   ownFlags.value(devId, isAsOthers ? flags : m_selection.flagsFor(*own)), this);
         m_tasks.insert(devId, task);
-        return task;
-    });
+        connect(task, &ReadTask::signalCfgResult, this,
+                [this, task](const QString &, const QString &message, int code) { take(task, message, code); });
+    }
+}
+
+void ReadBatch::take(ReadTask *task, const QString &message, int code)
+{
+    m_tasks.remove(task->devId());
+    task->deleteLater();
+    renewOthers();
+    emit signalRead(task->devId(), code, message, task->objects());
+    if (m_tasks.isEmpty() && !m_isCancelled)
+        QMetaObject::invokeMethod(this, &ReadBatch::finish, Qt::QueuedConnection);
+}
+
+// A device that answers shows that the line is working: all the others get their whole waiting time again.
+void ReadBatch::renewOthers()
+{
+    if (m_sinceRenewal.elapsed() < renewalMs)
+        return;
+    m_sinceRenewal.start();
+    for (const ReadTask *task : qAsConst(m_tasks))
+        vms_sdk::renewal_request_id(task->requestId());
 }
 
 void ReadBatch::finish()
 {
-    if (!m_run)
-        return; // cancelled meanwhile
-    m_run.reset(); // gives way to the next run, however long this object lives
-    emit signalFinished();
+    if (!m_isCancelled)
+        emit signalFinished();
 }
 
 void ReadBatch::cancel()
 {
-    m_run.reset();
+    m_isCancelled = true;
     qDeleteAll(m_tasks);
     m_tasks.clear();
 }

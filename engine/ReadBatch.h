@@ -3,13 +3,9 @@
 #include "engine/DevicePlan.h"
 #include "engine/Selection.h"
 
+#include <QElapsedTimer>
+#include <QHash>
 #include <QObject>
-
-#include <memory>
-
-namespace orda_batchCfg {
-class CfgRun;
-}
 
 namespace orda_engine {
 
@@ -22,7 +18,6 @@ class ReadBatch : public QObject
 
 public:
     explicit ReadBatch(const Selection &selection, QObject *parent = nullptr);
-    ~ReadBatch() override;
 
     /// Sends the first requests. @param devIds at least one
     /// @param ownFlags by device id: of the exchanges to read, in place of those that the selection needs
@@ -38,11 +33,14 @@ signals:
     void signalFinished();
 
 private:
+    void take(ReadTask *task, const QString &message, int code);
+    void renewOthers();
     void finish();
 
     const Selection m_selection;
     QHash<QString, ReadTask *> m_tasks; // without a result yet, by device id
-    std::unique_ptr<orda_batchCfg::CfgRun> m_run; // after the tasks, which it hears
+    QElapsedTimer m_sinceRenewal;
+    bool m_isCancelled = false;
 };
 
 } // namespace orda_engine
