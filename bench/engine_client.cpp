@@ -47,9 +47,7 @@ using orda_journal::JournalTransport;
 Selection osdOf(const QList<vms_sdk::DevInfo> &devices)
 {
     Selection selection;
-    for (const orda_batchCfg::FamilyEntry &entry : orda_batchCfg::Families::all())
-        if (entry.family.name == QLatin1String("osd"))
-            selection.family = &entry.family;
+    selection.family = orda_batchCfg::Families::find(QStringLiteral("osd"));
     for (const vms_sdk::DevInfo &dev : devices)
         selection.devIds.append(dev.id);
     selection.values = {{QStringLiteral("bShowOSD"), false},

@@ -4,14 +4,12 @@
 
 #include <QJsonDocument>
 
-#include <algorithm>
+#include <iterator>
 #include <iterator>
 
 namespace orda_engine {
 
 using orda_batchCfg::CfgExchange;
-using orda_batchCfg::Families;
-using orda_batchCfg::FamilyEntry;
 using orda_journal::Outcome;
 
 namespace {
@@ -44,11 +42,8 @@ QJsonObject objectOf(const QString &text)
 RecordedRun::RecordedRun(const orda_journal::RunDetails &details)
     : m_id(details.run.id)
 {
-    const QVector<FamilyEntry> &families = Families::all();
-    const auto entry = std::find_if(families.begin(), families.end(), [&details](const FamilyEntry &candidate) {
-        return candidate.family.name == details.run.family;
-    });
-    if (entry == families.end()) {
+    m_written.family = orda_batchCfg::Families::find(details.run.family);
+    if (!m_written.family) {
         m_error = tr("The run is of \"%1\", of which this program knows nothing.").arg(details.run.family);
         return;
     }
@@ -56,7 +51,6 @@ RecordedRun::RecordedRun(const orda_journal::RunDetails &details)
         m_error = tr("The run is still under way.");
         return;
     }
-    m_written.family = &entry->family;
     m_written.values = details.run.values;
     for (const orda_journal::DeviceRow &device : details.devices)
         if (!device.ownValues.isEmpty())

@@ -9,13 +9,9 @@
 
 #include <QJsonDocument>
 
-#include <algorithm>
 #include <utility>
 
 namespace orda_journal {
-
-using orda_batchCfg::Families;
-using orda_batchCfg::FamilyEntry;
 
 JournalTransport::JournalTransport(std::unique_ptr<vms_sdk::DeviceTransport> transport,
                                    std::unique_ptr<HistoryWriter> history)
@@ -63,17 +59,14 @@ QString JournalTransport::beginReading()
 
 QString JournalTransport::beginRun(const RunStart &run, Owner owner)
 {
-    const QVector<FamilyEntry> &families = Families::all();
-    const auto entry = std::find_if(families.begin(), families.end(), [&run](const FamilyEntry &candidate) {
-        return candidate.family.name == run.family;
-    });
-    if (entry == families.end())
+    const orda_batchCfg::CfgFamily *family = orda_batchCfg::Families::find(run.family);
+    if (!family)
         return tr("There are no parameters called \"%1\".").arg(run.family);
     QString refusal = takeTurn(Turn::Running, owner);
     if (!refusal.isEmpty())
         return refusal;
     m_hasFailed = false;
-    m_run = std::make_unique<TrackedRun>(run, entry->family);
+    m_run = std::make_unique<TrackedRun>(run, *family);
     if (m_history)
         m_history->beginRun(run);
     qCDebug(logJournal) << run.id << run.kind << run.family << "begins:" << run.devIds.size() << "devices";

@@ -11,6 +11,14 @@
 
 namespace orda_batchCfg {
 
+const CfgFamily *Families::find(const QString &name)
+{
+    for (const FamilyEntry &entry : all())
+        if (entry.family.name == name)
+            return &entry.family;
+    return nullptr;
+}
+
 const QVector<FamilyEntry> &Families::all()
 {
     static constexpr NavigationBar audioVideo{"audio_video_param", QT_TR_NOOP("Audio-Video Parameters")};

@@ -33,6 +33,8 @@ public:
     /// Those that the form offers come in the order of its navigation and of its pages; entries of one bar stand
     /// together.
     static const QVector<FamilyEntry> &all();
+    /// The family with this CfgFamily::name; null when there is none.
+    static const CfgFamily *find(const QString &name);
 };
 
 } // namespace orda_batchCfg
