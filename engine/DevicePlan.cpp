@@ -79,12 +79,4 @@ QVector<MemberDifference> differencesOf(const CfgFamily &family, int flags, cons
     return differences;
 }
 
-bool changesNothing(const CfgFamily &family, const ObjectsByExchange &before, const ObjectsByExchange &sent)
-{
-    for (auto param = sent.begin(); param != sent.end(); ++param)
-        if (!before.contains(param.key()) || !family.exchanges.at(param.key()).holds(*param, before.value(param.key())))
-            return false;
-    return !sent.isEmpty();
-}
-
 } // namespace orda_engine

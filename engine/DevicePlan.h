@@ -45,9 +45,4 @@ DevicePlan planOf(const orda_batchCfg::CfgFamily &family, int flags, const QJson
 QVector<MemberDifference> differencesOf(const orda_batchCfg::CfgFamily &family, int flags, const QJsonObject &values,
                                         const ObjectsByExchange &sent, const ObjectsByExchange &held);
 
-/// Whether a device that was sent these writes held everything before. False where nothing was sent, or where it is
-/// not known what the device held.
-bool changesNothing(const orda_batchCfg::CfgFamily &family, const ObjectsByExchange &before,
-                    const ObjectsByExchange &sent);
-
 } // namespace orda_engine

@@ -5,7 +5,6 @@
 #include <QJsonDocument>
 
 #include <iterator>
-#include <iterator>
 
 namespace orda_engine {
 

@@ -45,9 +45,7 @@ Selection selectionOf(const QString &family, const QList<vms_sdk::DevInfo> &devi
         values = QJsonDocument(QJsonDocument::fromJson(usual.readAll())[family].toObject()).toJson();
     }
     Selection selection;
-    for (const auto &entry : Families::all())
-        if (entry.family.name == family)
-            selection.family = &entry.family;
+    selection.family = Families::find(family);
     for (const auto &device : devices)
         selection.devIds.append(device.id);
     selection.values = parsed(values);

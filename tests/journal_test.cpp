@@ -88,9 +88,7 @@ struct Site : FormFixture
 
     void begin(const QString &kind, const QString &family = "osd")
     {
-        const auto &all = orda_batchCfg::Families::all();
-        const auto entry = std::find_if(all.begin(), all.end(), [&](auto &each) { return each.family.name == family; });
-        const Selection selection{&entry->family, {"dev0", "dev1"}, values};
+        const Selection selection{orda_batchCfg::Families::find(family), {"dev0", "dev1"}, values};
         if (kind == "page")
             return QTimer::singleShot(0, form, [this, row = familyRow(family)] {
                 const int before = begun;

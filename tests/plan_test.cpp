@@ -20,8 +20,7 @@ constexpr int allFlags = 7;
 
 const CfgFamily &familyOf(const QString &name)
 {
-    const auto &all = Families::all();
-    return std::find_if(all.begin(), all.end(), [&](const auto &entry) { return entry.family.name == name; })->family;
+    return *Families::find(name);
 }
 
 QJsonValue parsed(const QString &text)
@@ -217,7 +216,6 @@ private slots:
 
         lines = described("wrong ", differencesOf(family, flags, values, sent, held));
         DeviceUndo undo = undoOf(family, before, sent, held, false), forced = undoOf(family, before, sent, held, true);
-        QCOMPARE(changesNothing(family, before, sent), plan.changes.isEmpty() && plan.added.isEmpty());
         for (auto it = undo.begin(); it != undo.end(); ++it) {
             lines << described("left ", it->changedSince) << described("stays ", it->notRemovable);
             for (const QString &member : qAsConst(it->alreadyBack))
