@@ -93,15 +93,6 @@ QString mistakeIn(const ClientOptions &options, const QCommandLineParser &parser
 
 } // namespace
 
-QString requestedLanguage(const QStringList &arguments)
-{
-    const QCommandLineOption language = option("language", {}, "CODE");
-    QCommandLineParser parser;
-    parser.addOption(language);
-    parser.parse(arguments); // mistakes in the other options are found by parseOptions()
-    return parser.value(language);
-}
-
 ClientOptions parseOptions(const QStringList &arguments)
 {
     const KnownOptions known;

@@ -23,9 +23,6 @@ public:
     QString error; ///< not empty: the command line is wrong; the text names what and what would be right
 };
 
-/// The value of --language; empty when it is not given. Needed first, because mistakes are told in that language.
-QString requestedLanguage(const QStringList &arguments);
-
 /// @param arguments the application's, program name first. --help and --version print and end the program here.
 ClientOptions parseOptions(const QStringList &arguments);
 

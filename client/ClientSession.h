@@ -14,10 +14,9 @@ class JournalTransport;
 class PageWatch;
 struct HistoryOptions;
 } // namespace orda_journal
-namespace vms_sdk {
-struct DevInfo;
-class WebSocketTransport;
-} // namespace vms_sdk
+namespace orda_engine {
+class DeviceSession;
+}
 
 namespace orda_client {
 
@@ -50,14 +49,12 @@ signals:
     void signalAlert(const QString &text);
 
 private:
-    void replaceDevices(const QList<vms_sdk::DevInfo> &devices);
-    void followStore();
     void tellAfterRun(const QString &text);
     void tellAlerts();
 
     std::unique_ptr<device_fleet::EmbeddedFleet> m_fleet;
+    std::unique_ptr<orda_engine::DeviceSession> m_devices; // before the fleet ends
     QPointer<orda_journal::JournalTransport> m_journal; // the SDK owns it
-    QPointer<vms_sdk::WebSocketTransport> m_transport; // the journal owns it
     orda_journal::PageWatch *m_pageWatch;
     QStringList m_alerts; // not told yet
 };

@@ -2,7 +2,7 @@
 #include "client/ClientSession.h"
 #include "client/ClientWindow.h"
 #include "client/RunDriver.h"
-#include "client/Translations.h"
+#include "programs/Translations.h"
 #include "journal/HistoryOptions.h"
 #include "programs/Complaint.h"
 
@@ -54,7 +54,7 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("orda_client")));
     vms_sdk::raiseOpenFileLimit();
 
-    const QString language = requestedLanguage(QCoreApplication::arguments());
+    const QString language = Translations::requested(QCoreApplication::arguments());
     Translations translations; // first: mistakes of the command line are told in this language too
     if (!translations.install(language)) {
         return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")

@@ -26,6 +26,21 @@ EmbeddedFleet::~EmbeddedFleet()
     stop();
 }
 
+std::unique_ptr<EmbeddedFleet> EmbeddedFleet::startDemo(int devices, const QString &faultsFile, QStringList *warnings,
+                                                        QString *error)
+{
+    FaultPlan faults;
+    if (!faultsFile.isEmpty())
+        faults = FaultPlan::read(faultsFile, error, warnings);
+    if (!error->isEmpty())
+        return nullptr;
+    FleetOptions options;
+    options.devices = devices;
+    auto fleet = std::make_unique<EmbeddedFleet>(options, faults);
+    *error = fleet->start();
+    return error->isEmpty() ? std::move(fleet) : nullptr;
+}
+
 QString EmbeddedFleet::start()
 {
     if (m_fleet)

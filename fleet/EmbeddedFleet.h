@@ -10,6 +10,7 @@
 #include <QThread>
 
 #include <functional>
+#include <memory>
 
 namespace device_fleet {
 
@@ -24,6 +25,13 @@ class EmbeddedFleet : public QObject
 public:
     explicit EmbeddedFleet(const FleetOptions &options, const FaultPlan &faults = {}, QObject *parent = nullptr);
     ~EmbeddedFleet() override; ///< stops the fleet
+
+    /// Devices to try something on, of seed 1, started.
+    /// @param faultsFile what goes wrong with them (FaultPlan); empty: nothing
+    /// @param warnings @param error for the user
+    /// @return null after an error
+    static std::unique_ptr<EmbeddedFleet> startDemo(int devices, const QString &faultsFile, QStringList *warnings,
+                                                    QString *error);
 
     /// @return a text for the user, empty when the devices can be dialled. Refused when this process may not have as
     /// many open files as client and fleet need together.

@@ -1,7 +1,7 @@
 #include "fleet/DeviceFleet.h"
 #include "fleet/FaultPlan.h"
 #include "fleet/ProgramOptions.h"
-#include "fleet/UnixSignals.h"
+#include "programs/UnixSignals.h"
 #include "programs/Complaint.h"
 
 #include <vms_client_sdk/Inventory.h>

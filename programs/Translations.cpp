@@ -1,11 +1,12 @@
-#include "client/Translations.h"
+#include "programs/Translations.h"
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
 
-namespace orda_client {
+namespace orda_programs {
 
 namespace {
 
@@ -15,6 +16,15 @@ QStringList filesOf(const QString &language)
 }
 
 } // namespace
+
+QString Translations::requested(const QStringList &arguments)
+{
+    const QCommandLineOption language(QStringLiteral("language"), {}, QStringLiteral("CODE"));
+    QCommandLineParser parser;
+    parser.addOption(language);
+    parser.parse(arguments); // other options are none of its affair
+    return parser.value(language);
+}
 
 QStringList Translations::languages()
 {
@@ -68,4 +78,4 @@ void Translations::load(const QString &file)
     }
 }
 
-} // namespace orda_client
+} // namespace orda_programs

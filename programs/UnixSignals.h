@@ -6,7 +6,7 @@ QT_BEGIN_NAMESPACE
 class QSocketNotifier;
 QT_END_NAMESPACE
 
-namespace device_fleet {
+namespace orda_programs {
 
 /// Turns SIGINT, SIGTERM and SIGUSR1 of this process into Qt signals, raised from the event loop. Made once, before any
 /// thread is started: the threads inherit that the signals are blocked.
@@ -29,4 +29,4 @@ private:
     QSocketNotifier *m_notifier;
 };
 
-} // namespace device_fleet
+} // namespace orda_programs

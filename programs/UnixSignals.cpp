@@ -1,4 +1,4 @@
-#include "fleet/UnixSignals.h"
+#include "programs/UnixSignals.h"
 
 #include <QSocketNotifier>
 
@@ -6,7 +6,7 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
-namespace device_fleet {
+namespace orda_programs {
 
 namespace {
 
@@ -46,4 +46,4 @@ void UnixSignals::readSignal()
             emit endRequested();
 }
 
-} // namespace device_fleet
+} // namespace orda_programs

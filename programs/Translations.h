@@ -7,13 +7,17 @@
 #include <memory>
 #include <vector>
 
-namespace orda_client {
+namespace orda_programs {
 
-/// The languages of the window. Each but English, in which the texts are written, is a set of compiled translations in
+/// The languages of a program. Each but English, in which the texts are written, is a set of compiled translations in
 /// the resource ":/translations", named <part>_<language>.qm.
 class Translations
 {
 public:
+    /// The value of --language; empty when it is not given. Needed before the other options, because mistakes in them
+    /// are told in that language.
+    static QString requested(const QStringList &arguments);
+
     /// Codes of the languages to choose from.
     static QStringList languages();
 
@@ -30,4 +34,4 @@ private:
     std::vector<std::unique_ptr<QTranslator>> m_translators;
 };
 
-} // namespace orda_client
+} // namespace orda_programs
