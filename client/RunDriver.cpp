@@ -71,7 +71,7 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
                 complain(text);
                 if (m_hasSummary)
                     return; // it is about the run that has just ended
-                end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? ExitNoDevice : ExitRecordInUse);
+                end(PageRecord::of(m_window, *m_family).inUse.isEmpty() ? int(ExitNoDevice) : int(ExitRecordInUse));
             });
 }
 
@@ -189,7 +189,7 @@ void RunDriver::configure()
         answerSummary();
         saveLastRunScreenshot();
         const bool hasRecord = PageRecord::of(m_window, *m_family).error.isEmpty();
-        end(!hasRecord ? ExitNoRecord : m_isAllDone ? ExitOk : ExitSomeFailed);
+        end(!hasRecord ? int(ExitNoRecord) : m_isAllDone ? int(ExitOk) : int(ExitSomeFailed));
     }
 }
 
@@ -264,9 +264,9 @@ void RunDriver::saveScreenshot(QWidget *widget, const QString &name) const
         complain(tr("cannot write the picture %1").arg(path));
 }
 
-void RunDriver::end(ExitCode code)
+void RunDriver::end(int exitCode)
 {
-    QCoreApplication::exit(code);
+    QCoreApplication::exit(exitCode);
 }
 
 } // namespace orda_client

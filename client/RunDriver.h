@@ -22,6 +22,13 @@ namespace orda_client {
 
 struct Family;
 
+/// What the end of a driven client tells its caller, beside orda_programs::ExitCode.
+enum ClientExit
+{
+    ExitRecordInUse = 5, ///< nothing was configured: another client's run has the record
+    ExitNoRecord = 6 ///< the run took place, but its record is missing or not whole
+};
+
 /// Drives the form as an operator would, without one: waits until the devices have come online, opens the family's
 /// page, ticks devices, presses Configure, prints progress, summary, duration, the window's longest pause and the
 /// record, answers the summary and ends the application.
@@ -51,7 +58,7 @@ private:
     void saveLastRunScreenshot() const;
     void printRecord() const;
     void saveScreenshot(QWidget *widget, const QString &name) const;
-    static void end(orda_programs::ExitCode code);
+    static void end(int exitCode);
 
     ClientOptions m_options;
     const Family *m_family;

@@ -5,6 +5,7 @@
 #include "programs/Translations.h"
 #include "journal/HistoryOptions.h"
 #include "programs/Complaint.h"
+#include "programs/ExitCode.h"
 
 #include <orda_base/Theme.h>
 #include <vms_client_sdk/OpenFiles.h>

@@ -3,6 +3,7 @@
 #include "fleet/ProgramOptions.h"
 #include "programs/UnixSignals.h"
 #include "programs/Complaint.h"
+#include "programs/ExitCode.h"
 
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>

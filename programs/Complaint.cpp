@@ -12,7 +12,7 @@ void complain(const QString &text)
     QTextStream(stderr) << QCoreApplication::applicationName() << ": " << vms_sdk::escaped(text) << Qt::endl;
 }
 
-int fail(const QString &text, ExitCode code)
+int fail(const QString &text, int code)
 {
     complain(text);
     return code;

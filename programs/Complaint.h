@@ -1,7 +1,5 @@
 #pragma once
 
-#include "programs/ExitCode.h"
-
 #include <QString>
 
 namespace orda_programs {
@@ -11,6 +9,6 @@ namespace orda_programs {
 void complain(const QString &text);
 
 /// Complains. @return the code, for main() to return
-int fail(const QString &text, ExitCode code);
+int fail(const QString &text, int code);
 
 } // namespace orda_programs

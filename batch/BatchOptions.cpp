@@ -1,0 +1,1 @@
+#include "batch/BatchOptions.h"

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "journal/Outcome.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QMap>
+#include <QObject>
+#include <QTimer>
+
+namespace orda_batch {
+
+class OutputThread;
+
+/// How far a command is, on the terminal: a bar with done, failed, left and devices a second, and under it the messages
+/// of failures with how many devices have each. Redrawn a few times a second. Nothing at all when the standard error
+/// output is no terminal. GUI thread.
+class ProgressDisplay : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ProgressDisplay(OutputThread *output, QObject *parent = nullptr);
+
+    /// @param what "Connecting", "Reading" … @param total devices
+    void begin(const QString &what, int total);
+    /// A device has its outcome.
+    void take(orda_journal::Outcome outcome, const QString &message);
+    /// Without outcomes: how many of the total are through.
+    void setFinished(int finished);
+    /// Takes the bar away until there is something new to show, so that other lines can be written.
+    void clear();
+    void end();
+
+private:
+    void draw();
+
+    OutputThread *m_output;
+    QTimer m_redraw;
+    QElapsedTimer m_clock;
+    QString m_what;
+    int m_total = 0;
+    int m_finished = 0;
+    int m_failed = 0;
+    QMap<QString, int> m_failures; // how many devices have each message
+    int m_lines = 0; // that are drawn
+    bool m_isTerminal;
+};
+
+} // namespace orda_batch

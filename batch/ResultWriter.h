@@ -1,0 +1,37 @@
+#pragma once
+
+#include "batch/BatchOptions.h"
+#include "batch/DeviceResult.h"
+
+#include <vms_client_sdk/DevInfo.h>
+
+namespace orda_batch {
+
+class OutputThread;
+
+/// Writes what came of the devices, as it comes, to standard output: a table, CSV, or JSON lines (docs/batch.md).
+class ResultWriter
+{
+    Q_DECLARE_TR_FUNCTIONS(orda_batch::ResultWriter)
+
+public:
+    /// @param hasColors of tables: failures are red
+    ResultWriter(OutputThread *output, Format format, bool hasColors);
+
+    /// Writes the head. @param devices those that will come, for the widths of columns
+    /// @param runId of all lines; empty: null in JSON
+    /// @param valueColumns members that a reading shows in tables and CSV; empty: the table has messages and changes
+    void begin(const QList<vms_sdk::DevInfo> &devices, const QString &runId, const QStringList &valueColumns = {});
+    void add(const DeviceResult &result);
+    /// The summary is in JSON the last line; in the other formats it goes to the standard error output.
+    void end(const Summary &summary);
+
+private:
+    OutputThread *m_output;
+    Format m_format;
+    bool m_hasColors;
+    QString m_runId;
+    QStringList m_valueColumns;
+};
+
+} // namespace orda_batch

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <vms_client_sdk/DevInfo.h>
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QJsonObject>
+#include <QStringList>
+
+namespace orda_batch {
+
+class KeyTable;
+
+/// What is to be set: one object for all devices, or an object for each that is named.
+struct WantedValues
+{
+    Q_DECLARE_TR_FUNCTIONS(orda_batch::WantedValues)
+
+public:
+    /// @param settings KEY=VALUE each
+    static WantedValues fromSettings(const QStringList &settings, const KeyTable &keys);
+    /// Reads a file: JSON (one object for all devices), CSV with a head line, or JSON lines. The last two have a column
+    /// or member "device", an id or a serial number; columns "serialNumber", "name" and "ip", as they are read out by
+    /// this program, are for people and are passed over, and so are empty cells.
+    static WantedValues fromFile(const QString &path, const KeyTable &keys);
+
+    /// Gives the values of a file to the devices that it names, each once, and notes what it names wrongly.
+    /// @param inventory all that may be named
+    void assignTo(const QList<vms_sdk::DevInfo> &inventory);
+
+    bool isByDevice() const { return m_isByDevice; }
+    /// By device id; after assignTo(). In the order of the inventory.
+    const QStringList &devIds() const { return m_devIds; }
+    const QHash<QString, QJsonObject> &ownValues() const { return m_ownValues; }
+    /// Of all devices, as the family's tasks take them.
+    const QJsonObject &values() const { return m_values; }
+
+    /// All that is wrong, a line each, with file, line, column and what would be right. Nothing may be sent then.
+    QStringList errors;
+
+private:
+    struct Row
+    {
+        QString device; ///< as the file names it
+        QString place; ///< "names.csv:12:1", for messages
+        QJsonObject values;
+    };
+
+    QJsonObject m_values;
+    QVector<Row> m_rows;
+    bool m_isByDevice = false;
+    QStringList m_devIds;
+    QHash<QString, QJsonObject> m_ownValues;
+};
+
+} // namespace orda_batch
