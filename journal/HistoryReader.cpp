@@ -131,7 +131,8 @@ QStringList HistoryReader::findRuns(const QString &idOrPrefix)
     const QVector<RunRow> found =
         idOrPrefix == QLatin1String("last")
             ? m_connection->runs(QStringLiteral("ORDER BY began DESC, number DESC LIMIT ?"), 1)
-            : m_connection->runs(QStringLiteral("WHERE instr(id, ?) = 1 ORDER BY began DESC, number DESC LIMIT 2"), idOrPrefix);
+            : m_connection->runs(QStringLiteral("WHERE instr(id, ?) = 1 ORDER BY began DESC, number DESC LIMIT 2"),
+                                 idOrPrefix);
     for (const RunRow &run : found)
         ids.append(run.id);
     return ids;

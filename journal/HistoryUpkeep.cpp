@@ -151,9 +151,9 @@ bool pruneRuns(HistoryFile *file, int *removed)
     const qint64 oldest = QDateTime::currentDateTimeUtc().addDays(-options.keptDays).toMSecsSinceEpoch();
     QVector<QPair<qint64, qint64>> candidates; // number and beginning, the oldest first
     {
-        QSqlQuery query =
-            file->prepare(QStringLiteral("SELECT number, began FROM runs WHERE ended <> 0 AND number NOT IN (SELECT number "
-                                         "FROM runs ORDER BY began DESC, number DESC LIMIT ?) ORDER BY began, number"));
+        QSqlQuery query = file->prepare(
+            QStringLiteral("SELECT number, began FROM runs WHERE ended <> 0 AND number NOT IN (SELECT number "
+                           "FROM runs ORDER BY began DESC, number DESC LIMIT ?) ORDER BY began, number"));
         if (file->run(query, options.keptRuns))
             while (file->next(query))
                 candidates.append({query.value(0).toLongLong(), query.value(1).toLongLong()});

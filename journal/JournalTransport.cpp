@@ -225,9 +225,9 @@ void JournalTransport::historyCommitted(quint64 ticket)
 void JournalTransport::historyFailed(const QString &why, const QString &runId)
 {
     qCWarning(logJournal).noquote() << why;
-    m_ended.erase(std::remove_if(m_ended.begin(), m_ended.end(),
-                                 [&runId](const Ended &ended) { return ended.runId == runId; }),
-                  m_ended.end());
+    m_ended.erase(
+        std::remove_if(m_ended.begin(), m_ended.end(), [&runId](const Ended &ended) { return ended.runId == runId; }),
+        m_ended.end());
     if (m_run && m_run->start().id == runId) { // and not one that has ended before
         m_hasFailed = true;
         refuseHeld();
