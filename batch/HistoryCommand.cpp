@@ -90,7 +90,8 @@ int prune(const HistoryOptions &history)
 {
     int removed = 0;
     const QString error = HistoryArchive(history).prune(&removed);
-    const int exitCode = printLine(Texts::tr("Runs removed: %1").arg(removed));
+    const bool isSaid = error.isEmpty() || removed > 0; // some may be gone before it fails
+    const int exitCode = isSaid ? printLine(Texts::tr("Runs removed: %1").arg(removed)) : int(ExitOk);
     return error.isEmpty() ? exitCode : fail(error, ExitHistory);
 }
 
