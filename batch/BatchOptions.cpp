@@ -18,11 +18,6 @@ constexpr int maxSeconds = 24 * 60 * 60;
 constexpr int maxShards = 100000;
 constexpr int maxRetries = 100;
 
-QString tr(const char *text)
-{
-    return BatchOptions::tr(text);
-}
-
 QStringList familyNames()
 {
     QStringList names;
@@ -33,7 +28,7 @@ QStringList familyNames()
 
 QString description()
 {
-    return tr(
+    return BatchOptions::tr(
         "Reads, plans, sets, verifies and takes back parameters of many cameras and recorders.\n\n"
         "Commands:\n"
         "  families [FAMILY]           the families of parameters; keys, types, ranges and choices of one\n"
@@ -56,6 +51,8 @@ QString description()
 /// The options, each with the commands that have it.
 class KnownOptions
 {
+    Q_DECLARE_TR_FUNCTIONS(orda_batch::BatchOptions)
+
 public:
     KnownOptions();
 
@@ -133,6 +130,8 @@ QString KnownOptions::misplaced(const QCommandLineParser &parser, Command comman
 /// Reads one command line; the first mistake stays.
 class Reader
 {
+    Q_DECLARE_TR_FUNCTIONS(orda_batch::BatchOptions)
+
 public:
     explicit Reader(const QStringList &arguments);
 
