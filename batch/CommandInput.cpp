@@ -31,6 +31,12 @@ bool CommandInput::fail(const QString &error, int exitCode)
     return false;
 }
 
+bool CommandInput::fail(const DeviceSelection::Selected &selected)
+{
+    return fail(tr("--devices: %1").arg(selected.error),
+                selected.isEmpty ? orda_programs::ExitNoDevice : orda_programs::ExitInput);
+}
+
 bool CommandInput::read()
 {
     if (!m_options.run.isEmpty() && !readRun())
@@ -39,7 +45,7 @@ bool CommandInput::read()
         m_selection.family = orda_batchCfg::Families::find(m_options.family);
         m_keys.emplace(*m_selection.family, m_options.isUnchecked);
     }
-    return readDevices() && readValues();
+    return readDevices() && readValues() && chooseCandidates();
 }
 
 bool CommandInput::readRun()
@@ -109,13 +115,19 @@ DeviceSelection::Knowledge CommandInput::knowledge() const
     return {isOffered, failedIn};
 }
 
+/// Whether the values, or the run, say which devices are meant, and nothing else does.
+bool CommandInput::areAllNamed() const
+{
+    return m_options.devices.isEmpty() && (m_wanted.isByDevice() || m_run);
+}
+
 /// Those of the devices that the values, or the run, are of.
-QStringList CommandInput::narrowed(const QStringList &devIds)
+QStringList CommandInput::narrowed(const QStringList &devIds) const
 {
     if (!m_wanted.isByDevice() && !m_run)
         return devIds;
     const QStringList named = m_run ? m_run->written().devIds : m_wanted.devIds();
-    if (m_options.devices.isEmpty())
+    if (areAllNamed())
         return named;
     const QSet<QString> isNamed(named.begin(), named.end());
     QStringList both;
@@ -124,28 +136,27 @@ QStringList CommandInput::narrowed(const QStringList &devIds)
     return both;
 }
 
-QList<DevInfo> CommandInput::devicesToConnect()
+bool CommandInput::chooseCandidates()
 {
-    QList<DevInfo> devices;
-    const QStringList ids =
-        shareOf(narrowed(m_terms.connectTo(m_inventory, knowledge()).devIds), m_options.shard, m_options.shards);
+    const DeviceSelection::Selected selected = m_terms.connectTo(m_inventory, knowledge());
+    if (!areAllNamed() && !selected.error.isEmpty())
+        return fail(selected);
+    const QStringList ids = shareOf(narrowed(selected.devIds), m_options.shard, m_options.shards);
     for (const QString &devId : ids)
         if (m_deviceById.contains(devId))
-            devices.append(m_deviceById.value(devId));
-    return devices;
+            m_candidates.append(m_deviceById.value(devId));
+    return true;
 }
 
 bool CommandInput::select()
 {
     QStringList devIds;
-    const bool isAllNamed = m_options.devices.isEmpty() && (m_wanted.isByDevice() || m_run);
-    if (isAllNamed) {
+    if (areAllNamed()) {
         devIds = narrowed({});
     } else {
         const DeviceSelection::Selected selected = m_terms.of(m_inventory, knowledge());
         if (!selected.error.isEmpty())
-            return fail(tr("--devices: %1").arg(selected.error),
-                        selected.isEmpty ? orda_programs::ExitNoDevice : orda_programs::ExitInput);
+            return fail(selected);
         m_leftOut = selected.leftOut;
         devIds = narrowed(selected.devIds);
         const int others = selected.devIds.size() - devIds.size();

@@ -30,7 +30,7 @@ public:
     /// Reads everything. @return whether it is all right; else errors() and exitCode() say what is wrong
     bool read();
     /// The devices that may be selected; no others need to be connected.
-    QList<vms_sdk::DevInfo> devicesToConnect();
+    const QList<vms_sdk::DevInfo> &devicesToConnect() const { return m_candidates; }
     /// Settles which devices are selected; those of devicesToConnect() are connected, as far as they can be.
     /// @return as read()
     bool select();
@@ -55,14 +55,18 @@ private:
     bool readValues();
     bool readDevices();
     DeviceSelection::Knowledge knowledge() const;
-    QStringList narrowed(const QStringList &devIds);
+    bool chooseCandidates();
+    bool areAllNamed() const;
+    QStringList narrowed(const QStringList &devIds) const;
     bool fail(const QString &error, int exitCode);
+    bool fail(const DeviceSelection::Selected &selected);
 
     const BatchOptions m_options;
     const orda_journal::HistoryOptions m_history;
     std::unique_ptr<device_fleet::EmbeddedFleet> m_demo;
     QHash<QString, vms_sdk::DevInfo> m_deviceById;
     QList<vms_sdk::DevInfo> m_inventory;
+    QList<vms_sdk::DevInfo> m_candidates;
     std::optional<KeyTable> m_keys;
     WantedValues m_wanted;
     DeviceSelection m_terms;
