@@ -117,8 +117,8 @@ DeviceResult planResult(const DevInfo &device, const DeviceReading &reading, con
     DeviceResult result = readingResult(device, reading);
     if (!reading.isRead())
         return result;
-    const orda_engine::DevicePlan plan =
-        planOf(*selection.family, selection.flagsOf(device.id), selection.valuesOf(device.id), reading.held);
+    const orda_engine::DevicePlan plan = orda_engine::planOf(*selection.family, selection.flagsOf(device.id),
+                                                             selection.valuesOf(device.id), reading.held);
     setChanges(&result, plan.changes + plan.added);
     result.lacking = plan.lacking;
     result.outcome = result.changes.isEmpty() ? Outcome::Unchanged : Outcome::Differs;
