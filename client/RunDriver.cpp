@@ -6,6 +6,8 @@
 #include "client/RecordFile.h"
 #include "programs/Complaint.h"
 
+#include <run/DevEligibility.h>
+
 #include <orda_base/DisabledWaitingWt.h>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
@@ -35,6 +37,7 @@ using namespace orda_programs;
 namespace {
 
 using namespace std::chrono_literals;
+using orda_batchCfg::Eligibility;
 
 // Longer than the SDK takes to dial each of many silent devices once, 32 at a time.
 constexpr auto settleLimit = 60s;
@@ -77,10 +80,13 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
 
 void RunDriver::start()
 {
+    complain(
+        tr("--run is for demos and pictures: it writes the form's default values. orda_batch(1) sets values of your "
+           "own."));
     const auto &store = orda_data::DevsMgrData::instance();
     const QList<vms_sdk::DevInfo> devices = store.getAllDevs(false);
     for (const vms_sdk::DevInfo &dev : devices)
-        if (m_options.deviceIds.isEmpty() || m_options.deviceIds.contains(dev.id))
+        if (isMeant(dev.id))
             m_unsettled.insert(dev.id);
     for (const QString &id : qAsConst(m_options.deviceIds)) {
         if (!m_unsettled.contains(id)) {
@@ -139,9 +145,9 @@ void RunDriver::savePageScreenshots(int from)
 void RunDriver::tickAndConfigure()
 {
     openPage(*m_family);
-    const int ticked = tickDevices();
-    out() << tr("%n device(s) ticked", nullptr, ticked) << Qt::endl;
-    const int missing = m_options.deviceIds.size() - ticked;
+    tickDevices();
+    out() << tr("%n device(s) ticked", nullptr, m_ticked) << Qt::endl;
+    const int missing = m_options.deviceIds.size() - m_ticked;
     if (missing > 0)
         complain(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
@@ -152,7 +158,12 @@ void RunDriver::openPage(const Family &family)
     m_window->findChild<QAbstractButton *>(family.navigationKey)->click();
 }
 
-int RunDriver::tickDevices()
+bool RunDriver::isMeant(const QString &devId) const
+{
+    return m_options.deviceIds.isEmpty() || m_options.deviceIds.contains(devId);
+}
+
+void RunDriver::tickDevices()
 {
     auto *table = m_window->findChild<QTableWidget *>(QStringLiteral("devsTableWt"));
     if (m_options.deviceIds.isEmpty()) {
@@ -160,14 +171,23 @@ int RunDriver::tickDevices()
         if (all->isEnabled() && !all->isChecked())
             all->click();
     }
-    int ticked = 0;
+    QSet<QString> ticked;
     for (int row = 0; row < table->rowCount(); ++row) {
         QTableWidgetItem *item = table->item(row, 0);
-        if (m_options.deviceIds.contains(item->data(devIdRole).toString()))
+        const QString devId = item->data(devIdRole).toString();
+        if (m_options.deviceIds.contains(devId))
             item->setCheckState(Qt::Checked);
-        ticked += item->checkState() == Qt::Checked ? 1 : 0;
+        if (item->checkState() == Qt::Checked)
+            ticked.insert(devId);
     }
-    return ticked;
+    m_ticked = ticked.size();
+    const QList<vms_sdk::DevInfo> devices = orda_data::DevsMgrData::instance().getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : devices) {
+        const Eligibility eligibility = orda_batchCfg::devEligibility(dev);
+        if (isMeant(dev.id) && !ticked.contains(dev.id) && eligibility != Eligibility::NotReachedDirectly
+            && eligibility != Eligibility::NotCameraNorRecorder)
+            ++m_notReached;
+    }
 }
 
 void RunDriver::configure()
@@ -207,6 +227,8 @@ void RunDriver::followProgress()
 void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
 {
     out() << info.title << Qt::endl << info.text << Qt::endl;
+    if (m_notReached > 0)
+        out() << tr("%n device(s) not reached", nullptr, m_notReached) << Qt::endl;
 
     // The numbers are total, success and failure, in this order in every language.
     QList<int> counts;
