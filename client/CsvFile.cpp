@@ -1,9 +1,10 @@
 #include "client/CsvFile.h"
 
+#include "programs/Csv.h"
+
 #include <vms_client_sdk/WholeFile.h>
 
 #include <QAbstractItemModel>
-#include <QRegularExpression>
 
 #include <functional>
 
@@ -11,24 +12,12 @@ namespace orda_client {
 
 namespace {
 
-QString cell(QString text)
-{
-    // No text of a device may become a formula, not even in spreadsheets that split cells at other characters.
-    static const QRegularExpression formula(
-        QStringLiteral("(^|[;|\\t\\r\\n])(?=[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
-    text.replace(formula, QStringLiteral("\\1'"));
-    const auto has = [&text](char character) { return text.contains(QLatin1Char(character)); };
-    if (has(',') || has(';') || has('\t') || has('"') || has('\r') || has('\n'))
-        text = QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
-    return text;
-}
-
 QString line(int columns, const std::function<QVariant(int column)> &value)
 {
-    QStringList cells;
+    QStringList texts;
     for (int column = 0; column < columns; ++column)
-        cells.append(cell(value(column).toString()));
-    return cells.join(QLatin1Char(',')) + QLatin1String("\r\n");
+        texts.append(value(column).toString());
+    return orda_programs::csvLine(texts);
 }
 
 } // namespace

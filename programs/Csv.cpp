@@ -1,0 +1,27 @@
+#include "programs/Csv.h"
+
+#include <QRegularExpression>
+
+namespace orda_programs {
+
+QString csvCell(QString text)
+{
+    // No text of a device may become a formula, not even in spreadsheets that split cells at other characters.
+    static const QRegularExpression formula(
+        QStringLiteral("(^|[;|\\t\\r\\n])(?=[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
+    text.replace(formula, QStringLiteral("\\1'"));
+    const auto has = [&text](char character) { return text.contains(QLatin1Char(character)); };
+    if (has(',') || has(';') || has('\t') || has('"') || has('\r') || has('\n'))
+        text = QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
+    return text;
+}
+
+QString csvLine(const QStringList &texts)
+{
+    QStringList cells;
+    for (const QString &text : texts)
+        cells.append(csvCell(text));
+    return cells.join(QLatin1Char(',')) + QLatin1String("\r\n");
+}
+
+} // namespace orda_programs
