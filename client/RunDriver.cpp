@@ -4,12 +4,12 @@
 #include "client/LastRunWindow.h"
 #include "client/PageRecord.h"
 #include "client/RecordFile.h"
+#include "engine/Connecting.h"
 #include "programs/Complaint.h"
 
 #include <run/DevEligibility.h>
 
 #include <orda_base/DisabledWaitingWt.h>
-#include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/EventConfirmInfo.h>
@@ -39,8 +39,6 @@ namespace {
 using namespace std::chrono_literals;
 using orda_batchCfg::Eligibility;
 
-// Longer than the SDK takes to dial each of many silent devices once, 32 at a time.
-constexpr auto settleLimit = 60s;
 // A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
 constexpr auto settlePause = 150ms;
 constexpr auto progressInterval = 50ms;
@@ -83,21 +81,21 @@ void RunDriver::start()
     complain(
         tr("--run is for demos and pictures: it writes the form's default values. orda_batch(1) sets values of your "
            "own."));
-    const auto &store = orda_data::DevsMgrData::instance();
-    const QList<vms_sdk::DevInfo> devices = store.getAllDevs(false);
+    QStringList devIds;
+    const QList<vms_sdk::DevInfo> devices = orda_data::DevsMgrData::instance().getAllDevs(false);
     for (const vms_sdk::DevInfo &dev : devices)
         if (isMeant(dev.id))
-            m_unsettled.insert(dev.id);
+            devIds.append(dev.id);
     for (const QString &id : qAsConst(m_options.deviceIds)) {
-        if (!m_unsettled.contains(id)) {
+        if (!devIds.contains(id)) {
             complain(tr("--devices: there is no device \"%1\"").arg(id));
             end(ExitUsage);
             return;
         }
     }
-    connect(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged, this,
-            &RunDriver::handleDevStatus);
-    QTimer::singleShot(m_unsettled.isEmpty() ? 0ms : settleLimit, this, &RunDriver::whenSettled);
+    using orda_engine::Connecting;
+    auto *connecting = new Connecting(devIds, Connecting::usualLimit, this);
+    connect(connecting, &Connecting::signalDone, this, &RunDriver::whenSettled);
 }
 
 bool RunDriver::eventFilter(QObject *watched, QEvent *event)
@@ -109,18 +107,8 @@ bool RunDriver::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-void RunDriver::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)
-{
-    if (status != vms_sdk::DevConnecting && m_unsettled.remove(devId) && m_unsettled.isEmpty()) {
-        // Later: the list must handle the same signal first.
-        QTimer::singleShot(0ms, this, &RunDriver::whenSettled);
-    }
-}
-
 void RunDriver::whenSettled()
 {
-    if (std::exchange(m_started, true))
-        return;
     const auto &store = orda_data::DevsMgrData::instance();
     out() << tr("%1 of %n device(s) online", nullptr, store.devCount(false)).arg(store.devCount(true)) << Qt::endl;
     if (m_options.screenshotsDir.isEmpty())

@@ -4,11 +4,8 @@
 #include "client/PauseMeter.h"
 #include "programs/ExitCode.h"
 
-#include <vms_client_sdk/DevInfo.h>
-
 #include <QElapsedTimer>
 #include <QObject>
-#include <QSet>
 
 QT_BEGIN_NAMESPACE
 class QMainWindow;
@@ -45,7 +42,6 @@ public:
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void handleDevStatus(const QString &devId, vms_sdk::DevStatus status);
     void whenSettled();
     void savePageScreenshots(int from);
     void tickAndConfigure();
@@ -64,8 +60,6 @@ private:
     ClientOptions m_options;
     const Family *m_family;
     QMainWindow *m_window;
-    QSet<QString> m_unsettled; // devices whose first connection attempt has no outcome yet
-    bool m_started = false;
     int m_ticked = 0;
     int m_notReached = 0; // cameras and recorders that were to be ticked and that the list does not offer
     bool m_hasSummary = false;
