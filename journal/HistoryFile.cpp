@@ -75,7 +75,7 @@ bool HistoryFile::openToWrite(QString *setAside)
         return fail(Unusable, why);
     if (connectToWrite())
         return true;
-    return m_fault == Damaged && moveAside(setAside) && connectToWrite();
+    return m_fault == Damaged && setAside && moveAside(setAside) && connectToWrite();
 }
 
 bool HistoryFile::openToRead()

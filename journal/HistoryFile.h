@@ -33,7 +33,7 @@ public:
     HistoryFile &operator=(const HistoryFile &) = delete;
 
     /// Makes directory, file and tables where they are missing. A damaged file is set aside and a new one made.
-    /// @param setAside appended to: what became of a damaged file, for the user
+    /// @param setAside appended to: what became of a damaged file, for the user; null: it is left alone, as an error
     bool openToWrite(QString *setAside);
     /// Changes nothing. @return true without being open: there is no history yet
     bool openToRead();

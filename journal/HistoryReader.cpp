@@ -120,7 +120,7 @@ QVector<RunRow> HistoryReader::runs(int limit)
 {
     if (!m_connection->isReady())
         return {};
-    return m_connection->runs(QStringLiteral("ORDER BY number DESC LIMIT ?"), limit > 0 ? limit : -1);
+    return m_connection->runs(QStringLiteral("ORDER BY began DESC, number DESC LIMIT ?"), limit > 0 ? limit : -1);
 }
 
 QStringList HistoryReader::findRuns(const QString &idOrPrefix)
@@ -130,8 +130,9 @@ QStringList HistoryReader::findRuns(const QString &idOrPrefix)
     QStringList ids;
     const QVector<RunRow> found =
         idOrPrefix == QLatin1String("last")
-            ? m_connection->runs(QStringLiteral("ORDER BY number DESC LIMIT ?"), 1)
-            : m_connection->runs(QStringLiteral("WHERE instr(id, ?) = 1 ORDER BY number DESC LIMIT 2"), idOrPrefix);
+            ? m_connection->runs(QStringLiteral("ORDER BY began DESC, number DESC LIMIT ?"), 1)
+            : m_connection->runs(QStringLiteral("WHERE instr(id, ?) = 1 ORDER BY began DESC, number DESC LIMIT 2"),
+                                 idOrPrefix);
     for (const RunRow &run : found)
         ids.append(run.id);
     return ids;

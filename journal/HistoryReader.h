@@ -18,9 +18,9 @@ public:
     /// Why the history cannot be read, for the user; empty when the last call succeeded.
     QString error() const;
 
-    /// The latest runs, latest first. @param limit 0: all
+    /// The runs that began last, latest first, wherever they were made. @param limit 0: all
     QVector<RunRow> runs(int limit = 0);
-    /// Ids of the runs whose id begins with @p idOrPrefix, latest first, at most two; "last" is the latest run.
+    /// Ids of the runs whose id begins with @p idOrPrefix, latest first, at most two; "last" is the first of runs().
     QStringList findRuns(const QString &idOrPrefix);
     /// Nothing when there is no such run.
     std::optional<RunDetails> run(const QString &id);

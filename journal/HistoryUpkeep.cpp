@@ -145,28 +145,27 @@ void removeLeftLocks(const HistoryFile &file)
     }
 }
 
-bool pruneRuns(HistoryFile *file)
+bool pruneRuns(HistoryFile *file, int *removed)
 {
     const HistoryOptions &options = file->options();
     const qint64 oldest = QDateTime::currentDateTimeUtc().addDays(-options.keptDays).toMSecsSinceEpoch();
     QVector<QPair<qint64, qint64>> candidates; // number and beginning, the oldest first
     {
-        QSqlQuery query =
-            file->prepare(QStringLiteral("SELECT number, began FROM runs WHERE ended <> 0 AND number NOT IN "
-                                         "(SELECT number FROM runs ORDER BY number DESC LIMIT ?) ORDER BY number"));
+        QSqlQuery query = file->prepare(
+            QStringLiteral("SELECT number, began FROM runs WHERE ended <> 0 AND number NOT IN (SELECT number "
+                           "FROM runs ORDER BY began DESC, number DESC LIMIT ?) ORDER BY began, number"));
         if (file->run(query, options.keptRuns))
             while (file->next(query))
                 candidates.append({query.value(0).toLongLong(), query.value(1).toLongLong()});
     }
-    bool isPruned = false;
     for (const auto &[number, began] : qAsConst(candidates)) {
         if (began >= oldest && usedBytes(file) <= options.keptBytes)
             continue;
         if (!remove(file, number))
             return false;
-        isPruned = true;
+        ++*removed;
     }
-    return file->fault() == HistoryFile::NoFault && (!isPruned || giveSpaceBack(file));
+    return file->fault() == HistoryFile::NoFault && (*removed == 0 || giveSpaceBack(file));
 }
 
 } // namespace orda_journal

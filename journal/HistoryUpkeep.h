@@ -6,7 +6,7 @@ namespace orda_journal {
 
 class HistoryFile;
 
-// What keeps the history in order, on the thread of the writer. Each returns false when the file failed.
+// What keeps the history in order. Each returns false when the file failed.
 
 /// Within a transaction: ends a run. Devices without an outcome get the one that can be known: a device to which
 /// something was sent may have it (Unknown), to the others nothing has left (Stopped).
@@ -19,6 +19,7 @@ bool settleRuns(HistoryFile *file);
 void removeLeftLocks(const HistoryFile &file);
 
 /// Removes runs as HistoryOptions says, and gives their space back to the disk.
-bool pruneRuns(HistoryFile *file);
+/// @param removed counted up for each, even when the file fails after it
+bool pruneRuns(HistoryFile *file, int *removed);
 
 } // namespace orda_journal

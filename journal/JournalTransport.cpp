@@ -9,6 +9,7 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace orda_journal {
@@ -27,7 +28,7 @@ JournalTransport::JournalTransport(std::unique_ptr<vms_sdk::DeviceTransport> tra
     connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalRequestTimeout, this,
             &JournalTransport::handleTimeout);
     if (m_history) {
-        connect(m_history.get(), &HistoryWriter::signalCommitted, this, &JournalTransport::letLeaveUpTo);
+        connect(m_history.get(), &HistoryWriter::signalCommitted, this, &JournalTransport::historyCommitted);
         connect(m_history.get(), &HistoryWriter::signalFailed, this, &JournalTransport::historyFailed);
         connect(m_history.get(), &HistoryWriter::signalSetAside, this, &JournalTransport::signalHistorySetAside);
     }
@@ -84,8 +85,11 @@ void JournalTransport::end()
         if (!m_run->isSettled(device))
             record(m_run->settle(device, {StoppedCode, tr("the run ended before this device had its result")}));
     const QString id = m_run->start().id;
-    if (m_history)
-        m_history->endRun(id);
+    if (!m_history)
+        QMetaObject::invokeMethod(
+            this, [this, id] { emit signalRunRecorded(id); }, Qt::QueuedConnection);
+    else if (!m_hasFailed) // of a run that is lost nothing is written any more
+        m_ended.push_back({m_history->endRun(id), id});
     qCDebug(logJournal) << id << "ended";
     emit signalRunEnded(id);
 }
@@ -208,9 +212,22 @@ void JournalTransport::stop()
     refuseHeld();
 }
 
+void JournalTransport::historyCommitted(quint64 ticket)
+{
+    letLeaveUpTo(ticket);
+    while (!m_ended.empty() && m_ended.front().ticket <= ticket) {
+        const QString runId = m_ended.front().runId;
+        m_ended.pop_front();
+        emit signalRunRecorded(runId);
+    }
+}
+
 void JournalTransport::historyFailed(const QString &why, const QString &runId)
 {
     qCWarning(logJournal).noquote() << why;
+    m_ended.erase(
+        std::remove_if(m_ended.begin(), m_ended.end(), [&runId](const Ended &ended) { return ended.runId == runId; }),
+        m_ended.end());
     if (m_run && m_run->start().id == runId) { // and not one that has ended before
         m_hasFailed = true;
         refuseHeld();

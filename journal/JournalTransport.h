@@ -64,6 +64,10 @@ signals:
     /// A device of the run has its outcome: once for each. What noteDiffers() makes of it later is not told here.
     void signalSettled(const orda_journal::Settled &settled);
     void signalRunEnded(const QString &runId);
+    /// The history has everything of the run, its end included, and it is on the disk; without a history from the event
+    /// loop, soon after the end. Once for each run, but never for one that the history lost: of that
+    /// signalHistoryFailed() tells, before the run's end or after it. Whoever ends a program waits for one of them.
+    void signalRunRecorded(const QString &runId);
     /// The history cannot be written: the run that is under way writes to no device any more.
     /// @param why for the user
     void signalHistoryFailed(const QString &why);
@@ -75,6 +79,12 @@ private:
         Free,
         Reading,
         Running
+    };
+    /// A run that has ended and waits until the history has its end.
+    struct Ended
+    {
+        quint64 ticket;
+        QString runId;
     };
     /// A write that waits until the history has it.
     struct Held
@@ -92,6 +102,7 @@ private:
     void refuseHeld();
     void answerInstead(const QString &requestId, const QString &method, int code);
     void handleTimeout(const QString &requestId);
+    void historyCommitted(quint64 ticket);
     void historyFailed(const QString &why, const QString &runId);
     void record(const Settled &settled);
 
@@ -103,6 +114,7 @@ private:
     bool m_isStopped = false;
     bool m_hasFailed = false; // the history, since the run began
     std::deque<Held> m_held;
+    std::deque<Ended> m_ended;
     QMultiHash<QString, QString> m_ownAnswers; // by request id, until they are passed on
 };
 

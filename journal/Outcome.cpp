@@ -19,6 +19,14 @@ QString outcomeName(Outcome outcome)
     return QLatin1String(names.at(std::size_t(outcome)));
 }
 
+QStringList outcomeNames()
+{
+    QStringList list;
+    for (const char *name : names)
+        list.append(QLatin1String(name));
+    return list;
+}
+
 Outcome outcomeFromName(const QString &name, bool *isKnown)
 {
     const auto *const found =

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace orda_journal {
 
@@ -19,6 +20,8 @@ enum class Outcome
 
 /// "done", "partly-written" and so on: in the history, and for programs. Never translated.
 QString outcomeName(Outcome outcome);
+/// All of them, in the order of the enumeration.
+QStringList outcomeNames();
 /// @param isKnown false when no outcome has this name
 Outcome outcomeFromName(const QString &name, bool *isKnown);
 

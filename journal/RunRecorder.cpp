@@ -114,7 +114,11 @@ bool RunRecorder::writeEntry(const RunEntry &entry)
 // @return false when the file turned out to be damaged. Any other failure only leaves the file larger than it should be
 bool RunRecorder::prune()
 {
-    if (pruneRuns(&m_file) || m_file.fault() == HistoryFile::Damaged)
+    int removed = 0;
+    const bool isPruned = pruneRuns(&m_file, &removed);
+    if (removed > 0)
+        qCDebug(logJournal) << "old runs removed:" << removed;
+    if (isPruned || m_file.fault() == HistoryFile::Damaged)
         return m_file.fault() == HistoryFile::NoFault;
     qCWarning(logJournal).noquote() << "old runs cannot be removed:" << m_file.error();
     m_file.clearError();
