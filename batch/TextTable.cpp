@@ -1,7 +1,6 @@
 #include "batch/TextTable.h"
 
-#include <QVector>
-
+#include <algorithm>
 #include <cwchar>
 
 namespace orda_batch {
@@ -15,6 +14,31 @@ int widthOf(uint character)
 }
 
 } // namespace
+
+QString alignedLine(const QStringList &cells, const QVector<int> &widths)
+{
+    QString text;
+    for (int column = 0; column + 1 < cells.size(); ++column) {
+        const int padding = std::max(0, widths.at(column) - displayWidth(cells.at(column)));
+        text += cells.at(column) + QString(padding + 2, QLatin1Char(' '));
+    }
+    return text + cells.value(cells.size() - 1);
+}
+
+QString alignedTable(const QStringList &head, const QVector<QStringList> &rows)
+{
+    QVector<int> widths(head.size());
+    const auto widen = [&widths](const QStringList &cells) {
+        for (int column = 0; column < cells.size(); ++column)
+            widths[column] = std::max(widths.at(column), displayWidth(cells.at(column)));
+    };
+    widen(head);
+    std::for_each(rows.begin(), rows.end(), widen);
+    QString text = alignedLine(head, widths) + QLatin1Char('\n');
+    for (const QStringList &row : rows)
+        text += alignedLine(row, widths) + QLatin1Char('\n');
+    return text;
+}
 
 int displayWidth(const QString &text)
 {
