@@ -20,37 +20,11 @@ QString line(const QStringList &cells, const QVector<int> &widths)
 
 } // namespace
 
-<<<<<<< HEAD
-QString alignedLine(const QStringList &cells, const QVector<int> &widths)
-{
-    QString text;
-    for (int column = 0; column + 1 < cells.size(); ++column) {
-        const int padding = std::max(0, widths.at(column) - displayWidth(cells.at(column)));
-        text += cells.at(column) + QString(padding + 2, QLatin1Char(' '));
-    }
-    return text + cells.value(cells.size() - 1);
-}
-
-=======
->>>>>>> h3
 QString alignedTable(const QStringList &head, const QVector<QStringList> &rows)
 {
     QVector<int> widths(head.size());
     const auto widen = [&widths](const QStringList &cells) {
         for (int column = 0; column < cells.size(); ++column)
-<<<<<<< HEAD
-            widths[column] = std::max(widths.at(column), displayWidth(cells.at(column)));
-    };
-    widen(head);
-    std::for_each(rows.begin(), rows.end(), widen);
-    QString text = alignedLine(head, widths) + QLatin1Char('\n');
-    for (const QStringList &row : rows)
-        text += alignedLine(row, widths) + QLatin1Char('\n');
-    return text;
-}
-
-int displayWidth(const QString &text)
-=======
             widths[column] = std::max(widths.at(column), shownWidth(cells.at(column)));
     };
     widen(head);
@@ -62,7 +36,6 @@ int displayWidth(const QString &text)
 }
 
 int shownWidth(const QString &text)
->>>>>>> h3
 {
     int width = 0;
     const QVector<uint> characters = text.toUcs4();
