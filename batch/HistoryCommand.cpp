@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cerrno>
 #include <unistd.h>
 
@@ -32,16 +33,23 @@ struct Texts
 };
 
 // What devices say may be commands to a terminal; a file gets it as it is.
-int print(const QString &text)
+int print(QByteArray bytes, Format format = Format::Table)
 {
-    const bool isTerminal = ::isatty(STDOUT_FILENO) == 1;
-    const QByteArray bytes = (isTerminal ? vms_sdk::escaped(text, QStringLiteral("\r\n")) : text).toUtf8();
+    if (::isatty(STDOUT_FILENO) == 1)
+        bytes = vms_sdk::escaped(QString::fromUtf8(bytes), QStringLiteral("\r\n")).toUtf8();
+    else if (format == Format::Csv)
+        bytes.prepend(QString(QChar(QChar::ByteOrderMark)).toUtf8()); // by which spreadsheets know UTF-8
     QFile output;
     if (output.open(stdout, QIODevice::WriteOnly) && output.write(bytes) == bytes.size() && output.flush())
         return ExitOk;
     if (errno == EPIPE)
         return ExitOk; // whoever reads it has seen enough
     return fail(Texts::tr("The standard output cannot be written: %1").arg(output.errorString()), ExitSomeFailed);
+}
+
+int printLine(const QString &line)
+{
+    return print(vms_sdk::escaped(line).toUtf8() + '\n');
 }
 
 int list(const BatchOptions &options, const HistoryOptions &history)
@@ -51,8 +59,8 @@ int list(const BatchOptions &options, const HistoryOptions &history)
     if (!reader.error().isEmpty())
         return fail(reader.error(), ExitHistory);
     if (runs.isEmpty() && options.format == Format::Table)
-        return print(Texts::tr("There are no runs in the history.") + QLatin1Char('\n'));
-    return print(HistoryTexts::list(runs, options.format));
+        return printLine(Texts::tr("There are no runs in the history."));
+    return print(HistoryTexts::list(runs, options.format), options.format);
 }
 
 /// @param exitCode when there is no such run, about which has been complained then
@@ -75,14 +83,14 @@ int show(const BatchOptions &options, const HistoryOptions &history)
     if (!orda_batchCfg::Families::find(details->run.family))
         complain(Texts::tr("The run is of \"%1\", of which this program knows nothing: what it changed is not shown.")
                      .arg(details->run.family));
-    return print(HistoryTexts::run(*details, options.format));
+    return print(HistoryTexts::run(*details, options.format), options.format);
 }
 
 int prune(const HistoryOptions &history)
 {
     int removed = 0;
     const QString error = HistoryArchive(history).prune(&removed);
-    const int exitCode = print(Texts::tr("Runs removed: %1").arg(removed) + QLatin1Char('\n'));
+    const int exitCode = printLine(Texts::tr("Runs removed: %1").arg(removed));
     return error.isEmpty() ? exitCode : fail(error, ExitHistory);
 }
 
@@ -99,7 +107,7 @@ int writeOut(const BatchOptions &options, const HistoryOptions &history)
                               "begins, or with \"history prune\".")
                         .arg(details->run.id),
                     ExitInput);
-    return print(QString::fromUtf8(QJsonDocument(HistoryArchive::toJson(*details)).toJson()));
+    return print(QJsonDocument(HistoryArchive::toJson(*details)).toJson());
 }
 
 RunDetails runIn(const QString &path, QString *error)
@@ -139,7 +147,7 @@ int takeIn(const QString &path, const HistoryOptions &history)
         return fail(QStringLiteral("%1: %2").arg(path, error), ExitHistory);
     const QString text =
         isKnown ? Texts::tr("%1: the run %2 is there already") : Texts::tr("%1: the run %2 is there now");
-    return print(vms_sdk::escaped(text.arg(path, run.run.id)) + QLatin1Char('\n'));
+    return printLine(text.arg(path, run.run.id));
 }
 
 int takeInAll(const BatchOptions &options, const HistoryOptions &history)
