@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/Connecting.h"
 #include "engine/WriteJob.h"
 
 #include <QCoreApplication>
@@ -56,7 +57,7 @@ public:
 
     Format format = Format::Table;
     std::chrono::seconds requestTimeout{15};
-    std::chrono::seconds connectTimeout{60};
+    std::chrono::seconds connectTimeout = orda_engine::Connecting::usualLimit;
     bool hasHistory = true;
 
     orda_engine::WriteOptions write;

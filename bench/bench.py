@@ -148,7 +148,8 @@ class Client:
 
     def __init__(self, options, inventory, env, size=None):
         """@param size so many devices are there, and all of them must be configured; None: some are not"""
-        command = [options.bin / "orda_client", "--language", "en", "--inventory", inventory, "--run", "osd"]
+        command = [options.bin / "orda_client", "--language", "en", "--inventory", inventory, "--yes", "--run",
+                   "osd"]
         start = time.monotonic()
         process = subprocess.Popen([str(part) for part in command], env=env, stdout=subprocess.PIPE, text=True)
         self.record = []

@@ -44,12 +44,17 @@ struct KnownOptions
         "language", ClientOptions::tr("Language of the window, such as \"en\"; the system's when not given."), "CODE");
     QCommandLineOption theme =
         option("theme", ClientOptions::tr(R"("light" or "dark"; as the desktop is when not given.)"), "NAME");
-    QCommandLineOption run = option(
-        "run",
-        ClientOptions::tr("Drive the form without a person: one run of FAMILY (%1), then exit.").arg(familyList()),
-        "FAMILY");
+    QCommandLineOption run =
+        option("run",
+               ClientOptions::tr(
+                   "Drive the form without a person: one run of FAMILY (%1) with the form's default values, then "
+                   "exit. For demos and pictures; orda_batch(1) sets values of your own.")
+                   .arg(familyList()),
+               "FAMILY");
     QCommandLineOption devices = option(
         "devices", ClientOptions::tr("Devices to configure with --run: \"all\" (default) or ids with commas."), "IDS");
+    QCommandLineOption yes = {QStringLiteral("yes"),
+                              ClientOptions::tr("Let --run write to the devices of an inventory.")};
     QCommandLineOption screenshots =
         option("screenshots",
                ClientOptions::tr("Save pictures of the pages, the run and its summary here (with --run)."), "DIR");
@@ -82,8 +87,12 @@ QString mistakeIn(const ClientOptions &options, const QCommandLineParser &parser
         return ClientOptions::tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family);
     if (isSet(known.run) && !isSet(known.demo) && !isSet(known.inventory))
         return ClientOptions::tr("--run needs devices: --demo N or --inventory FILE");
-    if (!isSet(known.run) && (isSet(known.devices) || isSet(known.screenshots)))
-        return ClientOptions::tr("--devices and --screenshots need --run");
+    if (!isSet(known.run) && (isSet(known.devices) || isSet(known.screenshots) || isSet(known.yes)))
+        return ClientOptions::tr("--devices, --screenshots and --yes need --run");
+    if (isSet(known.run) && isSet(known.inventory) && !isSet(known.yes)) {
+        return ClientOptions::tr("--run with --inventory writes the form's default values to real devices: add --yes "
+                                 "if that is meant, or set values of your own with orda_batch(1)");
+    }
     if (!namesAllDevices(parser, known) && options.deviceIds.isEmpty())
         return ClientOptions::tr("--devices takes \"all\" or device ids with commas between them");
     if (isSet(known.screenshots) && !QDir().mkpath(options.screenshotsDir))
@@ -102,7 +111,7 @@ ClientOptions parseOptions(const QStringList &arguments)
         "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device, "
         "5 nothing configured because the record is in use, 6 the record of the run is missing or not whole."));
     parser.addOptions({known.demo, known.inventory, known.faults, known.language, known.theme, known.run, known.devices,
-                       known.screenshots});
+                       known.yes, known.screenshots});
 
     ClientOptions options;
     options.error = orda_programs::parseCommandLine(parser, arguments);

@@ -4,10 +4,12 @@
 #include "client/LastRunWindow.h"
 #include "client/PageRecord.h"
 #include "client/RecordFile.h"
+#include "engine/Connecting.h"
 #include "programs/Complaint.h"
 
+#include <run/DevEligibility.h>
+
 #include <orda_base/DisabledWaitingWt.h>
-#include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
 #include <orda_worker/EventConfirmInfo.h>
@@ -35,9 +37,8 @@ using namespace orda_programs;
 namespace {
 
 using namespace std::chrono_literals;
+using orda_batchCfg::Eligibility;
 
-// Longer than the SDK takes to dial each of many silent devices once, 32 at a time.
-constexpr auto settleLimit = 60s;
 // A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
 constexpr auto settlePause = 150ms;
 constexpr auto progressInterval = 50ms;
@@ -77,21 +78,24 @@ RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject 
 
 void RunDriver::start()
 {
-    const auto &store = orda_data::DevsMgrData::instance();
-    const QList<vms_sdk::DevInfo> devices = store.getAllDevs(false);
+    complain(
+        tr("--run is for demos and pictures: it writes the form's default values. orda_batch(1) sets values of your "
+           "own."));
+    QStringList devIds;
+    const QList<vms_sdk::DevInfo> devices = orda_data::DevsMgrData::instance().getAllDevs(false);
     for (const vms_sdk::DevInfo &dev : devices)
-        if (m_options.deviceIds.isEmpty() || m_options.deviceIds.contains(dev.id))
-            m_unsettled.insert(dev.id);
+        if (isMeant(dev.id))
+            devIds.append(dev.id);
     for (const QString &id : qAsConst(m_options.deviceIds)) {
-        if (!m_unsettled.contains(id)) {
+        if (!devIds.contains(id)) {
             complain(tr("--devices: there is no device \"%1\"").arg(id));
             end(ExitUsage);
             return;
         }
     }
-    connect(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged, this,
-            &RunDriver::handleDevStatus);
-    QTimer::singleShot(m_unsettled.isEmpty() ? 0ms : settleLimit, this, &RunDriver::whenSettled);
+    using orda_engine::Connecting;
+    auto *connecting = new Connecting(devIds, Connecting::usualLimit, this);
+    connect(connecting, &Connecting::signalDone, this, &RunDriver::whenSettled);
 }
 
 bool RunDriver::eventFilter(QObject *watched, QEvent *event)
@@ -103,18 +107,8 @@ bool RunDriver::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-void RunDriver::handleDevStatus(const QString &devId, vms_sdk::DevStatus status)
-{
-    if (status != vms_sdk::DevConnecting && m_unsettled.remove(devId) && m_unsettled.isEmpty()) {
-        // Later: the list must handle the same signal first.
-        QTimer::singleShot(0ms, this, &RunDriver::whenSettled);
-    }
-}
-
 void RunDriver::whenSettled()
 {
-    if (std::exchange(m_started, true))
-        return;
     const auto &store = orda_data::DevsMgrData::instance();
     out() << tr("%1 of %n device(s) online", nullptr, store.devCount(false)).arg(store.devCount(true)) << Qt::endl;
     if (m_options.screenshotsDir.isEmpty())
@@ -139,9 +133,9 @@ void RunDriver::savePageScreenshots(int from)
 void RunDriver::tickAndConfigure()
 {
     openPage(*m_family);
-    const int ticked = tickDevices();
-    out() << tr("%n device(s) ticked", nullptr, ticked) << Qt::endl;
-    const int missing = m_options.deviceIds.size() - ticked;
+    tickDevices();
+    out() << tr("%n device(s) ticked", nullptr, m_ticked) << Qt::endl;
+    const int missing = m_options.deviceIds.size() - m_ticked;
     if (missing > 0)
         complain(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, &RunDriver::configure);
@@ -152,7 +146,12 @@ void RunDriver::openPage(const Family &family)
     m_window->findChild<QAbstractButton *>(family.navigationKey)->click();
 }
 
-int RunDriver::tickDevices()
+bool RunDriver::isMeant(const QString &devId) const
+{
+    return m_options.deviceIds.isEmpty() || m_options.deviceIds.contains(devId);
+}
+
+void RunDriver::tickDevices()
 {
     auto *table = m_window->findChild<QTableWidget *>(QStringLiteral("devsTableWt"));
     if (m_options.deviceIds.isEmpty()) {
@@ -160,14 +159,23 @@ int RunDriver::tickDevices()
         if (all->isEnabled() && !all->isChecked())
             all->click();
     }
-    int ticked = 0;
+    QSet<QString> ticked;
     for (int row = 0; row < table->rowCount(); ++row) {
         QTableWidgetItem *item = table->item(row, 0);
-        if (m_options.deviceIds.contains(item->data(devIdRole).toString()))
+        const QString devId = item->data(devIdRole).toString();
+        if (m_options.deviceIds.contains(devId))
             item->setCheckState(Qt::Checked);
-        ticked += item->checkState() == Qt::Checked ? 1 : 0;
+        if (item->checkState() == Qt::Checked)
+            ticked.insert(devId);
     }
-    return ticked;
+    m_ticked = ticked.size();
+    const QList<vms_sdk::DevInfo> devices = orda_data::DevsMgrData::instance().getAllDevs(false);
+    for (const vms_sdk::DevInfo &dev : devices) {
+        const Eligibility eligibility = orda_batchCfg::devEligibility(dev);
+        if (isMeant(dev.id) && !ticked.contains(dev.id) && eligibility != Eligibility::NotReachedDirectly
+            && eligibility != Eligibility::NotCameraNorRecorder)
+            ++m_notReached;
+    }
 }
 
 void RunDriver::configure()
@@ -207,6 +215,8 @@ void RunDriver::followProgress()
 void RunDriver::handleSummary(const orda_worker::EventConfirmInfo &info)
 {
     out() << info.title << Qt::endl << info.text << Qt::endl;
+    if (m_notReached > 0)
+        out() << tr("%n device(s) not reached", nullptr, m_notReached) << Qt::endl;
 
     // The numbers are total, success and failure, in this order in every language.
     QList<int> counts;

@@ -4,11 +4,8 @@
 #include "client/PauseMeter.h"
 #include "programs/ExitCode.h"
 
-#include <vms_client_sdk/DevInfo.h>
-
 #include <QElapsedTimer>
 #include <QObject>
-#include <QSet>
 
 QT_BEGIN_NAMESPACE
 class QMainWindow;
@@ -31,7 +28,7 @@ enum ClientExit
 
 /// Drives the form as an operator would, without one: waits until the devices have come online, opens the family's
 /// page, ticks devices, presses Configure, prints progress, summary, duration, the window's longest pause and the
-/// record, answers the summary and ends the application.
+/// record, answers the summary and ends the application. Says first that it is for demos and pictures.
 class RunDriver : public QObject
 {
     Q_OBJECT
@@ -45,12 +42,12 @@ public:
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void handleDevStatus(const QString &devId, vms_sdk::DevStatus status);
     void whenSettled();
     void savePageScreenshots(int from);
     void tickAndConfigure();
     void openPage(const Family &family);
-    int tickDevices();
+    bool isMeant(const QString &devId) const;
+    void tickDevices();
     void configure();
     void followProgress();
     void handleSummary(const orda_worker::EventConfirmInfo &info);
@@ -63,8 +60,8 @@ private:
     ClientOptions m_options;
     const Family *m_family;
     QMainWindow *m_window;
-    QSet<QString> m_unsettled; // devices whose first connection attempt has no outcome yet
-    bool m_started = false;
+    int m_ticked = 0;
+    int m_notReached = 0; // cameras and recorders that were to be ticked and that the list does not offer
     bool m_hasSummary = false;
     bool m_isAllDone = false;
     QElapsedTimer m_duration; // since the press

@@ -2,10 +2,11 @@
 #include "client/ClientSession.h"
 #include "client/ClientWindow.h"
 #include "client/RunDriver.h"
-#include "programs/Translations.h"
 #include "journal/HistoryOptions.h"
+#include "programs/CommandLine.h"
 #include "programs/Complaint.h"
 #include "programs/ExitCode.h"
+#include "programs/Translations.h"
 
 #include <orda_base/Theme.h>
 #include <vms_client_sdk/OpenFiles.h>
@@ -55,7 +56,7 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("orda_client")));
     vms_sdk::raiseOpenFileLimit();
 
-    const QString language = Translations::requested(QCoreApplication::arguments());
+    const QString language = optionValue(QCoreApplication::arguments(), QStringLiteral("language"));
     Translations translations; // first: mistakes of the command line are told in this language too
     if (!translations.install(language)) {
         return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")

@@ -2,10 +2,27 @@
 
 #include "run/CfgFamily.h"
 
+#include <algorithm>
+
 namespace orda_engine {
 
 using orda_batchCfg::CfgExchange;
+using orda_batchCfg::CfgFamily;
 using orda_batchCfg::CfgKey;
+
+namespace {
+
+/// Such a key has no flag: which exchange has it only the device can say.
+bool hasUnknownKey(const CfgFamily &family, const QJsonObject &wanted)
+{
+    const QStringList names = wanted.keys();
+    return std::any_of(names.cbegin(), names.cend(), [&family](const QString &name) {
+        return std::none_of(family.keys.cbegin(), family.keys.cend(),
+                            [&name](const CfgKey &key) { return key.name == name; });
+    });
+}
+
+} // namespace
 
 Selection Selection::withoutDuplicates() const
 {
@@ -16,7 +33,7 @@ Selection Selection::withoutDuplicates() const
 
 int Selection::flagsFor(const QJsonObject &wanted) const
 {
-    if (!wanted.isEmpty())
+    if (!wanted.isEmpty() && !hasUnknownKey(*family, wanted))
         return family->flagsOf(wanted);
     int all = 0;
     for (const CfgExchange &exchange : family->exchanges)

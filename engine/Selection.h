@@ -22,7 +22,8 @@ struct Selection
     QHash<QString, QJsonObject> ownValues = {}; ///< by device id: in place of values
 
     QJsonObject valuesOf(const QString &devId) const { return ownValues.value(devId, values); }
-    /// The flags of the exchanges that @p wanted needs; of all exchanges when it is empty.
+    /// The flags of the exchanges that @p wanted needs; of all exchanges when it is empty, or has a key that the family
+    /// does not have.
     int flagsFor(const QJsonObject &wanted) const;
     int flagsOf(const QString &devId) const { return flagsFor(valuesOf(devId)); }
     /// Values for read requests, of which some say by a value what is asked for: those that @p wanted lacks are added.

@@ -90,6 +90,13 @@ quint32 ownAddress(int index)
          + quint32(index % perSubnet) + 1;
 }
 
+/// By number and not drawn: the rest of a device stays what a seed has always given.
+QString groupOf(int index)
+{
+    static constexpr std::array groups{"north", "south", "gate"};
+    return QString::fromLatin1(groups.at(std::size_t(index) % groups.size()));
+}
+
 } // namespace
 
 SiteDevice makeSiteDevice(quint32 seed, int index)
@@ -111,6 +118,7 @@ SiteDevice makeSiteDevice(quint32 seed, int index)
                             .arg(random.bounded(0x10000), 4, 16, QLatin1Char('0'))
                             .arg(index + 1, 6, 10, QLatin1Char('0'))
                             .toUpper();
+    info.group = groupOf(index);
     info.userName = QStringLiteral("admin");
     info.password = drawPassword(random, device.state);
     if (!happens(random, 5)) { // the others are cloud devices

@@ -23,4 +23,13 @@ QString parseCommandLine(QCommandLineParser &parser, const QStringList &argument
     return {};
 }
 
+QString optionValue(const QStringList &arguments, const QString &name)
+{
+    const QCommandLineOption option(name, {}, QStringLiteral("VALUE"));
+    QCommandLineParser parser;
+    parser.addOption(option);
+    parser.parse(arguments);
+    return parser.value(option);
+}
+
 } // namespace orda_programs

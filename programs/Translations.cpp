@@ -1,6 +1,5 @@
 #include "programs/Translations.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
@@ -16,15 +15,6 @@ QStringList filesOf(const QString &language)
 }
 
 } // namespace
-
-QString Translations::requested(const QStringList &arguments)
-{
-    const QCommandLineOption language(QStringLiteral("language"), {}, QStringLiteral("CODE"));
-    QCommandLineParser parser;
-    parser.addOption(language);
-    parser.parse(arguments); // other options are none of its affair
-    return parser.value(language);
-}
 
 QStringList Translations::languages()
 {

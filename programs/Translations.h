@@ -14,10 +14,6 @@ namespace orda_programs {
 class Translations
 {
 public:
-    /// The value of --language; empty when it is not given. Needed before the other options, because mistakes in them
-    /// are told in that language.
-    static QString requested(const QStringList &arguments);
-
     /// Codes of the languages to choose from.
     static QStringList languages();
 

@@ -262,7 +262,8 @@ private slots:
         QByteArray said;
         for (QProcess *client : {&audio, &osd}) {
             client->setProcessChannelMode(QProcess::MergedChannels);
-            start(*client, "orda_client --inventory " + inventory + " --run " + (client == &osd ? "osd" : "audio"));
+            start(*client,
+                  "orda_client --inventory " + inventory + " --yes --run " + (client == &osd ? "osd" : "audio"));
         }
         for (QProcess *client : {&audio, &osd}) {
             QVERIFY(client->waitForFinished());

@@ -257,6 +257,7 @@ private slots:
         camera.fingerprint = QString(64, 'a');
         camera.password = "p";
         camera.accessCode = 2;
+        camera.group = "north";
         recorder.url = "ws://relay.example/r";
         recorder.kindCode = 6;
         const QString path = m_dir.filePath("written.json");

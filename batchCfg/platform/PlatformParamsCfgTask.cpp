@@ -33,8 +33,8 @@ const CfgFamily &PlatformParamsCfgTask::family()
                 .checkedWhenBack(cloudCheckLimit),
         },
         {
-            CfgKey::switchOf("qbcloud_en"),
-            CfgKey::text("qbcloud_addr"),
+            CfgKey::switchOf("qbcloud_en").needing({QStringLiteral("qbcloud_type")}),
+            CfgKey::text("qbcloud_addr").needing({QStringLiteral("qbcloud_type")}),
             CfgKey::choice("qbcloud_type",
                            {{"public", QT_TR_NOOP("Public Cloud")}, {"private", QT_TR_NOOP("Private Cloud")}}),
         },

@@ -43,6 +43,12 @@ CfgKey CfgKey::choice(const char *name, const QVector<CfgChoice> &choices, int f
     return {QLatin1String(name), Choice, flag, 0, 0, initial, choices};
 }
 
+CfgKey CfgKey::needing(const QStringList &others) &&
+{
+    needs = others;
+    return std::move(*this);
+}
+
 int CfgFamily::exchangeFrom(int from, int flags) const
 {
     for (int i = from; i < exchanges.size(); ++i) {

@@ -46,6 +46,10 @@ struct CfgKey
     /// @param initial index of the choice that the editor shows at first
     static CfgKey choice(const char *name, const QVector<CfgChoice> &choices, int flag = 0, int initial = 0);
 
+    /// What else must be given where this key is. For programs whose users name keys one by one: an editor of a page may
+    /// set several keys at once.
+    CfgKey needing(const QStringList &others) &&;
+
     QString name;
     Type type;
     int flag; ///< of the exchange that the key asks for: CfgExchange::flag
@@ -53,6 +57,7 @@ struct CfgKey
     int maximum = 0; ///< of a Number; of a Text the longest length
     int initial = 0;
     QVector<CfgChoice> choices = {}; ///< of a Choice
+    QStringList needs = {}; ///< needing()
 };
 
 /// A member of a device's settings that a write gives another value (CfgExchange::membersOf()).

@@ -35,10 +35,6 @@
         <translation>Sprache des Fensters, etwa „en“; ohne Angabe die des Systems.</translation>
     </message>
     <message>
-        <source>Drive the form without a person: one run of FAMILY (%1), then exit.</source>
-        <translation>Das Formular ohne Bediener fahren: ein Lauf von FAMILY (%1), dann Ende.</translation>
-    </message>
-    <message>
         <source>Devices to configure with --run: &quot;all&quot; (default) or ids with commas.</source>
         <translation>Mit --run zu konfigurierende Geräte: „all“ (Vorgabe) oder Kennungen mit Kommas.</translation>
     </message>
@@ -71,10 +67,6 @@
         <translation>--run braucht Geräte: --demo N oder --inventory DATEI</translation>
     </message>
     <message>
-        <source>--devices and --screenshots need --run</source>
-        <translation>--devices und --screenshots brauchen --run</translation>
-    </message>
-    <message>
         <source>--devices takes &quot;all&quot; or device ids with commas between them</source>
         <translation>--devices nimmt „all“ oder Gerätekennungen mit Kommas dazwischen</translation>
     </message>
@@ -101,6 +93,22 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>Konfiguriert viele Kameras und Rekorder, die online sind, auf einmal.
 
 Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 3 eine Datei ist falsch, 4 kein Gerät, 5 nichts konfiguriert, weil das Protokoll benutzt wird, 6 das Protokoll des Laufs fehlt oder ist unvollständig.</translation>
+    </message>
+    <message>
+        <source>Let --run write to the devices of an inventory.</source>
+        <translation>--run darf auf die Geräte eines Bestands schreiben.</translation>
+    </message>
+    <message>
+        <source>--devices, --screenshots and --yes need --run</source>
+        <translation>--devices, --screenshots und --yes brauchen --run</translation>
+    </message>
+    <message>
+        <source>Drive the form without a person: one run of FAMILY (%1) with the form&apos;s default values, then exit. For demos and pictures; orda_batch(1) sets values of your own.</source>
+        <translation>Das Formular ohne Bediener fahren: ein Lauf von FAMILY (%1) mit den Vorgabewerten des Formulars, dann Ende. Für Vorführungen und Bilder; eigene Werte setzt orda_batch(1).</translation>
+    </message>
+    <message>
+        <source>--run with --inventory writes the form&apos;s default values to real devices: add --yes if that is meant, or set values of your own with orda_batch(1)</source>
+        <translation>--run mit --inventory schreibt die Vorgabewerte des Formulars auf echte Geräte: mit --yes, wenn das gemeint ist; eigene Werte setzt orda_batch(1)</translation>
     </message>
 </context>
 <context>
@@ -461,6 +469,17 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
             <numerusform>%n der angegebenen Geräte ist offline oder darf nicht konfiguriert werden</numerusform>
             <numerusform>%n der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) not reached</source>
+        <translation>
+            <numerusform>%n Gerät nicht erreicht</numerusform>
+            <numerusform>%n Geräte nicht erreicht</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--run is for demos and pictures: it writes the form&apos;s default values. orda_batch(1) sets values of your own.</source>
+        <translation>--run ist für Vorführungen und Bilder: Es schreibt die Vorgabewerte des Formulars. Eigene Werte setzt orda_batch(1).</translation>
     </message>
 </context>
 <context>

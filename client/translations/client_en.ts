@@ -54,6 +54,13 @@
             <numerusform>%n of the given devices are offline or may not be configured</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n device(s) not reached</source>
+        <translation>
+            <numerusform>%n device not reached</numerusform>
+            <numerusform>%n devices not reached</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>orda_client::TickReport</name>

@@ -35,10 +35,6 @@
         <translation>窗口语言，例如“en”；未给出时使用系统语言。</translation>
     </message>
     <message>
-        <source>Drive the form without a person: one run of FAMILY (%1), then exit.</source>
-        <translation>无人操作表单：执行一次 FAMILY（%1）后退出。</translation>
-    </message>
-    <message>
         <source>Devices to configure with --run: &quot;all&quot; (default) or ids with commas.</source>
         <translation>--run 要配置的设备：“all”（默认）或以逗号分隔的 id。</translation>
     </message>
@@ -71,10 +67,6 @@
         <translation>--run 需要设备：--demo N 或 --inventory FILE</translation>
     </message>
     <message>
-        <source>--devices and --screenshots need --run</source>
-        <translation>--devices 和 --screenshots 需要 --run</translation>
-    </message>
-    <message>
         <source>--devices takes &quot;all&quot; or device ids with commas between them</source>
         <translation>--devices 接受“all”或以逗号分隔的设备 id</translation>
     </message>
@@ -101,6 +93,22 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>一次配置许多在线摄像机和录像机。
 
 退出码：0 全部设备已配置，1 部分未配置，2 用法错误，3 文件有误，4 没有设备，5 因记录正在使用而未配置，6 本次运行的记录缺失或不完整。</translation>
+    </message>
+    <message>
+        <source>Let --run write to the devices of an inventory.</source>
+        <translation>允许 --run 写入清单中的设备。</translation>
+    </message>
+    <message>
+        <source>--devices, --screenshots and --yes need --run</source>
+        <translation>--devices、--screenshots 和 --yes 需要 --run</translation>
+    </message>
+    <message>
+        <source>Drive the form without a person: one run of FAMILY (%1) with the form&apos;s default values, then exit. For demos and pictures; orda_batch(1) sets values of your own.</source>
+        <translation>无人操作表单：以表单的默认值执行一次 FAMILY（%1）后退出。用于演示和截图；要设置自己的值，请使用 orda_batch(1)。</translation>
+    </message>
+    <message>
+        <source>--run with --inventory writes the form&apos;s default values to real devices: add --yes if that is meant, or set values of your own with orda_batch(1)</source>
+        <translation>--run 与 --inventory 一起使用会把表单的默认值写入真实设备：如确有此意请加 --yes，否则用 orda_batch(1) 设置自己的值</translation>
     </message>
 </context>
 <context>
@@ -455,6 +463,16 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>
             <numerusform>指定的设备中有 %n 台离线或不允许配置</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) not reached</source>
+        <translation>
+            <numerusform>%n 台设备未连上</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--run is for demos and pictures: it writes the form&apos;s default values. orda_batch(1) sets values of your own.</source>
+        <translation>--run 用于演示和截图：它写入表单的默认值。要设置自己的值，请使用 orda_batch(1)。</translation>
     </message>
 </context>
 <context>

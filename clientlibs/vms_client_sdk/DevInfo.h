@@ -36,6 +36,7 @@ struct DevInfo
     QString password; ///< never sent, never logged
     int accessCode = 0; ///< 1: reached directly by this SDK
     int kindCode = 0; ///< 1: camera, 6: recorder
+    QString group; ///< such as its place at the site, to select devices by; may be empty
     QString path = QStringLiteral("/"); ///< of the WebSocket address
     bool tls = false; ///< wss:// instead of ws://
     QString url; ///< dialled instead of ip, port, path and tls where it is given

@@ -98,6 +98,7 @@ DevInfo DeviceReader::read()
     device.password = m_entry.text(QStringLiteral("password"));
     device.accessCode = m_entry.wholeNumber(QStringLiteral("accessCode"), 0, 65535, 1);
     device.kindCode = m_entry.wholeNumber(QStringLiteral("kindCode"), 0, 65535, 1);
+    device.group = visibleText(QStringLiteral("group"));
     checkAddress(device);
     return device;
 }
@@ -169,6 +170,8 @@ QJsonObject toJson(const DevInfo &device)
                       {QStringLiteral("kindCode"), device.kindCode}};
     if (device.port != 0)
         entry.insert(QStringLiteral("port"), device.port);
+    if (!device.group.isEmpty())
+        entry.insert(QStringLiteral("group"), device.group);
     if (!device.url.isEmpty())
         entry.insert(QStringLiteral("url"), device.url);
     if (!device.fingerprint.isEmpty())

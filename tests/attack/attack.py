@@ -140,7 +140,7 @@ async def run(attack, bin_dir, seconds, healthy):
         ids = [] if attack.ticked == "all" or not healthy else ["--devices", ",".join(entry["id"] for entry in good)]
         began = time.monotonic()
         client = await stack.enter_async_context(Program(
-            f"{bin_dir}/orda_client", "--inventory", inventory, "--run", attack.family, *ids, home=home))
+            f"{bin_dir}/orda_client", "--inventory", inventory, "--yes", "--run", attack.family, *ids, home=home))
         code = await client.wait(seconds + attack.margin)
         duration = time.monotonic() - began
         fleet.look()

@@ -1,0 +1,170 @@
+#include "batch/DeviceResults.h"
+
+#include "batch/CommandInput.h"
+#include "engine/ChangeTexts.h"
+#include "engine/DevicePlan.h"
+#include "engine/DeviceUndo.h"
+#include "engine/Reach.h"
+
+#include <run/CfgFamily.h>
+
+#include <QCoreApplication>
+
+namespace orda_batch {
+
+using orda_batchCfg::CfgFamily;
+using orda_batchCfg::MemberChange;
+using orda_engine::DeviceReading;
+using orda_engine::MemberDifference;
+using orda_engine::ObjectsByExchange;
+using orda_engine::Selection;
+using orda_journal::Outcome;
+using vms_sdk::DevInfo;
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(orda_batch::DeviceResults)
+};
+
+DeviceResult resultOf(const DevInfo &device, Outcome outcome, const QString &message)
+{
+    return {device.id, device.serialNumber, device.name, device.ip, outcome, 0, message};
+}
+
+void setChanges(DeviceResult *result, const QVector<MemberChange> &changes)
+{
+    for (const MemberChange &change : changes)
+        result->changes.append({change.member, change.before, change.after});
+}
+
+/// The members in which a device is not as an undo has left it.
+QVector<MemberDifference> differencesFromUndo(const CfgFamily &family, const orda_engine::RecordedDevice &recorded,
+                                              const ObjectsByExchange &held)
+{
+    QVector<MemberDifference> differences;
+    for (auto sent = recorded.sent.begin(); sent != recorded.sent.end(); ++sent) {
+        if (!held.contains(sent.key()))
+            continue;
+        const QJsonObject members = family.exchanges.at(sent.key()).membersOf(held.value(sent.key()));
+        const auto changes = family.changesBy(sent.key(), recorded.before.value(sent.key()), *sent);
+        for (const MemberChange &change : changes)
+            if (members.value(change.member) != change.after)
+                differences.append({change.exchange, change.member, change.after, members.value(change.member)});
+    }
+    return differences;
+}
+
+} // namespace
+
+DeviceResult stoppedResult(const DevInfo &device, const QString &why)
+{
+    DeviceResult result = resultOf(device, Outcome::Stopped, why);
+    result.code = orda_journal::StoppedCode;
+    return result;
+}
+
+DeviceResult notReachedResult(const DevInfo &device, const orda_engine::Reach &reach)
+{
+    DeviceResult result = resultOf(device, Outcome::NotReached, reach.text);
+    result.reason = orda_engine::reachName(reach.reason);
+    return result;
+}
+
+DeviceResult writtenResult(const DevInfo &device, const orda_journal::Settled &settled)
+{
+    DeviceResult result = resultOf(device, *settled.row.outcome, settled.row.message);
+    result.code = settled.row.code;
+    if (result.outcome == Outcome::NotReached)
+        result.reason = orda_engine::reachName(orda_engine::reachOf(device.id).reason);
+    setChanges(&result, settled.changes);
+    return result;
+}
+
+DeviceResult readingResult(const DevInfo &device, const DeviceReading &reading)
+{
+    if (!reading.reach.canBeWritten)
+        return notReachedResult(device, reading.reach);
+    const Outcome outcome = reading.code == 0                         ? Outcome::Done
+                          : reading.code == orda_journal::StoppedCode ? Outcome::Stopped
+                                                                      : Outcome::Failed;
+    DeviceResult result = resultOf(device, outcome, reading.message);
+    result.code = reading.code;
+    return result;
+}
+
+DeviceResult heldResult(const DevInfo &device, const DeviceReading &reading, const KeyTable &keys, bool isWhole)
+{
+    DeviceResult result = readingResult(device, reading);
+    if (!reading.isRead())
+        return result;
+    QJsonObject members;
+    for (auto held = reading.held.begin(); held != reading.held.end(); ++held) {
+        const QJsonObject ofExchange = keys.family().exchanges.at(held.key()).membersOf(*held);
+        for (auto member = ofExchange.begin(); member != ofExchange.end(); ++member)
+            if (!members.contains(member.key())) // where two exchanges have one key, the first one's stands
+                members.insert(member.key(), *member);
+    }
+    const QStringList shown = isWhole ? members.keys() : keys.membersWithKey(members.keys());
+    for (const QString &member : shown)
+        result.values.insert(member, members.value(member));
+    return result;
+}
+
+DeviceResult planResult(const DevInfo &device, const DeviceReading &reading, const Selection &selection)
+{
+    DeviceResult result = readingResult(device, reading);
+    if (!reading.isRead())
+        return result;
+    const orda_engine::DevicePlan plan = orda_engine::planOf(*selection.family, selection.flagsOf(device.id),
+                                                             selection.valuesOf(device.id), reading.held);
+    setChanges(&result, plan.changes + plan.added);
+    result.lacking = plan.lacking;
+    result.outcome = result.changes.isEmpty() ? Outcome::Unchanged : Outcome::Differs;
+    result.message = result.changes.isEmpty() ? Texts::tr("nothing to change") : QString();
+    return result;
+}
+
+DeviceResult verifiedResult(const DevInfo &device, const DeviceReading &reading, const CommandInput &input)
+{
+    DeviceResult result = readingResult(device, reading);
+    if (!reading.isRead())
+        return result;
+    const Selection &selection = input.selection();
+    const auto &details = input.runDetails();
+    QVector<MemberDifference> differences;
+    if (details && details->run.kind == QLatin1String("undo"))
+        differences = differencesFromUndo(*selection.family, input.run().device(device.id), reading.held);
+    else
+        differences = orda_engine::differencesOf(
+            *selection.family, selection.flagsOf(device.id), selection.valuesOf(device.id),
+            details ? input.run().device(device.id).sent : ObjectsByExchange(), reading.held);
+    for (const MemberDifference &difference : qAsConst(differences))
+        result.changes.append({difference.member, difference.found, difference.wanted});
+    result.outcome = differences.isEmpty() ? Outcome::Done : Outcome::Differs;
+    result.message = differences.isEmpty() ? Texts::tr("as it should be") : orda_engine::textOf(differences);
+    return result;
+}
+
+DeviceResult undoPlanResult(const DevInfo &device, const DeviceReading &reading, const orda_engine::RecordedRun &run,
+                            bool isForced)
+{
+    DeviceResult result = readingResult(device, reading);
+    if (!reading.isRead())
+        return result;
+    const CfgFamily &family = *run.written().family;
+    const orda_engine::RecordedDevice recorded = run.device(device.id);
+    const orda_engine::DeviceUndo undo =
+        orda_engine::undoOf(family, recorded.before, recorded.sent, reading.held, isForced);
+    for (auto exchange = undo.begin(); exchange != undo.end(); ++exchange) {
+        const QJsonObject held = family.exchanges.at(exchange.key()).membersOf(reading.held.value(exchange.key()));
+        for (auto member = exchange->goBack.begin(); member != exchange->goBack.end(); ++member)
+            result.changes.append({member.key(), held.value(member.key()), *member});
+    }
+    result.outcome = result.changes.isEmpty() ? Outcome::Unchanged : Outcome::Differs;
+    result.message = orda_engine::textOfLeft(undo);
+    return result;
+}
+
+} // namespace orda_batch
