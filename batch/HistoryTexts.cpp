@@ -183,9 +183,10 @@ QByteArray HistoryTexts::run(const RunDetails &details, Format format)
     QVector<QStringList> about{{tr("Kind"), run.kind}, {tr("Family"), run.family}};
     if (!run.undoes.isEmpty())
         about.append({tr("Undoes"), run.undoes});
-    about += {{tr("Began"), localTime(run.began)},
-              {tr("Ended"), run.ended == 0 ? QString() : localTime(run.ended)},
-              {tr("Program"), run.program},
+    about.append({tr("Began"), localTime(run.began)});
+    if (run.ended != 0)
+        about.append({tr("Ended"), localTime(run.ended)});
+    about += {{tr("Program"), run.program},
               {tr("Values"), QString::fromUtf8(QJsonDocument(run.values).toJson(QJsonDocument::Compact))},
               {tr("Outcomes"), outcomes(run, ResultTexts::outcome)}};
     const Changes changes = changesOf(details);
