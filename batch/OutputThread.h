@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include <memory>
+#include <unistd.h>
 
 namespace orda_batch {
 
@@ -14,14 +15,22 @@ class OutputThread : public QObject
     Q_OBJECT
 
 public:
-    explicit OutputThread(QObject *parent = nullptr);
+    /// From then on the process ignores SIGPIPE.
+    /// @param output, errorOutput descriptors that stay open as long as the process writes to them
+    explicit OutputThread(QObject *parent = nullptr, int output = STDOUT_FILENO, int errorOutput = STDERR_FILENO);
     /// Does not wait for what has not been written.
     ~OutputThread() override;
+    Q_DISABLE_COPY_MOVE(OutputThread)
 
     void write(const QByteArray &bytes); ///< to standard output
     void writeError(const QByteArray &bytes);
     /// Raises signalDrained() when all that was given before is written, or can be read by nobody.
     void drain();
+
+    /// Whether something that was given is not written yet, so that what is only for show is better left out.
+    bool isBehind() const;
+    /// Whether standard output is a terminal.
+    bool isTerminal() const { return m_isTerminal; }
 
 signals:
     void signalDrained();
@@ -29,8 +38,9 @@ signals:
     void signalBroken(const QString &why);
 
 private:
-    class Thread;
-    std::unique_ptr<Thread> m_thread;
+    class Queue;
+    std::shared_ptr<Queue> m_queue;
+    bool m_isTerminal;
 };
 
 } // namespace orda_batch

@@ -9,7 +9,8 @@ namespace orda_batch {
 
 class OutputThread;
 
-/// Writes what came of the devices, as it comes, to standard output: a table, CSV, or JSON lines (docs/batch.md).
+/// Writes what came of the devices, as it comes, to standard output: a table, CSV, or JSON lines (docs/batch.md), all
+/// in UTF-8.
 class ResultWriter
 {
     Q_DECLARE_TR_FUNCTIONS(orda_batch::ResultWriter)
@@ -27,11 +28,32 @@ public:
     void end(const Summary &summary);
 
 private:
+    struct Failure
+    {
+        int count = 0;
+        QStringList devIds = {}; // the first few
+    };
+
+    static QString outcomeText(orda_journal::Outcome outcome);
+    static QJsonValue runOf(const QString &runId);
+    QJsonObject jsonOf(const DeviceResult &result) const;
+    QJsonObject jsonOf(const Summary &summary) const;
+    QString csvText(const QString &text) const;
+    void writeCsv(const QStringList &cells);
+    QStringList csvCells(const DeviceResult &result) const;
+    void beginTable(const QList<vms_sdk::DevInfo> &devices);
+    QStringList tableCells(const DeviceResult &result) const;
+    void writeTable(const QStringList &cells, const char *color = "");
+    QStringList summaryLines(const Summary &summary) const;
+    QStringList failureLines() const;
+
     OutputThread *m_output;
     Format m_format;
     bool m_hasColors;
     QString m_runId;
     QStringList m_valueColumns;
+    QVector<int> m_widths; // of the table's columns but the last
+    QMap<QString, Failure> m_failures; // by message
 };
 
 } // namespace orda_batch

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <QStringList>
-#include <QVector>
+#include <QString>
 
 namespace orda_batch {
 
-/// Rows under a head, in columns that are as wide as their widest text, with two blanks between them; each line with
-/// its end. Texts must not hold line breaks (vms_sdk::escaped()).
-QString alignedTable(const QStringList &head, const QVector<QStringList> &rows);
+/// How many columns of a terminal a text takes: wide characters, as Chinese ones are, take two. By the locale of the
+/// process; controls and what the locale does not know count as one.
+int displayWidth(const QString &text);
 
-/// How many columns of a terminal a text takes: Chinese characters take two each.
-int shownWidth(const QString &text);
+/// The text as it fits into that many columns, with "…" at its end when it does not fit whole.
+QString cutToWidth(const QString &text, int width);
 
 } // namespace orda_batch

@@ -1,0 +1,350 @@
+#include "batch/ResultWriter.h"
+
+#include "batch/OutputThread.h"
+#include "batch/TextTable.h"
+#include "engine/ChangeTexts.h"
+#include "programs/Csv.h"
+#include "run/ParamsCfgTask.h"
+
+#include <vms_client_sdk/ForeignText.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <array>
+
+namespace orda_batch {
+
+using orda_journal::Outcome;
+
+namespace {
+
+constexpr int devicesShown = 5; // of those with the same message
+constexpr int messagesShown = 20;
+constexpr int runShown = 8; // of the characters of an id
+
+constexpr std::array allOutcomes{Outcome::Done,    Outcome::Unchanged,     Outcome::Failed,     Outcome::Unknown,
+                                 Outcome::Stopped, Outcome::PartlyWritten, Outcome::NotReached, Outcome::Differs};
+
+QJsonValue orNull(const QJsonValue &value)
+{
+    return value.isUndefined() ? QJsonValue(QJsonValue::Null) : value;
+}
+
+/// An object as a line. What a terminal would obey, and what other programs take for the end of a line, is written as
+/// JSON's own escapes.
+QByteArray lineOf(const QJsonObject &object)
+{
+    QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    if (vms_sdk::holdsInvisible(text)) {
+        QString safe;
+        for (const QChar unit : qAsConst(text))
+            safe += unit.isSurrogate() ? QString(unit) : vms_sdk::escaped(unit);
+        text = safe;
+    }
+    return text.toUtf8() + '\n';
+}
+
+/// 'channelName: "a" -> "b"' of each.
+QString listed(const QVector<Change> &changes, const QString &separator)
+{
+    QStringList parts;
+    for (const Change &change : changes)
+        parts.append(QStringLiteral("%1: %2 -> %3")
+                         .arg(change.key, orda_engine::textOf(change.before), orda_engine::textOf(change.after)));
+    return parts.join(separator);
+}
+
+/// Texts as they are, without the quotation marks of JSON.
+QString plain(const QJsonValue &value)
+{
+    return value.isString() ? value.toString() : orda_engine::textOf(value);
+}
+
+const char *colorOf(Outcome outcome)
+{
+    switch (outcome) {
+    case Outcome::Done:
+    case Outcome::Unchanged:
+        break;
+    case Outcome::NotReached:
+    case Outcome::Stopped:
+        return "\033[33m"; // yellow
+    case Outcome::Failed:
+    case Outcome::Unknown:
+    case Outcome::PartlyWritten:
+    case Outcome::Differs:
+        return "\033[31m"; // red
+    }
+    return "";
+}
+
+} // namespace
+
+ResultWriter::ResultWriter(OutputThread *output, Format format, bool hasColors)
+    : m_output(output)
+    , m_format(format)
+    , m_hasColors(hasColors)
+{
+}
+
+QString ResultWriter::outcomeText(Outcome outcome)
+{
+    switch (outcome) {
+    case Outcome::Done:
+        return tr("done");
+    case Outcome::Unchanged:
+        return tr("unchanged");
+    case Outcome::Failed:
+        return tr("failed");
+    case Outcome::Unknown:
+        return tr("unknown");
+    case Outcome::Stopped:
+        return tr("stopped");
+    case Outcome::PartlyWritten:
+        return tr("partly written");
+    case Outcome::NotReached:
+        return tr("not reached");
+    case Outcome::Differs:
+        return tr("differs");
+    }
+    return {};
+}
+
+void ResultWriter::begin(const QList<vms_sdk::DevInfo> &devices, const QString &runId, const QStringList &valueColumns)
+{
+    m_runId = runId;
+    m_valueColumns = valueColumns;
+    if (m_format == Format::Table)
+        beginTable(devices);
+    if (m_format != Format::Csv)
+        return;
+    if (!m_output->isTerminal())
+        m_output->write(QString(QChar(QChar::ByteOrderMark)).toUtf8()); // by which spreadsheets know UTF-8
+    QStringList head{QStringLiteral("device"), QStringLiteral("serialNumber"), QStringLiteral("name"),
+                     QStringLiteral("ip"), QStringLiteral("outcome")};
+    if (m_valueColumns.isEmpty())
+        head += {QStringLiteral("code"), QStringLiteral("message"), QStringLiteral("changes")};
+    else
+        head += QStringList{QStringLiteral("message")} + m_valueColumns;
+    for (QString &cell : head)
+        cell = csvText(cell);
+    writeCsv(head);
+}
+
+void ResultWriter::add(const DeviceResult &result)
+{
+    if (m_format == Format::Json) {
+        m_output->write(lineOf(jsonOf(result)));
+        return;
+    }
+    if (m_format == Format::Csv)
+        writeCsv(csvCells(result));
+    else
+        writeTable(tableCells(result), colorOf(result.outcome));
+    if (result.outcome == Outcome::Done || result.outcome == Outcome::Unchanged || result.outcome == Outcome::Stopped)
+        return;
+    Failure &failure = m_failures[result.message.isEmpty() ? outcomeText(result.outcome) : result.message];
+    if (++failure.count <= devicesShown)
+        failure.devIds.append(result.devId);
+}
+
+void ResultWriter::end(const Summary &summary)
+{
+    if (m_format == Format::Json) {
+        m_output->write(lineOf(jsonOf(summary)));
+        return;
+    }
+    const QStringList lines = summaryLines(summary);
+    for (const QString &line : lines)
+        m_output->writeError(vms_sdk::escaped(line).toUtf8() + '\n');
+}
+
+QJsonValue ResultWriter::runOf(const QString &runId)
+{
+    return runId.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(runId);
+}
+
+QJsonObject ResultWriter::jsonOf(const DeviceResult &result) const
+{
+    QJsonArray changes;
+    for (const Change &change : result.changes)
+        changes.append(QJsonObject{{QStringLiteral("key"), change.key},
+                                   {QStringLiteral("before"), orNull(change.before)},
+                                   {QStringLiteral("after"), orNull(change.after)}});
+    QJsonObject object{{QStringLiteral("run"), runOf(m_runId)},
+                       {QStringLiteral("device"), result.devId},
+                       {QStringLiteral("serialNumber"), result.serialNumber},
+                       {QStringLiteral("name"), result.name},
+                       {QStringLiteral("ip"), result.ip},
+                       {QStringLiteral("outcome"), orda_journal::outcomeName(result.outcome)},
+                       {QStringLiteral("code"), result.code},
+                       {QStringLiteral("message"), result.message},
+                       {QStringLiteral("changes"), changes}};
+    if (result.outcome == Outcome::NotReached)
+        object.insert(QStringLiteral("reason"), result.reason);
+    if (!result.lacking.isEmpty())
+        object.insert(QStringLiteral("lacking"), QJsonArray::fromStringList(result.lacking));
+    if (!result.values.isEmpty())
+        object.insert(QStringLiteral("values"), result.values);
+    return object;
+}
+
+QJsonObject ResultWriter::jsonOf(const Summary &summary) const
+{
+    QJsonObject outcomes;
+    for (const Outcome outcome : allOutcomes)
+        if (const int count = summary.outcomes.value(outcome))
+            outcomes.insert(orda_journal::outcomeName(outcome), count);
+    QJsonObject object{{QStringLiteral("command"), summary.command}, {QStringLiteral("family"), summary.family},
+                       {QStringLiteral("devices"), summary.devices}, {QStringLiteral("leftOut"), summary.leftOut},
+                       {QStringLiteral("outcomes"), outcomes},       {QStringLiteral("exitCode"), summary.exitCode}};
+    const auto insertText = [&object](const QString &key, const QString &text) {
+        if (!text.isEmpty())
+            object.insert(key, text);
+    };
+    insertText(QStringLiteral("undoes"), summary.undoes);
+    insertText(QStringLiteral("stopped"), summary.stopped);
+    insertText(QStringLiteral("error"), summary.error);
+    return {{QStringLiteral("run"), runOf(summary.runId.isEmpty() ? m_runId : summary.runId)},
+            {QStringLiteral("summary"), object}};
+}
+
+QString ResultWriter::csvText(const QString &text) const
+{
+    return orda_programs::csvCell(m_output->isTerminal() ? vms_sdk::escaped(text) : text);
+}
+
+void ResultWriter::writeCsv(const QStringList &cells)
+{
+    m_output->write((cells.join(QLatin1Char(',')) + QLatin1String("\r\n")).toUtf8());
+}
+
+QStringList ResultWriter::csvCells(const DeviceResult &result) const
+{
+    QStringList cells{csvText(result.devId), csvText(result.serialNumber), csvText(result.name), csvText(result.ip),
+                      orda_journal::outcomeName(result.outcome)};
+    if (m_valueColumns.isEmpty())
+        return cells << QString::number(result.code) << csvText(result.message)
+                     << csvText(listed(result.changes, QStringLiteral("; ")));
+    cells.append(csvText(result.message));
+    for (const QString &column : m_valueColumns) {
+        const QJsonValue value = result.values.value(column);
+        if (value.isUndefined())
+            cells.append(QString());
+        else if (value.isDouble())
+            cells.append(orda_engine::textOf(value)); // a negative number is no formula
+        else
+            cells.append(csvText(plain(value)));
+    }
+    return cells;
+}
+
+void ResultWriter::beginTable(const QList<vms_sdk::DevInfo> &devices)
+{
+    QStringList head{tr("Device"), tr("Name"), tr("IP address")};
+    if (m_valueColumns.isEmpty())
+        head += {tr("Outcome"), tr("Message")};
+    else
+        head += m_valueColumns;
+    m_widths.clear();
+    for (const QString &cell : qAsConst(head))
+        m_widths.append(displayWidth(cell));
+    const auto widen = [this](int column, const QString &text) {
+        m_widths[column] = std::max(m_widths.at(column), displayWidth(vms_sdk::escaped(text)));
+    };
+    for (const vms_sdk::DevInfo &device : devices) {
+        widen(0, device.id);
+        widen(1, device.name);
+        widen(2, device.ip);
+    }
+    if (m_valueColumns.isEmpty())
+        for (const Outcome outcome : allOutcomes)
+            widen(3, outcomeText(outcome));
+    writeTable(head);
+}
+
+QStringList ResultWriter::tableCells(const DeviceResult &result) const
+{
+    QStringList cells{result.devId, result.name, result.ip};
+    if (m_valueColumns.isEmpty()) {
+        const bool saysMore =
+            !result.message.isEmpty() && result.message != orda_batchCfg::ParamsCfgTask::successText();
+        const QString changes = listed(result.changes, QStringLiteral(", "));
+        return cells << outcomeText(result.outcome) << (saysMore || changes.isEmpty() ? result.message : changes);
+    }
+    if (result.outcome != Outcome::Done) // there are no values, but there is a reason
+        return cells << tr("%1: %2").arg(outcomeText(result.outcome), result.message);
+    for (const QString &column : m_valueColumns)
+        cells.append(plain(result.values.value(column)));
+    return cells;
+}
+
+void ResultWriter::writeTable(const QStringList &cells, const char *color)
+{
+    QString line;
+    for (int column = 0; column < cells.size(); ++column) {
+        const QString cell = vms_sdk::escaped(cells.at(column));
+        line += cell;
+        if (column + 1 < cells.size())
+            line += QString(std::max(m_widths.at(column) - displayWidth(cell), 0) + 2, QLatin1Char(' '));
+    }
+    const bool isColored = m_hasColors && *color;
+    m_output->write(isColored ? color + line.toUtf8() + "\033[0m\n" : line.toUtf8() + '\n');
+}
+
+QStringList ResultWriter::summaryLines(const Summary &summary) const
+{
+    QString line = (summary.command + QLatin1Char(' ') + summary.family).trimmed() + QLatin1String(": ");
+    line += summary.devices == 1 ? tr("1 device") : tr("%1 devices").arg(summary.devices);
+    QStringList counts;
+    int written = 0;
+    for (const Outcome outcome : allOutcomes) {
+        const int count = summary.outcomes.value(outcome);
+        if (count > 0)
+            counts.append(QStringLiteral("%1 %2").arg(QString::number(count), outcomeText(outcome)));
+        if (outcome == Outcome::Done || outcome == Outcome::Unknown || outcome == Outcome::PartlyWritten
+            || outcome == Outcome::Differs)
+            written += count;
+    }
+    if (!counts.isEmpty())
+        line += QLatin1String(": ") + counts.join(QLatin1String(", "));
+    if (summary.leftOut > 0)
+        line += QLatin1String("; ")
+              + (summary.leftOut == 1 ? tr("1 other left out") : tr("%1 others left out").arg(summary.leftOut));
+    QStringList lines = QStringList{line} + failureLines();
+
+    const bool isWriting = summary.command == QLatin1String("apply") || summary.command == QLatin1String("undo");
+    if (isWriting && written > 0 && !summary.runId.isEmpty())
+        lines.append(tr("run %1… (orda_batch undo %1 takes it back)").arg(summary.runId.left(runShown)));
+    if (!summary.stopped.isEmpty())
+        lines.append(tr("stopped: %1").arg(summary.stopped));
+    if (!summary.error.isEmpty())
+        lines.append(tr("error: %1").arg(summary.error));
+    return lines;
+}
+
+/// "3 × Failed to …: dev-0001, dev-0002, dev-0007", the most frequent first.
+QStringList ResultWriter::failureLines() const
+{
+    QStringList messages = m_failures.keys();
+    std::stable_sort(messages.begin(), messages.end(), [this](const QString &a, const QString &b) {
+        return m_failures.value(a).count > m_failures.value(b).count;
+    });
+    QStringList lines;
+    for (const QString &message : qAsConst(messages)) {
+        if (lines.size() == messagesShown) {
+            lines.append(tr("  and %1 other messages").arg(messages.size() - messagesShown));
+            break;
+        }
+        const Failure failure = m_failures.value(message);
+        const QString more = failure.count > devicesShown ? QStringLiteral(", …") : QString();
+        lines.append(
+            QStringLiteral("  %1 × %2: %3")
+                .arg(QString::number(failure.count), message, failure.devIds.join(QLatin1String(", ")) + more));
+    }
+    return lines;
+}
+
+} // namespace orda_batch
