@@ -154,7 +154,7 @@ void DeviceCommand::takeSelection()
 void DeviceCommand::beginResults(const QString &runId, const QStringList &valueColumns)
 {
     m_hasBegunResults = true;
-    m_summary.runId = runId;
+    m_summary.runId = m_options.hasHistory ? runId : QString();
     QList<vms_sdk::DevInfo> devices;
     for (const QString &devId : selection().devIds)
         devices.append(m_input.deviceOf(devId));

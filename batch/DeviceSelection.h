@@ -58,11 +58,17 @@ private:
             DeviceKind,
             Group,
             FailedIn
-        } kind;
+        } kind = Device;
         QString text; ///< what follows the "="
         QString shown; ///< as it was written, with file and line, for messages
         bool isExcluded = false;
     };
+
+    class Match;
+
+    QString add(const QString &written, const QString &place, bool isExcluded);
+    QString addFile(const QString &path, bool isExcluded);
+    Selected select(const QList<vms_sdk::DevInfo> &inventory, const Knowledge &knowledge, bool isOfferedKnown) const;
 
     QVector<Term> m_terms;
 };

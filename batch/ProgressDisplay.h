@@ -14,7 +14,7 @@ class OutputThread;
 
 /// How far a command is, on the terminal: a bar with done, failed, left and devices a second, and under it the messages
 /// of failures with how many devices have each. Redrawn a few times a second. Nothing at all when the standard error
-/// output is no terminal. GUI thread.
+/// output is no terminal, or one that cannot move its cursor. GUI thread.
 class ProgressDisplay : public QObject
 {
     Q_OBJECT
@@ -33,7 +33,10 @@ public:
     void end();
 
 private:
+    void showLater();
     void draw();
+    QString bar(int columns) const;
+    QStringList failureLines(int count) const;
 
     OutputThread *m_output;
     QTimer m_redraw;
@@ -42,6 +45,8 @@ private:
     int m_total = 0;
     int m_finished = 0;
     int m_failed = 0;
+    int m_notReached = 0;
+    int m_stopped = 0;
     QMap<QString, int> m_failures; // how many devices have each message
     int m_lines = 0; // that are drawn
     bool m_isTerminal;

@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include <unistd.h>
+
 QT_BEGIN_NAMESPACE
 class QSocketNotifier;
 QT_END_NAMESPACE
@@ -19,8 +21,10 @@ public:
     /// Whether somebody can be asked: standard input and standard error output are terminals.
     static bool canAsk();
 
-    explicit Question(OutputThread *output, QObject *parent = nullptr);
-    /// @param text one or more lines; "[y/N] " is added
+    /// @param input the descriptor of the terminal
+    explicit Question(OutputThread *output, QObject *parent = nullptr, int input = STDIN_FILENO);
+    /// Once. What was typed before counts for nothing.
+    /// @param text one or more lines, in which other people's texts may stand as they are; "[y/N] " is added
     void ask(const QString &text);
 
 signals:
@@ -29,9 +33,11 @@ signals:
 
 private:
     void readAnswer();
+    void answer(bool isYes);
 
     OutputThread *m_output;
-    QSocketNotifier *m_notifier;
+    QSocketNotifier *m_notifier; // on while an answer is awaited
+    const int m_input;
     QByteArray m_line;
 };
 

@@ -250,9 +250,9 @@ void ResultWriter::beginTable(const QList<vms_sdk::DevInfo> &devices)
         head += m_valueColumns;
     m_widths.clear();
     for (const QString &cell : qAsConst(head))
-        m_widths.append(displayWidth(cell));
+        m_widths.append(shownWidth(cell));
     const auto widen = [this](int column, const QString &text) {
-        m_widths[column] = std::max(m_widths.at(column), displayWidth(vms_sdk::escaped(text)));
+        m_widths[column] = std::max(m_widths.at(column), shownWidth(vms_sdk::escaped(text)));
     };
     for (const vms_sdk::DevInfo &device : devices) {
         widen(0, device.id);
@@ -288,7 +288,7 @@ void ResultWriter::writeTable(const QStringList &cells, const char *color)
         const QString cell = vms_sdk::escaped(cells.at(column));
         line += cell;
         if (column + 1 < cells.size())
-            line += QString(std::max(m_widths.at(column) - displayWidth(cell), 0) + 2, QLatin1Char(' '));
+            line += QString(std::max(m_widths.at(column) - shownWidth(cell), 0) + 2, QLatin1Char(' '));
     }
     const bool isColored = m_hasColors && *color;
     m_output->write(isColored ? color + line.toUtf8() + "\033[0m\n" : line.toUtf8() + '\n');

@@ -1,44 +1,49 @@
 #include "batch/TextTable.h"
 
-#include <QVector>
-
+#include <algorithm>
 #include <cwchar>
 
 namespace orda_batch {
 
 namespace {
 
-int widthOf(uint character)
+QString line(const QStringList &cells, const QVector<int> &widths)
 {
-    const int width = ::wcwidth(wchar_t(character));
-    return width < 0 ? 1 : width;
+    QString text;
+    for (int column = 0; column < cells.size(); ++column) {
+        text += cells.at(column);
+        if (column + 1 < cells.size())
+            text += QString(widths.at(column) - shownWidth(cells.at(column)) + 2, QLatin1Char(' '));
+    }
+    return text + QLatin1Char('\n');
 }
 
 } // namespace
 
-int displayWidth(const QString &text)
+QString alignedTable(const QStringList &head, const QVector<QStringList> &rows)
+{
+    QVector<int> widths(head.size());
+    const auto widen = [&widths](const QStringList &cells) {
+        for (int column = 0; column < cells.size(); ++column)
+            widths[column] = std::max(widths.at(column), shownWidth(cells.at(column)));
+    };
+    widen(head);
+    std::for_each(rows.begin(), rows.end(), widen);
+    QString text = line(head, widths);
+    for (const QStringList &row : rows)
+        text += line(row, widths);
+    return text;
+}
+
+int shownWidth(const QString &text)
 {
     int width = 0;
     const QVector<uint> characters = text.toUcs4();
-    for (const uint character : characters)
-        width += widthOf(character);
-    return width;
-}
-
-QString cutToWidth(const QString &text, int width)
-{
-    if (displayWidth(text) <= width)
-        return text;
-    int left = width - 1; // for the sign that it was cut
-    QString cut;
-    const QVector<uint> characters = text.toUcs4();
     for (const uint character : characters) {
-        left -= widthOf(character);
-        if (left < 0)
-            break;
-        cut += QString::fromUcs4(&character, 1);
+        const int columns = ::wcwidth(wchar_t(character));
+        width += columns < 0 ? 1 : columns; // the locale does not know it
     }
-    return width > 0 ? cut + QChar(0x2026) : QString();
+    return width;
 }
 
 } // namespace orda_batch

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
+#include <QVector>
 
 namespace orda_batch {
 
-/// How many columns of a terminal a text takes: wide characters, as Chinese ones are, take two. By the locale of the
-/// process; controls and what the locale does not know count as one.
-int displayWidth(const QString &text);
+/// Rows under a head, in columns that are as wide as their widest text, with two blanks between them; each line with
+/// its end. Texts must not hold line breaks (vms_sdk::escaped()).
+QString alignedTable(const QStringList &head, const QVector<QStringList> &rows);
 
-/// The text as it fits into that many columns, with "…" at its end when it does not fit whole.
-QString cutToWidth(const QString &text, int width);
+/// How many columns of a terminal a text takes: Chinese characters take two each.
+int shownWidth(const QString &text);
 
 } // namespace orda_batch

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "batch/ValuesFile.h"
+
 #include <vms_client_sdk/DevInfo.h>
 
 #include <QCoreApplication>
 #include <QHash>
 #include <QJsonObject>
+#include <QSet>
 #include <QStringList>
 
 namespace orda_batch {
@@ -22,6 +25,7 @@ public:
     /// Reads a file: JSON (one object for all devices), CSV with a head line, or JSON lines. The last two have a column
     /// or member "device", an id or a serial number; columns "serialNumber", "name" and "ip", as they are read out by
     /// this program, are for people and are passed over, and so are empty cells.
+    /// @param path of at most 64 MiB, UTF-8
     static WantedValues fromFile(const QString &path, const KeyTable &keys);
 
     /// Gives the values of a file to the devices that it names, each once, and notes what it names wrongly.
@@ -35,17 +39,26 @@ public:
     /// Of all devices, as the family's tasks take them.
     const QJsonObject &values() const { return m_values; }
 
-    /// All that is wrong, a line each, with file, line, column and what would be right. Nothing may be sent then.
+    /// All that is wrong, a printable line each, with file, line, column and what would be right: "names.csv:12:3: …",
+    /// in their order. Of more than 50 the last line says how many there are. Nothing may be sent then.
     QStringList errors;
 
 private:
     struct Row
     {
         QString device; ///< as the file names it
-        QString place; ///< "names.csv:12:1", for messages
+        FilePlace place;
         QJsonObject values;
     };
 
+    void take(const ValuesFile &file, const KeyTable &keys);
+    QJsonObject takeRow(const FileRow &row, const KeyTable &keys, const QSet<QString> &wrongKeys, bool isCsv);
+    void complain(FilePlace place, const QString &what) { m_faults.append({place, what}); }
+    void listFaults();
+    QString at(FilePlace place) const;
+
+    QString m_path;
+    QVector<FileFault> m_faults;
     QJsonObject m_values;
     QVector<Row> m_rows;
     bool m_isByDevice = false;
