@@ -3,6 +3,7 @@
 #include "batch/BatchExit.h"
 #include "batch/HistoryTexts.h"
 #include "batch/RecordedRuns.h"
+#include "batch/StandardOutput.h"
 #include "journal/HistoryArchive.h"
 #include "journal/HistoryReader.h"
 #include "programs/Complaint.h"
@@ -12,9 +13,6 @@
 
 #include <QFile>
 #include <QJsonDocument>
-
-#include <cerrno>
-#include <unistd.h>
 
 namespace orda_batch {
 
@@ -30,19 +28,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(orda_batch::HistoryCommand)
 };
-
-// What devices say may be commands to a terminal; a file gets it as it is.
-int print(const QString &text)
-{
-    const bool isTerminal = ::isatty(STDOUT_FILENO) == 1;
-    const QByteArray bytes = (isTerminal ? vms_sdk::escaped(text, QStringLiteral("\r\n")) : text).toUtf8();
-    QFile output;
-    if (output.open(stdout, QIODevice::WriteOnly) && output.write(bytes) == bytes.size() && output.flush())
-        return ExitOk;
-    if (errno == EPIPE)
-        return ExitOk; // whoever reads it has seen enough
-    return fail(Texts::tr("The standard output cannot be written: %1").arg(output.errorString()), ExitSomeFailed);
-}
 
 int list(const BatchOptions &options, const HistoryOptions &history)
 {
