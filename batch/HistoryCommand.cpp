@@ -3,6 +3,7 @@
 #include "batch/BatchExit.h"
 #include "batch/HistoryTexts.h"
 #include "batch/RecordedRuns.h"
+#include "batch/StandardOutput.h"
 #include "journal/HistoryArchive.h"
 #include "journal/HistoryReader.h"
 #include "programs/Complaint.h"
@@ -14,8 +15,6 @@
 #include <QJsonDocument>
 
 #include <algorithm>
-#include <cerrno>
-#include <unistd.h>
 
 namespace orda_batch {
 
@@ -32,24 +31,9 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(orda_batch::HistoryCommand)
 };
 
-// What devices say may be commands to a terminal; a file gets it as it is.
-int print(QByteArray bytes, Format format = Format::Table)
-{
-    if (::isatty(STDOUT_FILENO) == 1)
-        bytes = vms_sdk::escaped(QString::fromUtf8(bytes), QStringLiteral("\r\n")).toUtf8();
-    else if (format == Format::Csv)
-        bytes.prepend(QString(QChar(QChar::ByteOrderMark)).toUtf8()); // by which spreadsheets know UTF-8
-    QFile output;
-    if (output.open(stdout, QIODevice::WriteOnly) && output.write(bytes) == bytes.size() && output.flush())
-        return ExitOk;
-    if (errno == EPIPE)
-        return ExitOk; // whoever reads it has seen enough
-    return fail(Texts::tr("The standard output cannot be written: %1").arg(output.errorString()), ExitSomeFailed);
-}
-
 int printLine(const QString &line)
 {
-    return print(vms_sdk::escaped(line).toUtf8() + '\n');
+    return print(vms_sdk::escaped(line) + QLatin1Char('\n'));
 }
 
 int list(const BatchOptions &options, const HistoryOptions &history)
@@ -60,7 +44,7 @@ int list(const BatchOptions &options, const HistoryOptions &history)
         return fail(reader.error(), ExitHistory);
     if (runs.isEmpty() && options.format == Format::Table)
         return printLine(Texts::tr("There are no runs in the history."));
-    return print(HistoryTexts::list(runs, options.format), options.format);
+    return print(QString::fromUtf8(HistoryTexts::list(runs, options.format)), options.format);
 }
 
 /// @param exitCode when there is no such run, about which has been complained then
@@ -83,7 +67,7 @@ int show(const BatchOptions &options, const HistoryOptions &history)
     if (!orda_batchCfg::Families::find(details->run.family))
         complain(Texts::tr("The run is of \"%1\", of which this program knows nothing: what it changed is not shown.")
                      .arg(details->run.family));
-    return print(HistoryTexts::run(*details, options.format), options.format);
+    return print(QString::fromUtf8(HistoryTexts::run(*details, options.format)), options.format);
 }
 
 int prune(const HistoryOptions &history)
@@ -108,7 +92,7 @@ int writeOut(const BatchOptions &options, const HistoryOptions &history)
                               "begins, or with \"history prune\".")
                         .arg(details->run.id),
                     ExitInput);
-    return print(QJsonDocument(HistoryArchive::toJson(*details)).toJson());
+    return print(QString::fromUtf8(QJsonDocument(HistoryArchive::toJson(*details)).toJson()));
 }
 
 RunDetails runIn(const QString &path, QString *error)

@@ -1,4 +1,4 @@
-# Four packages by CPack: the libraries, what a client's developer builds against, the client, and the simulated devices.
+# Five packages by CPack: the libraries, what a client's developer builds against, the client, the program for scripts, and the simulated devices.
 
 # The version stands in CMakeLists.txt; these are written by hand and must not fall behind.
 foreach(file "debian/changelog;^orda-batchcfg \\(([0-9.]+)-1\\)" "../CHANGELOG.md;\n## \\[([0-9.]+)\\]" "org.example.orda_client.metainfo.xml;<release version=\"([0-9.]+)\"")
@@ -60,7 +60,7 @@ set(CPACK_DEBIAN_CLIENT_PACKAGE_SHLIBDEPS ON)
 # The history of runs is a SQLite file, which Qt opens by a plug-in.
 set(CPACK_DEBIAN_CLIENT_PACKAGE_DEPENDS "${libraries} ${this_version}, fonts-dejavu-core, hicolor-icon-theme, libqt5sql5-sqlite")
 set(CPACK_DEBIAN_CLIENT_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qttranslations5-l10n, xdg-utils")
-set(CPACK_DEBIAN_CLIENT_PACKAGE_SUGGESTS "orda-fleet, qtwayland5")
+set(CPACK_DEBIAN_CLIENT_PACKAGE_SUGGESTS "orda-batch, orda-fleet, qtwayland5")
 set(CPACK_DEBIAN_CLIENT_DESCRIPTION "configure many online cameras and recorders at once
 An operator ticks cameras and recorders that are online, ticks the parameters
 to change, and presses Configure: each device's parameters are read, changed
@@ -69,11 +69,24 @@ summary, and a record file.
 .
 This package has the desktop client orda_client.")
 
+set(CPACK_DEBIAN_BATCH_PACKAGE_NAME orda-batch)
+set(CPACK_DEBIAN_BATCH_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_BATCH_PACKAGE_SHLIBDEPS ON)
+# It shows nothing: no fonts, no icons. The history of runs is as the client's.
+set(CPACK_DEBIAN_BATCH_PACKAGE_DEPENDS "${libraries} ${this_version}, libqt5sql5-sqlite")
+set(CPACK_DEBIAN_BATCH_PACKAGE_SUGGESTS "orda-fleet")
+set(CPACK_DEBIAN_BATCH_DESCRIPTION "configure many cameras and recorders from scripts
+Reads the settings of many cameras and recorders, says what a change would do
+to each of them, makes it in waves, verifies it, and takes it back, from a
+terminal, a script or a timer and without any display.
+.
+This package has the program orda_batch.")
+
 set(CPACK_DEBIAN_FLEET_PACKAGE_NAME orda-fleet)
 set(CPACK_DEBIAN_FLEET_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_FLEET_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_FLEET_PACKAGE_DEPENDS "${libraries} ${this_version}")
-set(CPACK_DEBIAN_FLEET_DESCRIPTION "simulated cameras and recorders to try orda_client on
+set(CPACK_DEBIAN_FLEET_DESCRIPTION "simulated cameras and recorders to try programs on
 Thousands of devices behind real sockets, which answer as cameras and recorders
 do, or with the faults that they are told to have.
 .
@@ -84,7 +97,7 @@ cpack_add_component_group(libraries)
 foreach(component clientlibs module)
   cpack_add_component(${component} GROUP libraries)
 endforeach()
-foreach(component development client fleet)
+foreach(component development client batch fleet)
   cpack_add_component(${component})
 endforeach()
 
@@ -99,8 +112,11 @@ endfunction()
 package_documents(${libraries} module)
 package_documents(orda-batchcfg-dev development)
 package_documents(orda-client client)
+package_documents(orda-batch batch)
 package_documents(orda-fleet fleet)
 
+install(FILES "${PROJECT_SOURCE_DIR}/docs/batch.md" "${PROJECT_SOURCE_DIR}/docs/batch-result.schema.json"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/orda-batch" COMPONENT batch)
 set(place "${CMAKE_INSTALL_DATADIR}/doc/orda-batchcfg-dev")
 foreach(page integration scripting compatibility device-protocol reliability)
   install(FILES "${PROJECT_SOURCE_DIR}/docs/${page}.md" DESTINATION "${place}" COMPONENT development)

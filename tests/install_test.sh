@@ -48,7 +48,9 @@ text=$(grep -rIlF -e "$source" -e "$build" -e "$scratch/first" "$prefix" || true
 runpaths=$(find "$prefix" -type f \( -name '*.so.*' -o -path '*/bin/*' \) -exec readelf -d {} + | grep -E 'R(UN)?PATH' | grep -vE '\[\$ORIGIN[^:]*\]' || true)
 [ -z "$runpaths" ] || fail "libraries are looked for at" "$runpaths"
 result=$(XDG_STATE_HOME=$scratch/tmp "$prefix/bin/orda_client" --demo 5 --run audio 2>&1) || fail "the installed client says: $result"
-for program in orda_client orda_fleet; do # each option has its entry in the manual, and the other way round
+result=$(XDG_STATE_HOME=$scratch/tmp "$prefix/bin/orda_batch" apply osd --demo 5 --set position=hide --yes 2>&1) || fail "the installed orda_batch says: $result"
+bash -n "$prefix/share/bash-completion/completions/orda_batch"
+for program in orda_client orda_batch orda_fleet; do # each option has its entry in the manual, and the other way round
   diff <("$prefix/bin/$program" --help | grep -oP '^  (-., )?--\K[a-z-]+' | sort) \
     <(sed -nE 's/^\.It .*Fl Fl ([a-z-]+).*/\1/p' "$source/man/$program.1" | sort) || fail "the manual of $program is not up to date"
 done
@@ -65,7 +67,7 @@ mkdir "$scratch/tree"
 ln -s "$source" "$scratch/tree/orda"
 ln -s "$source"/tests/consumer/{main.cpp,tree/CMakeLists.txt} "$scratch/tree"
 configure "$scratch/tree" whole "$@" -DCMAKE_PREFIX_PATH=
-parts=$(cd "$scratch/whole/orda" && find batchCfg clientlibs fleet programs client packaging tests bench -prune 2>/dev/null | xargs || true)
+parts=$(cd "$scratch/whole/orda" && find batchCfg clientlibs fleet programs batch client packaging tests bench -prune 2>/dev/null | xargs || true)
 [ "$parts" = "batchCfg clientlibs fleet programs" ] || fail "these become parts of the client's tree: $parts"
 cmake --build "$scratch/whole" -- -n | grep -q device_fleet && fail "the client's tree builds the simulated devices, which it did not ask for"
 grep -q '^CMAKE_BUILD_TYPE:STRING=$' "$scratch/whole/CMakeCache.txt" || fail "the build type of the client's tree was changed"
