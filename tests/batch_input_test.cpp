@@ -5,46 +5,24 @@
 #include "support/OrdaTest.h"
 
 #include <families/Families.h>
+#include <vms_client_sdk/Inventory.h>
 
 using namespace orda_batch;
 using orda_batchCfg::Families;
 
 namespace {
 
-vms_sdk::DevInfo device(const char *id, const char *name, const char *ip, const char *group, int kindCode = 1)
+const QList<vms_sdk::DevInfo> &smallInventory()
 {
-    vms_sdk::DevInfo dev;
-    dev.id = id;
-    dev.name = name;
-    dev.ip = ip;
-    dev.group = group;
-    dev.serialNumber = "SN-" + dev.id;
-    dev.kindCode = kindCode;
-    dev.accessCode = 1;
-    return dev;
+    static const auto inventory = vms_sdk::readInventory(QFINDTESTDATA("cases/small_inventory.json"));
+    return inventory.devices;
 }
 
-QList<vms_sdk::DevInfo> smallInventory()
-{
-    QList<vms_sdk::DevInfo> devices{
-        device("c1", "Gate 1", "10.1.0.1", "north"),
-        device("c2", "Gate 2", "10.1.0.2", "south"),
-        device("c3", "Hall [1", "", "north"),
-        device("c/4", "A/x,z", "10.2.0.2", ""),
-        device("r1", "Rack", "10.2.0.3", "south", 6),
-        device("d1", "Wall", "10.2.0.1", "south", 3),
-        device("twin", "Far away", "10.1.0.9", "north"),
-    };
-    devices[2].serialNumber = "twin";
-    devices[6].accessCode = 2;
-    return devices;
-}
-
+/// Two devices, or some that are gone.
 QStringList failedIn(const QString &run, QString *error)
 {
-    if (run == "none")
-        *error = "no run begins with \"none\"";
-    return run == "last" ? QStringList{"c3", "c1"} : QString("x1 x2 x3 x4 x5 x6 x7").split(' ');
+    *error = run == "none" ? "no run begins with \"none\"" : "";
+    return QString(run == "last" ? "c3 c1" : "x1 x2 x3 x4 x5 x6 x7").split(' ');
 }
 
 QString text(const DeviceSelection::Selected &selected)
@@ -59,13 +37,15 @@ QString compact(const QJsonObject &object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
-QString text(const WantedValues &wanted)
+/// With the values for the devices that are named.
+QString text(WantedValues wanted)
 {
-    if (!wanted.errors.isEmpty())
-        return wanted.errors.join(" ;; ");
+    wanted.assignTo(smallInventory());
     QStringList devices;
     for (const QString &devId : wanted.devIds())
         devices << devId + ' ' + compact(wanted.ownValues()[devId]);
+    if (!wanted.errors.isEmpty())
+        return wanted.errors.join(" ;; ");
     return wanted.isByDevice() ? devices.join(' ') : compact(wanted.values());
 }
 
@@ -94,27 +74,25 @@ private slots:
 
     void selects()
     {
-        const QString terms = withFile(field("terms"));
-        QString error, again;
+        const QStringList written = decoded(field("terms")).split("FILE:"); // and what the file holds
+        write(written.last());
+        const QString terms = written.first() + (written.size() > 1 ? "FILE" : "");
+        QString error;
         const DeviceSelection selection = DeviceSelection::parse(terms, &error);
         const DeviceSelection::Knowledge knowledge{[](auto id) { return id == "c1" || id == "r1"; }, failedIn};
-        const auto inventory = smallInventory();
-        QCOMPARE(error.isEmpty() ? text(selection.of(inventory, knowledge)) : error, field("result"));
+        QCOMPARE(error.isEmpty() ? text(selection.of(smallInventory(), knowledge)) : error, field("result"));
         QCOMPARE(selection.needsConnections(), terms.contains("offered"));
         const QString atMost =
             QString(terms).remove(",not:offered").replace("not:offered", "all").replace("offered", "all");
-        const DeviceSelection others = DeviceSelection::parse(atMost, &again);
-        QCOMPARE(again, error);
-        QCOMPARE(text(selection.connectTo(inventory, knowledge)), text(others.of(inventory, knowledge)));
+        const DeviceSelection others = DeviceSelection::parse(atMost, &error);
+        QCOMPARE(text(selection.connectTo(smallInventory(), knowledge)), text(others.of(smallInventory(), knowledge)));
     }
 
     void sharesAreDisjointAndComplete()
     {
         const QStringList ids{"T\u00fcr 7", "dev-0001", "dev-0002", "dev-0003"};
-        const auto share = [&ids](int shard, int shards) { return shareOf(ids, shard, shards).join(','); };
-        QCOMPARE(share(1, 3), "dev-0002,dev-0003"); // as Python's hashlib has it
-        QCOMPARE(share(3, 3), "T\u00fcr 7");
-        QCOMPARE(share(6, 7), "dev-0002");
+        QCOMPARE(shareOf(ids, 1, 3).join(','), "dev-0002,dev-0003"); // as Python's hashlib has it
+        QCOMPARE(shareOf(ids, 6, 7).join(','), "dev-0002");
         for (int shards = 1; shards <= 5; ++shards) {
             QStringList all;
             for (int shard = 1; shard <= shards; ++shard)
@@ -124,45 +102,36 @@ private slots:
         }
     }
 
-    void takesSettings_data()
+    void takesValues_data()
     {
-        columns<QString, QString, QString>({"family", "settings", "result"});
+        columns<QString, QString, QString>({"family", "given", "result"});
         rowsFrom("settings.txt");
-    }
-
-    void takesSettings()
-    {
-        const QStringList settings = decoded(field("settings")).split(" ; ");
-        compare(WantedValues::fromSettings(settings, tableOf(field("family"))));
-    }
-
-    void readsFiles_data()
-    {
-        columns<QString, QString, QString>({"family", "content", "result"});
         rowsFrom("values_files.txt");
     }
 
-    void readsFiles()
+    void takesValues()
     {
-        write(field("content"));
-        WantedValues wanted = WantedValues::fromFile("FILE", tableOf(field("family")));
-        wanted.assignTo(smallInventory());
-        compare(wanted);
+        const KeyTable keys = tableOf(field("family"));
+        const QString given = decoded(field("given"));
+        write(given);
+        QString result =
+            text(given.startsWith("--set ") ? WantedValues::fromSettings(given.mid(6).split(" --set "), keys)
+                                            : WantedValues::fromFile("FILE", keys));
+        if (field("result").contains(QRegularExpression("keys of \\w+: …"))) // few rows have the whole list
+            result.replace(QRegularExpression("(keys of \\w+): [\\w., ]*\\w"), "\\1: …");
+        QCOMPARE(result, field("result"));
     }
 
     void tellsWhyAFileIsNotRead()
     {
-        const auto error = [](const char *path) {
-            return WantedValues::fromFile(path, tableOf("osd")).errors.join(" ;; ");
-        };
+        const auto error = [](const char *path) { return text(WantedValues::fromFile(path, tableOf("osd"))); };
         QFile large("LARGE");
         QVERIFY(large.open(QIODevice::WriteOnly) && large.resize((64 << 20) + 1));
         QCOMPARE(error("LARGE"), "LARGE: is larger than 64 MiB");
         QCOMPARE(error("."), ".: cannot be read: it is a directory");
         QCOMPARE(error("no\nfile"), "no\\u000afile: cannot be read: No such file or directory");
         write("device,bShowOSD\n" + QString("c1,7\n").repeated(60));
-        QCOMPARE(error("FILE").section(" ;; ", 49),
-                 "FILE:51:2: \"bShowOSD\" (7): must be true or false ;; and 10 more");
+        QCOMPARE(error("FILE").section(" ;; ", 49), "FILE:27:1: \"c1\" is named already at FILE:2:1 ;; and 69 more");
     }
 
     void whatThisProgramWritesComesBack()
@@ -170,9 +139,8 @@ private slots:
         for (const char *name :
              {"=1", "+a", "-x", "@b", "a;=b", "a|-b,c", "\"q\"", "\uFF1Dx", " before ", "'x", "a'=b"}) {
             write(orda_programs::csvLine({"device", "channelName"}) + orda_programs::csvLine({"c1", name}));
-            WantedValues wanted = WantedValues::fromFile("FILE", tableOf("osd"));
-            wanted.assignTo(smallInventory());
-            QCOMPARE(wanted.errors.join(" ;; ") + wanted.ownValues()["c1"]["channelName"].toString(), name);
+            const QString expected = "c1 " + compact({{"channelName", name}});
+            QCOMPARE(text(WantedValues::fromFile("FILE", tableOf("osd"))), expected);
         }
     }
 
@@ -215,24 +183,7 @@ private:
     {
         QFile file("FILE");
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(decoded(content).toUtf8().replace("\\xfc", "\xfc"));
-    }
-    /// Writes what stands behind the name of the file.
-    static QString withFile(const QString &terms)
-    {
-        const int at = terms.indexOf("@FILE:");
-        if (at < 0)
-            return terms;
-        write(terms.mid(at + 6));
-        return terms.left(at + 5);
-    }
-    /// Lists of keys are compared where the row has one.
-    static void compare(const WantedValues &wanted)
-    {
-        QString result = text(wanted);
-        if (field("result").contains(QRegularExpression("keys of \\w+: …")))
-            result.replace(QRegularExpression("(keys of \\w+): [\\w., ]*\\w"), "\\1: …");
-        QCOMPARE(result, field("result"));
+        file.write(content.toUtf8().replace("\\xfc", "\xfc"));
     }
 
     QTemporaryDir m_dir;
