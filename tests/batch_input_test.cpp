@@ -177,7 +177,7 @@ private:
     static QString field(const char *name) { return *static_cast<QString *>(QTest::qData(name, QMetaType::QString)); }
     static QString decoded(QString text)
     {
-        return text.replace("\\n", "\n").replace("\\r", "\r").replace("\\t", "\t").replace("\\ufeff", "\ufeff");
+        return text.replace("\\n", "\n").replace("\\r", "\r").replace("\\t", "\t").replace("\\ufeff", QChar(0xfeff));
     }
     static void write(const QString &content)
     {
