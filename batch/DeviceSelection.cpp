@@ -273,7 +273,7 @@ void DeviceSelection::Match::take(const Term &term)
     const QSet<int> matched = devicesOf(term);
     if (matched.isEmpty() && m_errors.size() == before) {
         m_isEmpty = m_isEmpty && !term.isExcluded;
-        fail(term.kind == Term::Device ? tr("no device has the id or serial number \"%1\"").arg(term.shown)
+        fail(term.kind == Term::Device ? tr("\"%1\": no device has this id or serial number").arg(term.shown)
                                        : tr("\"%1\" matches no device").arg(term.shown));
     }
     if (term.isExcluded) {

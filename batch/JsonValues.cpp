@@ -209,6 +209,7 @@ QString JsonReader::textOf(rapidjson::ParseErrorCode code)
 {
     switch (code) {
     case rapidjson::kParseErrorTermination:
+    case rapidjson::kParseErrorDocumentEmpty:
         return tr("is no object; expected is {…}, or several of them one after the other, without \"[\" and \",\"");
     case rapidjson::kParseErrorObjectMissName:
         return tr("is not JSON: a key in quotes is expected");

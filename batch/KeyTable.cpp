@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace orda_batch {
 
@@ -314,7 +315,9 @@ QStringList KeyTable::membersWithKey(const QStringList &members) const
         }
     }
     std::sort(places.begin(), places.end(), [](const Place &a, const Place &b) {
-        return std::tie(a.stream, a.key, a.member) < std::tie(b.stream, b.key, b.member);
+        const int aSize = a.member.size();
+        const int bSize = b.member.size(); // "stream0(2)" after "stream0"
+        return std::tie(a.stream, a.key, aSize, a.member) < std::tie(b.stream, b.key, bSize, b.member);
     });
     QStringList sorted;
     for (const Place &place : qAsConst(places))

@@ -133,7 +133,7 @@ void WantedValues::assignTo(const QList<vms_sdk::DevInfo> &inventory)
     for (const Row &row : qAsConst(m_rows)) {
         const QVector<int> found = index.find(row.device);
         if (found.isEmpty()) {
-            complain(row.place, tr("no device has the id or serial number \"%1\"").arg(row.device));
+            complain(row.place, tr("\"%1\": no device has this id or serial number").arg(row.device));
         } else if (found.size() > 1) {
             complain(row.place, tr("\"%1\" is the id of one device and the serial number of \"%2\"")
                                     .arg(row.device, inventory.at(found.last()).id));

@@ -1,6 +1,9 @@
+#include "batch/KeyTable.h"
+#include "batch/WantedValues.h"
 #include "fleet/FaultPlan.h"
 #include "fleet/SimulatedDevice.h"
 
+#include <families/Families.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/websocket/AnswerCheck.h>
 
@@ -10,8 +13,8 @@
 #include <optional>
 #include <sanitizer/lsan_interface.h>
 
-// Inventories (first byte even) and fault files (odd): an error or what was read, never both; what was read survives
-// being written.
+// Values ("v" first), inventories (first byte even) and fault files (odd): an error or what was read, never both; what
+// was read survives being written.
 
 namespace {
 
@@ -19,7 +22,7 @@ namespace {
 QString writeInput(const char *data, qint64 size)
 {
     static const QTemporaryDir dir(QStringLiteral("/dev/shm/files_fuzz"));
-    QFile file(dir.filePath(QStringLiteral("input.json")));
+    QFile file(dir.filePath(QStringLiteral("input")));
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate)
                       && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) && file.write(data, size) == size;
     if (!written)
@@ -60,6 +63,20 @@ void checkFaultPlan(const QString &path)
         qFatal("%s, and faults", qPrintable(error));
 }
 
+void checkValues(const QString &path)
+{
+    for (const char *name : {"osd", "video"}) {
+        const auto &family = *orda_batchCfg::Families::find(QLatin1String(name));
+        const auto wanted = orda_batch::WantedValues::fromFile(path, {family, false});
+        const auto unchecked = orda_batch::WantedValues::fromFile(path, {family, true});
+        for (const QString &error : wanted.errors)
+            if (!error.startsWith(path) && error != wanted.errors.constLast())
+                qFatal("of which file: %s", qPrintable(error));
+        if (wanted.errors.isEmpty() && (!unchecked.errors.isEmpty() || unchecked.values() != wanted.values()))
+            qFatal("right, and without a check not: %s", qPrintable(unchecked.errors.join(QLatin1Char('\n'))));
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
@@ -73,7 +90,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     std::optional<__lsan::ScopedDisabler> noLeakCheck;
     if (vms_sdk::checkAnswer(QByteArray::fromRawData(text, int(size) - 1)).fault)
         noLeakCheck.emplace();
-    if (data[0] % 2 == 0)
+    if (data[0] == 'v')
+        checkValues(path);
+    else if (data[0] % 2 == 0)
         checkInventory(path);
     else
         checkFaultPlan(path);
