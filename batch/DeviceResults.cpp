@@ -122,7 +122,7 @@ DeviceResult planResult(const DevInfo &device, const DeviceReading &reading, con
     setChanges(&result, plan.changes + plan.added);
     result.lacking = plan.lacking;
     result.outcome = result.changes.isEmpty() ? Outcome::Unchanged : Outcome::Differs;
-    result.message = result.changes.isEmpty() ? Texts::tr("nothing to change") : Texts::tr("would change");
+    result.message = result.changes.isEmpty() ? Texts::tr("nothing to change") : QString();
     return result;
 }
 

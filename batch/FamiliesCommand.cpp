@@ -131,7 +131,7 @@ QString listOfKeys(const CfgFamily &family, Format format)
 int showFamilies(const BatchOptions &options)
 {
     const CfgFamily *family = Families::find(options.family);
-    return print(family ? listOfKeys(*family, options.format) : listOfFamilies(options.format));
+    return print(family ? listOfKeys(*family, options.format) : listOfFamilies(options.format), options.format);
 }
 
 } // namespace orda_batch

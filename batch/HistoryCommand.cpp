@@ -14,6 +14,8 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace orda_batch {
 
 using namespace orda_programs;
@@ -29,6 +31,11 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(orda_batch::HistoryCommand)
 };
 
+int printLine(const QString &line)
+{
+    return print(vms_sdk::escaped(line) + QLatin1Char('\n'));
+}
+
 int list(const BatchOptions &options, const HistoryOptions &history)
 {
     HistoryReader reader(history);
@@ -36,8 +43,8 @@ int list(const BatchOptions &options, const HistoryOptions &history)
     if (!reader.error().isEmpty())
         return fail(reader.error(), ExitHistory);
     if (runs.isEmpty() && options.format == Format::Table)
-        return print(Texts::tr("There are no runs in the history.") + QLatin1Char('\n'));
-    return print(HistoryTexts::list(runs, options.format));
+        return printLine(Texts::tr("There are no runs in the history."));
+    return print(QString::fromUtf8(HistoryTexts::list(runs, options.format)), options.format);
 }
 
 /// @param exitCode when there is no such run, about which has been complained then
@@ -60,14 +67,15 @@ int show(const BatchOptions &options, const HistoryOptions &history)
     if (!orda_batchCfg::Families::find(details->run.family))
         complain(Texts::tr("The run is of \"%1\", of which this program knows nothing: what it changed is not shown.")
                      .arg(details->run.family));
-    return print(HistoryTexts::run(*details, options.format));
+    return print(QString::fromUtf8(HistoryTexts::run(*details, options.format)), options.format);
 }
 
 int prune(const HistoryOptions &history)
 {
     int removed = 0;
     const QString error = HistoryArchive(history).prune(&removed);
-    const int exitCode = print(Texts::tr("Runs removed: %1").arg(removed) + QLatin1Char('\n'));
+    const bool isSaid = error.isEmpty() || removed > 0; // some may be gone before it fails
+    const int exitCode = isSaid ? printLine(Texts::tr("Runs removed: %1").arg(removed)) : int(ExitOk);
     return error.isEmpty() ? exitCode : fail(error, ExitHistory);
 }
 
@@ -124,7 +132,7 @@ int takeIn(const QString &path, const HistoryOptions &history)
         return fail(QStringLiteral("%1: %2").arg(path, error), ExitHistory);
     const QString text =
         isKnown ? Texts::tr("%1: the run %2 is there already") : Texts::tr("%1: the run %2 is there now");
-    return print(vms_sdk::escaped(text.arg(path, run.run.id)) + QLatin1Char('\n'));
+    return printLine(text.arg(path, run.run.id));
 }
 
 int takeInAll(const BatchOptions &options, const HistoryOptions &history)

@@ -1,7 +1,7 @@
 #include "batch/HistoryTexts.h"
 
+#include "batch/ResultTexts.h"
 #include "batch/TextTable.h"
-#include "engine/ChangeTexts.h"
 #include "programs/Csv.h"
 
 #include <families/Families.h>
@@ -21,6 +21,8 @@ using orda_journal::Outcome;
 using orda_journal::outcomeName;
 using orda_journal::RunDetails;
 using orda_journal::RunRow;
+using orda_programs::csvCell;
+using orda_programs::csvLine;
 
 namespace {
 
@@ -33,16 +35,6 @@ QJsonObject objectOf(const QString &text)
     return QJsonDocument::fromJson(text.toUtf8()).object();
 }
 
-QString textOf(const QJsonObject &object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-QString lineOf(const QJsonObject &object)
-{
-    return textOf(object) + QLatin1Char('\n');
-}
-
 QString localTime(qint64 time)
 {
     return QDateTime::fromMSecsSinceEpoch(time).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
@@ -53,7 +45,7 @@ QJsonValue utcTime(qint64 time)
     return time == 0 ? QJsonValue() : QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs);
 }
 
-QString tableOf(const QStringList &head, const QVector<QStringList> &rows)
+QByteArray tableOf(const QStringList &head, const QVector<QStringList> &rows)
 {
     QVector<QStringList> safe;
     for (const QStringList &row : rows) {
@@ -62,15 +54,7 @@ QString tableOf(const QStringList &head, const QVector<QStringList> &rows)
             cells.append(vms_sdk::escaped(cell));
         safe.append(cells);
     }
-    return alignedTable(head, safe);
-}
-
-QString csvOf(const QStringList &head, const QVector<QStringList> &rows)
-{
-    QString text = orda_programs::csvLine(head);
-    for (const QStringList &row : rows)
-        text += orda_programs::csvLine(row);
-    return text;
+    return alignedTable(head, safe).toUtf8();
 }
 
 // What a run changed, or was to change where the device did not take it.
@@ -81,7 +65,7 @@ Changes changesOf(const RunDetails &details)
     if (!family)
         return changes;
     for (const ExchangeRow &row : details.exchanges) {
-        if (row.before.isEmpty() || row.sent.isEmpty() || row.exchange >= family->exchanges.size())
+        if (row.before.isEmpty() || row.sent.isEmpty() || row.exchange < 0 || row.exchange >= family->exchanges.size())
             continue;
         const QJsonObject held = family->exchanges.at(row.exchange).heldIn(objectOf(row.before));
         const QJsonObject sent = objectOf(row.sent).value(QLatin1String("param")).toObject();
@@ -94,33 +78,6 @@ Changes changesOf(const RunDetails &details)
         if (device.outcome == Outcome::Stopped || device.outcome == Outcome::NotReached)
             changes.remove(device.devId);
     return changes;
-}
-
-QString textOf(const QVector<Change> &changes)
-{
-    QStringList texts;
-    for (const Change &change : changes)
-        texts.append(QStringLiteral("%1: %2 -> %3")
-                         .arg(change.key, orda_engine::textOf(change.before), orda_engine::textOf(change.after)));
-    return texts.join(QLatin1String(", "));
-}
-
-// Null stands for a member that the device does not have, so that each change has the same members.
-QJsonArray toJson(const QVector<Change> &changes)
-{
-    QJsonArray list;
-    for (const Change &change : changes)
-        list.append(QJsonObject{
-            {QStringLiteral("key"), change.key},
-            {QStringLiteral("before"), change.before.isUndefined() ? QJsonValue() : change.before},
-            {QStringLiteral("after"), change.after},
-        });
-    return list;
-}
-
-QString outcomeOf(const DeviceRow &device)
-{
-    return device.outcome ? outcomeName(*device.outcome) : QString();
 }
 
 QJsonObject toJson(const RunRow &run)
@@ -141,61 +98,82 @@ QJsonObject toJson(const RunRow &run)
             {QStringLiteral("values"), run.values}};
 }
 
-QString jsonLines(const RunDetails &details)
+QByteArray jsonLines(const RunDetails &details)
 {
     const Changes changes = changesOf(details);
-    QString lines;
-    for (const DeviceRow &device : details.devices) {
-        lines += lineOf({{QStringLiteral("run"), details.run.id},
-                         {QStringLiteral("device"), device.devId},
-                         {QStringLiteral("serialNumber"), device.serialNumber},
-                         {QStringLiteral("name"), device.name},
-                         {QStringLiteral("ip"), device.ip},
-                         {QStringLiteral("outcome"), device.outcome ? QJsonValue(outcomeOf(device)) : QJsonValue()},
-                         {QStringLiteral("code"), device.code},
-                         {QStringLiteral("message"), device.message},
-                         {QStringLiteral("changes"), toJson(changes.value(device.devId))}});
-    }
-    return lines + lineOf({{QStringLiteral("run"), details.run.id}, {QStringLiteral("summary"), toJson(details.run)}});
+    QByteArray lines;
+    for (const DeviceRow &device : details.devices)
+        lines += ResultTexts::jsonLine(
+            {{QStringLiteral("run"), details.run.id},
+             {QStringLiteral("device"), device.devId},
+             {QStringLiteral("serialNumber"), device.serialNumber},
+             {QStringLiteral("name"), device.name},
+             {QStringLiteral("ip"), device.ip},
+             {QStringLiteral("outcome"), device.outcome ? QJsonValue(outcomeName(*device.outcome)) : QJsonValue()},
+             {QStringLiteral("code"), device.code},
+             {QStringLiteral("message"), device.message},
+             {QStringLiteral("changes"), ResultTexts::toJson(changes.value(device.devId))}});
+    return lines
+         + ResultTexts::jsonLine(
+               {{QStringLiteral("run"), details.run.id}, {QStringLiteral("summary"), toJson(details.run)}});
 }
 
 // The columns of CSV files are called as the members of JSON, in every language: programs look for them.
-QString csvLines(const RunDetails &details)
+QByteArray csvLines(const RunDetails &details)
 {
     const Changes changes = changesOf(details);
-    QVector<QStringList> rows;
-    for (const DeviceRow &device : details.devices)
-        rows.append({device.devId, device.serialNumber, device.name, device.ip, outcomeOf(device),
-                     QString::number(device.code), device.message, textOf(changes.value(device.devId))});
-    return csvOf({QStringLiteral("device"), QStringLiteral("serialNumber"), QStringLiteral("name"),
-                  QStringLiteral("ip"), QStringLiteral("outcome"), QStringLiteral("code"), QStringLiteral("message"),
-                  QStringLiteral("changes")},
-                 rows);
+    QString lines = csvLine({QStringLiteral("device"), QStringLiteral("serialNumber"), QStringLiteral("name"),
+                             QStringLiteral("ip"), QStringLiteral("outcome"), QStringLiteral("code"),
+                             QStringLiteral("message"), QStringLiteral("changes")});
+    for (const DeviceRow &device : details.devices) {
+        const QString outcome = device.outcome ? outcomeName(*device.outcome) : QString();
+        const QString code = QString::number(device.code); // a negative number is no formula
+        const QString changed = ResultTexts::changes(changes.value(device.devId), QStringLiteral("; "));
+        const QStringList cells{csvCell(device.devId),
+                                csvCell(device.serialNumber),
+                                csvCell(device.name),
+                                csvCell(device.ip),
+                                outcome,
+                                code,
+                                csvCell(device.message),
+                                csvCell(changed)};
+        lines += cells.join(QLatin1Char(',')) + QLatin1String("\r\n");
+    }
+    return lines.toUtf8();
+}
+
+QByteArray csvList(const QVector<RunRow> &runs)
+{
+    QString lines =
+        csvLine({QStringLiteral("run"), QStringLiteral("began"), QStringLiteral("kind"), QStringLiteral("family"),
+                 QStringLiteral("devices"), QStringLiteral("outcomes"), QStringLiteral("program")});
+    for (const RunRow &run : runs)
+        lines += csvLine({run.id, localTime(run.began), run.kind, run.family, QString::number(run.devices),
+                          HistoryTexts::outcomes(run, outcomeName), run.program});
+    return lines.toUtf8();
 }
 
 } // namespace
 
-QString HistoryTexts::list(const QVector<RunRow> &runs, Format format)
+QByteArray HistoryTexts::list(const QVector<RunRow> &runs, Format format)
 {
-    if (format == Format::Json) {
-        QString lines;
-        for (const RunRow &run : runs)
-            lines += lineOf(toJson(run));
-        return lines;
-    }
-    QVector<QStringList> rows;
-    for (const RunRow &run : runs)
-        rows.append({format == Format::Csv ? run.id : run.id.left(shortId), localTime(run.began), run.kind, run.family,
-                     QString::number(run.devices), outcomes(run), run.program});
     if (format == Format::Csv)
-        return csvOf({QStringLiteral("run"), QStringLiteral("began"), QStringLiteral("kind"), QStringLiteral("family"),
-                      QStringLiteral("devices"), QStringLiteral("outcomes"), QStringLiteral("program")},
-                     rows);
-    return tableOf({tr("Run"), tr("Began"), tr("Kind"), tr("Family"), tr("Devices"), tr("Outcomes"), tr("Program")},
-                   rows);
+        return csvList(runs);
+    QByteArray lines;
+    QVector<QStringList> rows;
+    for (const RunRow &run : runs) {
+        if (format == Format::Json)
+            lines += ResultTexts::jsonLine(toJson(run));
+        rows.append({run.id.left(shortId), localTime(run.began), run.kind, run.family, QString::number(run.devices),
+                     outcomes(run, ResultTexts::outcome), run.program});
+    }
+    return format == Format::Json
+             ? lines
+             : tableOf({tr("Run"), tr("Began"), tr("Kind"), tr("Family"), tr("Devices"), tr("Outcomes"), tr("Program")},
+                       rows);
 }
 
-QString HistoryTexts::run(const RunDetails &details, Format format)
+QByteArray HistoryTexts::run(const RunDetails &details, Format format)
 {
     if (format == Format::Json)
         return jsonLines(details);
@@ -205,27 +183,29 @@ QString HistoryTexts::run(const RunDetails &details, Format format)
     QVector<QStringList> about{{tr("Kind"), run.kind}, {tr("Family"), run.family}};
     if (!run.undoes.isEmpty())
         about.append({tr("Undoes"), run.undoes});
-    about += {{tr("Began"), localTime(run.began)},
-              {tr("Ended"), run.ended == 0 ? QString() : localTime(run.ended)},
-              {tr("Program"), run.program},
-              {tr("Values"), textOf(run.values)},
-              {tr("Outcomes"), outcomes(run)}};
+    about.append({tr("Began"), localTime(run.began)});
+    if (run.ended != 0)
+        about.append({tr("Ended"), localTime(run.ended)});
+    about += {{tr("Program"), run.program},
+              {tr("Values"), QString::fromUtf8(QJsonDocument(run.values).toJson(QJsonDocument::Compact))},
+              {tr("Outcomes"), outcomes(run, ResultTexts::outcome)}};
     const Changes changes = changesOf(details);
     QVector<QStringList> rows;
     for (const DeviceRow &device : details.devices)
-        rows.append({device.devId, device.name, device.ip, outcomeOf(device), device.message,
-                     textOf(changes.value(device.devId))});
-    return tableOf({tr("Run"), run.id}, about) + QLatin1Char('\n')
-         + tableOf({tr("Device"), tr("Name"), tr("IP"), tr("Outcome"), tr("Message"), tr("Changes")}, rows);
+        rows.append({device.devId, device.name, device.ip,
+                     device.outcome ? ResultTexts::outcome(*device.outcome) : QString(), device.message,
+                     ResultTexts::changes(changes.value(device.devId), QStringLiteral(", "))});
+    return tableOf({tr("Run"), run.id}, about) + '\n'
+         + tableOf({tr("Device"), tr("Name"), tr("IP address"), tr("Outcome"), tr("Message"), tr("Changes")}, rows);
 }
 
-QString HistoryTexts::outcomes(const RunRow &run)
+QString HistoryTexts::outcomes(const RunRow &run, QString (*textOf)(Outcome))
 {
     if (run.ended == 0)
         return run.isUnderWay ? tr("under way") : tr("ended with its program");
     QStringList counts;
     for (auto count = run.counts.cbegin(); count != run.counts.cend(); ++count)
-        counts.append(QStringLiteral("%1 %2").arg(count.value()).arg(outcomeName(count.key())));
+        counts.append(QStringLiteral("%1 %2").arg(QString::number(count.value()), textOf(count.key())));
     return counts.join(QLatin1String(", "));
 }
 

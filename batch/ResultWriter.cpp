@@ -1,6 +1,7 @@
 #include "batch/ResultWriter.h"
 
 #include "batch/OutputThread.h"
+#include "batch/ResultTexts.h"
 #include "batch/TextTable.h"
 #include "engine/ChangeTexts.h"
 #include "programs/Csv.h"
@@ -26,35 +27,6 @@ constexpr int runShown = 8; // of the characters of an id
 
 constexpr std::array allOutcomes{Outcome::Done,    Outcome::Unchanged,     Outcome::Failed,     Outcome::Unknown,
                                  Outcome::Stopped, Outcome::PartlyWritten, Outcome::NotReached, Outcome::Differs};
-
-QJsonValue orNull(const QJsonValue &value)
-{
-    return value.isUndefined() ? QJsonValue(QJsonValue::Null) : value;
-}
-
-/// An object as a line. What a terminal would obey, and what other programs take for the end of a line, is written as
-/// JSON's own escapes.
-QByteArray lineOf(const QJsonObject &object)
-{
-    QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-    if (vms_sdk::holdsInvisible(text)) {
-        QString safe;
-        for (const QChar unit : qAsConst(text))
-            safe += unit.isSurrogate() ? QString(unit) : vms_sdk::escaped(unit);
-        text = safe;
-    }
-    return text.toUtf8() + '\n';
-}
-
-/// 'channelName: "a" -> "b"' of each.
-QString listed(const QVector<Change> &changes, const QString &separator)
-{
-    QStringList parts;
-    for (const Change &change : changes)
-        parts.append(QStringLiteral("%1: %2 -> %3")
-                         .arg(change.key, orda_engine::textOf(change.before), orda_engine::textOf(change.after)));
-    return parts.join(separator);
-}
 
 /// Texts as they are, without the quotation marks of JSON.
 QString plain(const QJsonValue &value)
@@ -89,29 +61,6 @@ ResultWriter::ResultWriter(OutputThread *output, Format format, bool hasColors)
 {
 }
 
-QString ResultWriter::outcomeText(Outcome outcome)
-{
-    switch (outcome) {
-    case Outcome::Done:
-        return tr("done");
-    case Outcome::Unchanged:
-        return tr("unchanged");
-    case Outcome::Failed:
-        return tr("failed");
-    case Outcome::Unknown:
-        return tr("unknown");
-    case Outcome::Stopped:
-        return tr("stopped");
-    case Outcome::PartlyWritten:
-        return tr("partly written");
-    case Outcome::NotReached:
-        return tr("not reached");
-    case Outcome::Differs:
-        return tr("differs");
-    }
-    return {};
-}
-
 void ResultWriter::begin(const QList<vms_sdk::DevInfo> &devices, const QString &runId, const QStringList &valueColumns)
 {
     m_runId = runId;
@@ -136,7 +85,7 @@ void ResultWriter::begin(const QList<vms_sdk::DevInfo> &devices, const QString &
 void ResultWriter::add(const DeviceResult &result)
 {
     if (m_format == Format::Json) {
-        m_output->write(lineOf(jsonOf(result)));
+        m_output->write(ResultTexts::jsonLine(jsonOf(result)));
         return;
     }
     if (m_format == Format::Csv)
@@ -145,7 +94,7 @@ void ResultWriter::add(const DeviceResult &result)
         writeTable(tableCells(result), colorOf(result.outcome));
     if (result.outcome == Outcome::Done || result.outcome == Outcome::Unchanged || result.outcome == Outcome::Stopped)
         return;
-    Failure &failure = m_failures[result.message.isEmpty() ? outcomeText(result.outcome) : result.message];
+    Failure &failure = m_failures[result.message.isEmpty() ? ResultTexts::outcome(result.outcome) : result.message];
     if (++failure.count <= devicesShown)
         failure.devIds.append(result.devId);
 }
@@ -153,7 +102,7 @@ void ResultWriter::add(const DeviceResult &result)
 void ResultWriter::end(const Summary &summary)
 {
     if (m_format == Format::Json) {
-        m_output->write(lineOf(jsonOf(summary)));
+        m_output->write(ResultTexts::jsonLine(jsonOf(summary)));
         return;
     }
     const QStringList lines = summaryLines(summary);
@@ -168,11 +117,6 @@ QJsonValue ResultWriter::runOf(const QString &runId)
 
 QJsonObject ResultWriter::jsonOf(const DeviceResult &result) const
 {
-    QJsonArray changes;
-    for (const Change &change : result.changes)
-        changes.append(QJsonObject{{QStringLiteral("key"), change.key},
-                                   {QStringLiteral("before"), orNull(change.before)},
-                                   {QStringLiteral("after"), orNull(change.after)}});
     QJsonObject object{{QStringLiteral("run"), runOf(m_runId)},
                        {QStringLiteral("device"), result.devId},
                        {QStringLiteral("serialNumber"), result.serialNumber},
@@ -181,7 +125,7 @@ QJsonObject ResultWriter::jsonOf(const DeviceResult &result) const
                        {QStringLiteral("outcome"), orda_journal::outcomeName(result.outcome)},
                        {QStringLiteral("code"), result.code},
                        {QStringLiteral("message"), result.message},
-                       {QStringLiteral("changes"), changes}};
+                       {QStringLiteral("changes"), ResultTexts::toJson(result.changes)}};
     if (result.outcome == Outcome::NotReached)
         object.insert(QStringLiteral("reason"), result.reason);
     if (!result.lacking.isEmpty())
@@ -227,7 +171,7 @@ QStringList ResultWriter::csvCells(const DeviceResult &result) const
                       orda_journal::outcomeName(result.outcome)};
     if (m_valueColumns.isEmpty())
         return cells << QString::number(result.code) << csvText(result.message)
-                     << csvText(listed(result.changes, QStringLiteral("; ")));
+                     << csvText(ResultTexts::changes(result.changes, QStringLiteral("; ")));
     cells.append(csvText(result.message));
     for (const QString &column : m_valueColumns) {
         const QJsonValue value = result.values.value(column);
@@ -261,7 +205,7 @@ void ResultWriter::beginTable(const QList<vms_sdk::DevInfo> &devices)
     }
     if (m_valueColumns.isEmpty())
         for (const Outcome outcome : allOutcomes)
-            widen(3, outcomeText(outcome));
+            widen(3, ResultTexts::outcome(outcome));
     writeTable(head);
 }
 
@@ -271,11 +215,12 @@ QStringList ResultWriter::tableCells(const DeviceResult &result) const
     if (m_valueColumns.isEmpty()) {
         const bool saysMore =
             !result.message.isEmpty() && result.message != orda_batchCfg::ParamsCfgTask::successText();
-        const QString changes = listed(result.changes, QStringLiteral(", "));
-        return cells << outcomeText(result.outcome) << (saysMore || changes.isEmpty() ? result.message : changes);
+        const QString changes = ResultTexts::changes(result.changes, QStringLiteral(", "));
+        return cells << ResultTexts::outcome(result.outcome)
+                     << (saysMore || changes.isEmpty() ? result.message : changes);
     }
     if (result.outcome != Outcome::Done) // there are no values, but there is a reason
-        return cells << tr("%1: %2").arg(outcomeText(result.outcome), result.message);
+        return cells << tr("%1: %2").arg(ResultTexts::outcome(result.outcome), result.message);
     for (const QString &column : m_valueColumns)
         cells.append(plain(result.values.value(column)));
     return cells;
@@ -303,7 +248,7 @@ QStringList ResultWriter::summaryLines(const Summary &summary) const
     for (const Outcome outcome : allOutcomes) {
         const int count = summary.outcomes.value(outcome);
         if (count > 0)
-            counts.append(QStringLiteral("%1 %2").arg(QString::number(count), outcomeText(outcome)));
+            counts.append(QStringLiteral("%1 %2").arg(QString::number(count), ResultTexts::outcome(outcome)));
         if (outcome == Outcome::Done || outcome == Outcome::Unknown || outcome == Outcome::PartlyWritten
             || outcome == Outcome::Differs)
             written += count;

@@ -34,7 +34,6 @@ private:
         QStringList devIds = {}; // the first few
     };
 
-    static QString outcomeText(orda_journal::Outcome outcome);
     static QJsonValue runOf(const QString &runId);
     QJsonObject jsonOf(const DeviceResult &result) const;
     QJsonObject jsonOf(const Summary &summary) const;

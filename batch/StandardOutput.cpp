@@ -22,10 +22,13 @@ struct Texts
 
 } // namespace
 
-int print(const QString &text)
+int print(QString text, Format format)
 {
-    const bool isTerminal = ::isatty(STDOUT_FILENO) == 1;
-    const QByteArray bytes = (isTerminal ? vms_sdk::escaped(text, QStringLiteral("\r\n")) : text).toUtf8();
+    if (::isatty(STDOUT_FILENO) == 1)
+        text = vms_sdk::escaped(text, QStringLiteral("\r\n"));
+    else if (format == Format::Csv)
+        text.prepend(QChar(QChar::ByteOrderMark)); // by which spreadsheets know UTF-8
+    const QByteArray bytes = text.toUtf8();
     QFile output;
     if (output.open(stdout, QIODevice::WriteOnly) && output.write(bytes) == bytes.size() && output.flush())
         return orda_programs::ExitOk;

@@ -15,6 +15,7 @@
 #include <vms_client_sdk/OpenFiles.h>
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 #include <QTextCodec>
 
 #include <clocale>
@@ -84,6 +85,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("orda_batch"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORDA_VERSION));
     takeTextsAsUtf8();
+    // What happens to a device stands in its result; QT_LOGGING_RULES brings the log back.
+    QLoggingCategory::setFilterRules(QStringLiteral("orda.*=false"));
     vms_sdk::raiseOpenFileLimit();
 
     const QStringList arguments = QCoreApplication::arguments();

@@ -1,6 +1,8 @@
 #include "support/OrdaTest.h"
 #include "support/Store.h"
 
+#include "batch/HistoryCommand.h"
+#include "journal/HistoryArchive.h"
 #include "journal/HistoryReader.h"
 #include "journal/HistoryWriter.h"
 
@@ -81,6 +83,42 @@ int writeAsOther(const QStringList &arguments)
     return 0;
 }
 
+/// The program as orda_batch: "history PATH FORMAT list|show|prune|export|import [ARGUMENT…]".
+int commandAsOther(const QStringList &arguments)
+{
+    HistoryOptions history;
+    history.path = arguments.at(2);
+    orda_batch::BatchOptions options;
+    options.format = orda_batch::Format(QStringList{"table", "csv", "json"}.indexOf(arguments.at(3)));
+    const int command = QStringList{"list", "show", "prune", "export", "import"}.indexOf(arguments.at(4));
+    options.command = orda_batch::Command(int(orda_batch::Command::HistoryList) + command);
+    options.run = arguments.value(5);
+    options.files = arguments.mid(5);
+    return orda_batch::runHistoryCommand(options, history);
+}
+
+/// A recorded run that took some doing.
+RunDetails undone()
+{
+    RunDetails run{{"aaaa0000-0000-4000-8000-000000000001",
+                    "osd",
+                    "undo",
+                    "bbbb0000-0000-4000-8000-000000000001",
+                    {{"bShowOSD", true}},
+                    "test 1",
+                    1772413100123,
+                    1772413200456,
+                    false,
+                    2,
+                    {{Outcome::Done, 1}, {Outcome::Unknown, 1}}}};
+    run.devices = {{"dev-0", Outcome::Done, 0, "success", "", QString::fromUtf8("Tür 一"), "SN0", "10.0.0.1"},
+                   {"dev-1", Outcome::Unknown, -61004, "time\nout", "{}", "-1+1", "SN1", "", {{"position", "hide"}}}};
+    run.exchanges = {{"dev-0", 0, R"({"result":{"bShowOSD":false,"channelName":"a"}})",
+                      R"({"param":{"channelid":0,"attr":{"bShowOSD":true,"channelName":"a","position":"hide"}}})", ""},
+                     {"dev-0", 1, "one", "two", "three"}};
+    return run;
+}
+
 struct Other : QProcess
 {
     explicit Other(const QString &path, int runs)
@@ -106,7 +144,7 @@ QVariant sql(const QString &path, const QString &statement)
     return first;
 }
 
-/// Everything that the history has of a run but times, a line each.
+/// Everything that the history has of a run but times and id, a line each.
 QStringList described(const RunDetails &details)
 {
     QStringList lines;
@@ -121,6 +159,17 @@ QStringList described(const RunDetails &details)
     }
     for (const ExchangeRow &row : details.exchanges)
         add({row.devId, QString::number(row.exchange), row.before, row.sent, row.after});
+    return lines;
+}
+
+QStringList whollyDescribed(const RunDetails &details)
+{
+    QStringList lines = described(details);
+    const RunRow &run = details.run;
+    lines << run.id << run.program << QString::number(run.began) << QString::number(run.ended);
+    lines << QString::number(run.devices) << QVariant(run.isUnderWay).toString();
+    for (auto count = run.counts.begin(); count != run.counts.end(); ++count)
+        lines << outcomeName(count.key()) + QString::number(count.value());
     return lines;
 }
 
@@ -191,7 +240,8 @@ private slots:
         orda_data::DevsMgrData::instance().updateDevs({info});
         Writing writing(m_options);
         RunStart start = startOf(3, "aaaa0000-0000-4000-8000-000000000001");
-        start.kind = "undo", start.undoes = "earlier", start.ownValues = {{"dev-2", {{"speed", 3}}}};
+        start.kind = "undo", start.undoes = "aaaa0000-0000-4000-8000-000000000000",
+        start.ownValues = {{"dev-2", {{"speed", 3}}}};
         const QString odd = QString::fromUtf8("b{\"ü\0\"}", 8);
         HistoryWriter &writer = writing.writer;
         writer.beginRun(start);
@@ -203,7 +253,7 @@ private slots:
         writer.putDevice(start.id, {"dev-0", Outcome::Unknown, -61004, "time out", {}});
         QVERIFY(writing.onDisk(writer.putDevice(start.id, {"dev-0", {}, 0, {}, "while others go on"})));
         const QString tuer = QString::fromUtf8("Tür 1|SN1|10.0.0.1|{}");
-        QStringList expected{"osd|undo|earlier|{\"bShowOSD\":true}|history_test",
+        QStringList expected{"osd|undo|" + start.undoes + "|{\"bShowOSD\":true}|history_test",
                              "dev-0|unknown|-61004|time out|while others go on",
                              "|||{}",
                              "dev-1||0||",
@@ -233,6 +283,93 @@ private slots:
         QCOMPARE(reader.findRuns("aaaa"), (QStringList{second, start.id}));
         QVERIFY(reader.findRuns("a%").isEmpty() && reader.findRuns({}).isEmpty() && !reader.run("aaaa"));
         QCOMPARE(reader.runs(1).size(), 1);
+
+        HistoryOptions elsewhere = m_options;
+        elsewhere.path = m_place->filePath("elsewhere/history.db");
+        HistoryReader other(elsewhere);
+        for (int i = 0; i < 4; ++i) { // the latest first, and each twice
+            const QString id = i < 2 ? second : start.id;
+            const QByteArray text = QJsonDocument(HistoryArchive::toJson(*reader.run(id))).toJson();
+            QString error;
+            const RunDetails run = HistoryArchive::fromJson(QJsonDocument::fromJson(text).object(), &error);
+            QCOMPARE(error, QString());
+            bool isKnown = i % 2 == 0;
+            QCOMPARE(HistoryArchive(elsewhere).add(run, &isKnown), QString());
+            QCOMPARE(isKnown, i % 2 != 0);
+            QCOMPARE(whollyDescribed(run), whollyDescribed(*reader.run(id)));
+            QCOMPARE(whollyDescribed(*other.run(id)), whollyDescribed(run));
+        }
+        QCOMPARE(other.findRuns("last"), QStringList{second});
+    }
+
+    void whatWasWrittenOutIsChecked_data()
+    {
+        columns<QString, QString, QString>({"part", "instead", "fault"});
+        rowsFrom("history_imports.txt");
+    }
+
+    void whatWasWrittenOutIsChecked()
+    {
+        QFETCH(QString, part);
+        QFETCH(QString, instead);
+        QFETCH(QString, fault);
+        const QString whole = QJsonDocument(HistoryArchive::toJson(undone())).toJson(QJsonDocument::Compact);
+        const int place = whole.indexOf(part);
+        QVERIFY(place >= 0);
+        QJsonParseError syntax;
+        const QString spoilt = QString(whole).replace(place, part.size(), instead);
+        const QJsonObject object = QJsonDocument::fromJson(spoilt.toUtf8(), &syntax).object();
+        QCOMPARE(syntax.error, QJsonParseError::NoError);
+        QString error;
+        HistoryArchive::fromJson(object, &error);
+        QVERIFY2(error.contains(fault), qPrintable(error));
+    }
+
+    void commands_data()
+    {
+        columns<QString, QString>({"command", "output"});
+        rowsFrom("history_commands.txt");
+    }
+
+    void commands()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, output);
+        bool isKnown = false;
+        RunDetails foreign = undone();
+        foreign.run.id[4] = '1', foreign.run.family = "lens", foreign.run.kind = "apply", foreign.run.undoes.clear();
+        foreign.run.began = foreign.run.ended;
+        for (const RunDetails &run : {undone(), foreign})
+            QCOMPARE(HistoryArchive(m_options).add(run, &isKnown), QString());
+        Writing living(m_options);
+        QVERIFY(living.onDisk(living.writer.beginRun(startOf(1, "cccc0000-0000-4000-8000-000000000001"))));
+        const QString shell =
+            QString("h() { '%1' history \"${at:-state/orda/history.db}\" \"$@\"; }; { %2; } 2>&1; echo $?");
+        const QString text = said(shell.arg(QCoreApplication::applicationFilePath(), command));
+        const QRegularExpression expected(QRegularExpression::anchoredPattern(output),
+                                          QRegularExpression::DotMatchesEverythingOption);
+        QVERIFY2(expected.match(text).hasMatch(), qPrintable(text));
+    }
+
+    void oldRunFromElsewhere()
+    {
+        m_options.keptRuns = 1;
+        int removed = 1;
+        QCOMPARE(HistoryArchive(m_options).prune(&removed), QString());
+        QVERIFY(removed == 0 && !QFileInfo::exists(directory()));
+        auto killed = std::make_unique<Writing>(m_options);
+        QVERIFY(killed->onDisk(killed->writer.beginRun(startOf(1))));
+        killed.reset();
+        RunDetails old = undone();
+        old.run.began = 1;
+        bool isKnown = false;
+        QCOMPARE(HistoryArchive(m_options).add(old, &isKnown), QString());
+        QCOMPARE(runs().size(), 2);
+        QCOMPARE(runs().constFirst().counts, (Counts{{Outcome::Stopped, 1}}));
+        QCOMPARE(HistoryArchive(m_options).prune(&removed), QString());
+        QCOMPARE(removed, 1);
+        QCOMPARE(runs().size(), 1);
+        QVERIFY(runs().constFirst().id != old.run.id);
     }
 
     void nobodyElseReadsIt()
@@ -269,6 +406,10 @@ private slots:
         QVERIFY2(writing.failures.join('|').contains(why), qPrintable(writing.failures.join('|')));
         writing.writer.putDevice(start.id, {"dev-0", Outcome::Done, 0, {}, {}}); // nobody needs to hear of it twice
         QVERIFY(!QTest::qWaitFor([&] { return writing.committed > 0 || writing.failures.size() > 1; }, 50));
+        bool isKnown = false;
+        QVERIFY(HistoryArchive(m_options).add(undone(), &isKnown).contains(why));
+        int removed = 0;
+        QCOMPARE(HistoryArchive(m_options).prune(&removed).contains(why), !spoil.contains("rm -r"));
         QCOMPARE(everyFile(), before);
         const bool isReadable = !QFileInfo(m_options.path).isFile() || spoil.contains("lock") || why == "Read-only";
         HistoryReader reader(m_options);
@@ -290,6 +431,12 @@ private slots:
         QFETCH(bool, isSeenInList);
         writeRuns(3);
         QVERIFY(page == "end" ? inShell("truncate -s 4200 history.db") : overwritePageOf(page));
+        const QString before = everyFile();
+        bool isKnown = false;
+        QVERIFY(HistoryArchive(m_options).add(undone(), &isKnown).contains("history.db: it is damaged"));
+        int removed = 0;
+        QCOMPARE(HistoryArchive(m_options).prune(&removed).contains("history.db: it is damaged"), isSeenInList);
+        QCOMPARE(everyFile(), before);
         QVERIFY(inShell("yes | head -c 4096 >history.db-wal")); // not SQLite's own, and kept all the same
         {
             HistoryReader reader(m_options);
@@ -336,6 +483,8 @@ private slots:
             QVERIFY(other.open() && !other.exec("BEGIN EXCLUSIVE").lastError().isValid());
         QVERIFY(!writing.onDisk(writing.writer.putExchange(start.id, {"dev-1", 0, QString(30000, 'b'), "sent", {}})));
         QVERIFY2(writing.failures.first().contains(why), qPrintable(writing.failures.first()));
+        int removed = 0;
+        QCOMPARE(HistoryArchive(m_options).prune(&removed).contains(why), !why.contains("renamed"));
         QTimer::singleShot(100, &writing.writer, [&other] { other.close(); }); // it waits so long
         QVERIFY(inShell("rm -f big; test ! -e moved || mv moved history.db"));
         QVERIFY(writing.onDisk(writing.wholeRun(startOf(1)), 1));
@@ -432,6 +581,8 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     if (QCoreApplication::arguments().value(1) == "write")
         return writeAsOther(QCoreApplication::arguments());
+    if (QCoreApplication::arguments().value(1) == "history")
+        return commandAsOther(QCoreApplication::arguments());
     HistoryTest test;
     return QTest::qExec(&test, argc, argv);
 }

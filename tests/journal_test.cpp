@@ -47,7 +47,7 @@ struct Site : FormFixture
 
     ~Site() { vms_sdk::ClientSdk::instance().setTransport(nullptr); } // before its history goes
 
-    void setTransport()
+    void setTransport(bool isRecorded = true)
     {
         auto scripted = std::make_unique<ScriptedTransport>([this](const Request &request) {
             if (request.method().contains("_set_") && !isOnDisk(request))
@@ -57,12 +57,15 @@ struct Site : FormFixture
         transport = scripted.get();
         QObject::connect(transport, &ScriptedTransport::answered, transport,
                          [this](auto, const QString &text) { raised << text; });
-        auto made = std::make_unique<JournalTransport>(std::move(scripted), std::make_unique<HistoryWriter>(options));
+        auto made = std::make_unique<JournalTransport>(std::move(scripted),
+                                                       isRecorded ? std::make_unique<HistoryWriter>(options) : nullptr);
         journal = made.get();
         QObject::connect(journal, &JournalTransport::signalRunBegan, journal, [this](const RunStart &run) {
             ++begun;
             values = run.values;
         });
+        QObject::connect(journal, &JournalTransport::signalRunRecorded, journal,
+                         [this](auto id) { isEndOnDisk << (recordedRun(options, id).run.ended != 0); });
         QObject::connect(journal, &JournalTransport::signalSettled, journal, [this](const Settled &settled) {
             settledDevices << settled.row;
             if (onSettled)
@@ -201,6 +204,7 @@ struct Site : FormFixture
     std::unique_ptr<PageWatch> watch;
     QStringList unrecorded, raised, reported, declined;
     QVector<DeviceRow> settledDevices;
+    QVector<bool> isEndOnDisk; // of each run that counts as recorded
     std::function<void(const QString &devId)> onSettled;
     std::function<void()> onDeclined;
     int begun = 0, ended = 0, stops = 0;
@@ -343,7 +347,27 @@ private slots:
             QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains("never written down"));
         }
         QCOMPARE(site.unrecorded, QStringList());
+        QTRY_COMPARE(site.isEndOnDisk, QVector<bool>(1 + (hasHistory ? kinds.size() : 0), true));
         QTRY_COMPARE(site.transport->passed, site.raised);
+    }
+
+    void endThatIsNotRecorded()
+    {
+        Site site(healthy);
+        site.options.lockTimeout = 50ms;
+        site.setTransport();
+        QSignalSpy failures(site.journal, &JournalTransport::signalHistoryFailed);
+        QObject::connect(site.journal, &JournalTransport::signalRunEnded, site.journal, [&] { site.lock(); });
+        expectWarning("The history cannot be written");
+        site.begin("apply");
+        QTRY_COMPARE(failures.count(), 1);
+        site.journal->disconnect(SIGNAL(signalRunEnded(QString)));
+        site.database.close();
+        site.begin("apply");
+        QTRY_COMPARE(site.isEndOnDisk, QVector<bool>{true}); // of the second run only
+        site.setTransport(false);
+        site.begin("apply");
+        QTRY_COMPARE(site.isEndOnDisk, (QVector<bool>{true, false}));
     }
 
     void oneRunAtATime_data()

@@ -1,0 +1,209 @@
+#include "fleet/EmbeddedFleet.h"
+#include "fleet/Site.h"
+#include "support/Accounts.h"
+#include "support/FleetOf.h"
+#include "support/OrdaTest.h"
+
+#include <csignal>
+
+#include <vms_client_sdk/Inventory.h>
+
+using namespace device_fleet;
+using namespace orda_journal;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int devices = 60;
+
+/// A fleet, and orda_batch in a directory of its own that has the inventory of it.
+struct Site
+{
+    explicit Site(int seed = 1)
+        : fleet(fleetOf(devices, quint32(seed)))
+    {
+        const QString error = fleet.start();
+        if (!error.isEmpty())
+            qFatal("%s", qPrintable(error));
+        if (!vms_sdk::writeInventory(place.filePath("site.json"), fleet.inventory()).isEmpty())
+            qFatal("no inventory");
+        for (const vms_sdk::DevInfo &device : fleet.inventory())
+            (device.accessCode == 1 && QList{1, 6}.contains(device.kindCode) ? meant : others).append(device.id);
+    }
+
+    void start(const QString &command)
+    {
+        process = std::make_unique<QProcess>();
+        process->setWorkingDirectory(place.path());
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_STATE_HOME", stateHome.isEmpty() ? place.path() : stateHome);
+        environment.insert("PATH", QCoreApplication::applicationDirPath() + ":/usr/bin:/bin");
+        process->setProcessEnvironment(environment);
+        process->start("/bin/sh", {"-c", "exec " + QString(command).replace("SITE", "--inventory site.json")});
+    }
+    /// Waits for the end. @return the exit code
+    int end()
+    {
+        if (!process->waitForFinished(60'000) || process->exitStatus() != QProcess::NormalExit)
+            return -1;
+        output = process->readAllStandardOutput();
+        errors = process->readAllStandardError();
+        return process->exitCode();
+    }
+    int run(const QString &command)
+    {
+        start(command);
+        return end();
+    }
+    /// The lines of JSON output but the last, which is the summary.
+    QVector<QJsonObject> lines()
+    {
+        QVector<QJsonObject> objects;
+        const QList<QByteArray> texts = output.trimmed().split('\n');
+        for (const QByteArray &text : texts)
+            objects.append(QJsonDocument::fromJson(text).object());
+        summary = objects.takeLast()["summary"].toObject();
+        return objects;
+    }
+    QJsonObject dump() const { return fleet.dump()["devices"].toObject(); }
+    QString nameOf(const QString &devId) const { return dump().value(devId).toObject()["osd"].toObject()["channelName"].toString(); }
+    int named(const QString &name) const
+    {
+        return int(std::count_if(meant.begin(), meant.end(), [&](auto &devId) { return nameOf(devId) == name; }));
+    }
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(place.filePath(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(content);
+    }
+    HistoryOptions history() const
+    {
+        HistoryOptions options;
+        options.path = place.filePath("orda/history.db");
+        return options;
+    }
+
+    EmbeddedFleet fleet;
+    QTemporaryDir place;
+    QString stateHome; // of the program; empty: the directory
+    QStringList meant, others; // device ids: those that "all" selects
+    std::unique_ptr<QProcess> process;
+    QByteArray output, errors;
+    QJsonObject summary;
+};
+
+} // namespace
+
+class BatchTest : public OrdaTest
+{
+    Q_OBJECT
+
+private slots:
+    void exitCodes_data()
+    {
+        columns<QString, QString>({"exitCode", "said"});
+        rowsFrom("batch_exit_codes.txt");
+    }
+
+    // Of one site, so that a row may follow from those above it.
+    void exitCodes()
+    {
+        static Site site;
+        QFETCH(QString, said);
+        site.write("names.csv", "device,channelName\ndev-0001,One\nnobody,Two\n");
+        const auto fails = [](const QString &devId, const QString &method) {
+            site.fleet.setFault(devId, method, {Fault::ErrorCode, -5, 0ms});
+        };
+        fails("dev-0003", "chnosd_set_param");
+        fails("dev-0004", "chnosd_get_param");
+        QCOMPARE(QString::number(site.run(QString("orda_batch ") + QTest::currentDataTag())),
+                 *static_cast<QString *>(QTest::qData("exitCode", QMetaType::QString)));
+        QVERIFY2((site.output + site.errors).contains(said.toUtf8()), site.output + site.errors);
+    }
+
+    void everyDeviceOnce_data() { seeds(10); }
+
+    // Whatever goes wrong, and whenever it is stopped.
+    void everyDeviceOnce()
+    {
+        QFETCH(int, seed);
+        QRandomGenerator random{quint32(seed)};
+        Site site(seed);
+        const auto oneOf = [&random](const QStringList &list) { return list.at(random.bounded(list.size())); };
+        for (const QString &devId : qAsConst(site.meant))
+            if (random.bounded(4) == 0)
+                site.fleet.setFault(devId, oneOf({"chnosd_get_param", "chnosd_set_param"}),
+                                    {Fault(random.bounded(int(Fault::DropAndReturn) + 1)), -5, 20ms});
+        const QJsonObject before = site.dump();
+        site.start("orda_batch apply osd SITE --set channelName=Gate --yes --format json --timeout 1 "
+                   + oneOf({"", "--serial 7,50%", "--serial 20 --retries 1", "--verify", "--no-journal",
+                            "--max-fail-percentage 10 --serial 20"}));
+        if (random.bounded(2) == 0) {
+            QThread::usleep(50'000 + random.bounded(400'000U)); // by then it heeds signals
+            ::kill(pid_t(site.process->processId()), random.bounded(2) == 0 ? SIGINT : SIGTERM);
+        }
+        const int exitCode = site.end();
+        QStringList reported;
+        QMap<QString, int> outcomes;
+        const QJsonObject after = site.dump();
+        const QVector<QJsonObject> lines = site.lines();
+        for (const QJsonObject &line : lines) {
+            const QString devId = line["device"].toString(), outcome = line["outcome"].toString();
+            reported.append(devId);
+            ++outcomes[outcome];
+            const bool mayDiffer = QStringList{"done", "unknown", "differs", "partly-written"}.contains(outcome);
+            QVERIFY2(mayDiffer || after[devId] == before[devId], qPrintable(devId + outcome));
+            QVERIFY2(outcome != "done" || site.nameOf(devId) == "Gate" || !line["changes"].toArray().isEmpty(),
+                     qPrintable(devId));
+        }
+        reported.sort();
+        if (!reported.isEmpty() || site.summary["devices"].toInt() > 0) // else stopped before it knew them
+            QCOMPARE(reported, site.meant);
+        for (auto outcome = outcomes.begin(); outcome != outcomes.end(); ++outcome)
+            QCOMPARE(site.summary["outcomes"].toObject()[outcome.key()].toInt(), *outcome);
+        QCOMPARE(exitCode, site.summary["exitCode"].toInt());
+        QCOMPARE(exitCode, outcomes["stopped"] > 0 || site.summary.contains("stopped") ? 6
+                           : outcomes["differs"] > 0                                   ? 7
+                           : outcomes["failed"] + outcomes["unknown"] + outcomes["partly-written"] > 0 ? 1
+                           : outcomes["not-reached"] > 0                                               ? 5
+                                                                                                       : 0);
+    }
+
+    void ownValuesAndBack()
+    {
+        Site site;
+        const QJsonObject before = site.dump();
+        site.write("names.csv", "Device;channelName;position\r\n");
+        QFile names(site.place.filePath("names.csv"));
+        names.open(QIODevice::WriteOnly);
+        names.write("\xEF\xBB\xBF" "device;name;channelName;bShowOSD\r\n");
+        for (const vms_sdk::DevInfo &device : site.fleet.inventory())
+            if (site.meant.contains(device.id))
+                names.write(QString("%1;x;\"Tür; %2\";\r\n").arg(device.serialNumber, device.id).toUtf8());
+        names.close();
+        QCOMPARE(site.run("orda_batch apply osd SITE --values names.csv --yes --verify --shard 1/2"), 5);
+        const int first = site.named("Tür; " + site.meant.at(0));
+        QCOMPARE(site.run("orda_batch apply osd SITE --values names.csv --yes --verify --shard 2/2"), 5);
+        int renamed = 0;
+        for (const QString &devId : qAsConst(site.meant))
+            renamed += site.nameOf(devId) == QString::fromUtf8("Tür; ") + devId ? 1 : 0;
+        Q_UNUSED(first)
+        QCOMPARE(renamed, 54);
+        QCOMPARE(site.run("orda_batch undo last SITE --yes"), 0);
+        QCOMPARE(site.run("orda_batch history --format csv"), 0);
+        const QString other = QString::fromUtf8(site.output).split('\n').at(3).section(',', 0, 0);
+        QCOMPARE(site.run("orda_batch undo SITE --yes " + other), 0);
+        QCOMPARE(site.dump(), before);
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_NO_GLIB", "1");
+    const QCoreApplication app(argc, argv);
+    BatchTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "batch_test.moc"
