@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int devices = 60;
+constexpr int writable = 55; // of them, with the first seed
 
 /// A fleet, and orda_batch in a directory of its own that has the inventory of it.
 struct Site
@@ -66,10 +67,14 @@ struct Site
         return objects;
     }
     QJsonObject dump() const { return fleet.dump()["devices"].toObject(); }
-    QString nameOf(const QString &devId) const { return dump().value(devId).toObject()["osd"].toObject()["channelName"].toString(); }
+    QString nameOf(const QString &devId) const
+    {
+        return dump().value(devId).toObject()["osd"].toObject()["channelName"].toString();
+    }
     int named(const QString &name) const
     {
-        return int(std::count_if(meant.begin(), meant.end(), [&](auto &devId) { return nameOf(devId) == name; }));
+        return int(std::count_if(meant.begin(), meant.end(),
+                                 [&](auto &devId) { return nameOf(devId) == QString(name).replace("ID", devId); }));
     }
     void write(const QString &name, const QByteArray &content) const
     {
@@ -163,8 +168,8 @@ private slots:
         for (auto outcome = outcomes.begin(); outcome != outcomes.end(); ++outcome)
             QCOMPARE(site.summary["outcomes"].toObject()[outcome.key()].toInt(), *outcome);
         QCOMPARE(exitCode, site.summary["exitCode"].toInt());
-        QCOMPARE(exitCode, outcomes["stopped"] > 0 || site.summary.contains("stopped") ? 6
-                           : outcomes["differs"] > 0                                   ? 7
+        QCOMPARE(exitCode, outcomes["stopped"] > 0 || site.summary.contains("stopped")                 ? 6
+                           : outcomes["differs"] > 0                                                   ? 7
                            : outcomes["failed"] + outcomes["unknown"] + outcomes["partly-written"] > 0 ? 1
                            : outcomes["not-reached"] > 0                                               ? 5
                                                                                                        : 0);
@@ -174,27 +179,96 @@ private slots:
     {
         Site site;
         const QJsonObject before = site.dump();
-        site.write("names.csv", "Device;channelName;position\r\n");
         QFile names(site.place.filePath("names.csv"));
         names.open(QIODevice::WriteOnly);
-        names.write("\xEF\xBB\xBF" "device;name;channelName;bShowOSD\r\n");
+        names.write("\xEF\xBB\xBF"
+                    "device;name;channelName;bShowOSD\r\n");
         for (const vms_sdk::DevInfo &device : site.fleet.inventory())
             if (site.meant.contains(device.id))
                 names.write(QString("%1;x;\"Tür; %2\";\r\n").arg(device.serialNumber, device.id).toUtf8());
         names.close();
-        QCOMPARE(site.run("orda_batch apply osd SITE --values names.csv --yes --verify --shard 1/2"), 5);
-        const int first = site.named("Tür; " + site.meant.at(0));
-        QCOMPARE(site.run("orda_batch apply osd SITE --values names.csv --yes --verify --shard 2/2"), 5);
-        int renamed = 0;
-        for (const QString &devId : qAsConst(site.meant))
-            renamed += site.nameOf(devId) == QString::fromUtf8("Tür; ") + devId ? 1 : 0;
-        Q_UNUSED(first)
-        QCOMPARE(renamed, 54);
+        QCOMPARE(site.run("orda_batch apply osd SITE --values names.csv --yes --verify --shard 1/2") % 5, 0);
+        QCOMPARE(site.run("orda_batch apply osd SITE --values names.csv --yes --verify --shard 2/2") % 5, 0);
+        QCOMPARE(site.named("Tür; ID"), writable);
         QCOMPARE(site.run("orda_batch undo last SITE --yes"), 0);
         QCOMPARE(site.run("orda_batch history --format csv"), 0);
         const QString other = QString::fromUtf8(site.output).split('\n').at(3).section(',', 0, 0);
         QCOMPARE(site.run("orda_batch undo SITE --yes " + other), 0);
         QCOMPARE(site.dump(), before);
+    }
+
+    void whateverBecomesOfTheOutput_data()
+    {
+        columns<QString, int>({"rest", "exitCode"});
+        row("a reader that goes", "| head -1", 0);
+        row("a reader that waits", "| (sleep 2; cat)", 0);
+        row("a full disk", "> /dev/full", 5);
+        row("nobody", ">&-", 5);
+    }
+
+    void whateverBecomesOfTheOutput()
+    {
+        QFETCH(QString, rest);
+        Site site;
+        site.fleet.setFault("dev-0001", FaultPlan::any(), {Fault::LateAnswer, 0, 300ms}); // after the reader has gone
+        const QString command = "sh -c 'orda_batch apply osd SITE --set channelName=Gate --yes --format json' ";
+        QTEST(site.run(QString(command).replace("SITE", "--inventory site.json") + rest), "exitCode");
+        QCOMPARE(site.named("Gate"), writable);
+    }
+
+    void endsAtOnceTheSecondTime()
+    {
+        Site site;
+        site.fleet.setFault("dev-0001", FaultPlan::any(), {Fault::NoAnswer, 0, 0ms});
+        site.start("orda_batch apply osd SITE --set channelName=Gate --yes");
+        QVERIFY(isReached([&] { return site.named("Gate") == writable - 1; }));
+        const auto interrupt = [&site] { return ::kill(pid_t(site.process->processId()), SIGINT); };
+        interrupt();
+        QVERIFY(!site.process->waitForFinished(300)); // what has left is awaited
+        interrupt();
+        QCOMPARE(site.end(), 6);
+    }
+
+    void writesNothingWithoutHistory()
+    {
+        Site site;
+        site.stateHome = "/dev/null";
+        QCOMPARE(site.run("orda_batch apply osd SITE --set channelName=Gate --yes --format json"), 8);
+        QCOMPARE(site.named("Gate"), 0);
+        QCOMPARE(site.run("orda_batch apply osd SITE --set channelName=Gate --yes --no-journal"), 5);
+        QCOMPARE(site.named("Gate"), writable);
+    }
+
+    void speaksLanguagesToPeopleOnly()
+    {
+        Site site;
+        const auto said = [&site](const char *options) {
+            site.run(QString("env LANG=de_DE.UTF-8 LC_ALL= LANGUAGE= orda_batch read osd SITE --devices dev-0029 ")
+                     + options);
+            return site.output;
+        };
+        QVERIFY(said("--language de").contains("nicht erreicht"));
+        QVERIFY(said("--language zh_CN").contains("未"));
+        QVERIFY(said("--format json").contains("\"message\":\"off line"));
+    }
+
+    void asksOnTheTerminal_data()
+    {
+        columns<QString, int, int>({"typed", "exitCode", "named"});
+        row("yes", "sleep 2; echo y", 5, writable);
+        row("no", "sleep 2; echo n", 6, 0);
+        row("before the question", "echo y", 6, 0);
+    }
+
+    void asksOnTheTerminal()
+    {
+        QFETCH(QString, typed);
+        Site site;
+        const QString command = "orda_batch apply osd --inventory site.json --set channelName=Gate";
+        QTEST(site.run(QString("sh -c \"(%1; sleep 2) | script -qec '%2' /dev/null\"").arg(typed, command)),
+              "exitCode");
+        QVERIFY2(site.output.contains("Configure? [y/N]"), site.output);
+        QTEST(site.named("Gate"), "named");
     }
 };
 
