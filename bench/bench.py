@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """All figures of docs/performance.md: runs the benchmark programs, each beside its floor, and prints one table.
 
-    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,start]
+    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,batch,start]
 
 BIN is the directory of the built programs. A figure is the median of its repetitions; a ratio is that of the medians of
 two programs that ran in turn.
@@ -19,7 +19,10 @@ import tempfile
 import time
 
 HERE = pathlib.Path(__file__).parent
-PARTS = ("run", "list", "site", "engine", "start")
+PARTS = ("run", "list", "site", "engine", "batch", "start")
+BATCH_SIZE = 1000  # devices, at most, for whole commands
+OSD = ("bShowOSD=false", "timeFormat=YYYY-MM-DD hh:mm:ss", "timePos=left_top", "channelName=HD IPC",
+       "position=left_top", "bLargeOSD=false")
 NETWORK_SIZES = {10000: (5000, 9000, 10000)}  # where the table of one size has several rows over the network
 MAX_PYTHON = 1000  # the script's figure is asked for here, and it is slow
 LISTED_SHARE = 0.8  # of a simulated site: some devices are offline, of another kind, or have weak passwords
@@ -238,6 +241,44 @@ def measure_engine(options, env, directory, table):
               None, "100 ms")
 
 
+def wall_ms(command, env, expected=(0,)):
+    """From the start of a program to its end, its output thrown away."""
+    start = time.monotonic()
+    done = subprocess.run([str(part) for part in command], env=env, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE,
+                          text=True)
+    if done.returncode not in expected:
+        sys.exit("%s: exit code %d\n%s" % (command[0], done.returncode, done.stderr[-2000:]))
+    return (time.monotonic() - start) * 1000
+
+
+def measure_batch(options, env, directory, table):
+    directory = directory / "batch"
+    directory.mkdir()
+    size = min(max(options.sizes), BATCH_SIZE)
+    fleet = Fleet(options, size, directory, env)
+    inventory = fleet.inventory(size)
+    batch = [options.bin / "orda_batch"]
+    values = [word for value in OSD for word in ("--set", value)]
+    on_devices = lambda *command: batch + [*command, "--inventory", inventory, "--format", "json"]
+    commands = {"start": (batch + ["families"], (0,)),
+                "plan": (on_devices("plan", "osd", *values), (0, 10)),
+                "apply": (on_devices("apply", "osd", *values, "--yes"), (0,)),
+                "bare reads": ([options.bin / "bare_client", inventory, "--read"], (0,)),
+                "bare": ([options.bin / "bare_client", inventory], (0,)),
+                "script": ([HERE / "asyncio_client.py", inventory], (0,))}
+    figures = collections.defaultdict(list)
+    for _ in range(options.repeat):
+        for name, (command, expected) in commands.items():
+            fleet.rest(size if name != "start" else 0)
+            figures[name].append(wall_ms(command, env, expected))
+    fleet.end()
+    median = lambda name: statistics.median(figures[name])
+    table.add("orda_batch started, and ended without devices", 0, median("start"), "ms", None, "60 ms")
+    table.add("orda_batch plan, start to end, against a bare client that reads", size, median("plan"), "ms", median("bare reads"))
+    table.add("orda_batch apply with the history, against a bare client", size, median("apply"), "ms", median("bare"))
+    table.add("orda_batch apply with the history, against a Python script", size, median("apply"), "ms", median("script"))
+
+
 def measure_start(options, env, table):
     times = []
     for _ in range(options.repeat):
@@ -274,6 +315,8 @@ def main():
                 measure_site(options, env, directory, table)
             elif part == "engine":
                 measure_engine(options, env, directory, table)
+            elif part == "batch":
+                measure_batch(options, env, directory, table)
             elif part == "start":
                 measure_start(options, env, table)
             else:
