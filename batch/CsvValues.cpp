@@ -83,7 +83,7 @@ ValuesFile CsvReader::read(const QByteArray &content)
         complain(m_rowLine, m_cells.size() + 1,
                  tr("wrong quotation marks: they stand around a whole cell, and one within it is written twice"));
     else if (m_head.isEmpty())
-        complain(1, 1, tr("is empty; a line with \"device\" and keys is expected"));
+        complain(1, 1, tr(R"(is empty; a line with "device" and keys is expected)"));
     else if (m_file.rows.isEmpty() && m_file.faults.isEmpty())
         complain(m_line + 1, 1, tr("ends after its head; a line for each device is expected"));
     return m_file;
@@ -144,7 +144,7 @@ void CsvReader::takeHead()
             complain(m_rowLine, column + 1, tr("the column has no name; a key is expected"));
         else if (first >= 0)
             complain(m_rowLine, column + 1,
-                     tr("the column \"%1\" is there already, as number %2").arg(name).arg(first + 1));
+                     tr(R"(the column "%1" is there already, as number %2)").arg(name, QString::number(first + 1)));
         else if (isDeviceName(name))
             m_deviceColumn = column;
         else if (!isForPeople(name))
@@ -154,9 +154,9 @@ void CsvReader::takeHead()
         if (m_keys.contains(column))
             m_file.head.append({{m_rowLine, column + 1}, m_keys.value(column)});
     if (m_deviceColumn < 0)
-        complain(m_rowLine, 1,
-                 tr("no column \"device\", with the id or serial number of each row; columns stand between \",\" or "
-                    "\";\""));
+        complain(
+            m_rowLine, 1,
+            tr(R"(no column "device", with the id or serial number of each row (columns stand between "," or ";"))"));
 }
 
 void CsvReader::takeValues()

@@ -86,11 +86,11 @@ QString DeviceSelection::add(const QString &written, const QString &place, bool 
     term.shown = written + place;
     term.isExcluded = takePrefix(&term.text, QLatin1String("not:"));
     if (term.isExcluded && isExcluded)
-        return tr("\"%1\": \"not:\" stands before its file already").arg(term.shown);
+        return tr(R"("%1": "not:" stands before its file already)").arg(term.shown);
     term.isExcluded = term.isExcluded || isExcluded;
     if (term.text.startsWith(QLatin1Char('@')))
         return place.isEmpty() ? addFile(term.text.mid(1), term.isExcluded)
-                               : tr("\"%1\": a file must not name another one").arg(term.shown);
+                               : tr(R"("%1": a file must not name another one)").arg(term.shown);
     static constexpr std::array<std::pair<const char *, Term::Kind>, 5> withText{{{"name=", Term::Name},
                                                                                   {"ip=", Term::Address},
                                                                                   {"kind=", Term::DeviceKind},
@@ -108,13 +108,13 @@ QString DeviceSelection::add(const QString &written, const QString &place, bool 
             }
     if (term.text.isEmpty())
         return term.shown.isEmpty() ? tr("a term of a selection must not be empty")
-                                    : tr("\"%1\": something must follow").arg(term.shown);
+                                    : tr(R"("%1": something must follow)").arg(term.shown);
     if (term.kind == Term::Name && !globExpression(term.text).isValid())
-        return tr("\"%1\": is no pattern; \"*\", \"?\" and \"[a-z]\" may stand for characters").arg(term.shown);
+        return tr(R"("%1": is no pattern; "*", "?" and "[a-z]" may stand for characters)").arg(term.shown);
     if (term.kind == Term::Address && subnetOf(term.text).second < 0)
-        return tr("\"%1\": must be an address such as 10.1.2.3, or several such as 10.1.0.0/16").arg(term.shown);
+        return tr(R"("%1": must be an address such as 10.1.2.3, or several such as 10.1.0.0/16)").arg(term.shown);
     if (term.kind == Term::DeviceKind && term.text != QLatin1String("camera") && term.text != QLatin1String("recorder"))
-        return tr("\"%1\": must be camera or recorder").arg(term.shown);
+        return tr(R"("%1": must be camera or recorder)").arg(term.shown);
     m_terms.append(term);
     return {};
 }
@@ -131,7 +131,7 @@ QString DeviceSelection::addFile(const QString &path, bool isExcluded)
         const QString line = lines.at(i).trimmed();
         if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
             continue;
-        const QString error = add(line, QStringLiteral(" (%1:%2)").arg(path).arg(i + 1), isExcluded);
+        QString error = add(line, QStringLiteral(" (%1:%2)").arg(path).arg(i + 1), isExcluded);
         if (!error.isEmpty())
             return error;
     }
@@ -156,6 +156,8 @@ bool DeviceSelection::needsConnections() const
 /// What the terms match, each in its turn.
 class DeviceSelection::Match
 {
+    Q_DECLARE_TR_FUNCTIONS(orda_batch::DeviceSelection)
+
 public:
     Match(const QList<vms_sdk::DevInfo> &inventory, const Knowledge &knowledge, bool isOfferedKnown)
         : m_inventory(inventory)
@@ -200,7 +202,7 @@ QSet<int> DeviceSelection::Match::deviceOf(const Term &term)
     const QVector<int> found = m_index.find(term.text);
     if (found.size() > 1) {
         m_isEmpty = false;
-        fail(tr("\"%1\" is the id of one device and the serial number of another one, \"%2\"")
+        fail(tr(R"("%1" is the id of one device and the serial number of another one, "%2")")
                  .arg(term.shown, m_inventory.at(found.last()).id));
     }
     return {found.cbegin(), found.cend()};
@@ -222,7 +224,7 @@ QSet<int> DeviceSelection::Match::failedIn(const Term &term)
     if (error.isEmpty() && !strange.isEmpty()) {
         const int more = strange.size() - maxNamed;
         const QString ids = QStringList(strange.mid(0, maxNamed)).join(QStringLiteral(", "));
-        error = tr("\"%1\": the inventory does not have %2")
+        error = tr(R"("%1": the inventory does not have %2)")
                     .arg(term.shown, more > 0 ? tr("%1 and %n more", nullptr, more).arg(ids) : ids);
     }
     if (!error.isEmpty()) {
@@ -273,8 +275,8 @@ void DeviceSelection::Match::take(const Term &term)
     const QSet<int> matched = devicesOf(term);
     if (matched.isEmpty() && m_errors.size() == before) {
         m_isEmpty = m_isEmpty && !term.isExcluded;
-        fail(term.kind == Term::Device ? tr("\"%1\": no device has this id or serial number").arg(term.shown)
-                                       : tr("\"%1\" matches no device").arg(term.shown));
+        fail(term.kind == Term::Device ? tr(R"("%1": no device has this id or serial number)").arg(term.shown)
+                                       : tr(R"("%1" matches no device)").arg(term.shown));
     }
     if (term.isExcluded) {
         m_excluded.unite(matched);

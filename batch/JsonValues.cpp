@@ -152,8 +152,9 @@ bool RowHandler::close()
         return true;
     const QByteArray nested = m_stream.since(m_nested);
     // Some texts make QJsonDocument use gigabytes.
-    if (const char *fault = vms_sdk::checkAnswer(nested).fault)
-        return complain(m_member.place, QStringLiteral("\"%1\": %2").arg(m_member.key, QLatin1String(fault)));
+    if (vms_sdk::checkAnswer(nested).fault)
+        return complain(m_member.place,
+                        tr(R"("%1": is nested too deeply, is too large, or names a key twice)").arg(m_member.key));
     const QJsonDocument read = QJsonDocument::fromJson(nested);
     return take(read.isArray() ? QJsonValue(read.array()) : QJsonValue(read.object()));
 }
@@ -165,12 +166,12 @@ bool RowHandler::take(const QJsonValue &value)
     const int before = m_keys.size();
     m_keys.insert(m_member.key);
     if (m_keys.size() == before)
-        return complain(m_member.place, tr("\"%1\" is there already in this object").arg(m_member.key));
+        return complain(m_member.place, tr(R"("%1" is there already in this object)").arg(m_member.key));
     if (!isDeviceName(m_member.key)) {
         m_member.value = value;
         m_row.cells.append(m_member);
     } else if (value.toString().isEmpty()) {
-        complain(m_member.place, tr("\"%1\": must be an id or a serial number, a text in quotes").arg(m_member.key));
+        complain(m_member.place, tr(R"("%1": must be an id or a serial number, a text in quotes)").arg(m_member.key));
     } else {
         m_row.device = value.toString();
         m_row.place = m_member.place;
@@ -211,15 +212,15 @@ QString JsonReader::textOf(rapidjson::ParseErrorCode code)
     switch (code) {
     case rapidjson::kParseErrorTermination:
     case rapidjson::kParseErrorDocumentEmpty:
-        return tr("is no object; expected is {…}, or several of them one after the other, without \"[\" and \",\"");
+        return tr(R"(is no object; expected is {…}, or several of them one after the other, without "[" and ",")");
     case rapidjson::kParseErrorObjectMissName:
         return tr("is not JSON: a key in quotes is expected");
     case rapidjson::kParseErrorObjectMissColon:
         return tr("is not JSON: a colon is expected after a key");
     case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
-        return tr("is not JSON: \",\" or \"}\" is expected");
+        return tr(R"(is not JSON: "," or "}" is expected)");
     case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
-        return tr("is not JSON: \",\" or \"]\" is expected");
+        return tr(R"(is not JSON: "," or "]" is expected)");
     case rapidjson::kParseErrorStringInvalidEncoding:
         return tr("is not UTF-8; save the file in UTF-8");
     case rapidjson::kParseErrorStringMissQuotationMark:
@@ -253,7 +254,7 @@ ValuesFile JsonReader::read(const QByteArray &content)
     const QVector<FilePlace> places = file.isByDevice ? handler.withoutDevice() : QVector<FilePlace>();
     for (const FilePlace &place : places)
         file.faults.append(
-            {place, tr("no member \"device\", with an id or serial number, which each of several objects needs")});
+            {place, tr(R"(no member "device", with an id or serial number, which each of several objects needs)")});
     return file;
 }
 

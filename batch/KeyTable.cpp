@@ -190,31 +190,35 @@ QString KeyTable::faultOfKey(const QString &name) const
         return {};
     const QString inValues = m_exchange.nameInValues(name);
     if (inValues != name && keyOf(inValues))
-        return tr("\"%1\" cannot be set by itself; \"%2\" sets it for all channels").arg(name, inValues);
+        return tr(R"("%1" cannot be set by itself; "%2" sets it for all channels)").arg(name, inValues);
     if (isNumbered && m_isUnchecked) {
         if (name.isEmpty() || vms_sdk::holdsControls(name))
             return tr("a key must not be empty or hold line breaks, tabs or control characters");
         // Neither plan nor undo would see a member that steers the request, or the number of a stream.
         if (!m_exchange.askedBy(toValues({{name, true}})).contains(name))
-            return tr("\"%1\" is no setting").arg(name);
+            return tr(R"("%1" is no setting)").arg(name);
         return {};
     }
     const QString keys = tr("keys of %1: %2").arg(m_family.name, names().join(QStringLiteral(", ")));
     const QString nearest = nearestTo(name);
-    return nearest.isEmpty() ? tr("unknown key \"%1\"; %2").arg(name, keys)
-                             : tr("unknown key \"%1\", perhaps \"%2\"; %3").arg(name, nearest, keys);
+    return nearest.isEmpty() ? tr(R"(unknown key "%1"; %2)").arg(name, keys)
+                             : tr(R"(unknown key "%1", perhaps "%2"; %3)").arg(name, nearest, keys);
 }
 
 QJsonValue KeyTable::fromText(const QString &name, const QString &text, QString *error) const
 {
     error->clear();
     const CfgKey *key = keyOf(name);
-    const QJsonValue value = key ? typedValue(*key, text) : QJsonValue();
-    const QString fault = key ? faultOfValue(*key, value) : QString();
-    if (m_isUnchecked && !(key && (fault.isEmpty() || key->type == CfgKey::Text)))
+    if (!key)
+        return jsonOrText(text); // unchecked
+    QJsonValue value = typedValue(*key, text);
+    const QString fault = faultOfValue(*key, value);
+    if (fault.isEmpty() || (m_isUnchecked && key->type == CfgKey::Text))
+        return value;
+    if (m_isUnchecked)
         return jsonOrText(text);
-    if (!m_isUnchecked && !fault.isEmpty()) // of a choice without the quotes that JSON has
-        *error = key->type == CfgKey::Choice ? tr("must be one of %1").arg(rangeOf(name)) : fault;
+    // Without the quotes that the choices have in JSON.
+    *error = key->type == CfgKey::Choice ? tr("must be one of %1").arg(rangeOf(name)) : fault;
     return value;
 }
 
@@ -266,7 +270,7 @@ QString KeyTable::faultOfResolution(const QString &entry, const QJsonObject &byN
     QStringList texts;
     for (const QSize &size : sizes)
         texts.append(QStringLiteral("%1×%2").arg(size.width()).arg(size.height()));
-    return tr("%1×%2 is no resolution of \"%3\", which has %4")
+    return tr(R"(%1×%2 is no resolution of "%3", which has %4)")
         .arg(QString::number(width.toInt()), QString::number(height.toInt()), entry.chopped(1),
              texts.join(QStringLiteral(", ")));
 }
@@ -285,7 +289,7 @@ QString KeyTable::faultTogether(const QJsonObject &byName) const
         const QString entry = parts(name)->entry;
         for (const QString &other : key->needs)
             if (!byName.contains(entry + other))
-                faults.append(tr("\"%1\" needs \"%2\" beside it").arg(name, entry + other));
+                faults.append(tr(R"("%1" needs "%2" beside it)").arg(name, entry + other));
         if (isVideo && key->name == QLatin1String("width"))
             faults.append(faultOfResolution(entry, byName));
     }

@@ -46,7 +46,7 @@ WantedValues WantedValues::fromSettings(const QStringList &settings, const KeyTa
         if (equals < 0)
             fault = tr("KEY=VALUE is expected");
         else if (byName.contains(name))
-            fault = tr("\"%1\" is given twice").arg(name);
+            fault = tr(R"("%1" is given twice)").arg(name);
         else
             fault = keys.faultOfKey(name);
         if (fault.isEmpty()) {
@@ -133,12 +133,12 @@ void WantedValues::assignTo(const QList<vms_sdk::DevInfo> &inventory)
     for (const Row &row : qAsConst(m_rows)) {
         const QVector<int> found = index.find(row.device);
         if (found.isEmpty()) {
-            complain(row.place, tr("\"%1\": no device has this id or serial number").arg(row.device));
+            complain(row.place, tr(R"("%1": no device has this id or serial number)").arg(row.device));
         } else if (found.size() > 1) {
-            complain(row.place, tr("\"%1\" is the id of one device and the serial number of \"%2\"")
+            complain(row.place, tr(R"("%1" is the id of one device and the serial number of "%2")")
                                     .arg(row.device, inventory.at(found.last()).id));
         } else if (named.contains(found.first())) {
-            complain(row.place, tr("\"%1\" is named already at %2").arg(row.device, at(named.value(found.first()))));
+            complain(row.place, tr(R"("%1" is named already at %2)").arg(row.device, at(named.value(found.first()))));
         } else {
             named.insert(found.first(), row.place);
             m_ownValues.insert(inventory.at(found.first()).id, row.values);
