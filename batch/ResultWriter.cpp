@@ -94,6 +94,8 @@ void ResultWriter::add(const DeviceResult &result)
         writeTable(tableCells(result), colorOf(result.outcome));
     if (result.outcome == Outcome::Done || result.outcome == Outcome::Unchanged || result.outcome == Outcome::Stopped)
         return;
+    if (result.outcome == Outcome::Differs && result.message.isEmpty()) // would change, as its row tells
+        return;
     Failure &failure = m_failures[result.message.isEmpty() ? ResultTexts::outcome(result.outcome) : result.message];
     if (++failure.count <= devicesShown)
         failure.devIds.append(result.devId);
