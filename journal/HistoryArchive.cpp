@@ -203,7 +203,7 @@ bool addRows(HistoryFile *file, const RunDetails &run, bool *isKnown)
     if (*isKnown)
         return true;
     RunRows rows(file);
-    RunBegin begin{{}, run.devices, run.run.program, run.run.began};
+    RunBegin begin{{}, run.devices, run.run.program, run.run.began, true};
     begin.start.id = run.run.id;
     begin.start.family = run.run.family;
     begin.start.kind = run.run.kind;

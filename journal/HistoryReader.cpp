@@ -130,7 +130,7 @@ QStringList HistoryReader::findRuns(const QString &idOrPrefix)
     QStringList ids;
     const QVector<RunRow> found =
         idOrPrefix == QLatin1String("last")
-            ? m_connection->runs(QStringLiteral("ORDER BY began DESC, number DESC LIMIT ?"), 1)
+            ? m_connection->runs(QStringLiteral("ORDER BY number DESC LIMIT ?"), 1) // a clock may have been put back
             : m_connection->runs(QStringLiteral("WHERE instr(id, ?) = 1 ORDER BY began DESC, number DESC LIMIT 2"),
                                  idOrPrefix);
     for (const RunRow &run : found)

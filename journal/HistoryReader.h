@@ -20,7 +20,8 @@ public:
 
     /// The runs that began last, latest first, wherever they were made. @param limit 0: all
     QVector<RunRow> runs(int limit = 0);
-    /// Ids of the runs whose id begins with @p idOrPrefix, latest first, at most two; "last" is the first of runs().
+    /// Ids of the runs whose id begins with @p idOrPrefix, latest first, at most two; "last" is the one
+    /// that was begun here last, and one of another history only where there is no other.
     QStringList findRuns(const QString &idOrPrefix);
     /// Nothing when there is no such run.
     std::optional<RunDetails> run(const QString &id);

@@ -8,7 +8,7 @@ const QVector<QStringList> &historySteps()
     static const QVector<QStringList> steps{{
         QStringLiteral(R"(
 CREATE TABLE runs (
-  number     INTEGER PRIMARY KEY AUTOINCREMENT, -- in the order in which they began
+  number     INTEGER PRIMARY KEY AUTOINCREMENT, -- in the order in which they began; below 0 those of other histories
   id         TEXT NOT NULL UNIQUE,
   family     TEXT NOT NULL,
   kind       TEXT NOT NULL,              -- "apply" or "undo"

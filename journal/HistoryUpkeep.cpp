@@ -153,7 +153,7 @@ bool pruneRuns(HistoryFile *file, int *removed)
     {
         QSqlQuery query = file->prepare(
             QStringLiteral("SELECT number, began FROM runs WHERE ended <> 0 AND number NOT IN (SELECT number "
-                           "FROM runs ORDER BY began DESC, number DESC LIMIT ?) ORDER BY began, number"));
+                           "FROM runs ORDER BY number DESC LIMIT ?) ORDER BY number"));
         if (file->run(query, options.keptRuns))
             while (file->next(query))
                 candidates.append({query.value(0).toLongLong(), query.value(1).toLongLong()});

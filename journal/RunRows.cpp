@@ -34,11 +34,12 @@ RunRows::RunRows(HistoryFile *file)
 bool RunRows::write(const RunBegin &begin)
 {
     const RunStart &run = begin.start;
-    QSqlQuery query = m_file->prepare(
-        QStringLiteral("INSERT INTO runs (id, family, kind, undoes, parameters, program, began, devices) "
-                       "VALUES (?, ?, ?, ?, ?, ?, ?, ?)"));
-    if (!m_file->run(query, run.id, run.family, run.kind, run.undoes, textOf(run.values), begin.program, begin.began,
-                     begin.devices.size()))
+    QSqlQuery query = m_file->prepare(QStringLiteral(
+        "INSERT INTO runs (number, id, family, kind, undoes, parameters, program, began, devices) VALUES "
+        "(CASE WHEN ? THEN (SELECT min(0, ifnull(min(number), 0)) - 1 FROM runs) END, "
+        "?, ?, ?, ?, ?, ?, ?, ?)"));
+    if (!m_file->run(query, begin.isFromElsewhere, run.id, run.family, run.kind, run.undoes, textOf(run.values),
+                     begin.program, begin.began, begin.devices.size()))
         return false;
     m_number = query.lastInsertId().toLongLong();
     query = m_file->prepare(

@@ -18,6 +18,7 @@ struct RunBegin
     QVector<DeviceRow> devices; ///< those of the run, as the device store has them
     QString program;
     qint64 began = 0;
+    bool isFromElsewhere = false; ///< of another history: never the latest run of this one
 };
 
 struct RunEnd
