@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
+#include <QStringList>
 
 #include <rapidjson/reader.h>
 
@@ -271,7 +272,9 @@ bool isDeviceName(const QString &name)
 
 bool isForPeople(const QString &name)
 {
-    return name == QLatin1String("serialNumber") || name == QLatin1String("name") || name == QLatin1String("ip");
+    static const QStringList names{QStringLiteral("serialNumber"), QStringLiteral("name"), QStringLiteral("ip"),
+                                   QStringLiteral("outcome"),      QStringLiteral("code"), QStringLiteral("message")};
+    return names.contains(name);
 }
 
 ValuesFile readValuesFile(const QString &path, const QByteArray &content)
