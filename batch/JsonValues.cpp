@@ -273,7 +273,7 @@ bool isDeviceName(const QString &name)
 bool isForPeople(const QString &name)
 {
     static const QStringList names{QStringLiteral("serialNumber"), QStringLiteral("name"), QStringLiteral("ip"),
-                                   QStringLiteral("outcome"),      QStringLiteral("code"), QStringLiteral("message")};
+                                   QStringLiteral("outcome"), QStringLiteral("message")};
     return names.contains(name);
 }
 

@@ -104,6 +104,13 @@ void ProgressDisplay::setFinished(int finished)
 
 void ProgressDisplay::clear()
 {
+    if (m_lines > 0)
+        m_redraw.start(0); // after the other lines
+    erase();
+}
+
+void ProgressDisplay::erase()
+{
     if (m_lines > 0) {
         const QByteArray up = m_lines > 1 ? "\033[" + QByteArray::number(m_lines - 1) + 'A' : QByteArray();
         m_output->writeError('\r' + up + "\033[J");
@@ -114,7 +121,7 @@ void ProgressDisplay::clear()
 void ProgressDisplay::end()
 {
     m_redraw.stop();
-    clear();
+    erase();
 }
 
 void ProgressDisplay::showLater()
@@ -129,7 +136,7 @@ void ProgressDisplay::draw()
         m_redraw.start(redrawInterval);
         return;
     }
-    clear();
+    erase();
     if (isInBackground())
         return;
     const winsize size = terminalSize();

@@ -28,12 +28,14 @@ public:
     void take(orda_journal::Outcome outcome, const QString &message);
     /// Without outcomes: how many of the total are through.
     void setFinished(int finished);
-    /// Takes the bar away until there is something new to show, so that other lines can be written.
+    /// Takes the bar away so that other lines can be written; it comes back under what is written before the next turn
+    /// of the event loop.
     void clear();
     void end();
 
 private:
     void showLater();
+    void erase();
     void draw();
     QString bar(int columns) const;
     QStringList failureLines(int count) const;

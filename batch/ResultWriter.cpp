@@ -94,6 +94,8 @@ void ResultWriter::add(const DeviceResult &result)
         writeTable(tableCells(result), colorOf(result.outcome));
     if (result.outcome == Outcome::Done || result.outcome == Outcome::Unchanged || result.outcome == Outcome::Stopped)
         return;
+    if (result.outcome == Outcome::Differs && result.message.isEmpty()) // would change, as its row tells
+        return;
     Failure &failure = m_failures[result.message.isEmpty() ? ResultTexts::outcome(result.outcome) : result.message];
     if (++failure.count <= devicesShown)
         failure.devIds.append(result.devId);
@@ -170,7 +172,7 @@ QStringList ResultWriter::csvCells(const DeviceResult &result) const
     QStringList cells{csvText(result.devId), csvText(result.serialNumber), csvText(result.name), csvText(result.ip),
                       orda_journal::outcomeName(result.outcome)};
     if (m_valueColumns.isEmpty())
-        return cells << QString::number(result.code) << csvText(result.message)
+        return cells << QString::number(result.code) << csvText(withLacking(result.message, result))
                      << csvText(ResultTexts::changes(result.changes, QStringLiteral("; ")));
     cells.append(csvText(result.message));
     for (const QString &column : m_valueColumns) {
@@ -209,6 +211,15 @@ void ResultWriter::beginTable(const QList<vms_sdk::DevInfo> &devices)
     writeTable(head);
 }
 
+/// @param text of the device, to which is added what it lacks
+QString ResultWriter::withLacking(const QString &text, const DeviceResult &result)
+{
+    if (result.lacking.isEmpty())
+        return text;
+    const QString lacking = tr("does not have %1").arg(result.lacking.join(QLatin1String(", ")));
+    return text.isEmpty() ? lacking : text + QLatin1String("; ") + lacking;
+}
+
 QStringList ResultWriter::tableCells(const DeviceResult &result) const
 {
     QStringList cells{result.devId, result.name, result.ip};
@@ -217,7 +228,7 @@ QStringList ResultWriter::tableCells(const DeviceResult &result) const
             !result.message.isEmpty() && result.message != orda_batchCfg::ParamsCfgTask::successText();
         const QString changes = ResultTexts::changes(result.changes, QStringLiteral(", "));
         return cells << ResultTexts::outcome(result.outcome)
-                     << (saysMore || changes.isEmpty() ? result.message : changes);
+                     << withLacking(saysMore || changes.isEmpty() ? result.message : changes, result);
     }
     if (result.outcome != Outcome::Done) // there are no values, but there is a reason
         return cells << tr("%1: %2").arg(ResultTexts::outcome(result.outcome), result.message);

@@ -41,6 +41,7 @@ private:
     void writeCsv(const QStringList &cells);
     QStringList csvCells(const DeviceResult &result) const;
     void beginTable(const QList<vms_sdk::DevInfo> &devices);
+    static QString withLacking(const QString &text, const DeviceResult &result);
     QStringList tableCells(const DeviceResult &result) const;
     void writeTable(const QStringList &cells, const char *color = "");
     QStringList summaryLines(const Summary &summary) const;

@@ -66,7 +66,7 @@ public:
 
     QString filledText(const QString &key)
     {
-        const QString read = neededText(key);
+        QString read = neededText(key);
         if (read.isEmpty())
             fail(key, tr("must not be empty"));
         return read;
@@ -74,7 +74,7 @@ public:
 
     QString uuid(const QString &key)
     {
-        const QString read = neededText(key);
+        QString read = neededText(key);
         if (QUuid::fromString(read).isNull() || QUuid::fromString(read).toString(QUuid::WithoutBraces) != read)
             fail(key, tr("must be a UUID such as 6f9c1c9e-8a4b-4f6e-9d57-0c1d2e3f4a5b"));
         return read;

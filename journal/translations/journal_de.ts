@@ -2,6 +2,65 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>orda_journal::HistoryArchive</name>
+    <message>
+        <source>must not be empty</source>
+        <translation>darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>must be a UUID such as 6f9c1c9e-8a4b-4f6e-9d57-0c1d2e3f4a5b</source>
+        <translation>muss eine UUID sein wie 6f9c1c9e-8a4b-4f6e-9d57-0c1d2e3f4a5b</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>must be a time in UTC such as 2026-02-28T13:45:00.000Z</source>
+        <translation>muss eine Zeit in UTC sein wie 2026-02-28T13:45:00.000Z</translation>
+    </message>
+    <message>
+        <source>must be a list of objects</source>
+        <translation>muss eine Liste von Objekten sein</translation>
+    </message>
+    <message>
+        <source>is not known and would be lost</source>
+        <translation>ist nicht bekannt und ginge verloren</translation>
+    </message>
+    <message>
+        <source>must be there</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>must not be there twice for one device</source>
+        <translation>darf bei einem Gerät nicht zweimal vorkommen</translation>
+    </message>
+    <message>
+        <source>must be null, for the run is no undo</source>
+        <translation>muss null sein, denn der Lauf nimmt keinen anderen zurück</translation>
+    </message>
+    <message>
+        <source>must be a time: a run that has not ended cannot be taken in</source>
+        <translation>muss eine Zeit sein: Ein Lauf, der nicht beendet ist, kann nicht aufgenommen werden</translation>
+    </message>
+    <message>
+        <source>must not be before &quot;began&quot;</source>
+        <translation>darf nicht vor „began“ liegen</translation>
+    </message>
+    <message>
+        <source>must be &quot;%1&quot;, as in a run that was written out</source>
+        <translation>muss „%1“ sein wie bei einem ausgegebenen Lauf</translation>
+    </message>
+    <message>
+        <source>must not be there twice</source>
+        <translation>darf nicht zweimal vorkommen</translation>
+    </message>
+    <message>
+        <source>The run has not ended.</source>
+        <translation>Der Lauf ist nicht beendet.</translation>
+    </message>
+</context>
+<context>
     <name>orda_journal::HistoryFile</name>
     <message>
         <source>%1: it was written by another version of this program</source>

@@ -2,6 +2,65 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>orda_journal::HistoryArchive</name>
+    <message>
+        <source>must not be empty</source>
+        <translation>不能为空</translation>
+    </message>
+    <message>
+        <source>must be a UUID such as 6f9c1c9e-8a4b-4f6e-9d57-0c1d2e3f4a5b</source>
+        <translation>必须是 UUID，例如 6f9c1c9e-8a4b-4f6e-9d57-0c1d2e3f4a5b</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>must be a time in UTC such as 2026-02-28T13:45:00.000Z</source>
+        <translation>必须是 UTC 时间，例如 2026-02-28T13:45:00.000Z</translation>
+    </message>
+    <message>
+        <source>must be a list of objects</source>
+        <translation>必须是对象列表</translation>
+    </message>
+    <message>
+        <source>is not known and would be lost</source>
+        <translation>未知，导入会丢失</translation>
+    </message>
+    <message>
+        <source>must be there</source>
+        <translation>缺少该字段</translation>
+    </message>
+    <message>
+        <source>must not be there twice for one device</source>
+        <translation>同一设备不能出现两次</translation>
+    </message>
+    <message>
+        <source>must be null, for the run is no undo</source>
+        <translation>必须为 null，因为该运行不是撤销</translation>
+    </message>
+    <message>
+        <source>must be a time: a run that has not ended cannot be taken in</source>
+        <translation>必须是时间：未结束的运行不能导入</translation>
+    </message>
+    <message>
+        <source>must not be before &quot;began&quot;</source>
+        <translation>不能早于“began”</translation>
+    </message>
+    <message>
+        <source>must be &quot;%1&quot;, as in a run that was written out</source>
+        <translation>必须是“%1”，与导出的运行一致</translation>
+    </message>
+    <message>
+        <source>must not be there twice</source>
+        <translation>不能出现两次</translation>
+    </message>
+    <message>
+        <source>The run has not ended.</source>
+        <translation>该运行尚未结束。</translation>
+    </message>
+</context>
+<context>
     <name>orda_journal::HistoryFile</name>
     <message>
         <source>%1: it was written by another version of this program</source>
