@@ -23,8 +23,8 @@ public:
     /// @param settings KEY=VALUE each
     static WantedValues fromSettings(const QStringList &settings, const KeyTable &keys);
     /// Reads a file: JSON (one object for all devices), CSV with a head line, or JSON lines. The last two have a column
-    /// or member "device", an id or a serial number; columns "serialNumber", "name", "ip", "outcome" and "message", as a
-    /// reading of this program has them, are for people and are passed over, and so are empty cells.
+    /// or member "device", an id or a serial number; columns "serialNumber", "name", "ip", "outcome" and "message", as
+    /// a reading of this program has them, are for people and are passed over, and so are empty cells.
     /// @param path of at most 64 MiB, UTF-8
     static WantedValues fromFile(const QString &path, const KeyTable &keys);
 
