@@ -166,7 +166,8 @@ void DeviceCommand::report(const DeviceResult &result)
     if (!m_unreported.remove(result.devId))
         return;
     ++m_summary.outcomes[result.outcome];
-    m_progress.clear();
+    if (m_output->isTerminal())
+        m_progress.clear();
     m_writer.add(result);
     m_progress.take(result.outcome, result.message);
 }
