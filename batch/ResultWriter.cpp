@@ -23,6 +23,8 @@ namespace {
 
 constexpr int devicesShown = 5; // of those with the same message
 constexpr int messagesShown = 20;
+constexpr int usualName = 32; // columns: a longer one pushes what follows it
+constexpr int firstValue = 3; // column of a reading's table
 constexpr int runShown = 8; // of the characters of an id
 
 constexpr std::array allOutcomes{Outcome::Done,    Outcome::Unchanged,     Outcome::Failed,     Outcome::Unknown,
@@ -91,7 +93,7 @@ void ResultWriter::add(const DeviceResult &result)
     if (m_format == Format::Csv)
         writeCsv(csvCells(result));
     else
-        writeTable(tableCells(result), colorOf(result.outcome));
+        addRow(tableCells(result), colorOf(result.outcome));
     if (result.outcome == Outcome::Done || result.outcome == Outcome::Unchanged || result.outcome == Outcome::Stopped)
         return;
     if (result.outcome == Outcome::Differs && result.message.isEmpty()) // would change, as its row tells
@@ -107,6 +109,9 @@ void ResultWriter::end(const Summary &summary)
         m_output->write(ResultTexts::jsonLine(jsonOf(summary)));
         return;
     }
+    for (const Row &row : qAsConst(m_rows))
+        writeRow(row);
+    m_rows.clear();
     const QStringList lines = summaryLines(summary);
     for (const QString &line : lines)
         m_output->writeError(vms_sdk::escaped(line).toUtf8() + '\n');
@@ -205,10 +210,26 @@ void ResultWriter::beginTable(const QList<vms_sdk::DevInfo> &devices)
         widen(1, device.name);
         widen(2, device.ip);
     }
+    m_widths[1] = std::min(m_widths.at(1), usualName);
     if (m_valueColumns.isEmpty())
         for (const Outcome outcome : allOutcomes)
             widen(3, ResultTexts::outcome(outcome));
-    writeTable(head);
+    addRow(head);
+}
+
+/// How wide columns of values are is known when there is the last of them.
+void ResultWriter::addRow(const QStringList &cells, const char *color)
+{
+    QStringList safe;
+    for (const QString &cell : cells)
+        safe.append(vms_sdk::escaped(cell));
+    if (m_valueColumns.isEmpty()) {
+        writeRow({safe, color});
+        return;
+    }
+    for (int column = firstValue; column < safe.size() && safe.size() == m_widths.size(); ++column)
+        m_widths[column] = std::max(m_widths.at(column), shownWidth(safe.at(column)));
+    m_rows.append({safe, color});
 }
 
 /// @param text of the device, to which is added what it lacks
@@ -237,17 +258,11 @@ QStringList ResultWriter::tableCells(const DeviceResult &result) const
     return cells;
 }
 
-void ResultWriter::writeTable(const QStringList &cells, const char *color)
+void ResultWriter::writeRow(const Row &row)
 {
-    QString line;
-    for (int column = 0; column < cells.size(); ++column) {
-        const QString cell = vms_sdk::escaped(cells.at(column));
-        line += cell;
-        if (column + 1 < cells.size())
-            line += QString(std::max(m_widths.at(column) - shownWidth(cell), 0) + 2, QLatin1Char(' '));
-    }
-    const bool isColored = m_hasColors && *color;
-    m_output->write(isColored ? color + line.toUtf8() + "\033[0m\n" : line.toUtf8() + '\n');
+    const QByteArray line = alignedLine(row.cells, m_widths).toUtf8();
+    const bool isColored = m_hasColors && *row.color;
+    m_output->write(isColored ? row.color + line + "\033[0m\n" : line + '\n');
 }
 
 QStringList ResultWriter::summaryLines(const Summary &summary) const

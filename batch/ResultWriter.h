@@ -34,6 +34,12 @@ private:
         QStringList devIds = {}; // the first few
     };
 
+    struct Row
+    {
+        QStringList cells;
+        const char *color; // what a terminal takes for it; empty: none
+    };
+
     static QJsonValue runOf(const QString &runId);
     QJsonObject jsonOf(const DeviceResult &result) const;
     QJsonObject jsonOf(const Summary &summary) const;
@@ -43,7 +49,8 @@ private:
     void beginTable(const QList<vms_sdk::DevInfo> &devices);
     static QString withLacking(const QString &text, const DeviceResult &result);
     QStringList tableCells(const DeviceResult &result) const;
-    void writeTable(const QStringList &cells, const char *color = "");
+    void addRow(const QStringList &cells, const char *color = "");
+    void writeRow(const Row &row);
     QStringList summaryLines(const Summary &summary) const;
     QStringList failureLines() const;
 
@@ -52,7 +59,8 @@ private:
     bool m_hasColors;
     QString m_runId;
     QStringList m_valueColumns;
-    QVector<int> m_widths; // of the table's columns but the last
+    QVector<int> m_widths; // of the table's columns
+    QVector<Row> m_rows; // of a reading's table, until its end
     QMap<QString, Failure> m_failures; // by message
 };
 

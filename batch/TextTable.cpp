@@ -5,20 +5,15 @@
 
 namespace orda_batch {
 
-namespace {
-
-QString line(const QStringList &cells, const QVector<int> &widths)
+QString alignedLine(const QStringList &cells, const QVector<int> &widths)
 {
     QString text;
-    for (int column = 0; column < cells.size(); ++column) {
-        text += cells.at(column);
-        if (column + 1 < cells.size())
-            text += QString(widths.at(column) - shownWidth(cells.at(column)) + 2, QLatin1Char(' '));
+    for (int column = 0; column + 1 < cells.size(); ++column) {
+        const int padding = std::max(widths.at(column) - shownWidth(cells.at(column)), 0) + 2;
+        text += cells.at(column) + QString(padding, QLatin1Char(' '));
     }
-    return text + QLatin1Char('\n');
+    return text + cells.value(cells.size() - 1);
 }
-
-} // namespace
 
 QString alignedTable(const QStringList &head, const QVector<QStringList> &rows)
 {
@@ -29,9 +24,9 @@ QString alignedTable(const QStringList &head, const QVector<QStringList> &rows)
     };
     widen(head);
     std::for_each(rows.begin(), rows.end(), widen);
-    QString text = line(head, widths);
+    QString text = alignedLine(head, widths) + QLatin1Char('\n');
     for (const QStringList &row : rows)
-        text += line(row, widths);
+        text += alignedLine(row, widths) + QLatin1Char('\n');
     return text;
 }
 

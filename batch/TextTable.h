@@ -9,6 +9,9 @@ namespace orda_batch {
 /// its end. Texts must not hold line breaks (vms_sdk::escaped()).
 QString alignedTable(const QStringList &head, const QVector<QStringList> &rows);
 
+/// The cells of one such line without its end; a cell that is wider than its column pushes those behind it.
+QString alignedLine(const QStringList &cells, const QVector<int> &widths);
+
 /// How many columns of a terminal a text takes: Chinese characters take two each.
 int shownWidth(const QString &text);
 

@@ -68,7 +68,7 @@ int runOnDevices(const BatchOptions &options, const orda_journal::HistoryOptions
             std::_Exit(exitCode == ExitOk ? int(ExitStopped) : exitCode); // what is not written yet, nobody reads
         isEnding = true; // the next one ends it at once
         exitCode = ExitStopped;
-        command->stop(QCoreApplication::translate("main", "stopped"));
+        command->stop(QCoreApplication::translate("main", "interrupted"));
     });
     command->start();
     QCoreApplication::exec();
