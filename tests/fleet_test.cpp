@@ -84,11 +84,11 @@ private slots:
             const bool isWeak = device.state == vms_sdk::DevOnline && info.password.size() < 8;
             const QString facts = QString::asprintf(
                 "kind %d,access %d,state %d,online %d,IP %d,weak %d,streams %d,nameless %d,long name %d,ASCII %d,"
-                "eth and speed %d,large font %d",
+                "eth and speed %d,large font %d,group %s",
                 info.kindCode, info.accessCode, device.state, device.online, hasIp, isWeak,
                 params["video"]["streams"].toArray().size(), info.name.isEmpty(), info.name.size() > 60,
                 info.name.toUtf8().size() == info.name.size(), eth.isObject() + !eth["speed"].isUndefined(),
-                !params["osd"]["bLargeOSD"].isUndefined());
+                !params["osd"]["bLargeOSD"].isUndefined(), qPrintable(info.group));
             const QStringList parts = facts.split(',');
             found += QSet<QString>(parts.begin(), parts.end());
             usable += device.online && info.accessCode == 1 && (isCamera || isRecorder) && hasIp;
@@ -97,11 +97,11 @@ private slots:
         }
         QStringList all = found.values();
         all.sort();
-        QCOMPARE(
-            all.join(", "),
-            "ASCII 0, ASCII 1, IP 0, IP 1, access 1, access 2, eth and speed 0, eth and speed 1, eth and speed 2, "
-            "kind 1, kind 3, kind 6, large font 0, large font 1, long name 0, long name 1, nameless 0, nameless 1, "
-            "online 0, online 1, state 1, state 5, state 6, streams 1, streams 2, streams 3, weak 0, weak 1");
+        QCOMPARE(all.join(", "),
+                 "ASCII 0, ASCII 1, IP 0, IP 1, access 1, access 2, eth and speed 0, eth and speed 1, eth and speed 2, "
+                 "group gate, group north, group south, kind 1, kind 3, kind 6, large font 0, large font 1, long name "
+                 "0, long name 1, nameless 0, nameless 1, "
+                 "online 0, online 1, state 1, state 5, state 6, streams 1, streams 2, streams 3, weak 0, weak 1");
         QVERIFY2(usable >= 170, qPrintable(QString::number(usable)));
         QCOMPARE(unique.size(), 600);
         QCOMPARE(makeSiteDevice(1, 3).parameters, makeSiteDevice(1, 3).parameters);
