@@ -149,9 +149,8 @@ def main():
     found = [f"recipe or check {number} is missing" for number in recipes.keys() ^ CHECKS.keys()]
     for number in recipes.keys() & CHECKS.keys():
         found += [f"{number}: {fault}" for fault in faults(CHECKS[number], recipes[number])]
-    print("\n".join(found))
-    return 1 if found else 0
+    sys.exit("\n".join(found) or 0)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()
