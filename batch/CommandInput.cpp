@@ -99,6 +99,9 @@ bool CommandInput::readValues()
         m_exitCode = orda_programs::ExitInput;
         return false;
     }
+    if (m_wanted.rowsWithoutValues() > 0)
+        m_notes.append(tr("%n row(s) of %1 give no value and are left out", nullptr, m_wanted.rowsWithoutValues())
+                           .arg(m_options.valuesFile));
     m_selection.values = m_wanted.values();
     m_selection.ownValues = m_wanted.ownValues();
     return true;

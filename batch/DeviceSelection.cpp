@@ -2,6 +2,7 @@
 
 #include "batch/DeviceIndex.h"
 #include "batch/InputFile.h"
+#include "run/DevEligibility.h"
 
 #include <vms_client_sdk/ForeignText.h>
 
@@ -21,13 +22,15 @@ namespace {
 constexpr qint64 maxFileBytes = 16 << 20;
 constexpr int maxNamed = 5; // in one message
 
-constexpr int reachedDirectly = 1;
 constexpr int kindCamera = 1;
 constexpr int kindRecorder = 6;
 
+/// A camera or recorder that is reached directly, whether it is connected or not.
 bool canBeConfigured(const vms_sdk::DevInfo &device)
 {
-    return device.accessCode == reachedDirectly && (device.kindCode == kindCamera || device.kindCode == kindRecorder);
+    using orda_batchCfg::Eligibility;
+    const Eligibility eligibility = orda_batchCfg::devEligibility(device);
+    return eligibility != Eligibility::NotReachedDirectly && eligibility != Eligibility::NotCameraNorRecorder;
 }
 
 /// "*" for any text, "?" for one character, "[a-z]" for one of these, "[!a-z]" for any other. Qt's own conversion takes

@@ -89,12 +89,18 @@ void WantedValues::take(const ValuesFile &file, const KeyTable &keys)
         wrongKeys.insert(cell.key);
     }
     for (const FileRow &row : file.rows) {
+        if (file.isCsv && row.cells.isEmpty()) { // of a device that was not reached when the file was read out
+            ++m_rowsWithoutValues;
+            continue;
+        }
         const QJsonObject values = keys.toValues(takeRow(row, keys, wrongKeys, file.isCsv));
         if (!file.isByDevice)
             m_values = values;
         else if (!row.device.isNull())
             m_rows.append({row.device, row.place, values});
     }
+    if (m_rowsWithoutValues > 0 && m_rowsWithoutValues == file.rows.size())
+        complain(file.rows.constFirst().place, tr("no row gives a value"));
     listFaults();
 }
 

@@ -39,6 +39,9 @@ public:
     /// Of all devices, as the family's tasks take them.
     const QJsonObject &values() const { return m_values; }
 
+    /// Rows of CSV that name a device and give it no value: the file does not mean these devices.
+    int rowsWithoutValues() const { return m_rowsWithoutValues; }
+
     /// All that is wrong, a printable line each, with file, line, column and what would be right: "names.csv:12:3: …",
     /// in their order. Of more than 50 the last line says how many there are. Nothing may be sent then.
     QStringList errors;
@@ -62,6 +65,7 @@ private:
     QJsonObject m_values;
     QVector<Row> m_rows;
     bool m_isByDevice = false;
+    int m_rowsWithoutValues = 0;
     QStringList m_devIds;
     QHash<QString, QJsonObject> m_ownValues;
 };

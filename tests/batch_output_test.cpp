@@ -77,7 +77,7 @@ private slots:
         writer.begin({wide}, "1a2b3c4d-5e6f", columns.split(',', Qt::SkipEmptyParts));
         for (int i = 0; i < (isSummary ? 7 : 1); ++i)
             writer.add(resultFrom(result));
-        if (isSummary)
+        if (isSummary || !columns.isEmpty())
             writer.end(summary);
         QTRY_VERIFY(!output.isBehind());
         const QByteArray bytes = (isSummary ? errors : results).read();
