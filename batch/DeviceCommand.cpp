@@ -177,7 +177,7 @@ void DeviceCommand::stop(const QString &why)
     if (m_isOver || isStopped())
         return;
     m_summary.stopped = why;
-    if (m_session && m_unreported.isEmpty() && m_input.select())
+    if (m_session && selection().devIds.isEmpty() && m_input.select())
         takeSelection(); // stopped while it connected
     if (!cancelWork())
         finish();
