@@ -140,7 +140,10 @@ void DeviceCommand::beginWork()
         return;
     }
     takeSelection();
-    work();
+    if (selection().devIds.isEmpty())
+        finish(); // a share of few devices may be empty: that is no run, and not the last one
+    else
+        work();
 }
 
 void DeviceCommand::takeSelection()
