@@ -20,13 +20,25 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <fcntl.h>
 #include <langinfo.h>
 #include <memory>
+#include <unistd.h>
 
 using namespace orda_batch;
 using namespace orda_programs;
 
 namespace {
+
+/// A descriptor that its caller has closed would become that of the next file, such as the history, to which results
+/// and messages would go then. What is opened for reading only takes none.
+void keepStandardDescriptors()
+{
+    int descriptor = 0;
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO)
+        descriptor = ::open("/dev/null", O_RDONLY); // takes the lowest free one
+    ::close(descriptor);
+}
 
 /// Programs that are started by a timer or by another machine often have no locale. Names of cameras and files are
 /// UTF-8 there all the same.
@@ -81,6 +93,7 @@ int main(int argc, char *argv[])
 {
     // GLib's dispatcher checks every socket on every wake-up, which takes seconds with thousands of devices.
     qputenv("QT_NO_GLIB", "1");
+    keepStandardDescriptors();
     const QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orda_batch"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORDA_VERSION));
