@@ -151,11 +151,6 @@ DeviceSelection DeviceSelection::parse(const QString &text, QString *error)
     return selection;
 }
 
-bool DeviceSelection::needsConnections() const
-{
-    return std::any_of(m_terms.cbegin(), m_terms.cend(), [](const Term &term) { return term.kind == Term::Offered; });
-}
-
 /// What the terms match, each in its turn.
 class DeviceSelection::Match
 {

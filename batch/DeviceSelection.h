@@ -39,8 +39,6 @@ public:
     /// @param error what is wrong with the terms, or with a file of them; empty when nothing is
     static DeviceSelection parse(const QString &text, QString *error);
 
-    /// Whether it can only be told which devices it has when those of connectTo() are connected.
-    bool needsConnections() const;
     /// The devices that may be in it: no others need to be connected.
     Selected connectTo(const QList<vms_sdk::DevInfo> &inventory, const Knowledge &knowledge) const;
     Selected of(const QList<vms_sdk::DevInfo> &inventory, const Knowledge &knowledge) const;

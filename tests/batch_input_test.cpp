@@ -81,7 +81,6 @@ private slots:
         const DeviceSelection selection = DeviceSelection::parse(terms, &error);
         const DeviceSelection::Knowledge knowledge{[](auto id) { return id == "c1" || id == "r1"; }, failedIn};
         QCOMPARE(error.isEmpty() ? text(selection.of(smallInventory(), knowledge)) : error, field("result"));
-        QCOMPARE(selection.needsConnections(), terms.contains("offered"));
         const QString atMost =
             QString(terms).remove(",not:offered").replace("not:offered", "all").replace("offered", "all");
         const DeviceSelection others = DeviceSelection::parse(atMost, &error);
