@@ -130,6 +130,10 @@ void WritingCommand::ask(const QString &error)
 
 void WritingCommand::write()
 {
+    if (options().needsAll && refusesMissing()) { // once more: the answer to a question may take long
+        finish();
+        return;
+    }
     if (options().command == Command::Undo)
         m_writing = new orda_engine::UndoJob(journal(), input().run(), selection().devIds, options().isForced,
                                              options().write, this);
