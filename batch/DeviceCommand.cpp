@@ -157,7 +157,7 @@ void DeviceCommand::takeSelection()
 void DeviceCommand::beginResults(const QString &runId, const QStringList &valueColumns)
 {
     m_hasBegunResults = true;
-    m_summary.runId = m_options.hasHistory ? runId : QString();
+    m_summary.runId = runId;
     QList<vms_sdk::DevInfo> devices;
     for (const QString &devId : selection().devIds)
         devices.append(m_input.deviceOf(devId));
@@ -180,7 +180,7 @@ void DeviceCommand::stop(const QString &why)
     if (m_isOver || isStopped())
         return;
     m_summary.stopped = why;
-    if (m_session && selection().devIds.isEmpty() && m_input.select())
+    if (m_session && m_summary.devices == 0 && m_input.select())
         takeSelection(); // stopped while it connected
     if (!cancelWork())
         finish();

@@ -158,7 +158,7 @@ QJsonObject ResultWriter::jsonOf(const Summary &summary) const
     insertText(QStringLiteral("undoes"), summary.undoes);
     insertText(QStringLiteral("stopped"), summary.stopped);
     insertText(QStringLiteral("error"), summary.error);
-    return {{QStringLiteral("run"), runOf(summary.runId.isEmpty() ? m_runId : summary.runId)},
+    return {{QStringLiteral("run"), runOf(summary.runId)},
             {QStringLiteral("summary"), object}};
 }
 

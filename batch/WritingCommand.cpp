@@ -139,7 +139,7 @@ void WritingCommand::write()
                                              options().write, this);
     else
         m_writing = new orda_engine::ApplyJob(journal(), selection(), options().write, this);
-    beginResults(m_writing->runId());
+    beginResults(options().hasHistory ? m_writing->runId() : QString());
     if (options().command == Command::Undo)
         summary().undoes = input().run().id();
     progress()->begin(options().command == Command::Undo ? tr("Taking back") : tr("Configuring"),
