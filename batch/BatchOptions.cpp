@@ -62,6 +62,8 @@ public:
     void addTo(QCommandLineParser *parser) const;
     /// Which option was given that the command does not have; empty when none was.
     QString misplaced(const QCommandLineParser &parser, Command command) const;
+    /// Which option was given twice, of which only the last would count; empty when none was.
+    QString doubled(const QCommandLineParser &parser) const;
 
 private:
     struct Placed
@@ -127,6 +129,14 @@ QString KnownOptions::misplaced(const QCommandLineParser &parser, Command comman
     return {};
 }
 
+QString KnownOptions::doubled(const QCommandLineParser &parser) const
+{
+    for (const Placed &placed : m_placed)
+        if (placed.option != &set && parser.values(*placed.option).size() > 1)
+            return placed.option->names().constFirst();
+    return {};
+}
+
 /// Reads one command line; the first mistake stays.
 class Reader
 {
@@ -145,7 +155,7 @@ private:
     void readWriting();
     void checkTogether();
     void fail(const QString &error);
-    /// @param kept how the option was given; its value when that is a whole number in the range
+    /// @param take gets the option's value where it is given and is a whole number in the range
     void readNumber(const QCommandLineOption &option, int minimum, int maximum, const std::function<void(int)> &take);
     bool isSet(const QCommandLineOption &option) const { return m_parser.isSet(option); }
 
@@ -167,6 +177,9 @@ Reader::Reader(const QStringList &arguments)
     const QString misplaced = m_known.misplaced(m_parser, options.command);
     if (!misplaced.isEmpty())
         fail(tr("--%1 has no meaning for this command").arg(misplaced));
+    const QString doubled = m_known.doubled(m_parser);
+    if (!doubled.isEmpty())
+        fail(tr("--%1 is given twice").arg(doubled));
     readDevices();
     readWriting();
     checkTogether();
