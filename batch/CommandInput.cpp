@@ -34,7 +34,9 @@ bool CommandInput::fail(const QString &error, int exitCode)
 bool CommandInput::fail(const DeviceSelection::Selected &selected)
 {
     return fail(tr("--devices: %1").arg(selected.error),
-                selected.isEmpty ? orda_programs::ExitNoDevice : orda_programs::ExitInput);
+                m_isHistoryUnreadable ? int(ExitHistory)
+                : selected.isEmpty    ? orda_programs::ExitNoDevice
+                                      : orda_programs::ExitInput);
 }
 
 bool CommandInput::read()
@@ -107,15 +109,24 @@ bool CommandInput::readValues()
     return true;
 }
 
-DeviceSelection::Knowledge CommandInput::knowledge() const
+DeviceSelection::Knowledge CommandInput::knowledge()
 {
     const auto isOffered = [](const QString &devId) { return orda_engine::reachOf(devId).canBeWritten; };
-    const auto failedIn = [this](const QString &run, QString *error) {
-        orda_journal::HistoryReader reader(m_history);
-        const auto details = RecordedRuns::find(&reader, run, error);
-        return details ? RecordedRuns::failedIn(*details) : QStringList();
-    };
-    return {isOffered, failedIn};
+    return {isOffered, [this](const QString &run, QString *error) { return failedIn(run, error); }};
+}
+
+QStringList CommandInput::failedIn(const QString &run, QString *error)
+{
+    if (m_failedIn.contains(run))
+        return m_failedIn.value(run);
+    orda_journal::HistoryReader reader(m_history);
+    const auto details = RecordedRuns::find(&reader, run, error);
+    m_isHistoryUnreadable = m_isHistoryUnreadable || !reader.error().isEmpty();
+    if (!details)
+        return {};
+    const QStringList failed = RecordedRuns::failedIn(*details);
+    m_failedIn.insert(run, failed);
+    return failed;
 }
 
 /// Whether the values, or the run, say which devices are meant, and nothing else does.

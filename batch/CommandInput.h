@@ -54,7 +54,8 @@ private:
     bool readRun();
     bool readValues();
     bool readDevices();
-    DeviceSelection::Knowledge knowledge() const;
+    DeviceSelection::Knowledge knowledge();
+    QStringList failedIn(const QString &run, QString *error);
     bool chooseCandidates();
     bool areAllNamed() const;
     QStringList narrowed(const QStringList &devIds) const;
@@ -73,6 +74,8 @@ private:
     std::optional<orda_journal::RunDetails> m_runDetails;
     std::optional<orda_engine::RecordedRun> m_run;
     orda_engine::Selection m_selection;
+    QHash<QString, QStringList> m_failedIn; // by run: "last" must not become another run while devices are connected
+    bool m_isHistoryUnreadable = false;
     int m_leftOut = 0;
     QStringList m_errors, m_notes;
     int m_exitCode = 0;
