@@ -37,7 +37,7 @@ char separatorOf(const QByteArray &content)
 QString withoutGuard(QString text)
 {
     static const QRegularExpression guard(
-        QStringLiteral("(^|[;|\\t\\r\\n])'(?=[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
+        QStringLiteral("(^|[;|\\t\\r\\n])'(?='*[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
     return text.replace(guard, QStringLiteral("\\1"));
 }
 

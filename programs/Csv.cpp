@@ -6,9 +6,10 @@ namespace orda_programs {
 
 QString csvCell(QString text)
 {
-    // No text of a device may become a formula, not even in spreadsheets that split cells at other characters.
+    // No text of a device may become a formula, not even in spreadsheets that split cells at other characters. What has
+    // an apostrophe there already gets one more, so that whoever takes one away has the text as it was.
     static const QRegularExpression formula(
-        QStringLiteral("(^|[;|\\t\\r\\n])(?=[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
+        QStringLiteral("(^|[;|\\t\\r\\n])(?='*[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
     text.replace(formula, QStringLiteral("\\1'"));
     const auto has = [&text](char character) { return text.contains(QLatin1Char(character)); };
     if (has(',') || has(';') || has('\t') || has('"') || has('\r') || has('\n'))
