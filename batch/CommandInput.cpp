@@ -125,6 +125,9 @@ QStringList CommandInput::failedIn(const QString &run, QString *error)
     if (!details)
         return {};
     const QStringList failed = RecordedRuns::failedIn(*details);
+    *error = replacedIn(*details, failed);
+    if (!error->isEmpty())
+        return {};
     m_failedIn.insert(run, failed);
     return failed;
 }
@@ -150,12 +153,30 @@ QStringList CommandInput::narrowed(const QStringList &devIds) const
     return both;
 }
 
+/// Whether a run had another device under one of these ids: it was replaced since, or the inventory is of another site
+/// that counts its devices alike. @return which, for the user; empty when none
+QString CommandInput::replacedIn(const orda_journal::RunDetails &run, const QStringList &devIds) const
+{
+    const QSet<QString> isMeant(devIds.begin(), devIds.end());
+    for (const orda_journal::DeviceRow &row : run.devices) {
+        const QString serialNumber = m_deviceById.value(row.devId).serialNumber;
+        if (isMeant.contains(row.devId) && !row.serialNumber.isEmpty() && !serialNumber.isEmpty()
+            && row.serialNumber != serialNumber)
+            return tr(R"("%1" had the serial number %2 in the run %3 and has %4 in the inventory: it is another device)")
+                .arg(row.devId, row.serialNumber, run.run.id, serialNumber);
+    }
+    return {};
+}
+
 bool CommandInput::chooseCandidates()
 {
     const DeviceSelection::Selected selected = m_terms.connectTo(m_inventory, knowledge());
     if (!areAllNamed() && !selected.error.isEmpty())
         return fail(selected);
     const QStringList ids = shareOf(narrowed(selected.devIds), m_options.shard, m_options.shards);
+    const QString replaced = m_runDetails ? replacedIn(*m_runDetails, ids) : QString();
+    if (!replaced.isEmpty())
+        return fail(replaced, orda_programs::ExitInput);
     for (const QString &devId : ids)
         if (m_deviceById.contains(devId))
             m_candidates.append(m_deviceById.value(devId));

@@ -58,6 +58,7 @@ private:
     QStringList failedIn(const QString &run, QString *error);
     bool chooseCandidates();
     bool areAllNamed() const;
+    QString replacedIn(const orda_journal::RunDetails &run, const QStringList &devIds) const;
     QStringList narrowed(const QStringList &devIds) const;
     bool fail(const QString &error, int exitCode);
     bool fail(const DeviceSelection::Selected &selected);
