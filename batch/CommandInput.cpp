@@ -1,6 +1,7 @@
 #include "batch/CommandInput.h"
 
 #include "batch/BatchExit.h"
+#include "batch/EndedBySignals.h"
 #include "batch/RecordedRuns.h"
 #include "engine/Reach.h"
 #include "fleet/EmbeddedFleet.h"
@@ -33,10 +34,9 @@ bool CommandInput::fail(const QString &error, int exitCode)
 
 bool CommandInput::fail(const DeviceSelection::Selected &selected)
 {
-    return fail(tr("--devices: %1").arg(selected.error),
-                m_isHistoryUnreadable ? int(ExitHistory)
-                : selected.isEmpty    ? orda_programs::ExitNoDevice
-                                      : orda_programs::ExitInput);
+    return fail(tr("--devices: %1").arg(selected.error), m_isHistoryUnreadable ? int(ExitHistory)
+                                                         : selected.isEmpty    ? orda_programs::ExitNoDevice
+                                                                               : orda_programs::ExitInput);
 }
 
 bool CommandInput::read()
@@ -75,6 +75,7 @@ bool CommandInput::readDevices()
         if (m_demo)
             m_inventory = m_demo->inventory();
     } else {
+        const EndedBySignals whileItReads;
         const vms_sdk::Inventory inventory = vms_sdk::readInventory(m_options.inventoryFile);
         m_notes += inventory.warnings;
         m_inventory = inventory.devices;

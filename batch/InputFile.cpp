@@ -1,5 +1,7 @@
 #include "batch/InputFile.h"
 
+#include "batch/EndedBySignals.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -19,6 +21,7 @@ class InputFile
 QString readInputFile(const QString &path, qint64 maxBytes, QByteArray *content)
 {
     constexpr qint64 pieceBytes = 1 << 20;
+    const EndedBySignals whileItReads;
     content->clear();
     if (QFileInfo(path).isDir())
         return InputFile::tr("cannot be read: it is a directory");
