@@ -2,6 +2,7 @@
 
 #include "batch/BatchExit.h"
 #include "batch/DeviceResults.h"
+#include "batch/OutputThread.h"
 #include "batch/Question.h"
 #include "engine/ApplyJob.h"
 #include "engine/Reach.h"
@@ -118,6 +119,7 @@ void WritingCommand::ask(const QString &error)
     }
     auto *question = new Question(output(), this);
     connect(question, &Question::signalAnswered, this, [this](bool isYes) {
+        m_isAsking = false;
         if (isStopped())
             return;
         if (isYes)
@@ -125,6 +127,7 @@ void WritingCommand::ask(const QString &error)
         else
             stop(tr("not confirmed"));
     });
+    m_isAsking = true;
     question->ask(WritingCommand::question());
 }
 
@@ -157,6 +160,8 @@ void WritingCommand::write()
 
 bool WritingCommand::cancelWork()
 {
+    if (m_isAsking)
+        output()->writeError("\n"); // the cursor stands behind the question
     if (m_reading)
         m_reading->cancel();
     if (m_writing)

@@ -53,6 +53,7 @@ private:
     orda_engine::WriteJob *m_writing = nullptr;
     QString m_historyFailure;
     QString m_error; // of the job
+    bool m_isAsking = false; // and has no answer yet
     bool m_isRefused = false; // for devices that are missing
     bool m_hasEnded = false; // the job
     bool m_isRecorded = false;
