@@ -1,5 +1,6 @@
 #include "fleet/EmbeddedFleet.h"
 #include "fleet/Site.h"
+#include "journal/HistoryFile.h"
 #include "support/Accounts.h"
 #include "support/FleetOf.h"
 #include "support/OrdaTest.h"
@@ -227,6 +228,35 @@ private slots:
         QVERIFY(!site.process->waitForFinished(300)); // what has left is awaited
         interrupt();
         QCOMPARE(site.end(), 6);
+    }
+
+    void reportsOnceWhenStoppedBehindTheHistory()
+    {
+        Site site;
+        site.fleet.setFault("dev-0001", "chnosd_set_param", {Fault::LateAnswer, 0, 1000ms});
+        site.start("orda_batch apply osd SITE --set channelName=Gate --devices dev-0001,dev-0002 --yes --format json");
+        QVERIFY(isReached([&] { return site.process->peek(9999).contains('\n'); }));
+        HistoryFile locked(site.history());
+        QVERIFY(locked.openToWrite(nullptr) && locked.begin());
+        QVERIFY(isReached([&] { return site.process->peek(9999).count('\n') == 2; }));
+        ::kill(pid_t(site.process->processId()), SIGINT);
+        QThread::msleep(200);
+        locked.rollBack();
+        QCOMPARE(site.end(), 6);
+        QCOMPARE(site.lines().size(), 2);
+    }
+
+    void takesNothingBackFromAnotherDevice()
+    {
+        Site site;
+        QCOMPARE(site.run("orda_batch apply osd SITE --set channelName=Gate --devices dev-0001 --yes"), 0);
+        auto inventory = site.fleet.inventory();
+        for (vms_sdk::DevInfo &device : inventory)
+            device.serialNumber += "x";
+        vms_sdk::writeInventory(site.place.filePath("other.json"), inventory);
+        QCOMPARE(site.run("orda_batch verify last --inventory other.json"), 3);
+        QCOMPARE(site.run("orda_batch undo last --inventory other.json --yes"), 3);
+        QVERIFY(site.errors.contains("it is another device"));
     }
 
     void writesNothingWithoutHistory()
