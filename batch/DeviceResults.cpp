@@ -56,6 +56,26 @@ QVector<MemberDifference> differencesFromUndo(const CfgFamily &family, const ord
     return differences;
 }
 
+/// The keys that were asked for and that no write had, as the device does not have them.
+QStringList lackingIn(const Selection &selection, const orda_journal::Settled &settled)
+{
+    const CfgFamily &family = *selection.family;
+    const QString devId = settled.row.devId;
+    const QVector<int> exchanges = family.exchangesOf(selection.flagsOf(devId));
+    QStringList lacking, written;
+    for (const int place : exchanges) {
+        const orda_batchCfg::CfgExchange &exchange = family.exchanges.at(place);
+        lacking += exchange.askedBy(selection.valuesOf(devId)).keys();
+        const QStringList sent = exchange.settings(settled.sent.value(place)).keys();
+        for (const QString &member : sent)
+            written.append(exchange.nameInValues(member));
+    }
+    lacking.removeDuplicates();
+    for (const QString &name : qAsConst(written))
+        lacking.removeAll(name);
+    return lacking;
+}
+
 } // namespace
 
 DeviceResult stoppedResult(const DevInfo &device, const QString &why)
@@ -69,6 +89,14 @@ DeviceResult notReachedResult(const DevInfo &device, const orda_engine::Reach &r
 {
     DeviceResult result = resultOf(device, Outcome::NotReached, reach.text);
     result.reason = orda_engine::reachName(reach.reason);
+    return result;
+}
+
+DeviceResult appliedResult(const DevInfo &device, const orda_journal::Settled &settled, const Selection &selection)
+{
+    DeviceResult result = writtenResult(device, settled);
+    if (result.outcome == Outcome::Done || result.outcome == Outcome::Unchanged || result.outcome == Outcome::Differs)
+        result.lacking = lackingIn(selection, settled);
     return result;
 }
 
@@ -143,7 +171,14 @@ DeviceResult verifiedResult(const DevInfo &device, const DeviceReading &reading,
     for (const MemberDifference &difference : qAsConst(differences))
         result.changes.append({difference.member, difference.found, difference.wanted});
     result.outcome = differences.isEmpty() ? Outcome::Done : Outcome::Differs;
-    result.message = differences.isEmpty() ? Texts::tr("as it should be") : orda_engine::textOf(differences);
+    if (!details)
+        result.lacking = orda_engine::planOf(*selection.family, selection.flagsOf(device.id),
+                                             selection.valuesOf(device.id), reading.held)
+                             .lacking;
+    if (!differences.isEmpty())
+        result.message = orda_engine::textOf(differences);
+    else
+        result.message = result.lacking.isEmpty() ? Texts::tr("as it should be") : QString();
     return result;
 }
 

@@ -19,6 +19,9 @@ DeviceResult stoppedResult(const vms_sdk::DevInfo &device, const QString &why);
 DeviceResult notReachedResult(const vms_sdk::DevInfo &device, const orda_engine::Reach &reach);
 /// Of a device that was written to, or should have been.
 DeviceResult writtenResult(const vms_sdk::DevInfo &device, const orda_journal::Settled &settled);
+/// The same with the keys of the values that the device lacks.
+DeviceResult appliedResult(const vms_sdk::DevInfo &device, const orda_journal::Settled &settled,
+                           const orda_engine::Selection &selection);
 
 /// Of a device that was to be read. The others add what their command makes of it.
 DeviceResult readingResult(const vms_sdk::DevInfo &device, const orda_engine::DeviceReading &reading);

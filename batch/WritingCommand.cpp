@@ -171,7 +171,9 @@ bool WritingCommand::cancelWork()
 
 void WritingCommand::takeOutcome(const orda_journal::Settled &settled)
 {
-    report(writtenResult(input().deviceOf(settled.row.devId), settled));
+    const vms_sdk::DevInfo device = input().deviceOf(settled.row.devId);
+    report(options().command == Command::Undo ? writtenResult(device, settled)
+                                              : appliedResult(device, settled, selection()));
 }
 
 void WritingCommand::endRun(const QString &error)
