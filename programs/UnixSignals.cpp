@@ -5,6 +5,7 @@
 #include <csignal>
 #include <sys/signalfd.h>
 #include <unistd.h>
+#include <utility>
 
 namespace orda_programs {
 
@@ -16,6 +17,10 @@ int makeSignalDescriptor()
     sigemptyset(&set);
     for (const int number : {SIGINT, SIGTERM, SIGUSR1})
         sigaddset(&set, number);
+    struct sigaction onHangUp = {};
+    sigaction(SIGHUP, nullptr, &onHangUp);
+    if (onHangUp.sa_handler != SIG_IGN) // as with nohup
+        sigaddset(&set, SIGHUP);
     pthread_sigmask(SIG_BLOCK, &set, nullptr);
     return signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
 }
@@ -42,7 +47,7 @@ void UnixSignals::readSignal()
     while (::read(m_descriptor, &info, sizeof info) == ssize_t(sizeof info))
         if (info.ssi_signo == SIGUSR1)
             emit dumpRequested();
-        else
+        else if (info.ssi_signo != SIGHUP || !std::exchange(m_isHungUp, true)) // the shell and the system each send one
             emit endRequested();
 }
 

@@ -8,8 +8,8 @@ QT_END_NAMESPACE
 
 namespace orda_programs {
 
-/// Turns SIGINT, SIGTERM and SIGUSR1 of this process into Qt signals, raised from the event loop. Made once, before any
-/// thread is started: the threads inherit that the signals are blocked.
+/// Turns SIGINT, SIGTERM, SIGHUP and SIGUSR1 of this process into Qt signals, raised from the event loop. Made once,
+/// before any thread is started: the threads inherit that the signals are blocked.
 class UnixSignals : public QObject
 {
     Q_OBJECT
@@ -19,13 +19,15 @@ public:
     ~UnixSignals() override;
 
 signals:
-    void endRequested(); ///< SIGINT or SIGTERM
+    /// SIGINT, SIGTERM, or the terminal has gone (SIGHUP), which is told once
+    void endRequested();
     void dumpRequested(); ///< SIGUSR1
 
 private:
     void readSignal();
 
     int m_descriptor;
+    bool m_isHungUp = false;
     QSocketNotifier *m_notifier;
 };
 
