@@ -91,7 +91,7 @@ QString DeviceSelection::add(const QString &written, const QString &place, bool 
     if (term.isExcluded && isExcluded)
         return tr(R"("%1": "not:" stands before its file already)").arg(term.shown);
     term.isExcluded = term.isExcluded || isExcluded;
-    if (term.text.startsWith(QLatin1Char('@')))
+    if (term.text.startsWith(QLatin1Char('@')) && term.text.size() > 1)
         return place.isEmpty() ? addFile(term.text.mid(1), term.isExcluded)
                                : tr(R"("%1": a file must not name another one)").arg(term.shown);
     static constexpr std::array<std::pair<const char *, Term::Kind>, 5> withText{{{"name=", Term::Name},
@@ -109,7 +109,7 @@ QString DeviceSelection::add(const QString &written, const QString &place, bool 
                 term.kind = kind;
                 break;
             }
-    if (term.text.isEmpty())
+    if (term.text.isEmpty() || term.text == QLatin1String("@"))
         return term.shown.isEmpty() ? tr("a term of a selection must not be empty")
                                     : tr(R"("%1": something must follow)").arg(term.shown);
     if (term.kind == Term::Name && !globExpression(term.text).isValid())

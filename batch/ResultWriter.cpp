@@ -158,8 +158,7 @@ QJsonObject ResultWriter::jsonOf(const Summary &summary) const
     insertText(QStringLiteral("undoes"), summary.undoes);
     insertText(QStringLiteral("stopped"), summary.stopped);
     insertText(QStringLiteral("error"), summary.error);
-    return {{QStringLiteral("run"), runOf(summary.runId)},
-            {QStringLiteral("summary"), object}};
+    return {{QStringLiteral("run"), runOf(summary.runId)}, {QStringLiteral("summary"), object}};
 }
 
 QString ResultWriter::csvText(const QString &text) const
