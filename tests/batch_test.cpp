@@ -28,7 +28,8 @@ struct Site
             qFatal("%s", qPrintable(error));
         if (!vms_sdk::writeInventory(place.filePath("site.json"), fleet.inventory()).isEmpty())
             qFatal("no inventory");
-        for (const vms_sdk::DevInfo &device : fleet.inventory())
+        const QList<vms_sdk::DevInfo> all = fleet.inventory();
+        for (const vms_sdk::DevInfo &device : all)
             (device.accessCode == 1 && QList{1, 6}.contains(device.kindCode) ? meant : others).append(device.id);
     }
 
@@ -183,7 +184,8 @@ private slots:
         names.open(QIODevice::WriteOnly);
         names.write("\xEF\xBB\xBF"
                     "device;name;channelName;bShowOSD\r\n");
-        for (const vms_sdk::DevInfo &device : site.fleet.inventory())
+        const QList<vms_sdk::DevInfo> all = site.fleet.inventory();
+        for (const vms_sdk::DevInfo &device : all)
             if (site.meant.contains(device.id))
                 names.write(QString("%1;x;\"Tür; %2\";\r\n").arg(device.serialNumber, device.id).toUtf8());
         names.close();
