@@ -60,7 +60,7 @@ def faults(file):
 
 def main():
     found = []
-    for part in ("batchCfg", "clientlibs", "journal", "engine", "client"):
+    for part in ("batchCfg", "clientlibs", "journal", "engine", "batch", "client"):
         files = catalogues(part)
         if "--update" in sys.argv:
             update(part, files)
