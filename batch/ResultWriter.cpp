@@ -306,7 +306,7 @@ QStringList ResultWriter::failureLines() const
     QStringList lines;
     for (const QString &message : qAsConst(messages)) {
         if (lines.size() == messagesShown) {
-            lines.append(tr("  and %1 other messages").arg(messages.size() - messagesShown));
+            lines.append(tr("  and %n other message(s)", nullptr, messages.size() - messagesShown));
             break;
         }
         const Failure failure = m_failures.value(message);
