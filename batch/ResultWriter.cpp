@@ -274,7 +274,7 @@ QStringList ResultWriter::summaryLines(const Summary &summary) const
     for (const Outcome outcome : allOutcomes) {
         const int count = summary.outcomes.value(outcome);
         if (count > 0)
-            counts.append(QStringLiteral("%1 %2").arg(QString::number(count), ResultTexts::outcome(outcome)));
+            counts.append(ResultTexts::counted(count, outcome));
         if (outcome == Outcome::Done || outcome == Outcome::Unknown || outcome == Outcome::PartlyWritten
             || outcome == Outcome::Differs)
             written += count;

@@ -798,6 +798,11 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
         <source>differs</source>
         <translation>abweichend</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number of devices and their outcome, as in &quot;3 failed&quot;</comment>
+        <translation>%1 %2</translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::ResultWriter</name>
@@ -908,6 +913,10 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
             <numerusform>und %n weiterer Fehler</numerusform>
             <numerusform>und %n weitere Fehler</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2): %3</source>
+        <translation>„%1“ (%2): %3</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,11 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
         <source>differs</source>
         <translation>有差异</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a number of devices and their outcome, as in &quot;3 failed&quot;</comment>
+        <translation>%2 %1</translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::ResultWriter</name>
@@ -899,6 +904,10 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
         <translation>
             <numerusform>另有 %n 处错误</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2): %3</source>
+        <translation>“%1”（%2）：%3</translation>
     </message>
 </context>
 <context>
