@@ -257,7 +257,7 @@ private slots:
         };
         QVERIFY(said("--language de").contains("nicht erreicht"));
         QVERIFY(said("--language zh_CN").contains("未"));
-        QVERIFY(said("--format json").contains("\"message\":\"off line"));
+        QVERIFY(said("--language de --format json").contains("\"message\":\"off line"));
     }
 
     void asksOnTheTerminal_data()
