@@ -184,6 +184,8 @@ void DeviceCommand::stop(const QString &why)
         takeSelection(); // stopped while it connected
     if (!cancelWork())
         finish();
+    else if (!m_isOver)
+        note(tr("nothing more is sent; what has left is awaited (once more ends at once)"));
 }
 
 void DeviceCommand::finish(const QString &error)

@@ -30,11 +30,12 @@ QString lineOf(const QJsonObject &object)
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n');
 }
 
-QString tableOf(Format format, const QStringList &head, const QVector<QStringList> &rows)
+/// @param names of the columns in CSV: those of JSON, in every language, because programs look for them
+QString tableOf(Format format, const QStringList &head, const QStringList &names, const QVector<QStringList> &rows)
 {
     if (format == Format::Table)
         return alignedTable(head, rows);
-    QString text = QChar(QChar::ByteOrderMark) + orda_programs::csvLine(head);
+    QString text = QChar(QChar::ByteOrderMark) + orda_programs::csvLine(names);
     for (const QStringList &row : rows)
         text += orda_programs::csvLine(row);
     return text;
@@ -56,7 +57,8 @@ QString listOfFamilies(Format format)
     }
     if (format == Format::Json)
         return json;
-    return tableOf(format, {Texts::tr("Family"), Texts::tr("Title"), Texts::tr("Keys")}, rows);
+    return tableOf(format, {Texts::tr("Family"), Texts::tr("Title"), Texts::tr("Keys")},
+                   {QStringLiteral("family"), QStringLiteral("title"), QStringLiteral("keys")}, rows);
 }
 
 /// "h264 (H264)": the values with the texts that the form has for them.
@@ -123,7 +125,9 @@ QString listOfKeys(const CfgFamily &family, Format format)
     }
     if (format == Format::Json)
         return json;
-    return tableOf(format, {Texts::tr("Key"), Texts::tr("Type"), Texts::tr("Values"), Texts::tr("Only with")}, rows);
+    return tableOf(format, {Texts::tr("Key"), Texts::tr("Type"), Texts::tr("Values"), Texts::tr("Only with")},
+                   {QStringLiteral("key"), QStringLiteral("type"), QStringLiteral("values"), QStringLiteral("needs")},
+                   rows);
 }
 
 } // namespace

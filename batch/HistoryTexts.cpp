@@ -142,6 +142,12 @@ QByteArray csvLines(const RunDetails &details)
     return lines.toUtf8();
 }
 
+/// "3 failed" in every language.
+QString countedName(int count, Outcome outcome)
+{
+    return QStringLiteral("%1 %2").arg(QString::number(count), outcomeName(outcome));
+}
+
 QByteArray csvList(const QVector<RunRow> &runs)
 {
     QString lines =
@@ -149,7 +155,7 @@ QByteArray csvList(const QVector<RunRow> &runs)
                  QStringLiteral("devices"), QStringLiteral("outcomes"), QStringLiteral("program")});
     for (const RunRow &run : runs)
         lines += csvLine({run.id, localTime(run.began), run.kind, run.family, QString::number(run.devices),
-                          HistoryTexts::outcomes(run, outcomeName), run.program});
+                          HistoryTexts::outcomes(run, countedName), run.program});
     return lines.toUtf8();
 }
 
@@ -165,7 +171,7 @@ QByteArray HistoryTexts::list(const QVector<RunRow> &runs, Format format)
         if (format == Format::Json)
             lines += ResultTexts::jsonLine(toJson(run));
         rows.append({run.id.left(shortId), localTime(run.began), run.kind, run.family, QString::number(run.devices),
-                     outcomes(run, ResultTexts::outcome), run.program});
+                     outcomes(run, ResultTexts::counted), run.program});
     }
     return format == Format::Json
              ? lines
@@ -188,7 +194,7 @@ QByteArray HistoryTexts::run(const RunDetails &details, Format format)
         about.append({tr("Ended"), localTime(run.ended)});
     about += {{tr("Program"), run.program},
               {tr("Values"), QString::fromUtf8(QJsonDocument(run.values).toJson(QJsonDocument::Compact))},
-              {tr("Outcomes"), outcomes(run, ResultTexts::outcome)}};
+              {tr("Outcomes"), outcomes(run, ResultTexts::counted)}};
     const Changes changes = changesOf(details);
     QVector<QStringList> rows;
     for (const DeviceRow &device : details.devices)
@@ -199,13 +205,13 @@ QByteArray HistoryTexts::run(const RunDetails &details, Format format)
          + tableOf({tr("Device"), tr("Name"), tr("IP address"), tr("Outcome"), tr("Message"), tr("Changes")}, rows);
 }
 
-QString HistoryTexts::outcomes(const RunRow &run, QString (*textOf)(Outcome))
+QString HistoryTexts::outcomes(const RunRow &run, QString (*counted)(int, Outcome))
 {
     if (run.ended == 0)
         return run.isUnderWay ? tr("under way") : tr("ended with its program");
     QStringList counts;
     for (auto count = run.counts.cbegin(); count != run.counts.cend(); ++count)
-        counts.append(QStringLiteral("%1 %2").arg(QString::number(count.value()), textOf(count.key())));
+        counts.append(counted(count.value(), count.key()));
     return counts.join(QLatin1String(", "));
 }
 

@@ -19,7 +19,7 @@ public:
     static QByteArray run(const orda_journal::RunDetails &details, Format format);
 
     /// How many devices had which outcome, or why that is not known.
-    static QString outcomes(const orda_journal::RunRow &run, QString (*textOf)(orda_journal::Outcome));
+    static QString outcomes(const orda_journal::RunRow &run, QString (*counted)(int, orda_journal::Outcome));
 };
 
 } // namespace orda_batch

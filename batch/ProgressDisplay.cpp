@@ -193,7 +193,7 @@ QStringList ProgressDisplay::failureLines(int count) const
         lines.append(
             QStringLiteral("  %1 × %2").arg(QString::number(m_failures.value(message)), vms_sdk::escaped(message)));
     if (hasMore && count > 0)
-        lines.append(tr("  and %1 other messages").arg(m_failures.size() - shown));
+        lines.append(tr("  and %n other message(s)", nullptr, m_failures.size() - shown));
     return lines;
 }
 

@@ -43,6 +43,12 @@ QString ResultTexts::outcome(Outcome outcome)
     return {};
 }
 
+QString ResultTexts::counted(int count, Outcome outcome)
+{
+    return tr("%1 %2", "a number of devices and their outcome, as in \"3 failed\"")
+        .arg(QString::number(count), ResultTexts::outcome(outcome));
+}
+
 QString ResultTexts::changes(const QVector<Change> &changes, const QString &separator)
 {
     QStringList parts;

@@ -13,6 +13,8 @@ class ResultTexts
 
 public:
     static QString outcome(orda_journal::Outcome outcome);
+    /// "3 failed", in the order that the language has.
+    static QString counted(int count, orda_journal::Outcome outcome);
     /// 'channelName: "a" -> "b"' of each.
     static QString changes(const QVector<Change> &changes, const QString &separator);
     /// Objects with "key", "before" and "after"; null stands for what a device does not have.

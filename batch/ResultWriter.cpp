@@ -273,7 +273,7 @@ QStringList ResultWriter::summaryLines(const Summary &summary) const
     for (const Outcome outcome : allOutcomes) {
         const int count = summary.outcomes.value(outcome);
         if (count > 0)
-            counts.append(QStringLiteral("%1 %2").arg(QString::number(count), ResultTexts::outcome(outcome)));
+            counts.append(ResultTexts::counted(count, outcome));
         if (outcome == Outcome::Done || outcome == Outcome::Unknown || outcome == Outcome::PartlyWritten
             || outcome == Outcome::Differs)
             written += count;
@@ -305,7 +305,7 @@ QStringList ResultWriter::failureLines() const
     QStringList lines;
     for (const QString &message : qAsConst(messages)) {
         if (lines.size() == messagesShown) {
-            lines.append(tr("  and %1 other messages").arg(messages.size() - messagesShown));
+            lines.append(tr("  and %n other message(s)", nullptr, messages.size() - messagesShown));
             break;
         }
         const Failure failure = m_failures.value(message);

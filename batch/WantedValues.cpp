@@ -119,7 +119,7 @@ QJsonObject WantedValues::takeRow(const FileRow &row, const KeyTable &keys, cons
         else
             fault = keys.faultOf(cell.key, cell.value);
         if (!fault.isEmpty())
-            complain(cell.place, QStringLiteral("\"%1\" (%2): %3").arg(cell.key, shortText(cell.value), fault));
+            complain(cell.place, tr(R"("%1" (%2): %3)").arg(cell.key, shortText(cell.value), fault));
         byName.insert(cell.key, fault.isEmpty() ? value : QJsonValue());
     }
     const QString together = keys.faultTogether(byName);

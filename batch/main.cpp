@@ -106,7 +106,8 @@ int main(int argc, char *argv[])
     const QString language = optionValue(arguments, QStringLiteral("language"));
     const bool isForPrograms = optionValue(arguments, QStringLiteral("format")) == QLatin1String("json");
     Translations translations; // first: mistakes of the command line are told in this language too
-    if (!translations.install(isForPrograms && language.isEmpty() ? QStringLiteral("en") : language)) {
+    const bool isKnown = language.isEmpty() || Translations::languages().contains(language);
+    if (!translations.install(isForPrograms ? QStringLiteral("en") : language) || !isKnown) {
         return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
                         .arg(Translations::languages().join(QStringLiteral(", ")), language),
                     ExitUsage);

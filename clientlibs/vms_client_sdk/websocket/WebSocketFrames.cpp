@@ -21,7 +21,9 @@ struct WebSocketFrames::Callbacks
     static ssize_t receive(uint8_t *buffer, size_t length, int, void *self)
     {
         auto *frames = static_cast<WebSocketFrames *>(self);
-        const qint64 bytes = frames->m_device.read(reinterpret_cast<char *>(buffer), qint64(length));
+        QIODevice &device = frames->m_device;
+        // An answer to a peer that has gone closes it.
+        const qint64 bytes = device.isOpen() ? device.read(reinterpret_cast<char *>(buffer), qint64(length)) : -1;
         if (bytes <= 0)
             return -1; // nothing yet
         frames->m_bytesRead += quint64(bytes);
