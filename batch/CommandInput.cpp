@@ -163,7 +163,8 @@ QString CommandInput::replacedIn(const orda_journal::RunDetails &run, const QStr
         const QString serialNumber = m_deviceById.value(row.devId).serialNumber;
         if (isMeant.contains(row.devId) && !row.serialNumber.isEmpty() && !serialNumber.isEmpty()
             && row.serialNumber != serialNumber)
-            return tr(R"("%1" had the serial number %2 in the run %3 and has %4 in the inventory: it is another device)")
+            return tr(R"("%1" had the serial number %2 in the run %3 and has %4 in the inventory: it is another device, )"
+                      "which not:%1 leaves out")
                 .arg(row.devId, row.serialNumber, run.run.id, serialNumber);
     }
     return {};

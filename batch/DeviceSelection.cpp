@@ -290,9 +290,7 @@ DeviceSelection::Selected DeviceSelection::Match::selected() const
 {
     Selected selected;
     if (!m_errors.isEmpty()) {
-        const int more = m_errors.size() - maxNamed;
-        const QString errors = QStringList(m_errors.mid(0, maxNamed)).join(QStringLiteral("; "));
-        selected.error = vms_sdk::escaped(more > 0 ? tr("%1; and %n more", nullptr, more).arg(errors) : errors);
+        selected.error = vms_sdk::escaped(m_errors.join(QStringLiteral("; ")));
         selected.isEmpty = m_isEmpty;
         return selected;
     }

@@ -61,7 +61,9 @@ void ReadingCommand::end(const QString &error)
         }
         QStringList columns(members.begin(), members.end());
         columns.sort();
-        beginResults({}, options().isUnchecked ? columns : input().keys().membersWithKey(columns));
+        if (!options().isUnchecked)
+            columns = input().keys().membersWithKey(columns);
+        beginResults({}, columns.isEmpty() ? input().keys().names() : columns); // none when no device was read
         for (const QString &devId : selection().devIds)
             if (m_kept.contains(devId))
                 report(m_kept.value(devId));

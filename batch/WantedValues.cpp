@@ -17,7 +17,6 @@ namespace orda_batch {
 namespace {
 
 constexpr qint64 maxFileBytes = 64 << 20; // 10,000 devices with a hundred values each have a tenth of it
-constexpr int maxListed = 50;
 
 /// For messages, which need not have all of it.
 QString shortText(const QJsonValue &value)
@@ -169,13 +168,8 @@ void WantedValues::listFaults()
         return std::tie(a.place.line, a.place.column) < std::tie(b.place.line, b.place.column);
     });
     errors.clear();
-    const int listed = qMin(m_faults.size(), maxListed);
-    for (int i = 0; i < listed; ++i) {
-        const FileFault &fault = m_faults.at(i);
+    for (const FileFault &fault : qAsConst(m_faults))
         errors.append(vms_sdk::escaped(QStringLiteral("%1: %2").arg(at(fault.place), fault.what)));
-    }
-    if (m_faults.size() > listed)
-        errors.append(tr("and %n more", nullptr, m_faults.size() - listed));
 }
 
 } // namespace orda_batch

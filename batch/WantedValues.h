@@ -43,7 +43,7 @@ public:
     int rowsWithoutValues() const { return m_rowsWithoutValues; }
 
     /// All that is wrong, a printable line each, with file, line, column and what would be right: "names.csv:12:3: …",
-    /// in their order. Of more than 50 the last line says how many there are. Nothing may be sent then.
+    /// in their order. Nothing may be sent then.
     QStringList errors;
 
 private:

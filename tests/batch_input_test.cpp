@@ -130,7 +130,7 @@ private slots:
         QCOMPARE(error("."), ".: cannot be read: it is a directory");
         QCOMPARE(error("no\nfile"), "no\\u000afile: cannot be read: No such file or directory");
         write("device,bShowOSD\n" + QString("c1,7\n").repeated(60));
-        QCOMPARE(error("FILE").section(" ;; ", 49), "FILE:27:1: \"c1\" is named already at FILE:2:1 ;; and 69 more");
+        QCOMPARE(error("FILE").split(" ;; ").size(), 60 + 59); // all values, and the device again and again
     }
 
     void whatThisProgramWritesComesBack()

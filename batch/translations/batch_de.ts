@@ -230,6 +230,10 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
         <source>Stops when more than P per cent of a wave&apos;s devices fail.</source>
         <translation>Stoppt, wenn mehr als P Prozent der Geräte einer Welle fehlschlagen.</translation>
     </message>
+    <message>
+        <source>--%1 is given twice</source>
+        <translation>--%1 ist zweimal angegeben</translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::CommandInput</name>
@@ -268,6 +272,10 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
     <message>
         <source>no device is selected</source>
         <translation>kein Gerät ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; had the serial number %2 in the run %3 and has %4 in the inventory: it is another device, which not:%1 leaves out</source>
+        <translation>„%1“ hatte im Lauf %3 die Seriennummer %2 und hat im Bestand %4: Das ist ein anderes Gerät; not:%1 lässt es aus</translation>
     </message>
 </context>
 <context>
@@ -391,13 +399,6 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
     <message>
         <source>&quot;%1&quot; matches no device</source>
         <translation>„%1“ trifft auf kein Gerät zu</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1; and %n more</source>
-        <translation>
-            <numerusform>%1; und %n weiterer Fehler</numerusform>
-            <numerusform>%1; und %n weitere Fehler</numerusform>
-        </translation>
     </message>
     <message>
         <source>the selection has no camera or recorder that is reached directly</source>
@@ -906,13 +907,6 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
     <message>
         <source>&quot;%1&quot; is named already at %2</source>
         <translation>„%1“ ist schon bei %2 genannt</translation>
-    </message>
-    <message numerus="yes">
-        <source>and %n more</source>
-        <translation>
-            <numerusform>und %n weiterer Fehler</numerusform>
-            <numerusform>und %n weitere Fehler</numerusform>
-        </translation>
     </message>
     <message>
         <source>&quot;%1&quot; (%2): %3</source>

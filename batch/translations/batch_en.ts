@@ -41,13 +41,6 @@
             <numerusform>%1 and %n more</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1; and %n more</source>
-        <translation>
-            <numerusform>%1; and %n more</numerusform>
-            <numerusform>%1; and %n more</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>orda_batch::ProgressDisplay</name>
@@ -66,16 +59,6 @@
         <translation>
             <numerusform>  and %n other message</numerusform>
             <numerusform>  and %n other messages</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>orda_batch::WantedValues</name>
-    <message numerus="yes">
-        <source>and %n more</source>
-        <translation>
-            <numerusform>and %n more</numerusform>
-            <numerusform>and %n more</numerusform>
         </translation>
     </message>
 </context>

@@ -230,6 +230,10 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
         <source>Stops when more than P per cent of a wave&apos;s devices fail.</source>
         <translation>一批中超过百分之 P 的设备失败时停止。</translation>
     </message>
+    <message>
+        <source>--%1 is given twice</source>
+        <translation>--%1 给出了两次</translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::CommandInput</name>
@@ -264,6 +268,10 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
     <message>
         <source>no device is selected</source>
         <translation>未选择任何设备</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; had the serial number %2 in the run %3 and has %4 in the inventory: it is another device, which not:%1 leaves out</source>
+        <translation>“%1”在运行 %3 中的序列号是 %2，而清单中是 %4：这是另一台设备，可用 not:%1 排除</translation>
     </message>
 </context>
 <context>
@@ -386,12 +394,6 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
     <message>
         <source>&quot;%1&quot; matches no device</source>
         <translation>“%1”与任何设备都不匹配</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1; and %n more</source>
-        <translation>
-            <numerusform>%1；另有 %n 处错误</numerusform>
-        </translation>
     </message>
     <message>
         <source>the selection has no camera or recorder that is reached directly</source>
@@ -898,12 +900,6 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
     <message>
         <source>&quot;%1&quot; is named already at %2</source>
         <translation>“%1”已在 %2 处出现</translation>
-    </message>
-    <message numerus="yes">
-        <source>and %n more</source>
-        <translation>
-            <numerusform>另有 %n 处错误</numerusform>
-        </translation>
     </message>
     <message>
         <source>&quot;%1&quot; (%2): %3</source>
