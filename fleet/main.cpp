@@ -1,9 +1,9 @@
 #include "fleet/DeviceFleet.h"
 #include "fleet/FaultPlan.h"
 #include "fleet/ProgramOptions.h"
-#include "programs/UnixSignals.h"
 #include "programs/Complaint.h"
 #include "programs/ExitCode.h"
+#include "programs/UnixSignals.h"
 
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>

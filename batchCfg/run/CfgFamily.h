@@ -46,8 +46,8 @@ struct CfgKey
     /// @param initial index of the choice that the editor shows at first
     static CfgKey choice(const char *name, const QVector<CfgChoice> &choices, int flag = 0, int initial = 0);
 
-    /// What else must be given where this key is. For programs whose users name keys one by one: an editor of a page may
-    /// set several keys at once.
+    /// What else must be given where this key is. For programs whose users name keys one by one: an editor of a page
+    /// may set several keys at once.
     CfgKey needing(const QStringList &others) &&;
 
     QString name;
