@@ -125,7 +125,7 @@ QStringList CommandInput::failedIn(const QString &run, QString *error)
     m_isHistoryUnreadable = m_isHistoryUnreadable || !reader.error().isEmpty();
     if (!details)
         return {};
-    const QStringList failed = RecordedRuns::failedIn(*details);
+    QStringList failed = RecordedRuns::failedIn(*details);
     *error = replacedIn(*details, failed);
     if (!error->isEmpty())
         return {};
@@ -144,7 +144,7 @@ QStringList CommandInput::narrowed(const QStringList &devIds) const
 {
     if (!m_wanted.isByDevice() && !m_run)
         return devIds;
-    const QStringList named = m_run ? m_run->written().devIds : m_wanted.devIds();
+    QStringList named = m_run ? m_run->written().devIds : m_wanted.devIds();
     if (areAllNamed())
         return named;
     const QSet<QString> isNamed(named.begin(), named.end());

@@ -1,6 +1,7 @@
 #include "batch/FamiliesCommand.h"
 
 #include "batch/KeyTable.h"
+#include "batch/ResultTexts.h"
 #include "batch/StandardOutput.h"
 #include "batch/TextTable.h"
 #include "programs/Csv.h"
@@ -8,7 +9,6 @@
 #include <families/Families.h>
 
 #include <QJsonArray>
-#include <QJsonDocument>
 
 namespace orda_batch {
 
@@ -25,17 +25,12 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(orda_batch::FamiliesCommand)
 };
 
-QString lineOf(const QJsonObject &object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n');
-}
-
 /// @param names of the columns in CSV: those of JSON, in every language, because programs look for them
 QString tableOf(Format format, const QStringList &head, const QStringList &names, const QVector<QStringList> &rows)
 {
     if (format == Format::Table)
         return alignedTable(head, rows);
-    QString text = QChar(QChar::ByteOrderMark) + orda_programs::csvLine(names);
+    QString text = orda_programs::csvLine(names);
     for (const QStringList &row : rows)
         text += orda_programs::csvLine(row);
     return text;
@@ -43,20 +38,20 @@ QString tableOf(Format format, const QStringList &head, const QStringList &names
 
 QString listOfFamilies(Format format)
 {
-    QString json;
+    QByteArray json;
     QVector<QStringList> rows;
     for (const FamilyEntry &entry : Families::all()) {
         const CfgFamily &family = entry.family;
         // What the form does not offer has no title in it.
         const QString english = QString::fromUtf8(entry.title ? entry.title : family.title);
         const QString title = entry.title ? Families::tr(entry.title) : family.translated(family.title);
-        json += lineOf({{QStringLiteral("family"), family.name},
-                        {QStringLiteral("title"), english},
-                        {QStringLiteral("keys"), family.keys.size()}});
+        json += ResultTexts::jsonLine({{QStringLiteral("family"), family.name},
+                                       {QStringLiteral("title"), english},
+                                       {QStringLiteral("keys"), family.keys.size()}});
         rows.append({family.name, title, QString::number(family.keys.size())});
     }
     if (format == Format::Json)
-        return json;
+        return QString::fromUtf8(json);
     return tableOf(format, {Texts::tr("Family"), Texts::tr("Title"), Texts::tr("Keys")},
                    {QStringLiteral("family"), QStringLiteral("title"), QStringLiteral("keys")}, rows);
 }
@@ -114,17 +109,17 @@ QString listOfKeys(const CfgFamily &family, Format format)
 {
     const KeyTable table(family, false);
     const QStringList names = table.names();
-    QString json;
+    QByteArray json;
     QVector<QStringList> rows;
     for (int i = 0; i < names.size(); ++i) {
         const QString &name = names.at(i);
         const CfgKey &key = family.keys.at(i);
-        json += lineOf(toJson(table, name, key));
+        json += ResultTexts::jsonLine(toJson(table, name, key));
         rows.append({name, table.typeOf(name), rangeWithTexts(table, name, key),
                      neededWith(name, key).join(QStringLiteral(", "))});
     }
     if (format == Format::Json)
-        return json;
+        return QString::fromUtf8(json);
     return tableOf(format, {Texts::tr("Key"), Texts::tr("Type"), Texts::tr("Values"), Texts::tr("Only with")},
                    {QStringLiteral("key"), QStringLiteral("type"), QStringLiteral("values"), QStringLiteral("needs")},
                    rows);

@@ -1,5 +1,6 @@
 #include "batch/KeyTable.h"
 
+#include "engine/ChangeTexts.h"
 #include "run/CfgFamily.h"
 #include "video/VideoParamsCfgTask.h"
 
@@ -29,17 +30,6 @@ const CfgExchange &exchangeWithList(const CfgFamily &family)
     const auto found = std::find_if(family.exchanges.cbegin(), family.exchanges.cend(),
                                     [](const CfgExchange &exchange) { return !exchange.listMember.isEmpty(); });
     return found == family.exchanges.cend() ? family.exchanges.constFirst() : *found;
-}
-
-QString asJson(const QJsonValue &value)
-{
-    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).mid(1).chopped(1));
-}
-
-/// As it is written without quotes.
-QString plainText(const QJsonValue &value)
-{
-    return value.isString() ? value.toString() : asJson(value);
 }
 
 QJsonValue jsonOrText(const QString &text)
@@ -83,7 +73,7 @@ QJsonValue typedValue(const CfgKey &key, const QString &text)
     const auto sensitivity = key.type == CfgKey::Switch ? Qt::CaseInsensitive : Qt::CaseSensitive;
     const QJsonArray choices = choicesOfKey(key);
     for (const QJsonValue &choice : choices)
-        if (word.compare(plainText(choice), sensitivity) == 0)
+        if (word.compare(orda_engine::plainTextOf(choice), sensitivity) == 0)
             return choice;
     return {};
 }
@@ -138,7 +128,7 @@ QString KeyTable::rangeOf(const QString &name) const
     QStringList choices;
     const QJsonArray values = choicesOfKey(*key);
     for (const QJsonValue &value : values)
-        choices.append(plainText(value));
+        choices.append(orda_engine::plainTextOf(value));
     return choices.join(QStringLiteral(", "));
 }
 
@@ -253,7 +243,7 @@ QString KeyTable::faultOfValue(const CfgKey &key, const QJsonValue &value)
     QStringList texts;
     const QJsonArray choices = choicesOfKey(key);
     for (const QJsonValue &choice : choices)
-        texts.append(asJson(choice));
+        texts.append(orda_engine::textOf(choice));
     return choices.contains(value) ? QString() : tr("must be one of %1").arg(texts.join(QStringLiteral(", ")));
 }
 

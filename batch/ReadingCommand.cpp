@@ -6,7 +6,6 @@
 namespace orda_batch {
 
 using orda_engine::ReadJob;
-using orda_journal::Outcome;
 
 ReadingCommand::ReadingCommand(const BatchOptions &options, const orda_journal::HistoryOptions &history,
                                OutputThread *output)

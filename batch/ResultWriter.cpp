@@ -30,12 +30,6 @@ constexpr int runShown = 8; // of the characters of an id
 constexpr std::array allOutcomes{Outcome::Done,    Outcome::Unchanged,     Outcome::Failed,     Outcome::Unknown,
                                  Outcome::Stopped, Outcome::PartlyWritten, Outcome::NotReached, Outcome::Differs};
 
-/// Texts as they are, without the quotation marks of JSON.
-QString plain(const QJsonValue &value)
-{
-    return value.isString() ? value.toString() : orda_engine::textOf(value);
-}
-
 const char *colorOf(Outcome outcome)
 {
     switch (outcome) {
@@ -186,7 +180,7 @@ QStringList ResultWriter::csvCells(const DeviceResult &result) const
         else if (value.isDouble())
             cells.append(orda_engine::textOf(value)); // a negative number is no formula
         else
-            cells.append(csvText(plain(value)));
+            cells.append(csvText(orda_engine::plainTextOf(value)));
     }
     return cells;
 }
@@ -253,7 +247,7 @@ QStringList ResultWriter::tableCells(const DeviceResult &result) const
     if (result.outcome != Outcome::Done) // there are no values, but there is a reason
         return cells << tr("%1: %2").arg(ResultTexts::outcome(result.outcome), result.message);
     for (const QString &column : m_valueColumns)
-        cells.append(plain(result.values.value(column)));
+        cells.append(orda_engine::plainTextOf(result.values.value(column)));
     return cells;
 }
 

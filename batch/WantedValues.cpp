@@ -3,11 +3,9 @@
 #include "batch/DeviceIndex.h"
 #include "batch/InputFile.h"
 #include "batch/KeyTable.h"
+#include "engine/ChangeTexts.h"
 
 #include <vms_client_sdk/ForeignText.h>
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <tuple>
@@ -22,10 +20,7 @@ constexpr qint64 maxFileBytes = 64 << 20; // 10,000 devices with a hundred value
 QString shortText(const QJsonValue &value)
 {
     constexpr int maxShown = 40;
-    const QString text =
-        value.isString()
-            ? value.toString()
-            : QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).mid(1).chopped(1));
+    const QString text = orda_engine::plainTextOf(value);
     return text.size() > maxShown ? text.left(maxShown) + QChar(0x2026) : text;
 }
 

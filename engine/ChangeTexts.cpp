@@ -28,6 +28,11 @@ QString textOf(const QJsonValue &value)
     return QString::fromUtf8(list.mid(1, list.size() - 2)); // without its brackets
 }
 
+QString plainTextOf(const QJsonValue &value)
+{
+    return value.isString() ? value.toString() : textOf(value);
+}
+
 QString textOf(const QVector<MemberDifference> &differences)
 {
     QStringList parts;

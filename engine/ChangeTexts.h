@@ -9,6 +9,8 @@ namespace orda_engine {
 
 /// A value as one writes it in JSON; "-" for an undefined one.
 QString textOf(const QJsonValue &value);
+/// The same, but a text without the quotation marks of JSON.
+QString plainTextOf(const QJsonValue &value);
 /// "position: hide instead of left_top, …"; empty when there are none.
 QString textOf(const QVector<MemberDifference> &differences);
 /// What an undo leaves as it is, and why; empty when it leaves nothing.
