@@ -2,6 +2,7 @@
 #include "support/FormFixture.h"
 #include "support/OrdaTest.h"
 
+#include <QtWidgets>
 #include <onvif/OnvifParamsCfgPage.h>
 #include <orda_base/SearchBox.h>
 #include <orda_base/Theme.h>

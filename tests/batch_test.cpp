@@ -135,7 +135,7 @@ private slots:
         QVERIFY2((site.output + site.errors).contains(said.toUtf8()), site.output + site.errors);
     }
 
-    void everyDeviceOnce_data() { seeds(10); }
+    void everyDeviceOnce_data() { seeds(8); }
 
     // Whatever goes wrong, and whenever it is stopped.
     void everyDeviceOnce()

@@ -5,6 +5,7 @@
 #include "client/FailedDevices.h"
 #include "journal/HistoryOptions.h"
 
+#include <QtWidgets>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>

@@ -10,6 +10,7 @@
 #include "fleet/EmbeddedFleet.h"
 #include "journal/HistoryOptions.h"
 
+#include <QtWidgets>
 #include <vms_client_sdk/ClientSignals.h>
 
 using namespace orda_client;

@@ -1,5 +1,6 @@
 #include "support/OrdaTest.h"
 
+#include <QtWidgets>
 #include <XCOMMON/PwdStrength.h>
 #include <XCOMMON/XTableWidget.h>
 #include <orda_base/BaseTools.h>

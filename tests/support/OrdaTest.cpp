@@ -1,5 +1,7 @@
 #include "support/OrdaTest.h"
 
+#include <QDialog>
+
 #include <algorithm>
 #include <cstring>
 #include <mutex>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QApplication>
 #include <QtTest>
-#include <QtWidgets>
 
 /// Base of every test class: a warning of ours (category "orda.*") that the test has not announced fails the test
 /// function. A class with an init() or cleanup() of its own calls these.
