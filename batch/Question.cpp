@@ -29,9 +29,9 @@ Question::Question(OutputThread *output, QObject *parent, int input)
 
 void Question::ask(const QString &text)
 {
+    ::tcflush(m_input, TCIFLUSH); // nobody has answered a question before reading it
     const QString question = vms_sdk::escaped(text, QStringLiteral("\n"));
     m_output->writeError((question + QLatin1Char(' ') + tr("[y/N]") + QLatin1Char(' ')).toUtf8());
-    ::tcflush(m_input, TCIFLUSH); // nobody has answered a question before reading it
     m_notifier->setEnabled(true);
 }
 

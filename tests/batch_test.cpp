@@ -292,20 +292,23 @@ private slots:
 
     void asksOnTheTerminal_data()
     {
-        columns<QString, int, int>({"typed", "exitCode", "named"});
-        row("yes", "sleep 2; echo y", 5, writable);
-        row("no", "sleep 2; echo n", 6, 0);
-        row("before the question", "echo y", 6, 0);
+        columns<QByteArray, QByteArray, int, int>({"before", "answer", "exitCode", "named"});
+        row("yes", QByteArray(), QByteArray("y\n"), 5, writable);
+        row("no", QByteArray(), QByteArray("n\n"), 6, 0);
+        row("yes before the question", QByteArray("y\n"), QByteArray(), 6, 0);
     }
 
     void asksOnTheTerminal()
     {
-        QFETCH(QString, typed);
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, answer);
         Site site;
-        const QString command = "orda_batch apply osd --inventory site.json --set channelName=Gate";
-        QTEST(site.run(QString("sh -c \"(%1; sleep 2) | script -qec '%2' /dev/null\"").arg(typed, command)),
-              "exitCode");
-        QVERIFY2(site.output.contains("Configure? [y/N]"), site.output);
+        site.start("script -qec 'orda_batch apply osd SITE --set channelName=Gate' /dev/null");
+        site.process->write(before);
+        QVERIFY(isReached([&] { return site.process->peek(9999).contains("Configure? [y/N]"); }));
+        site.process->write(answer);
+        site.process->closeWriteChannel();
+        QTEST(site.end(), "exitCode");
         QTEST(site.named("Gate"), "named");
     }
 };
