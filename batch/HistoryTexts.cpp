@@ -102,29 +102,25 @@ QByteArray jsonLines(const RunDetails &details)
 {
     const Changes changes = changesOf(details);
     QByteArray lines;
-    for (const DeviceRow &device : details.devices)
-        lines += ResultTexts::jsonLine(
-            {{QStringLiteral("run"), details.run.id},
-             {QStringLiteral("device"), device.devId},
-             {QStringLiteral("serialNumber"), device.serialNumber},
-             {QStringLiteral("name"), device.name},
-             {QStringLiteral("ip"), device.ip},
-             {QStringLiteral("outcome"), device.outcome ? QJsonValue(outcomeName(*device.outcome)) : QJsonValue()},
-             {QStringLiteral("code"), device.code},
-             {QStringLiteral("message"), device.message},
-             {QStringLiteral("changes"), ResultTexts::toJson(changes.value(device.devId))}});
+    for (const DeviceRow &device : details.devices) {
+        DeviceResult result{
+            device.devId, device.serialNumber, device.name, device.ip, device.outcome.value_or(Outcome::Done),
+            device.code,  device.message};
+        result.changes = changes.value(device.devId);
+        QJsonObject line = ResultTexts::toJson(details.run.id, result);
+        if (!device.outcome)
+            line.insert(QStringLiteral("outcome"), QJsonValue());
+        lines += ResultTexts::jsonLine(line);
+    }
     return lines
          + ResultTexts::jsonLine(
                {{QStringLiteral("run"), details.run.id}, {QStringLiteral("summary"), toJson(details.run)}});
 }
 
-// The columns of CSV files are called as the members of JSON, in every language: programs look for them.
 QByteArray csvLines(const RunDetails &details)
 {
     const Changes changes = changesOf(details);
-    QString lines = csvLine({QStringLiteral("device"), QStringLiteral("serialNumber"), QStringLiteral("name"),
-                             QStringLiteral("ip"), QStringLiteral("outcome"), QStringLiteral("code"),
-                             QStringLiteral("message"), QStringLiteral("changes")});
+    QString lines = csvLine(ResultTexts::csvHead());
     for (const DeviceRow &device : details.devices) {
         const QString outcome = device.outcome ? outcomeName(*device.outcome) : QString();
         const QString code = QString::number(device.code); // a negative number is no formula

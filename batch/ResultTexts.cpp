@@ -68,6 +68,26 @@ QJsonArray ResultTexts::toJson(const QVector<Change> &changes)
     return list;
 }
 
+QJsonObject ResultTexts::toJson(const QString &runId, const DeviceResult &result)
+{
+    return {{QStringLiteral("run"), runId.isEmpty() ? QJsonValue() : QJsonValue(runId)},
+            {QStringLiteral("device"), result.devId},
+            {QStringLiteral("serialNumber"), result.serialNumber},
+            {QStringLiteral("name"), result.name},
+            {QStringLiteral("ip"), result.ip},
+            {QStringLiteral("outcome"), orda_journal::outcomeName(result.outcome)},
+            {QStringLiteral("code"), result.code},
+            {QStringLiteral("message"), result.message},
+            {QStringLiteral("changes"), toJson(result.changes)}};
+}
+
+QStringList ResultTexts::csvHead()
+{
+    return {QStringLiteral("device"),  QStringLiteral("serialNumber"), QStringLiteral("name"),
+            QStringLiteral("ip"),      QStringLiteral("outcome"),      QStringLiteral("code"),
+            QStringLiteral("message"), QStringLiteral("changes")};
+}
+
 QByteArray ResultTexts::jsonLine(const QJsonObject &object)
 {
     QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));

@@ -67,12 +67,12 @@ void ResultWriter::begin(const QList<vms_sdk::DevInfo> &devices, const QString &
         return;
     if (!m_output->isTerminal())
         m_output->write(QString(QChar(QChar::ByteOrderMark)).toUtf8()); // by which spreadsheets know UTF-8
-    QStringList head{QStringLiteral("device"), QStringLiteral("serialNumber"), QStringLiteral("name"),
-                     QStringLiteral("ip"), QStringLiteral("outcome")};
-    if (m_valueColumns.isEmpty())
-        head += {QStringLiteral("code"), QStringLiteral("message"), QStringLiteral("changes")};
-    else
-        head += QStringList{QStringLiteral("message")} + m_valueColumns;
+    QStringList head = ResultTexts::csvHead();
+    if (!m_valueColumns.isEmpty()) { // in place of code and changes
+        head.removeAll(QStringLiteral("code"));
+        head.removeAll(QStringLiteral("changes"));
+        head += m_valueColumns;
+    }
     for (QString &cell : head)
         cell = csvText(cell);
     writeCsv(head);
@@ -118,15 +118,7 @@ QJsonValue ResultWriter::runOf(const QString &runId)
 
 QJsonObject ResultWriter::jsonOf(const DeviceResult &result) const
 {
-    QJsonObject object{{QStringLiteral("run"), runOf(m_runId)},
-                       {QStringLiteral("device"), result.devId},
-                       {QStringLiteral("serialNumber"), result.serialNumber},
-                       {QStringLiteral("name"), result.name},
-                       {QStringLiteral("ip"), result.ip},
-                       {QStringLiteral("outcome"), orda_journal::outcomeName(result.outcome)},
-                       {QStringLiteral("code"), result.code},
-                       {QStringLiteral("message"), result.message},
-                       {QStringLiteral("changes"), ResultTexts::toJson(result.changes)}};
+    QJsonObject object = ResultTexts::toJson(m_runId, result);
     if (result.outcome == Outcome::NotReached)
         object.insert(QStringLiteral("reason"), result.reason);
     if (!result.lacking.isEmpty())
