@@ -25,14 +25,6 @@ constexpr int maxNamed = 5; // in one message
 constexpr int kindCamera = 1;
 constexpr int kindRecorder = 6;
 
-/// A camera or recorder that is reached directly, whether it is connected or not.
-bool canBeConfigured(const vms_sdk::DevInfo &device)
-{
-    using orda_batchCfg::Eligibility;
-    const Eligibility eligibility = orda_batchCfg::devEligibility(device);
-    return eligibility != Eligibility::NotReachedDirectly && eligibility != Eligibility::NotCameraNorRecorder;
-}
-
 /// "*" for any text, "?" for one character, "[a-z]" for one of these, "[!a-z]" for any other. Qt's own conversion takes
 /// "/" for the end of a directory's name.
 QRegularExpression globExpression(const QString &glob)
@@ -283,7 +275,8 @@ void DeviceSelection::Match::take(const Term &term)
     const bool isByName = term.kind == Term::Device || term.kind == Term::FailedIn;
     const bool isChecked = term.kind == Term::Offered && m_isOfferedKnown;
     for (const int place : matched)
-        (isByName || isChecked || canBeConfigured(m_inventory.at(place)) ? m_selected : m_leftOut).insert(place);
+        (isByName || isChecked || orda_batchCfg::isConfigurable(m_inventory.at(place)) ? m_selected : m_leftOut)
+            .insert(place);
 }
 
 DeviceSelection::Selected DeviceSelection::Match::selected() const

@@ -37,7 +37,6 @@ using namespace orda_programs;
 namespace {
 
 using namespace std::chrono_literals;
-using orda_batchCfg::Eligibility;
 
 // A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
 constexpr auto settlePause = 150ms;
@@ -171,9 +170,7 @@ void RunDriver::tickDevices()
     m_ticked = ticked.size();
     const QList<vms_sdk::DevInfo> devices = orda_data::DevsMgrData::instance().getAllDevs(false);
     for (const vms_sdk::DevInfo &dev : devices) {
-        const Eligibility eligibility = orda_batchCfg::devEligibility(dev);
-        if (isMeant(dev.id) && !ticked.contains(dev.id) && eligibility != Eligibility::NotReachedDirectly
-            && eligibility != Eligibility::NotCameraNorRecorder)
+        if (isMeant(dev.id) && !ticked.contains(dev.id) && orda_batchCfg::isConfigurable(dev))
             ++m_notReached;
     }
 }

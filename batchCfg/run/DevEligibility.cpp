@@ -49,6 +49,11 @@ Eligibility devEligibility(const vms_sdk::DevInfo &dev)
     return Eligibility::Eligible;
 }
 
+bool isConfigurable(const vms_sdk::DevInfo &dev)
+{
+    return dev.accessCode == reachedDirectly && (dev.kindCode == kindCamera || dev.kindCode == kindRecorder);
+}
+
 QString eligibilityText(Eligibility eligibility)
 {
     switch (eligibility) {

@@ -25,6 +25,10 @@ enum class Eligibility
 /// store for the device's state. User-interface thread only.
 Eligibility devEligibility(const vms_sdk::DevInfo &dev);
 
+/// Whether it is a camera or recorder that is reached directly: what may be written to when it is connected. Any
+/// thread.
+bool isConfigurable(const vms_sdk::DevInfo &dev);
+
 /// The reason in words for the user, a part of a sentence; empty when there is none.
 QString eligibilityText(Eligibility eligibility);
 
