@@ -344,7 +344,10 @@ private slots:
         const auto files = QDir(site.place.filePath("state")).entryInfoList(QDir::Files);
         for (const QFileInfo &info : files) {
             QFile file(info.filePath());
-            QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains("never written down"));
+            if (file.open(QIODevice::ReadOnly))
+                QVERIFY(!file.readAll().contains("never written down"));
+            else
+                QVERIFY(!file.exists()); // the lock of the run, which ends with it
         }
         QCOMPARE(site.unrecorded, QStringList());
         QTRY_COMPARE(site.isEndOnDisk, QVector<bool>(1 + (hasHistory ? kinds.size() : 0), true));
