@@ -161,8 +161,7 @@ QString CommandInput::replacedIn(const orda_journal::RunDetails &run, const QStr
     const QSet<QString> isMeant(devIds.begin(), devIds.end());
     for (const orda_journal::DeviceRow &row : run.devices) {
         const QString serialNumber = m_deviceById.value(row.devId).serialNumber;
-        if (isMeant.contains(row.devId) && !row.serialNumber.isEmpty() && !serialNumber.isEmpty()
-            && row.serialNumber != serialNumber)
+        if (isMeant.contains(row.devId) && row.isReplacedBy(serialNumber))
             return tr(R"("%1" had the serial number %2 in the run %3 and has %4 in the inventory: it is another device, )"
                       "which not:%1 leaves out")
                 .arg(row.devId, row.serialNumber, run.run.id, serialNumber);

@@ -1,7 +1,7 @@
 #include "Benchmarks.h"
 #include "support/FormFixture.h"
 
-#include "client/PauseMeter.h"
+#include "client/drive/PauseMeter.h"
 
 #include <orda_base/IpTableItem.h>
 #include <orda_base/NameTableItem.h>

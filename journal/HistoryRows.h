@@ -49,6 +49,13 @@ struct DeviceRow
     // What the device was called at the time of the run. The writer fills these in from the device store.
     QString name = {}, serialNumber = {}, ip = {};
     QJsonObject ownValues = {}; ///< empty: those of the run
+
+    /// Whether what has this id now is another device: it was replaced since, or the inventory is of another site that
+    /// counts its devices alike. @param serialNumberNow empty where it is not known
+    bool isReplacedBy(const QString &serialNumberNow) const
+    {
+        return !serialNumber.isEmpty() && !serialNumberNow.isEmpty() && serialNumber != serialNumberNow;
+    }
 };
 
 /// A run as the history has it.

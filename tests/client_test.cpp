@@ -1,8 +1,8 @@
 #include "support/OrdaTest.h"
 
-#include "client/ClientSession.h"
-#include "client/ClientWindow.h"
-#include "client/FailedDevices.h"
+#include "client/app/ClientWindow.h"
+#include "client/record/FailedDevices.h"
+#include "client/session/ClientSession.h"
 #include "journal/HistoryOptions.h"
 
 #include <QtWidgets>

@@ -3,10 +3,10 @@
 #include "support/RecordEntry.h"
 #include "support/Store.h"
 
-#include "client/ClientSession.h"
-#include "client/ClientWindow.h"
-#include "client/Families.h"
-#include "client/LastRunWindow.h"
+#include "client/app/ClientWindow.h"
+#include "client/form/Families.h"
+#include "client/record/LastRunWindow.h"
+#include "client/session/ClientSession.h"
 #include "fleet/EmbeddedFleet.h"
 #include "journal/HistoryOptions.h"
 

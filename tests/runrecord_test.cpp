@@ -1,7 +1,7 @@
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
 
-#include "client/RunRecord.h"
+#include "client/record/RunRecord.h"
 
 using namespace orda_client;
 

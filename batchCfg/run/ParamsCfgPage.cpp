@@ -21,10 +21,12 @@
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QHash>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSpinBox>
 #include <QUrl>
 #include <QUuid>
 
@@ -238,6 +240,41 @@ QJsonObject ParamsCfgPage::values() const
     return object;
 }
 
+QList<ParamsCfgPage::ShownMember> ParamsCfgPage::shownMembers() const
+{
+    QHash<const QWidget *, QString> captions;
+    const auto labels = findChildren<XCOMMON::XLabel *>();
+    for (const XCOMMON::XLabel *label : labels)
+        captions.insert(label->buddy(), label->text());
+    QList<ShownMember> members;
+    for (const Param &param : m_params) {
+        if (!param.key)
+            continue;
+        const QString boxText = param.box ? param.box->text() : QString();
+        members.append({QString::fromLatin1(param.key), captions.value(param.editor, boxText),
+                        param.box ? QList<QCheckBox *>{param.box} : QList<QCheckBox *>(), param.editor});
+    }
+    return members;
+}
+
+QVariantMap ParamsCfgPage::current() const
+{
+    QVariantList shown;
+    const QList<ShownMember> members = shownMembers();
+    for (const ShownMember &member : members) {
+        QVariantList boxes;
+        for (QCheckBox *box : member.boxes)
+            boxes.append(QVariant::fromValue<QObject *>(box));
+        shown.append(QVariantMap{{QStringLiteral("name"), member.name},
+                                 {QStringLiteral("title"), member.title},
+                                 {QStringLiteral("boxes"), boxes},
+                                 {QStringLiteral("editor"), QVariant::fromValue<QObject *>(member.editor)}});
+    }
+    return {{QStringLiteral("family"), m_family.name},
+            {QStringLiteral("values"), isSelectionComplete(nullptr) ? values() : QJsonObject()},
+            {QStringLiteral("members"), shown}};
+}
+
 int ParamsCfgPage::taskFlags() const
 {
     int taskFlags = 0;
@@ -266,6 +303,9 @@ void ParamsCfgPage::configure()
     if (!takeRecord())
         return;
 
+    const auto spinBoxes = findChildren<QSpinBox *>();
+    for (QSpinBox *spinBox : spinBoxes)
+        spinBox->interpretText(); // what is being typed counts, and is shown as it is sent
     const QJsonObject runValues = values();
     const auto shown = std::make_shared<ShownRun>(devIds.size());
     const QPointer<ParamsCfgPage> self(this); // the form may be deleted by a watcher, and while the loop turns

@@ -2,6 +2,7 @@
 
 #include <QJsonObject>
 #include <QList>
+#include <QVariantMap>
 #include <QVector>
 #include <QWidget>
 
@@ -23,11 +24,14 @@ struct CfgFamily;
 ///
 /// The page's form has the check box "allParams" and the buttons "okBt" and "reportBt".
 ///
-/// What the module itself does not show is in dynamic properties for clients that do: "recordInUse", "recordError" and
-/// "recordEntryEnds", and a run that begins in "run", where it can be declined (docs/scripting.md).
+/// What the module itself does not show is in properties for clients that do: "current", and the dynamic properties
+/// "recordInUse", "recordError" and "recordEntryEnds", and a run that begins in "run", where it can be declined
+/// (docs/scripting.md).
 class ParamsCfgPage : public QWidget
 {
     Q_OBJECT
+    /// What Configure would send if it was pressed now, and how the page shows it. There is no signal: it is read anew.
+    Q_PROPERTY(QVariantMap current READ current STORED false)
 
 public:
     /// Ends a run of this page that is under way.
@@ -51,6 +55,16 @@ protected:
         std::function<QJsonValue()> value = {};
     };
 
+    /// How the page shows one member of a run's values.
+    struct ShownMember
+    {
+        QString name; ///< as CfgExchange::askedBy() calls it, such as "aiGain" and "stream0.bitRate"
+        QString title; ///< as the page calls it
+        QList<QCheckBox *>
+            boxes; ///< all of these are ticked when the member is meant; the parameter's own is the first
+        QWidget *editor; ///< of its value; null where no single one is
+    };
+
     ParamsCfgPage(const CfgFamily &family, QWidget *parent);
 
     /// The table of parameters. Called once, after the form has been built: fills the editors with what their keys say.
@@ -67,8 +81,10 @@ protected:
 
     /// Shows what the selection asks for; called after every change of it. An override calls this one first.
     virtual void refresh();
-    /// The values of a run, from the editors as they stand.
+    /// The values of a run, from the editors as they stand. Changes nothing: it is asked while somebody types, too.
     virtual QJsonObject values() const;
+    /// All members that the page can send, in its order.
+    virtual QList<ShownMember> shownMembers() const;
     /// Brings the editors' captions to one width, so that the editors stand in line whatever the language and the font.
     void showEvent(QShowEvent *event) override;
     /// Return presses the button that has the focus, and nothing else.
@@ -84,6 +100,7 @@ private:
         QString noneAlert;
     };
 
+    QVariantMap current() const;
     void updateFlags();
     bool isSelectionComplete(QString *alertText) const;
     int taskFlags() const;

@@ -5,6 +5,7 @@
 #include "video/VideoParamsCfgTask.h"
 #include "video/VideoParamsPanel.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QSpinBox>
 
@@ -81,15 +82,39 @@ QJsonObject VideoParamsCfgPage::values() const
         streams.append(stream);
     };
     if (m_ui->HDStream->isChecked()) {
-        QJsonObject stream = m_hdPanel->getParams();
+        QJsonObject stream = m_hdPanel->currentParams();
         if (m_ui->smartEncoding->isChecked())
             stream.insert(QStringLiteral("smartencode"),
                           editedValue(m_ui->smartEncodingCtrl, VideoParamsCfgTask::family(), "smartencode"));
         add(stream, VideoParamsPanel::MainStream);
     }
     if (m_ui->SDStream->isChecked())
-        add(m_sdPanel->getParams(), VideoParamsPanel::SubStream);
+        add(m_sdPanel->currentParams(), VideoParamsPanel::SubStream);
     return {{QStringLiteral("streams"), streams}};
+}
+
+QList<ParamsCfgPage::ShownMember> VideoParamsCfgPage::shownMembers() const
+{
+    const QHash<int, QCheckBox *> boxOfGroup{{VideoParamsPanel::EncodingFormat, m_ui->encodingFormat},
+                                             {VideoParamsPanel::Resolution, m_ui->resolution},
+                                             {VideoParamsPanel::FrameRate, m_ui->frameRate},
+                                             {VideoParamsPanel::BitRate, m_ui->bitRate}};
+    QList<ShownMember> members{
+        {QStringLiteral("stream0.smartencode"),
+         tr("%1, %2", "stream, parameter").arg(m_ui->HDStream->text(), m_ui->smartEncoding->text()),
+         {m_ui->smartEncoding, m_ui->HDStream},
+         m_ui->smartEncodingCtrl}};
+    const auto add = [&](const VideoParamsPanel *panel, int streamId, QCheckBox *stream) {
+        const QVector<VideoParamsPanel::Editor> editors = panel->editors();
+        for (const VideoParamsPanel::Editor &editor : editors)
+            members.append({QStringLiteral("stream%1.%2").arg(streamId).arg(QLatin1String(editor.key)),
+                            editor.widget->accessibleName(),
+                            {boxOfGroup.value(editor.group), stream},
+                            editor.widget});
+    };
+    add(m_hdPanel, VideoParamsPanel::MainStream, m_ui->HDStream);
+    add(m_sdPanel, VideoParamsPanel::SubStream, m_ui->SDStream);
+    return members;
 }
 
 } // namespace orda_batchCfg

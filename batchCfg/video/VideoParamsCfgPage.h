@@ -26,6 +26,7 @@ public slots:
 protected:
     void refresh() override;
     QJsonObject values() const override;
+    QList<ShownMember> shownMembers() const override;
 
 private:
     VideoParamsPanel *addPanel(int streamType);

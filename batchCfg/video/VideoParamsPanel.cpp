@@ -89,6 +89,13 @@ void VideoParamsPanel::packFields()
 
 QJsonObject VideoParamsPanel::getParams() const
 {
+    if ((m_paramsMask & BitRate) != 0)
+        m_ui->videoQuality->interpretText();
+    return currentParams();
+}
+
+QJsonObject VideoParamsPanel::currentParams() const
+{
     QJsonObject params;
     if ((m_paramsMask & EncodingFormat) != 0)
         params.insert(QStringLiteral("venctype"), valueOf(m_ui->encodingFormat, "venctype"));
@@ -102,10 +109,20 @@ QJsonObject VideoParamsPanel::getParams() const
     if ((m_paramsMask & BitRate) != 0) {
         params.insert(QStringLiteral("rcMode"), valueOf(m_ui->bitRateMode, "rcMode"));
         params.insert(QStringLiteral("quality"), valueOf(m_ui->bitRateStrategy, "quality"));
-        m_ui->videoQuality->interpretText(); // what is being typed counts, and is shown as it is sent
         params.insert(QStringLiteral("bitRate"), valueOf(m_ui->videoQuality, "bitRate"));
     }
     return params;
+}
+
+QVector<VideoParamsPanel::Editor> VideoParamsPanel::editors() const
+{
+    return {{"venctype", EncodingFormat, m_ui->encodingFormat},
+            {"width", Resolution, m_ui->resolution},
+            {"height", Resolution, m_ui->resolution},
+            {"frameRate", FrameRate, m_ui->frameRate},
+            {"rcMode", BitRate, m_ui->bitRateMode},
+            {"quality", BitRate, m_ui->bitRateStrategy},
+            {"bitRate", BitRate, m_ui->videoQuality}};
 }
 
 void VideoParamsPanel::showEvent(QShowEvent *event)

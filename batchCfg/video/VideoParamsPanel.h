@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QJsonObject>
+#include <QVector>
 #include <QWidget>
 
 #include <memory>
@@ -38,8 +39,18 @@ public:
     /// Shows the groups of @p mask; the panel hides itself when there is none.
     void setParamsMask(int mask);
     /// The values of the groups in the mask, by the device's keys: "venctype", "width", "height", "frameRate",
-    /// "rcMode", "quality", "bitRate" (kbps).
+    /// "rcMode", "quality", "bitRate" (kbps). A number that is being typed is taken, and shown as it is taken.
     QJsonObject getParams() const;
+    /// The same without touching a number that is being typed: the last whole one counts.
+    QJsonObject currentParams() const;
+    /// Where a value is edited, and in which group it is.
+    struct Editor
+    {
+        const char *key; ///< Latin-1
+        int group;
+        QWidget *widget; ///< its accessible name is that of the value, with its stream
+    };
+    QVector<Editor> editors() const;
 
 signals:
     /// Where the first column's combo box begins, in global pixels; raised when the panel has settled after being shown

@@ -27,7 +27,7 @@ def start_on_own_display_and_bus(*more_tools):
     if not any(os.path.exists(f"{directory}/at-spi2-registryd") for directory in ("/usr/libexec", "/usr/lib/at-spi2-core")):
         skip("at-spi2-core is missing (see packages.txt)")
     with tempfile.TemporaryDirectory(prefix="journey.") as home:
-        environment = dict(os.environ, ORDA_JOURNEY_HOME=home, HOME=home, TMPDIR=home, XDG_RUNTIME_DIR=home, XDG_STATE_HOME=home,
+        environment = dict(os.environ, ORDA_JOURNEY_HOME=home, HOME=home, TMPDIR=home, XDG_RUNTIME_DIR=home, XDG_STATE_HOME=home, XDG_CONFIG_HOME=home,
                            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
         for inherited in ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS"):
             environment.pop(inherited, None)

@@ -1,0 +1,70 @@
+#include "client/record/FailureGroupList.h"
+
+#include <vms_client_sdk/ForeignText.h>
+
+#include <QHeaderView>
+#include <QLocale>
+#include <QSignalBlocker>
+#include <QTextDocument>
+
+namespace orda_client {
+
+FailureGroupList::FailureGroupList(QWidget *parent)
+    : orda_base::TableWidget(parent)
+{
+    setColumnCount(2);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setTextElideMode(Qt::ElideMiddle); // the error code is at the end of a message
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    // A long message is shortened, so that the number is always seen.
+    horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    connect(this, &QTableWidget::itemSelectionChanged, this, &FailureGroupList::signalGroupChosen);
+}
+
+void FailureGroupList::setEntries(const QVector<RunEntry> &entries)
+{
+    const std::optional<FailureGroup> chosen = group();
+    int row = 0;
+    {
+        const QSignalBlocker blocker(this);
+        setRowCount(0);
+        m_groups = groupFailures(entries);
+        addRow(tr("All devices"), entries.size());
+        for (const FailureGroup &candidate : qAsConst(m_groups)) {
+            if (chosen && chosen->outcome == candidate.outcome && chosen->message == candidate.message)
+                row = rowCount();
+            addRow(candidate.outcome == RunEntry::Unreadable ? tr("Unreadable entries") : candidate.message,
+                   candidate.count);
+        }
+        selectRow(row);
+    }
+    if (chosen && row == 0)
+        emit signalGroupChosen();
+}
+
+std::optional<FailureGroup> FailureGroupList::group() const
+{
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    const int row = selected.isEmpty() ? 0 : selected.constFirst().row();
+    return row > 0 && row <= m_groups.size() ? std::make_optional(m_groups.at(row - 1)) : std::nullopt;
+}
+
+void FailureGroupList::addRow(const QString &recorded, int count)
+{
+    const QString text = vms_sdk::displayText(recorded, QStringLiteral("\n"));
+    auto *message = new QTableWidgetItem(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
+    message->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
+    auto *number = new QTableWidgetItem(QLocale().toString(count));
+    number->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const int row = rowCount();
+    insertRow(row);
+    setItem(row, 0, message);
+    setItem(row, 1, number);
+}
+
+} // namespace orda_client
