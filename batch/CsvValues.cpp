@@ -1,8 +1,9 @@
 #include "batch/ValuesFile.h"
 
+#include "programs/Csv.h"
+
 #include <QCoreApplication>
 #include <QHash>
-#include <QRegularExpression>
 #include <QTextCodec>
 
 #include <csv.h>
@@ -31,14 +32,6 @@ char separatorOf(const QByteArray &content)
         isBegun = isBegun || !isLineEnd;
     }
     return ',';
-}
-
-/// What CSV files of ours have before a text that spreadsheets would take for a formula goes away again.
-QString withoutGuard(QString text)
-{
-    static const QRegularExpression guard(
-        QStringLiteral("(^|[;|\\t\\r\\n])'(?='*[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
-    return text.replace(guard, QStringLiteral("\\1"));
 }
 
 class CsvReader
@@ -137,7 +130,7 @@ void CsvReader::takeRow()
 void CsvReader::takeHead()
 {
     for (int column = 0; column < m_cells.size(); ++column) {
-        const QString name = withoutGuard(m_cells.at(column)).trimmed();
+        const QString name = orda_programs::withoutFormulaGuard(m_cells.at(column)).trimmed();
         const int first = m_head.indexOf(name);
         m_head.append(name);
         if (name.isEmpty())
@@ -170,7 +163,7 @@ void CsvReader::takeValues()
             tr("the number of cells is %1; it must be %2, as in the head").arg(m_cells.size()).arg(m_head.size()));
     FileRow row{{m_rowLine, m_deviceColumn + 1}};
     if (m_deviceColumn >= 0) {
-        row.device = withoutGuard(m_cells.at(m_deviceColumn)).trimmed();
+        row.device = orda_programs::withoutFormulaGuard(m_cells.at(m_deviceColumn)).trimmed();
         if (row.device.isEmpty()) {
             complain(m_rowLine, m_deviceColumn + 1, tr("names no device; its id or serial number is expected"));
             row.device = QString();
@@ -178,7 +171,9 @@ void CsvReader::takeValues()
     }
     for (int column = 0; column < m_cells.size(); ++column)
         if (m_keys.contains(column) && !m_cells.at(column).trimmed().isEmpty())
-            row.cells.append({{m_rowLine, column + 1}, m_keys.value(column), withoutGuard(m_cells.at(column))});
+            row.cells.append({{m_rowLine, column + 1},
+                              m_keys.value(column),
+                              orda_programs::withoutFormulaGuard(m_cells.at(column))});
     m_file.rows.append(row);
 }
 

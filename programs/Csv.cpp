@@ -17,6 +17,13 @@ QString csvCell(QString text)
     return text;
 }
 
+QString withoutFormulaGuard(QString text)
+{
+    static const QRegularExpression guard(
+        QStringLiteral("(^|[;|\\t\\r\\n])'(?='*[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
+    return text.replace(guard, QStringLiteral("\\1"));
+}
+
 QString csvLine(const QStringList &texts)
 {
     QStringList cells;
