@@ -20,6 +20,7 @@ class ClientStatusBar;
 class CloseQuestion;
 class FirstSteps;
 class InventoryOpener;
+class PressGuard;
 class Windows;
 
 /// The client's window: the batch-configuration form, or what to begin with as long as there are no devices; menus, and
@@ -32,6 +33,9 @@ public:
     /// @param session @param settings must outlive the window
     ClientWindow(ClientSession *session, ClientSettings *settings, QWidget *parent = nullptr);
     ~ClientWindow() override;
+
+    /// Asks before large or odd runs from now on: only where a person sits at the window.
+    void guardPresses();
 
     /// Large enough to show the form without scroll bars.
     QSize sizeHint() const override;
@@ -58,6 +62,7 @@ private:
     ClientStatusBar *m_statusBar;
     InventoryOpener *m_opener;
     Windows *m_windows;
+    PressGuard *m_guard = nullptr;
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
 };
