@@ -19,6 +19,7 @@ class ClientSettings;
 class ClientStatusBar;
 class CloseQuestion;
 class FirstSteps;
+class InventoryImport;
 class InventoryOpener;
 class Windows;
 
@@ -43,6 +44,7 @@ protected:
 private:
     QWidget *buildForm();
     void connectActions();
+    void importDevices();
     void followSession();
     void rememberPage();
     void showSource();
@@ -57,6 +59,7 @@ private:
     ClientMenus *m_menus;
     ClientStatusBar *m_statusBar;
     InventoryOpener *m_opener;
+    InventoryImport *m_import;
     Windows *m_windows;
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
