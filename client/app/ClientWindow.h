@@ -19,6 +19,7 @@ class ClientSettings;
 class ClientStatusBar;
 class CloseQuestion;
 class FirstSteps;
+class InventoryImport;
 class InventoryOpener;
 class PressGuard;
 class Windows;
@@ -47,6 +48,7 @@ protected:
 private:
     QWidget *buildForm();
     void connectActions();
+    void importDevices();
     void followSession();
     void rememberPage();
     void showSource();
@@ -61,6 +63,7 @@ private:
     ClientMenus *m_menus;
     ClientStatusBar *m_statusBar;
     InventoryOpener *m_opener;
+    InventoryImport *m_import;
     Windows *m_windows;
     PressGuard *m_guard = nullptr;
     QPointer<CloseQuestion> m_closeQuestion;

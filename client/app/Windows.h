@@ -13,6 +13,7 @@ namespace orda_client {
 class ClientSession;
 class ClientSettings;
 class LastRunWindow;
+class ManualWindow;
 class RecordViewer;
 struct Family;
 
@@ -28,6 +29,11 @@ public:
 
     void showLastRun();
     void showLastRunOf(const Family &family);
+    /// Saves the devices that are there now.
+    void showExport();
+    void showSettings();
+    void showManual();
+    void showAbout();
     void showRemoteConfig(const QString &devId);
 
 private slots:
@@ -44,6 +50,7 @@ private:
     QMainWindow *m_window;
     RecordViewer *m_viewer;
     QPointer<LastRunWindow> m_lastRun;
+    QPointer<ManualWindow> m_manual;
 };
 
 } // namespace orda_client
