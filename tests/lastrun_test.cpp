@@ -7,6 +7,7 @@
 #include "client/form/Families.h"
 #include "client/record/LastRunWindow.h"
 #include "client/session/ClientSession.h"
+#include "client/settings/ClientSettings.h"
 #include "fleet/EmbeddedFleet.h"
 #include "journal/HistoryOptions.h"
 
@@ -65,7 +66,8 @@ struct Client
     }
 
     ClientSession session{orda_journal::HistoryOptions()};
-    ClientWindow window{&session};
+    ClientSettings settings{QString()};
+    ClientWindow window{&session, &settings};
     const LastRunWindow &lastRun() const { return *window.findChild<LastRunWindow *>(); }
     QAbstractItemModel *shown() const { return child<QTableView>(lastRun(), "record")->model(); }
 };

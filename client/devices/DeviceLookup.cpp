@@ -196,7 +196,7 @@ QStringList DeviceLookup::devicesBy(const QString &text) const
 QStringList DeviceLookup::devicesByCell(const QString &cell) const
 {
     const QStringList devIds = devicesBy(cell);
-    return devIds.isEmpty() ? devicesBy(orda_programs::withoutFormulaGuard(cell)) : devIds;
+    return devIds.isEmpty() ? devicesBy(orda_programs::csvText(cell)) : devIds;
 }
 
 } // namespace orda_client

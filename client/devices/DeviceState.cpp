@@ -53,7 +53,7 @@ QString DeviceState::text(Kind kind, ReachReason reason)
     if (kind == CanBeConfigured)
         return text(kind);
     if (reason == ReachReason::Offline)
-        return tr("Off line: the reason is not known");
+        return tr("Off line: no connection");
     const QString why = orda_engine::reachText(reason);
     return kind == OffLine ? tr("Off line: %1").arg(why) : tr("Not offered: %1").arg(why);
 }

@@ -2,24 +2,31 @@
 
 #include "client/devices/DeviceStates.h"
 #include "client/devices/LastOutcomes.h"
+#include "client/runs/RunTexts.h"
 
-#include <orda_base/BaseTools.h>
 #include <orda_data/DevsMgrData.h>
 
-#include <QDateTime>
+#include <QMap>
 
 #include <algorithm>
 
 namespace orda_client {
+
+using orda_engine::ReachReason;
 
 namespace {
 
 constexpr int kindCamera = 1;
 constexpr int kindRecorder = 6;
 
-QString timeText(qint64 time)
+QString groupKey(DeviceState::Kind kind)
 {
-    return orda_base::BaseTools::instance().strDatetime(QDateTime::fromMSecsSinceEpoch(time), false, false);
+    return QString::number(kind);
+}
+
+QString groupKey(DeviceState::Kind kind, ReachReason reason)
+{
+    return QStringLiteral("%1/%2").arg(kind).arg(int(reason));
 }
 
 } // namespace
@@ -46,7 +53,6 @@ void DevicesModel::loadDevices()
         m_rowOf.insert(dev.id, m_rows.size());
         m_rows.append(row);
     }
-    count();
     endReset();
 }
 
@@ -54,7 +60,7 @@ void DevicesModel::takeState(Row *row) const
 {
     const DeviceState state = m_states->of(row->devId);
     if (state.since != row->state.since)
-        row->since = timeText(state.since);
+        row->since = RunTexts::time(state.since);
     row->state = state;
 }
 
@@ -65,10 +71,10 @@ void DevicesModel::takeOutcome(Row *row) const
     device.serialNumber = row->serialNumber;
     const orda_journal::LatestOutcome *latest = m_outcomes->of(device);
     row->began = latest ? latest->began : 0;
-    row->lastRun = latest ? timeText(latest->began) : QString();
+    row->lastRun = latest ? RunTexts::time(latest->began) : QString();
     row->outcome = latest ? *latest->device.outcome : orda_journal::Outcome::Done;
     row->outcomeText = latest ? tr("%1: %2", "parameters, outcome")
-                                    .arg(LastOutcomes::familyTitle(latest->family), LastOutcomes::text(row->outcome))
+                                    .arg(LastOutcomes::familyTitle(latest->family), RunTexts::outcome(row->outcome))
                               : QString();
 }
 
@@ -86,7 +92,6 @@ void DevicesModel::updateStates()
     }
     if (last < 0)
         return;
-    count();
     rowsChanged(first, last);
 }
 
@@ -99,11 +104,30 @@ void DevicesModel::updateOutcomes()
     rowsChanged(0, m_rows.size() - 1);
 }
 
-void DevicesModel::count()
+QVector<RowGroup> DevicesModel::groups(const QString &kept) const
 {
-    m_counts.clear();
-    for (const Row &row : qAsConst(m_rows))
-        ++m_counts[{row.state.kind, row.state.reason}];
+    QMap<QString, int> counts; // by key
+    for (const Row &row : m_rows) {
+        ++counts[groupKey(row.state.kind)];
+        ++counts[groupKey(row.state.kind, row.state.reason)];
+    }
+    QVector<RowGroup> groups;
+    for (const auto kind : {DeviceState::CanBeConfigured, DeviceState::OffLine, DeviceState::NotOffered}) {
+        groups.append({groupKey(kind), DeviceState::text(kind), counts.value(groupKey(kind))});
+        for (int number = int(ReachReason::NoSuchDevice); number <= int(ReachReason::Limits); ++number) {
+            const auto reason = ReachReason(number);
+            const QString key = groupKey(kind, reason);
+            if (counts.contains(key) || key == kept)
+                groups.append({key, DeviceState::text(kind, reason), counts.value(key)});
+        }
+    }
+    return groups;
+}
+
+bool DevicesModel::isInGroup(int row, const QString &key) const
+{
+    const DeviceState &state = m_rows.at(row).state;
+    return key.isEmpty() || key == groupKey(state.kind) || key == groupKey(state.kind, state.reason);
 }
 
 int DevicesModel::rowCount(const QModelIndex &parent) const
@@ -115,11 +139,11 @@ QStringList DevicesModel::titles() const
 {
     return {tr("Name"),
             tr("State"),
+            tr("Since", "a time, from which on a device has had its state"),
             tr("Serial number"),
             tr("Address"),
             tr("Kind"),
             tr("Group"),
-            tr("Since", "a time, from which on a device has had its state"),
             tr("Last outcome"),
             tr("Last run")};
 }

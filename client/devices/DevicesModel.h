@@ -1,11 +1,9 @@
 #pragma once
 
 #include "client/devices/DeviceState.h"
+#include "client/tables/GroupList.h"
 #include "client/tables/TableModel.h"
 #include "journal/Outcome.h"
-
-#include <QMap>
-#include <QPair>
 
 namespace orda_client {
 
@@ -22,17 +20,15 @@ public:
     {
         Name,
         State,
+        Since, ///< it has had its state
         SerialNumber,
         Address,
         Kind,
         Group,
-        Since, ///< it has had its state
         Outcome, ///< of its latest run, with the family
         LastRun, ///< when that began
         ColumnCount
     };
-    using Counts = QMap<QPair<DeviceState::Kind, orda_engine::ReachReason>, int>;
-
     /// @param states must outlive this object, as must @p outcomes
     DevicesModel(const DeviceStates *states, const LastOutcomes *outcomes, QObject *parent = nullptr);
 
@@ -46,8 +42,12 @@ public:
     /// -1: it has no such device.
     int rowOf(const QString &devId) const { return m_rowOf.value(devId, -1); }
     const DeviceState &state(int row) const { return m_rows.at(row).state; }
-    /// How many devices have which state for which reason.
-    const Counts &counts() const { return m_counts; }
+
+    /// The states that devices have, and below each the reasons for it.
+    /// @param kept key of a group that stays even when no device is left in it
+    QVector<RowGroup> groups(const QString &kept) const;
+    /// @param key of one of groups(); empty: all devices are
+    bool isInGroup(int row, const QString &key) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
 
@@ -72,13 +72,10 @@ private:
 
     void takeState(Row *row) const;
     void takeOutcome(Row *row) const;
-    void count();
-
     const DeviceStates *m_states;
     const LastOutcomes *m_outcomes;
     QVector<Row> m_rows; // in the order of the store
     QHash<QString, int> m_rowOf; // by device id
-    Counts m_counts;
 };
 
 } // namespace orda_client

@@ -5,12 +5,12 @@
 #include "client/devices/DevicesModel.h"
 #include "client/devices/GroupsMenu.h"
 #include "client/devices/LastOutcomes.h"
-#include "client/devices/StateList.h"
 #include "client/devices/TickNote.h"
 #include "client/devices/TickTheseDialog.h"
 #include "client/form/FormTicks.h"
 #include "client/session/ClientSession.h"
 #include "client/tables/CsvFile.h"
+#include "client/tables/GroupList.h"
 #include "client/tables/TableView.h"
 #include "journal/JournalTransport.h"
 
@@ -26,12 +26,14 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace orda_client {
 
 namespace {
 
 constexpr QSize windowSize(1320, 700);
-constexpr int statesWidth = 300;
+constexpr int statesWidth = 270;
 constexpr int margin = 12;
 
 QLabel *plainLabel(const char *name)
@@ -63,7 +65,6 @@ DevicesWindow::DevicesWindow(ClientSession *session, DeviceStates *states, QWidg
     beside->setContentsMargins(0, 0, 0, 0);
     beside->addWidget(buildTop());
     beside->addWidget(buildTable(), 1);
-    beside->addWidget(buildBelow());
     splitter->addWidget(right);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
@@ -78,16 +79,15 @@ DevicesWindow::DevicesWindow(ClientSession *session, DeviceStates *states, QWidg
     layout->addWidget(buildButtons());
     setContent(content);
     follow();
-    m_stateList->setCounts(m_model->counts());
+    updateGroups();
     refresh();
     m_table->setFocus();
 }
 
 QWidget *DevicesWindow::buildStates()
 {
-    m_stateList = new StateList;
+    m_stateList = new GroupList(tr("States"));
     m_stateList->setObjectName(QStringLiteral("states"));
-    m_stateList->setAccessibleName(tr("States"));
     auto *caption = new QLabel(tr("Sho&w"));
     caption->setBuddy(m_stateList);
     auto *states = new QWidget;
@@ -110,13 +110,15 @@ QWidget *DevicesWindow::buildTop()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_counts, 1);
     layout->addWidget(m_search);
+    m_refresh = addButton(layout, tr("&Refresh"), "refresh",
+                          tr("Searches, chooses and sorts anew, by the present states (F5)"));
     return top;
 }
 
 QWidget *DevicesWindow::buildTable()
 {
     // By column, in digits.
-    m_table = new TableView(m_filter, {22, 34, 20, 15, 11, 14, 19, 30, 19}, tr("Devices"));
+    m_table = new TableView(m_filter, {22, 30, 20, 16, 14, 9, 13, 30, 20}, tr("Devices"));
     m_table->setObjectName(QStringLiteral("devices"));
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_empty = plainLabel("empty");
@@ -126,18 +128,6 @@ QWidget *DevicesWindow::buildTable()
     m_stack->addWidget(m_table);
     m_stack->addWidget(m_empty);
     return m_stack;
-}
-
-QWidget *DevicesWindow::buildBelow()
-{
-    m_outdated = plainLabel("outdated");
-    auto *below = new QWidget;
-    auto *layout = new QHBoxLayout(below);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_outdated, 1);
-    m_refresh = addButton(layout, tr("&Refresh"), "refresh",
-                          tr("Searches, chooses and sorts anew, by the present states (F5)"));
-    return below;
 }
 
 QPushButton *DevicesWindow::addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip)
@@ -181,7 +171,7 @@ QWidget *DevicesWindow::buildButtons()
 void DevicesWindow::follow()
 {
     connect(m_states, &DeviceStates::signalChanged, this, &DevicesWindow::takeChanges);
-    connect(m_stateList, &StateList::signalChosen, this, &DevicesWindow::refresh);
+    connect(m_stateList, &GroupList::signalGroupChosen, this, &DevicesWindow::refresh);
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, &DevicesWindow::refresh);
     connect(m_refresh, &QPushButton::clicked, this, &DevicesWindow::refresh);
     auto *again = new QShortcut(QKeySequence::Refresh, this);
@@ -218,24 +208,26 @@ void DevicesWindow::takeChanges(bool isListChanged)
     } else {
         m_model->updateStates();
     }
-    m_stateList->setCounts(m_model->counts());
+    updateGroups();
     updateTexts();
+}
+
+void DevicesWindow::updateGroups()
+{
+    m_stateList->setGroups(tr("All devices"), m_model->rowCount(), m_model->groups(m_stateList->group()));
 }
 
 void DevicesWindow::refresh()
 {
     m_filter->setKeyword(m_search->text());
-    m_filter->setAccepts([this](int row) { return m_stateList->includes(m_model->state(row)); });
+    m_filter->setAccepts([this, group = m_stateList->group()](int row) { return m_model->isInGroup(row, group); });
     m_filter->refresh();
     updateTexts();
 }
 
 void DevicesWindow::updateTexts()
 {
-    const int outdated = m_filter->outdated();
-    m_outdated->setText(
-        outdated == 0 ? QString()
-                      : tr("%Ln device(s) would now be shown or left out: Refresh (F5) does so.", nullptr, outdated));
+    m_outdated = m_filter->outdated();
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_empty->setText(emptyText());
     m_export->setEnabled(m_filter->rowCount() > 0);
@@ -244,10 +236,15 @@ void DevicesWindow::updateTexts()
 
 void DevicesWindow::updateSelection()
 {
+    const QLocale locale;
     const int selected = m_table->selectionModel()->selectedRows().size();
-    const QString shown =
-        tr("%1 of %Ln device(s) shown", nullptr, m_model->rowCount()).arg(QLocale().toString(m_filter->rowCount()));
-    m_counts->setText(selected == 0 ? shown : tr("%1, %2 selected").arg(shown, QLocale().toString(selected)));
+    QStringList parts{
+        tr("%1 of %Ln device(s) shown", nullptr, m_model->rowCount()).arg(locale.toString(m_filter->rowCount()))};
+    if (selected > 0)
+        parts.append(tr("%Ln selected", "devices", selected));
+    if (m_outdated > 0)
+        parts.append(tr("%Ln changed since and would be shown or left out now", "devices", m_outdated));
+    m_counts->setText(parts.join(QStringLiteral(", ")));
     m_tick->setEnabled(selected > 0);
     m_connect->setEnabled(selected > 0);
 }

@@ -22,9 +22,9 @@ class ClientSession;
 class DeviceStates;
 class DevicesFilter;
 class DevicesModel;
+class GroupList;
 class GroupsMenu;
 class LastOutcomes;
-class StateList;
 class TableView;
 class TickNote;
 
@@ -34,7 +34,7 @@ class TickNote;
 ///
 /// What rows say and how many have which state follows the devices. Which rows are shown, and in which order, stays
 /// as it is until the user searches, chooses or sorts, or asks for it with F5: so no row moves away while somebody
-/// selects. How many rows wait for that is said below the table.
+/// selects. How many rows wait for that is said above the table.
 class DevicesWindow : public ToolWindow
 {
     Q_OBJECT
@@ -49,12 +49,12 @@ private:
     QWidget *buildStates();
     QWidget *buildTop();
     QWidget *buildTable();
-    QWidget *buildBelow();
     QWidget *buildButtons();
     QPushButton *addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip);
     void follow();
 
     void takeChanges(bool isListChanged);
+    void updateGroups();
     void refresh(); ///< shows what the search and the choice want now
     void updateTexts();
     void updateSelection();
@@ -71,14 +71,14 @@ private:
     LastOutcomes *m_outcomes;
     DevicesModel *m_model;
     DevicesFilter *m_filter;
+    int m_outdated = 0; // devices that the filter would show or leave out now
 
-    StateList *m_stateList = nullptr;
+    GroupList *m_stateList = nullptr;
     orda_base::SearchBox *m_search = nullptr;
     QStackedWidget *m_stack = nullptr;
     TableView *m_table = nullptr;
     QLabel *m_empty = nullptr;
     QLabel *m_counts = nullptr;
-    QLabel *m_outdated = nullptr;
     QPushButton *m_refresh = nullptr;
     TickNote *m_note = nullptr;
     GroupsMenu *m_groups = nullptr;

@@ -55,6 +55,12 @@ void GroupsMenu::fill()
     addAction(tr("Save the selected &rows as…"), this, &GroupsMenu::signalSaveRows);
 }
 
+// Sections have no texts in the theme.
+void GroupsMenu::addHeading(const QString &text)
+{
+    addAction(text)->setEnabled(false);
+}
+
 void GroupsMenu::addGroups()
 {
     QMap<QString, QStringList> groups;
@@ -62,7 +68,7 @@ void GroupsMenu::addGroups()
     for (const vms_sdk::DevInfo &device : devices)
         if (!device.group.isEmpty())
             groups[device.group].append(device.id);
-    addSection(tr("Tick a group of the inventory"));
+    addHeading(tr("Tick a group of the inventory:"));
     const QStringList names = sorted(groups.keys());
     for (const QString &name : names) {
         const QStringList devIds = groups.value(name);
@@ -71,12 +77,13 @@ void GroupsMenu::addGroups()
             this, [this, devIds] { emit signalChosen(devIds); });
     }
     if (groups.isEmpty())
-        addAction(tr("The inventory has no groups"))->setEnabled(false);
+        addHeading(tr("The inventory has no groups."));
 }
 
 void GroupsMenu::addSelections()
 {
-    addSection(tr("Tick a saved selection"));
+    addSeparator();
+    addHeading(tr("Tick a saved selection:"));
     const QMap<QString, QStringList> selections = m_settings->selections();
     const QStringList names = sorted(selections.keys());
     for (const QString &name : names) {
@@ -86,7 +93,7 @@ void GroupsMenu::addSelections()
             this, [this, devIds] { emit signalChosen(devIds); });
     }
     if (names.isEmpty()) {
-        addAction(tr("Nothing is saved yet"))->setEnabled(false);
+        addHeading(tr("Nothing is saved yet."));
         return;
     }
     QMenu *forget = addMenu(tr("&Forget a saved selection"));

@@ -30,6 +30,7 @@ signals:
 
 private:
     void fill();
+    void addHeading(const QString &text);
     void addGroups();
     void addSelections();
     void askBeforeForgetting(const QString &name);

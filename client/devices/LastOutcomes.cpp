@@ -13,7 +13,6 @@ namespace orda_client {
 
 using orda_batchCfg::Families;
 using orda_journal::LatestOutcome;
-using orda_journal::Outcome;
 
 LastOutcomes::LastOutcomes(const orda_journal::HistoryOptions &history, QObject *parent)
     : QObject(parent)
@@ -61,29 +60,6 @@ const LatestOutcome *LastOutcomes::of(const vms_sdk::DevInfo &device) const
         return !outcome.device.isReplacedBy(device.serialNumber);
     });
     return meant == known->cend() ? nullptr : &*meant;
-}
-
-QString LastOutcomes::text(Outcome outcome)
-{
-    switch (outcome) {
-    case Outcome::Done:
-        return tr("done");
-    case Outcome::Unchanged:
-        return tr("unchanged");
-    case Outcome::Failed:
-        return tr("failed");
-    case Outcome::Unknown:
-        return tr("unknown");
-    case Outcome::Stopped:
-        return tr("stopped");
-    case Outcome::PartlyWritten:
-        return tr("partly written");
-    case Outcome::NotReached:
-        return tr("not reached");
-    case Outcome::Differs:
-        return tr("differs");
-    }
-    return {};
 }
 
 QString LastOutcomes::familyTitle(const QString &family)

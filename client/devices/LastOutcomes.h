@@ -30,8 +30,6 @@ public:
     /// Why the history could not be read, for the user; empty when it was.
     QString error() const { return m_read.error; }
 
-    /// "partly written".
-    static QString text(orda_journal::Outcome outcome);
     /// As the form calls the family; its name where the form does not have it.
     static QString familyTitle(const QString &family);
 

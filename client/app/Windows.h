@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+QT_BEGIN_NAMESPACE
+class QMainWindow;
+class QUrl;
+QT_END_NAMESPACE
+
+namespace orda_client {
+
+class ClientSession;
+class ClientSettings;
+class LastRunWindow;
+class ManualWindow;
+class RecordViewer;
+struct Family;
+
+/// Opens the windows beside the main one, each once: one that is open already comes to the front. All of them close
+/// with the main window.
+class Windows : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param form the batch-configuration form, or what has it
+    Windows(QWidget *form, ClientSession *session, ClientSettings *settings, QMainWindow *window);
+
+    void showLastRun();
+    void showLastRunOf(const Family &family);
+    /// Saves the devices that are there now.
+    void showExport();
+    void showSettings();
+    void showManual();
+    void showAbout();
+    void showRemoteConfig(const QString &devId);
+
+private slots:
+    /// QDesktopServices hands the address over that Report and Detail open.
+    void openRecord(const QUrl &url);
+
+private:
+    template <typename Window, typename Make>
+    void show(QPointer<Window> *window, const Make &make);
+
+    QWidget *m_form;
+    ClientSession *m_session;
+    ClientSettings *m_settings;
+    QMainWindow *m_window;
+    RecordViewer *m_viewer;
+    QPointer<LastRunWindow> m_lastRun;
+    QPointer<ManualWindow> m_manual;
+};
+
+} // namespace orda_client
