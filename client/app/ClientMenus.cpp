@@ -63,8 +63,8 @@ void ClientMenus::buildDevices()
 void ClientMenus::buildRun()
 {
     QMenu *menu = addMenu(tr("&Run"));
-    showLastRun = add(menu, "showLastRun", tr("&Last run"), Qt::Key_F9);
-    showLastRun->setStatusTip(tr("Lists the outcome of each device, and ticks the failed ones again"));
+    showRuns = add(menu, "showRuns", tr("&Runs"), Qt::Key_F9);
+    showRuns->setStatusTip(tr("What runs did to the devices; tries again, verifies, takes back, compares"));
 }
 
 void ClientMenus::buildHelp()
