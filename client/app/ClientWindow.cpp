@@ -10,9 +10,14 @@
 #include "client/form/Families.h"
 #include "client/form/FormPage.h"
 #include "client/form/FormTicks.h"
+#include "client/press/PressGuard.h"
+#include "client/press/PressLine.h"
+#include "client/progress/RunProgress.h"
+#include "client/inventory/InventoryImport.h"
 #include "client/record/PageRecord.h"
 #include "client/session/ClientSession.h"
 #include "client/settings/ClientSettings.h"
+#include "journal/JournalTransport.h"
 
 #include <families/Families.h>
 #include <orda_base/BaseForm.h>
@@ -36,6 +41,8 @@
 
 namespace orda_client {
 
+using orda_journal::JournalTransport;
+
 namespace {
 
 constexpr QSize wantedSize(1500, 850);
@@ -52,6 +59,7 @@ ClientWindow::ClientWindow(ClientSession *session, ClientSettings *settings, QWi
     , m_menus(new ClientMenus(settings, this))
     , m_statusBar(new ClientStatusBar(m_menus->showDevices, m_menus->showRuns, this))
     , m_opener(new InventoryOpener(m_form, session, settings, this))
+    , m_import(new InventoryImport(settings, this))
     , m_windows(new Windows(m_form, session, settings, this))
 {
     setObjectName(QStringLiteral("clientWindow"));
@@ -88,8 +96,20 @@ QWidget *ClientWindow::buildForm()
     auto *room = new QWidget;
     auto *layout = new QVBoxLayout(room);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(area);
+    layout->addWidget(area, 1);
+    auto *line = new PressLine(area);
+    layout->addWidget(line);
+    auto *progress = new RunProgress(m_session->journal(), m_settings);
+    layout->addWidget(progress);
+    // In mid-run the line would say what a press cannot do.
+    connect(m_session->journal(), &JournalTransport::signalRunBegan, line, &QWidget::hide);
+    connect(m_session->journal(), &JournalTransport::signalRunEnded, line, &QWidget::show);
     return room;
+}
+
+void ClientWindow::guardPresses()
+{
+    m_guard = new PressGuard(m_form, m_settings, this);
 }
 
 void ClientWindow::connectActions()
@@ -97,6 +117,11 @@ void ClientWindow::connectActions()
     connect(m_menus->openInventory, &QAction::triggered, m_opener, &InventoryOpener::ask);
     connect(m_menus, &ClientMenus::signalRecentChosen, m_opener, &InventoryOpener::openRecent);
     connect(m_menus, &ClientMenus::signalClearRecent, m_opener, &InventoryOpener::clearRecent);
+    connect(m_menus->importDevices, &QAction::triggered, this, &ClientWindow::importDevices);
+    connect(m_firstSteps, &FirstSteps::signalImport, this, &ClientWindow::importDevices);
+    connect(m_import, &InventoryImport::signalImported, m_opener, &InventoryOpener::open);
+    connect(m_menus->exportDevices, &QAction::triggered, m_windows, &Windows::showExport);
+    connect(m_menus->showSettings, &QAction::triggered, m_windows, &Windows::showSettings);
     connect(m_menus->quit, &QAction::triggered, this, &QWidget::close);
     connect(m_menus->connectAgain, &QAction::triggered, m_session, &ClientSession::connectAgain);
     connect(m_firstSteps, &FirstSteps::signalOpen, m_opener, &InventoryOpener::ask);
@@ -104,6 +129,14 @@ void ClientWindow::connectActions()
     connect(m_firstSteps, &FirstSteps::signalStartDemo, m_opener, &InventoryOpener::startDemo);
     connect(m_opener, &InventoryOpener::signalRecentChanged, m_firstSteps, &FirstSteps::listRecent);
     connect(m_menus->showRuns, &QAction::triggered, m_windows, &Windows::showRuns);
+    connect(m_menus->showManual, &QAction::triggered, m_windows, &Windows::showManual);
+    connect(m_menus->showAbout, &QAction::triggered, m_windows, &Windows::showAbout);
+}
+
+void ClientWindow::importDevices()
+{
+    if (!m_opener->isDeclined())
+        m_import->start();
 }
 
 void ClientWindow::followSession()

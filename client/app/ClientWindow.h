@@ -19,7 +19,9 @@ class ClientSettings;
 class ClientStatusBar;
 class CloseQuestion;
 class FirstSteps;
+class InventoryImport;
 class InventoryOpener;
+class PressGuard;
 class Windows;
 
 /// The client's window: the batch-configuration form, or what to begin with as long as there are no devices; menus, and
@@ -33,6 +35,9 @@ public:
     ClientWindow(ClientSession *session, ClientSettings *settings, QWidget *parent = nullptr);
     ~ClientWindow() override;
 
+    /// Asks before large or odd runs from now on: only where a person sits at the window.
+    void guardPresses();
+
     /// Large enough to show the form without scroll bars.
     QSize sizeHint() const override;
 
@@ -43,6 +48,7 @@ protected:
 private:
     QWidget *buildForm();
     void connectActions();
+    void importDevices();
     void followSession();
     void rememberPage();
     void showSource();
@@ -57,7 +63,9 @@ private:
     ClientMenus *m_menus;
     ClientStatusBar *m_statusBar;
     InventoryOpener *m_opener;
+    InventoryImport *m_import;
     Windows *m_windows;
+    PressGuard *m_guard = nullptr;
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
 };

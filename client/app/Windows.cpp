@@ -1,17 +1,24 @@
 #include "client/app/Windows.h"
 
+#include "client/app/AboutDialog.h"
+#include "client/app/ManualWindow.h"
 #include "client/app/RemoteConfigDialog.h"
+#include "client/app/SettingsDialog.h"
 #include "client/common/ToolWindow.h"
 #include "client/form/Families.h"
+#include "client/inventory/ExportDialog.h"
 #include "client/record/PageRecord.h"
 #include "client/record/RecordFile.h"
 #include "client/record/RecordViewer.h"
 #include "client/runs/RunJobs.h"
 #include "client/runs/RunsWindow.h"
+#include "client/session/ClientSession.h"
 
 #include <orda_base/BaseTools.h>
+#include <orda_data/DevsMgrData.h>
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QUrl>
 
@@ -49,6 +56,28 @@ void Windows::showRuns()
 void Windows::showRemoteConfig(const QString &devId)
 {
     (new RemoteConfigDialog(devId, m_window))->open();
+}
+
+void Windows::showExport()
+{
+    const QString file = m_session->source().inventoryFile;
+    const QString name = file.isEmpty() ? QStringLiteral("devices") : QFileInfo(file).completeBaseName();
+    (new ExportDialog(orda_data::DevsMgrData::instance().getAllDevs(false), name, m_window))->open();
+}
+
+void Windows::showSettings()
+{
+    (new SettingsDialog(m_settings, m_session->historyOptions(), m_window))->open();
+}
+
+void Windows::showManual()
+{
+    show(&m_manual, [this] { return new ManualWindow(m_settings, m_window); });
+}
+
+void Windows::showAbout()
+{
+    (new AboutDialog(m_window))->open();
 }
 
 void Windows::openRecord(const QUrl &url)

@@ -12,6 +12,7 @@ namespace orda_client {
 
 class ClientSession;
 class ClientSettings;
+class ManualWindow;
 class RecordViewer;
 class RunJobs;
 class RunsWindow;
@@ -28,6 +29,11 @@ public:
 
     /// Turns to the latest run.
     void showRuns();
+    /// Saves the devices that are there now.
+    void showExport();
+    void showSettings();
+    void showManual();
+    void showAbout();
     void showRemoteConfig(const QString &devId);
 
 private slots:
@@ -45,6 +51,7 @@ private:
     RecordViewer *m_viewer;
     RunJobs *m_runJobs; // outlives the windows that start them
     QPointer<RunsWindow> m_runs;
+    QPointer<ManualWindow> m_manual;
 };
 
 } // namespace orda_client

@@ -63,8 +63,16 @@ int CheckedEntry::choice(const QString &key, const QStringList &choices, int abs
 
 void CheckedEntry::fail(const QString &key, const QString &whatIsRight)
 {
-    if (m_fault.isEmpty())
-        m_fault = tr("field \"%1\": %2").arg(key, whatIsRight);
+    const auto hasFault = [&key](const Fault &fault) { return fault.key == key; };
+    if (std::none_of(m_faults.cbegin(), m_faults.cend(), hasFault))
+        m_faults.append({key, whatIsRight});
+}
+
+QString CheckedEntry::fault() const
+{
+    if (m_faults.isEmpty())
+        return {};
+    return tr("field \"%1\": %2").arg(m_faults.constFirst().key, m_faults.constFirst().whatIsRight);
 }
 
 QStringList CheckedEntry::unknownKeys() const

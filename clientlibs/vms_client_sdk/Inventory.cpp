@@ -3,6 +3,7 @@
 #include <vms_client_sdk/CheckedJson.h>
 #include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/InventoryEntries.h>
 #include <vms_client_sdk/WholeFile.h>
 
 #include <QCoreApplication>
@@ -203,6 +204,22 @@ Inventory readInventory(const QString &path)
     if (!file.error().isEmpty())
         return {{}, {}, file.error()};
     return {devices, file.warnings(), {}};
+}
+
+InventoryEntries checkInventoryEntries(const QVector<InventoryEntries::Entry> &entries)
+{
+    InventoryEntries checked;
+    UniqueFields uniqueFields;
+    for (int i = 0; i < entries.size(); ++i) {
+        CheckedEntry entry(entries.at(i).name, entries.at(i).fields);
+        checked.devices.append(DeviceReader(entry).read());
+        uniqueFields.check(entry, checked.devices.constLast());
+        for (const CheckedEntry::Fault &fault : entry.faults())
+            checked.faults.append({i, fault.key, fault.whatIsRight});
+    }
+    if (!checked.faults.isEmpty())
+        checked.devices.clear();
+    return checked;
 }
 
 QJsonObject inventoryToJson(const QList<DevInfo> &devices)
