@@ -10,10 +10,14 @@
 #include "client/form/Families.h"
 #include "client/form/FormPage.h"
 #include "client/form/FormTicks.h"
+#include "client/press/PressGuard.h"
+#include "client/press/PressLine.h"
+#include "client/progress/RunProgress.h"
 #include "client/inventory/InventoryImport.h"
 #include "client/record/PageRecord.h"
 #include "client/session/ClientSession.h"
 #include "client/settings/ClientSettings.h"
+#include "journal/JournalTransport.h"
 
 #include <families/Families.h>
 #include <orda_base/BaseForm.h>
@@ -36,6 +40,8 @@
 #include <QVBoxLayout>
 
 namespace orda_client {
+
+using orda_journal::JournalTransport;
 
 namespace {
 
@@ -90,8 +96,20 @@ QWidget *ClientWindow::buildForm()
     auto *room = new QWidget;
     auto *layout = new QVBoxLayout(room);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(area);
+    layout->addWidget(area, 1);
+    auto *line = new PressLine(area);
+    layout->addWidget(line);
+    auto *progress = new RunProgress(m_session->journal(), m_settings);
+    layout->addWidget(progress);
+    // In mid-run the line would say what a press cannot do.
+    connect(m_session->journal(), &JournalTransport::signalRunBegan, line, &QWidget::hide);
+    connect(m_session->journal(), &JournalTransport::signalRunEnded, line, &QWidget::show);
     return room;
+}
+
+void ClientWindow::guardPresses()
+{
+    m_guard = new PressGuard(m_form, m_settings, this);
 }
 
 void ClientWindow::connectActions()

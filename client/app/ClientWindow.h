@@ -21,6 +21,7 @@ class CloseQuestion;
 class FirstSteps;
 class InventoryImport;
 class InventoryOpener;
+class PressGuard;
 class Windows;
 
 /// The client's window: the batch-configuration form, or what to begin with as long as there are no devices; menus, and
@@ -33,6 +34,9 @@ public:
     /// @param session @param settings must outlive the window
     ClientWindow(ClientSession *session, ClientSettings *settings, QWidget *parent = nullptr);
     ~ClientWindow() override;
+
+    /// Asks before large or odd runs from now on: only where a person sits at the window.
+    void guardPresses();
 
     /// Large enough to show the form without scroll bars.
     QSize sizeHint() const override;
@@ -61,6 +65,7 @@ private:
     InventoryOpener *m_opener;
     InventoryImport *m_import;
     Windows *m_windows;
+    PressGuard *m_guard = nullptr;
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
 };

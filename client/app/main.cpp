@@ -99,6 +99,8 @@ int main(int argc, char *argv[])
         complain(warning);
     QObject::connect(&session, &ClientSession::signalWarning, &app, complain);
     ClientWindow window(&session, &settings);
+    if (!isDriven)
+        window.guardPresses();
     window.show();
 
     QString error;

@@ -100,4 +100,9 @@ void ClientSession::connectAgain()
     m_devices->connectAgain();
 }
 
+void ClientSession::connectDevicesAgain(const QStringList &devIds)
+{
+    m_devices->connectDevicesAgain(devIds);
+}
+
 } // namespace orda_client

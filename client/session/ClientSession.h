@@ -53,6 +53,8 @@ public:
 
     /// Tries the devices again that refused the sign-on.
     void connectAgain();
+    /// Tries these again now, those too that refused the sign-on or wait for their next turn.
+    void connectDevicesAgain(const QStringList &devIds);
 
     /// What the jobs of the engine take, and what tells about runs. Null once somebody has given the SDK another
     /// transport.

@@ -1,4 +1,4 @@
-#include "client/record/FailureGroupList.h"
+#include "client/tables/GroupList.h"
 
 #include <vms_client_sdk/ForeignText.h>
 
@@ -9,9 +9,10 @@
 
 namespace orda_client {
 
-FailureGroupList::FailureGroupList(QWidget *parent)
+GroupList::GroupList(const QString &name, QWidget *parent)
     : orda_base::TableWidget(parent)
 {
+    setAccessibleName(name);
     setColumnCount(2);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
@@ -23,38 +24,37 @@ FailureGroupList::FailureGroupList(QWidget *parent)
     // A long message is shortened, so that the number is always seen.
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    connect(this, &QTableWidget::itemSelectionChanged, this, &FailureGroupList::signalGroupChosen);
+    connect(this, &QTableWidget::itemSelectionChanged, this, &GroupList::signalGroupChosen);
 }
 
-void FailureGroupList::setEntries(const QVector<RunEntry> &entries)
+void GroupList::setGroups(const QString &allText, int all, const QVector<RowGroup> &groups)
 {
-    const std::optional<FailureGroup> chosen = group();
+    const QString chosen = group();
     int row = 0;
     {
         const QSignalBlocker blocker(this);
         setRowCount(0);
-        m_groups = groupFailures(entries);
-        addRow(tr("All devices"), entries.size());
-        for (const FailureGroup &candidate : qAsConst(m_groups)) {
-            if (chosen && chosen->outcome == candidate.outcome && chosen->message == candidate.message)
+        m_groups = groups;
+        addRow(allText, all);
+        for (const RowGroup &candidate : groups) {
+            if (candidate.key == chosen)
                 row = rowCount();
-            addRow(candidate.outcome == RunEntry::Unreadable ? tr("Unreadable entries") : candidate.message,
-                   candidate.count);
+            addRow(candidate.text, candidate.count);
         }
         selectRow(row);
     }
-    if (chosen && row == 0)
+    if (!chosen.isEmpty() && row == 0)
         emit signalGroupChosen();
 }
 
-std::optional<FailureGroup> FailureGroupList::group() const
+QString GroupList::group() const
 {
     const QModelIndexList selected = selectionModel()->selectedRows();
     const int row = selected.isEmpty() ? 0 : selected.constFirst().row();
-    return row > 0 && row <= m_groups.size() ? std::make_optional(m_groups.at(row - 1)) : std::nullopt;
+    return row > 0 && row <= m_groups.size() ? m_groups.at(row - 1).key : QString();
 }
 
-void FailureGroupList::addRow(const QString &recorded, int count)
+void GroupList::addRow(const QString &recorded, int count)
 {
     const QString text = vms_sdk::displayText(recorded, QStringLiteral("\n"));
     auto *message = new QTableWidgetItem(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
