@@ -16,6 +16,12 @@ namespace orda_client {
 
 using namespace std::chrono_literals;
 
+namespace {
+
+constexpr int recentWidth = 560; // paths may be longer than the screen is wide
+
+} // namespace
+
 ClientMenus::ClientMenus(const ClientSettings *settings, QMainWindow *window)
     : QObject(window)
     , m_settings(settings)
@@ -63,8 +69,8 @@ void ClientMenus::buildDevices()
 void ClientMenus::buildRun()
 {
     QMenu *menu = addMenu(tr("&Run"));
-    showLastRun = add(menu, "showLastRun", tr("&Last run"), Qt::Key_F9);
-    showLastRun->setStatusTip(tr("Lists the outcome of each device, and ticks the failed ones again"));
+    showRuns = add(menu, "showRuns", tr("&Runs"), Qt::Key_F9);
+    showRuns->setStatusTip(tr("What runs did to the devices; tries again, verifies, takes back, compares"));
 }
 
 void ClientMenus::buildHelp()
@@ -106,7 +112,9 @@ void ClientMenus::listRecent()
     const QStringList paths = m_settings->recentInventories();
     for (int i = 0; i < paths.size(); ++i) {
         const QString &path = paths.at(i);
-        const QString shown = vms_sdk::displayText(path).replace(QLatin1Char('&'), QLatin1String("&&"));
+        const QString shown = m_recent->fontMetrics()
+                                  .elidedText(vms_sdk::displayText(path), Qt::ElideMiddle, recentWidth)
+                                  .replace(QLatin1Char('&'), QLatin1String("&&"));
         const QAction *entry = m_recent->addAction(QStringLiteral("&%1  %2").arg(QString::number(i + 1), shown));
         connect(entry, &QAction::triggered, this, [this, path] { emit signalRecentChosen(path); });
     }

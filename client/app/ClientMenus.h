@@ -33,7 +33,7 @@ public:
     QAction *showDevices = nullptr;
     QAction *connectAgain = nullptr;
     // Run
-    QAction *showLastRun = nullptr;
+    QAction *showRuns = nullptr;
     // Help
     QAction *showManual = nullptr;
     QAction *showAbout = nullptr;

@@ -26,10 +26,10 @@ constexpr auto refreshDelay = 100ms;
 
 } // namespace
 
-ClientStatusBar::ClientStatusBar(QAction *devices, QAction *lastRun, QWidget *parent)
+ClientStatusBar::ClientStatusBar(QAction *devices, QAction *runs, QWidget *parent)
     : QStatusBar(parent)
     , m_last(new QLabel(this))
-    , m_lastRunBt(new QToolButton(this))
+    , m_runsBt(new QToolButton(this))
     , m_onlineCount(new QToolButton(this))
     , m_refresh(new orda_base::DelayedCall(
           refreshDelay, [this] { refresh(); }, this))
@@ -37,11 +37,11 @@ ClientStatusBar::ClientStatusBar(QAction *devices, QAction *lastRun, QWidget *pa
     m_last->setTextFormat(Qt::PlainText); // devices' names
     m_last->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     addWidget(m_last, 1);
-    lastRun->setIconText(tr("Last run")); // on the button, without the menu's mnemonic
-    m_lastRunBt->setDefaultAction(lastRun);
-    m_lastRunBt->setFocusPolicy(Qt::TabFocus);
-    m_lastRunBt->hide();
-    addPermanentWidget(m_lastRunBt);
+    runs->setIconText(tr("Runs")); // on the button, without the menu's mnemonic
+    m_runsBt->setDefaultAction(runs);
+    m_runsBt->setFocusPolicy(Qt::TabFocus);
+    m_runsBt->hide();
+    addPermanentWidget(m_runsBt);
     buildCount(devices);
     followDevices();
     refresh();
@@ -101,9 +101,9 @@ void ClientStatusBar::tell(const QString &text)
     m_last->setToolTip(Qt::convertFromPlainText(line, Qt::WhiteSpaceNormal));
 }
 
-void ClientStatusBar::offerLastRun()
+void ClientStatusBar::offerRuns()
 {
-    m_lastRunBt->show();
+    m_runsBt->show();
 }
 
 } // namespace orda_client

@@ -24,12 +24,12 @@ class ClientStatusBar : public QStatusBar
 
 public:
     /// @param devices triggered by a click on the count, while it is enabled
-    /// @param lastRun on a button that is hidden until the first run is over
-    ClientStatusBar(QAction *devices, QAction *lastRun, QWidget *parent);
+    /// @param runs on a button that is hidden until the first run is over
+    ClientStatusBar(QAction *devices, QAction *runs, QWidget *parent);
 
     /// Shows a line, with the time, until the next one.
     void tell(const QString &text);
-    void offerLastRun();
+    void offerRuns();
 
 private:
     void buildCount(QAction *devices);
@@ -37,7 +37,7 @@ private:
     void refresh();
 
     QLabel *m_last;
-    QToolButton *m_lastRunBt;
+    QToolButton *m_runsBt;
     QToolButton *m_onlineCount;
     orda_base::DelayedCall *m_refresh;
     QString m_lastChanged; // id of the device whose change of state is to be told

@@ -57,7 +57,7 @@ ClientWindow::ClientWindow(ClientSession *session, ClientSettings *settings, QWi
     , m_form(buildForm())
     , m_firstSteps(new FirstSteps(settings))
     , m_menus(new ClientMenus(settings, this))
-    , m_statusBar(new ClientStatusBar(m_menus->showDevices, m_menus->showLastRun, this))
+    , m_statusBar(new ClientStatusBar(m_menus->showDevices, m_menus->showRuns, this))
     , m_opener(new InventoryOpener(m_form, session, settings, this))
     , m_import(new InventoryImport(settings, this))
     , m_windows(new Windows(m_form, session, settings, this))
@@ -128,7 +128,7 @@ void ClientWindow::connectActions()
     connect(m_firstSteps, &FirstSteps::signalOpenRecent, m_opener, &InventoryOpener::openRecent);
     connect(m_firstSteps, &FirstSteps::signalStartDemo, m_opener, &InventoryOpener::startDemo);
     connect(m_opener, &InventoryOpener::signalRecentChanged, m_firstSteps, &FirstSteps::listRecent);
-    connect(m_menus->showLastRun, &QAction::triggered, m_windows, &Windows::showLastRun);
+    connect(m_menus->showRuns, &QAction::triggered, m_windows, &Windows::showRuns);
     connect(m_menus->showManual, &QAction::triggered, m_windows, &Windows::showManual);
     connect(m_menus->showAbout, &QAction::triggered, m_windows, &Windows::showAbout);
 }
@@ -212,7 +212,7 @@ void ClientWindow::showSummary(const orda_worker::EventConfirmInfo &info)
     const Family *family = shownFamily(m_form);
     const QString complaint = family ? PageRecord::of(m_form, *family).complaint() : QString();
     m_statusBar->tell(complaint.isEmpty() ? info.text : info.text + QStringLiteral(" – ") + complaint);
-    m_statusBar->offerLastRun(); // the module asks nothing but to confirm a run's summary
+    m_statusBar->offerRuns(); // the module asks nothing but to confirm a run's summary
     if (complaint.isEmpty())
         return;
     const auto windows = QApplication::topLevelWidgets();

@@ -21,6 +21,7 @@ namespace {
 constexpr int columnWidth = 720;
 constexpr int margin = 24;
 constexpr int spacing = 12;
+constexpr int recentWidth = 560; // of the text; paths may be longer than the window is wide
 constexpr int usualDemoDevices = 200;
 constexpr int mostDemoDevices = 10000;
 
@@ -135,11 +136,13 @@ QWidget *FirstSteps::buildDemo()
     m_demoDevices->setObjectName(QStringLiteral("demoDevices"));
     m_demoDevices->setRange(1, mostDemoDevices);
     m_demoDevices->setValue(usualDemoDevices);
+    m_demoDevices->setButtonSymbols(QSpinBox::NoButtons);
     auto *caption = new QLabel(tr("&Number of devices"));
     caption->setBuddy(m_demoDevices);
     auto *start = button(tr("&Start the demo"), "startDemoBt", "common_bt_style2");
     connect(start, &QPushButton::clicked, this, [this] { emit signalStartDemo(m_demoDevices->value()); });
-    layout->addLayout(rowOf({caption, m_demoDevices, start}));
+    layout->addLayout(rowOf({caption, m_demoDevices}));
+    layout->addLayout(rowOf({start}));
     return layout->parentWidget();
 }
 
@@ -155,11 +158,12 @@ void FirstSteps::listRecent()
     for (const QString &path : paths) {
         const QFileInfo file(path);
         const QString shown = vms_sdk::displayText(QStringLiteral("%1 – %2").arg(file.fileName(), file.path()));
-        auto *entry =
-            button(QString(shown).replace(QLatin1Char('&'), QLatin1String("&&")), "recentInventory", "recent");
+        auto *entry = button({}, "recentInventory", "recent");
         entry->setStyleSheet(QStringLiteral("text-align: left;"));
-        entry->setMinimumWidth(0);
-        entry->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // paths may be longer than the window is wide
+        entry->ensurePolished(); // so that the font is the one that will be used
+        entry->setText(entry->fontMetrics()
+                           .elidedText(shown, Qt::ElideMiddle, recentWidth)
+                           .replace(QLatin1Char('&'), QLatin1String("&&")));
         entry->setToolTip(Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal));
         connect(entry, &QPushButton::clicked, this, [this, path] { emit signalOpenRecent(path); });
         m_recent->addWidget(entry);

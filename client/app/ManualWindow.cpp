@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QLocale>
 #include <QTextBrowser>
+#include <QTextFrame>
+#include <QTextTable>
 
 namespace orda_client {
 
@@ -10,6 +12,7 @@ namespace {
 
 constexpr QSize wantedSize(820, 760);
 constexpr int pageMargin = 16;
+constexpr int cellPadding = 6;
 
 QString manualIn(const QString &language)
 {
@@ -29,6 +32,26 @@ QString manual()
     return QString::fromUtf8(file.readAll());
 }
 
+/// The tables of a text in Markdown have double lines and no room in their cells.
+void styleTables(QTextDocument *text, const QColor &lines)
+{
+    const QList<QTextFrame *> frames = text->rootFrame()->childFrames();
+    for (QTextFrame *frame : frames) {
+        auto *table = qobject_cast<QTextTable *>(frame);
+        if (!table)
+            continue;
+        QTextTableFormat format = table->format();
+        format.setBorderCollapse(true);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorder(1);
+        format.setBorderBrush(lines);
+        format.setCellSpacing(0);
+        format.setCellPadding(cellPadding);
+        format.setTopMargin(cellPadding);
+        table->setFormat(format);
+    }
+}
+
 } // namespace
 
 ManualWindow::ManualWindow(ClientSettings *settings, QWidget *parent)
@@ -40,6 +63,7 @@ ManualWindow::ManualWindow(ClientSettings *settings, QWidget *parent)
     page->setAccessibleName(tr("Manual"));
     page->document()->setDocumentMargin(pageMargin);
     page->setMarkdown(manual());
+    styleTables(page->document(), palette().color(QPalette::Disabled, QPalette::Text));
     setContent(page);
     page->setFocus();
 }

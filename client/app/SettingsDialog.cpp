@@ -1,5 +1,6 @@
 #include "client/app/SettingsDialog.h"
 
+#include "client/common/OpeningSize.h"
 #include "client/settings/ClientSettings.h"
 #include "journal/HistoryOptions.h"
 #include "programs/Translations.h"
@@ -48,16 +49,24 @@ void choose(QComboBox *box, const QString &value)
     box->setCurrentIndex(qMax(0, box->findData(value)));
 }
 
-/// A framed area. @return its layout, whose parent is the area
-QFormLayout *card(const QString &title)
+/// A framed area with a heading. @return its layout, whose parent is the area
+QVBoxLayout *card(const QString &title)
 {
     auto *area = new QWidget;
     area->setProperty("page_card", true);
     area->setAttribute(Qt::WA_StyledBackground);
-    auto *form = new QFormLayout(area);
-    form->setContentsMargins(margin, spacing, margin, spacing);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins(margin, spacing, margin, spacing);
+    layout->setSpacing(spacing);
+    layout->addWidget(heading(title));
+    return layout;
+}
+
+QFormLayout *formIn(QVBoxLayout *card)
+{
+    auto *form = new QFormLayout;
     form->setSpacing(spacing);
-    form->addRow(heading(title));
+    card->addLayout(form);
     return form;
 }
 
@@ -84,6 +93,9 @@ SettingsDialog::SettingsDialog(ClientSettings *settings, const orda_journal::His
     layout->addWidget(buildButtons());
     new orda_base::ReturnPressesButton(this);
     m_language->setFocus();
+    // A dialog gives itself two thirds of the screen at most, which is too little on a small one.
+    const int width = sizeHint().width();
+    resize(openingSize(this, {width, layout->totalHeightForWidth(width)}));
 }
 
 QWidget *SettingsDialog::buildWindow()
@@ -99,11 +111,12 @@ QWidget *SettingsDialog::buildWindow()
     m_theme->addItem(tr("Light", "the theme"), QStringLiteral("light"));
     m_theme->addItem(tr("Dark", "the theme"), QStringLiteral("dark"));
     choose(m_theme, m_settings->theme());
-    QFormLayout *form = card(tr("Window"));
+    QVBoxLayout *layout = card(tr("Window"));
+    QFormLayout *form = formIn(layout);
     form->addRow(tr("&Language"), m_language);
     form->addRow(tr("&Theme"), m_theme);
-    form->addRow(paragraph(tr("Another language and another theme are there when the client is started next.")));
-    return form->parentWidget();
+    layout->addWidget(paragraph(tr("Another language and another theme are there when the client is started next.")));
+    return layout->parentWidget();
 }
 
 QWidget *SettingsDialog::buildRuns()
@@ -111,20 +124,23 @@ QWidget *SettingsDialog::buildRuns()
     m_askAbove->setObjectName(QStringLiteral("askAbove"));
     m_askAbove->setRange(0, mostAskAbove);
     m_askAbove->setValue(m_settings->askAbove());
+    m_askAbove->setButtonSymbols(QSpinBox::NoButtons);
     m_halts->setObjectName(QStringLiteral("halts"));
     m_halts->setChecked(m_settings->haltShare() > 0);
     m_haltShare->setObjectName(QStringLiteral("haltShare"));
     m_haltShare->setRange(1, 99);
+    m_haltShare->setButtonSymbols(QSpinBox::NoButtons);
     m_haltShare->setSuffix(tr(" %", "per cent"));
     m_haltShare->setValue(m_halts->isChecked() ? m_settings->haltShare() : usualHaltShare);
     m_haltShare->setEnabled(m_halts->isChecked());
     m_haltShare->setAccessibleName(tr("Share of failed devices that stops a run"));
     connect(m_halts, &QCheckBox::toggled, m_haltShare, &QWidget::setEnabled);
-    QFormLayout *form = card(tr("Runs"));
+    QVBoxLayout *layout = card(tr("Runs"));
+    QFormLayout *form = formIn(layout);
     form->addRow(tr("&Ask before a run over more devices than"), m_askAbove);
     form->addRow(m_halts, m_haltShare);
-    form->addRow(paragraph(tr("With 0 devices the client asks before every run.")));
-    return form->parentWidget();
+    layout->addWidget(paragraph(tr("With 0 devices the client asks before every run.")));
+    return layout->parentWidget();
 }
 
 QWidget *SettingsDialog::buildHistory(const orda_journal::HistoryOptions &history)
@@ -132,15 +148,15 @@ QWidget *SettingsDialog::buildHistory(const orda_journal::HistoryOptions &histor
     QLabel *path = paragraph(vms_sdk::displayText(history.path));
     path->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     path->setAccessibleName(tr("File of the history"));
-    QFormLayout *form = card(tr("History"));
-    form->addRow(paragraph(tr("What runs have done to devices is kept in this file:")));
-    form->addRow(path);
-    form->addRow(
+    QVBoxLayout *layout = card(tr("History"));
+    layout->addWidget(paragraph(tr("What runs have done to devices is kept in this file:")));
+    layout->addWidget(path);
+    layout->addWidget(
         paragraph(tr("Runs are removed after %n day(s), and the oldest ones earlier when the file grows beyond %1 MiB.",
                      nullptr, history.keptDays)
                       .arg(QLocale().toString(history.keptBytes >> 20))
                   + QLatin1Char(' ') + tr("The latest %n run(s) always stay.", nullptr, history.keptRuns)));
-    return form->parentWidget();
+    return layout->parentWidget();
 }
 
 QWidget *SettingsDialog::buildButtons()

@@ -7,10 +7,11 @@
 #include "client/common/ToolWindow.h"
 #include "client/form/Families.h"
 #include "client/inventory/ExportDialog.h"
-#include "client/record/LastRunWindow.h"
 #include "client/record/PageRecord.h"
 #include "client/record/RecordFile.h"
 #include "client/record/RecordViewer.h"
+#include "client/runs/RunJobs.h"
+#include "client/runs/RunsWindow.h"
 #include "client/session/ClientSession.h"
 
 #include <orda_base/BaseTools.h>
@@ -30,15 +31,12 @@ Windows::Windows(QWidget *form, ClientSession *session, ClientSettings *settings
     , m_settings(settings)
     , m_window(window)
     , m_viewer(new RecordViewer(this))
+    , m_runJobs(new RunJobs(session, this))
 {
     connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,
             &Windows::showRemoteConfig);
     QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module opens paths without a scheme
-    connect(m_viewer, &RecordViewer::signalNoViewer, this, [this](const QString &path) {
-        for (const Family &family : families())
-            if (path == RecordFile(family.recordFile).path())
-                showLastRunOf(family);
-    });
+    connect(m_viewer, &RecordViewer::signalNoViewer, this, &Windows::showRuns);
 }
 
 template <typename Window, typename Make>
@@ -49,15 +47,10 @@ void Windows::show(QPointer<Window> *window, const Make &make)
     ToolWindow::bringToFront(*window);
 }
 
-void Windows::showLastRun()
+void Windows::showRuns()
 {
-    show(&m_lastRun, [this] { return new LastRunWindow(m_form, m_window); });
-}
-
-void Windows::showLastRunOf(const Family &family)
-{
-    showLastRun();
-    m_lastRun->turnTo(&family);
+    show(&m_runs, [this] { return new RunsWindow(m_session, m_runJobs, m_form, m_settings, m_window); });
+    m_runs->showRun({});
 }
 
 void Windows::showRemoteConfig(const QString &devId)
@@ -99,7 +92,7 @@ void Windows::openRecord(const QUrl &url)
         if (isOwn && state.exists && state.refusal.isEmpty())
             m_viewer->open(file.path());
         else
-            showLastRunOf(family);
+            showRuns();
         return;
     }
     QDesktopServices::openUrl(url); // not a record; Qt does not call this handler again for it

@@ -12,10 +12,10 @@ namespace orda_client {
 
 class ClientSession;
 class ClientSettings;
-class LastRunWindow;
 class ManualWindow;
 class RecordViewer;
-struct Family;
+class RunJobs;
+class RunsWindow;
 
 /// Opens the windows beside the main one, each once: one that is open already comes to the front. All of them close
 /// with the main window.
@@ -27,8 +27,8 @@ public:
     /// @param form the batch-configuration form, or what has it
     Windows(QWidget *form, ClientSession *session, ClientSettings *settings, QMainWindow *window);
 
-    void showLastRun();
-    void showLastRunOf(const Family &family);
+    /// Turns to the latest run.
+    void showRuns();
     /// Saves the devices that are there now.
     void showExport();
     void showSettings();
@@ -49,7 +49,8 @@ private:
     ClientSettings *m_settings;
     QMainWindow *m_window;
     RecordViewer *m_viewer;
-    QPointer<LastRunWindow> m_lastRun;
+    RunJobs *m_runJobs; // outlives the windows that start them
+    QPointer<RunsWindow> m_runs;
     QPointer<ManualWindow> m_manual;
 };
 

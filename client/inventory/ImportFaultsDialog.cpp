@@ -21,7 +21,7 @@ namespace orda_client {
 
 namespace {
 
-constexpr QSize wantedSize(860, 480);
+constexpr QSize wantedSize(960, 480);
 constexpr int margin = 12;
 
 enum Column
@@ -93,9 +93,8 @@ ImportFaultsDialog::ImportFaultsDialog(const QString &file, const QVector<Invent
     setWindowTitle(tr("Import devices"));
     auto *model = new FaultsModel(faults, this);
     auto *filter = new TableFilter(model, this);
-    auto *summary =
-        new QLabel(tr("%n thing(s) in %1 must be put right. Nothing has been imported.", nullptr, faults.size())
-                       .arg(vms_sdk::displayText(QFileInfo(file).fileName())));
+    auto *summary = new QLabel(tr("%n error(s) in %1. Nothing has been imported.", nullptr, faults.size())
+                                   .arg(vms_sdk::displayText(QFileInfo(file).fileName())));
     summary->setTextFormat(Qt::PlainText);
     summary->setWordWrap(true);
     summary->setProperty("dialog_caption", true);

@@ -54,6 +54,7 @@ void PressGuard::dropQuestion()
     m_toAsk.reset();
     if (m_question) {
         m_question->disconnect(this);
+        m_question->hide();
         m_question->deleteLater(); // this may be a call from inside it
         m_question = nullptr;
     }

@@ -37,7 +37,8 @@ bool isUrl(const QString &text)
 {
     const QUrl url(text, QUrl::StrictMode);
     const bool isKnown = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    return url.isValid() && isKnown && isHost(url.host());
+    // QUrl makes a whole address of "10.0.1".
+    return url.isValid() && isKnown && isHost(url.host()) && text.contains(url.host(), Qt::CaseInsensitive);
 }
 
 bool isPortMissing(const QString &text)
@@ -72,7 +73,7 @@ QString checkAddress(const QString &text, bool isGood, const QString &complaint)
 QString checkUrl(const QJsonValue &value)
 {
     const QString text = value.toString();
-    return checkAddress(text, isUrl(text), ValueChecks::tr("\"%1\" is no address of the web (https://…)").arg(text));
+    return checkAddress(text, isUrl(text), ValueChecks::tr("\"%1\" is no web address (http:// or https://)").arg(text));
 }
 
 QString checkServer(const QJsonValue &value)
@@ -116,26 +117,25 @@ QStringList sentUnticked(const FormPage &page, const QJsonObject &asked)
     return {ValueChecks::tr("not ticked, but sent all the same: %1").arg(titles.join(QStringLiteral("; ")))};
 }
 
-/// The page's name for an entry of a list: the box that chooses it stands last among those of its members.
-QString entryTitle(const FormPage &page, const QString &entry)
-{
-    for (const FormPage::Member &member : page.members)
-        if (member.name.startsWith(entry + QLatin1Char('.')) && member.boxes.size() > 1 && member.boxes.constLast())
-            return member.boxes.constLast()->text();
-    return entry;
-}
-
-QStringList emptyEntries(const FormPage &page)
+// Without any, a write would repeat what the stream has, or send what nobody has ticked.
+QStringList entriesWithoutTicks(const FormPage &page)
 {
     QStringList texts;
     for (const CfgExchange &exchange : page.family->exchanges) {
         const QJsonArray entries = page.values.value(exchange.listMember).toArray();
-        for (const QJsonValue &value : entries) {
-            const QJsonObject entry = value.toObject();
-            if (entry.size() == 1 && entry.contains(exchange.listId))
-                texts.append(ValueChecks::tr("%1: nothing that is ticked applies to it")
-                                 .arg(entryTitle(page, exchange.listPrefix
-                                                           + QString::number(entry.value(exchange.listId).toInt()))));
+        for (const QJsonValue &entry : entries) {
+            const int id = entry.toObject().value(exchange.listId).toInt();
+            const QString prefix = QStringLiteral("%1%2.").arg(exchange.listPrefix).arg(id);
+            QString title;
+            bool isOneMeant = false;
+            for (const FormPage::Member &member : page.members) {
+                if (!member.name.startsWith(prefix) || member.boxes.isEmpty() || !member.boxes.constLast())
+                    continue;
+                title = member.boxes.constLast()->text(); // the box of the entry itself
+                isOneMeant = isOneMeant || member.isMeant();
+            }
+            if (!isOneMeant)
+                texts.append(ValueChecks::tr("%1: nothing that is ticked applies to it").arg(title));
         }
     }
     return texts;
@@ -155,7 +155,7 @@ QStringList ValueChecks::of(const FormPage &page)
     if (!page.family)
         return {};
     const QJsonObject asked = askedBy(page);
-    QStringList texts = emptyEntries(page) + sentUnticked(page, asked);
+    QStringList texts = entriesWithoutTicks(page) + sentUnticked(page, asked);
     for (const FormPage::Member &member : page.members) {
         const Check check = asked.contains(member.name) ? checks().value(member.name) : nullptr;
         const QString complaint = check ? check(asked.value(member.name)) : QString();

@@ -17,7 +17,7 @@ using orda_journal::Outcome;
 
 namespace {
 
-constexpr int groupsWidth = 260;
+constexpr int groupsWidth = 240;
 constexpr int devicesWidth = 900;
 
 } // namespace
@@ -27,7 +27,7 @@ ChosenRunPane::ChosenRunPane(QWidget *parent)
     , m_model(new RunDeviceModel(this))
     , m_summary(new QLabel)
     , m_groups(new GroupList(tr("Failures by message")))
-    , m_devices(new SearchedTable(m_model, {15, 19, 17, 16, 34}, QStringLiteral("runDevices"),
+    , m_devices(new SearchedTable(m_model, {14, 19, 16, 15, 28}, QStringLiteral("runDevices"),
                                   tr("Devices of the run"),
                                   tr("Searches names, serial numbers, addresses, messages and values")))
 {

@@ -110,7 +110,7 @@ void SearchedTable::addBefore(QWidget *widget)
 void SearchedTable::setEmptyText(const QString &text)
 {
     m_emptyText = text;
-    update();
+    showTableOrText();
 }
 
 QVector<int> SearchedTable::selectedRows() const
@@ -129,11 +129,16 @@ void SearchedTable::selectRow(int row)
     m_view->scrollTo(index);
 }
 
-void SearchedTable::update()
+void SearchedTable::showTableOrText()
 {
     m_empty->setText(m_model->rowCount() > 0 ? tr("Nothing here fits the search and the choice above.")
                                              : vms_sdk::displayText(m_emptyText, QStringLiteral("\n")));
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_view) : m_empty);
+}
+
+void SearchedTable::update()
+{
+    showTableOrText();
     emit signalShownChanged();
 }
 

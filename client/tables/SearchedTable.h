@@ -65,6 +65,7 @@ signals:
 
 private:
     void applyAccepts();
+    void showTableOrText();
     void update();
 
     TableModel *m_model;

@@ -63,9 +63,13 @@ int CheckedEntry::choice(const QString &key, const QStringList &choices, int abs
 
 void CheckedEntry::fail(const QString &key, const QString &whatIsRight)
 {
-    const auto hasFault = [&key](const Fault &fault) { return fault.key == key; };
-    if (std::none_of(m_faults.cbegin(), m_faults.cend(), hasFault))
+    if (!hasFault(key))
         m_faults.append({key, whatIsRight});
+}
+
+bool CheckedEntry::hasFault(const QString &key) const
+{
+    return std::any_of(m_faults.cbegin(), m_faults.cend(), [&key](const Fault &fault) { return fault.key == key; });
 }
 
 QString CheckedEntry::fault() const

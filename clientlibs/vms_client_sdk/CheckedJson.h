@@ -42,6 +42,7 @@ public:
     };
     /// In the order in which they were found.
     const QVector<Fault> &faults() const { return m_faults; }
+    bool hasFault(const QString &key) const;
     /// Field and what would be right, of the first; empty without a fault.
     QString fault() const;
     /// The fields that nobody has read.
