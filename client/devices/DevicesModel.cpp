@@ -137,15 +137,9 @@ int DevicesModel::rowCount(const QModelIndex &parent) const
 
 QStringList DevicesModel::titles() const
 {
-    return {tr("Name"),
-            tr("State"),
-            tr("Since", "a time, from which on a device has had its state"),
-            tr("Serial number"),
-            tr("Address"),
-            tr("Kind"),
-            tr("Group"),
-            tr("Last outcome"),
-            tr("Last run")};
+    return {tr("Name"),          tr("State"),        tr("Since", "a time, from which on a device has had its state"),
+            tr("Serial number"), tr("Address"),      tr("Kind"),
+            tr("Group"),         tr("Last outcome"), tr("Last run")};
 }
 
 QString DevicesModel::text(int row, int column) const
