@@ -34,7 +34,7 @@ namespace orda_client {
 namespace {
 
 constexpr QSize windowSize(1320, 700);
-constexpr int statesWidth = 270;
+constexpr int statesWidth = 310;
 constexpr int margin = 12;
 
 QLabel *plainLabel(const char *name)
