@@ -123,7 +123,8 @@ struct Site
         const QHash<QString, std::function<bool()>> steps{
             {"choose", [&] { return list->selectRow(cells(list->model(), 0).indexOf(rest)), true; }},
             {"search", [&] { return child<QWidget>("deviceSearch")->findChild<QLineEdit *>()->setText(rest), true; }},
-            {"sort", [&] { return view->sortByColumn(4, Qt::SortOrder(rest == "down")), true; }},
+            {"sort",
+             [&] { return view->sortByColumn(rest.left(1).toInt(), Qt::SortOrder(rest.endsWith("down"))), true; }},
             {"select",
              [&] {
                  return view->selectionModel()->select(table()->index(cells(table(), 0).indexOf(rest), 0), rows), true;
