@@ -124,7 +124,7 @@ struct Site
             {"choose", [&] { return list->selectRow(cells(list->model(), 0).indexOf(rest)), true; }},
             {"search", [&] { return child<QWidget>("deviceSearch")->findChild<QLineEdit *>()->setText(rest), true; }},
             {"sort",
-             [&] { return view->sortByColumn(rest.left(1).toInt(), Qt::SortOrder(rest.endsWith("down"))), true; }},
+             [&] { return view->sortByColumn(rest[0].digitValue(), Qt::SortOrder(rest.endsWith("down"))), true; }},
             {"select",
              [&] {
                  return view->selectionModel()->select(table()->index(cells(table(), 0).indexOf(rest), 0), rows), true;
