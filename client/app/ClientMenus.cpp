@@ -69,6 +69,11 @@ void ClientMenus::buildDevices()
 void ClientMenus::buildRun()
 {
     QMenu *menu = addMenu(tr("&Run"));
+    showPreview = add(menu, "showPreview", tr("&Preview"), Qt::Key_F7);
+    showPreview->setStatusTip(tr("What Configure would change on each ticked device; nothing is written"));
+    showCompare = add(menu, "showCompare", tr("&Compare with a standard"), Qt::Key_F6);
+    showCompare->setStatusTip(tr("The present settings of the ticked devices beside a standard; nothing is written"));
+    menu->addSeparator();
     showRuns = add(menu, "showRuns", tr("&Runs"), Qt::Key_F9);
     showRuns->setStatusTip(tr("What runs did to the devices; tries again, verifies, takes back, compares"));
 }

@@ -12,10 +12,13 @@ namespace orda_client {
 
 class ClientSession;
 class ClientSettings;
+class CompareWindow;
 class ManualWindow;
+class PreviewWindow;
 class RecordViewer;
 class RunJobs;
 class RunsWindow;
+struct PressedRun;
 
 /// Opens the windows beside the main one, each once: one that is open already comes to the front. All of them close
 /// with the main window.
@@ -27,14 +30,21 @@ public:
     /// @param form the batch-configuration form, or what has it
     Windows(QWidget *form, ClientSession *session, ClientSettings *settings, QMainWindow *window);
 
-    /// Turns to the latest run.
-    void showRuns();
+    /// Plans what the form's page would change now.
+    void showPreview();
+    void showCompare();
+    /// @param runId empty: the latest
+    void showRun(const QString &runId);
     /// Saves the devices that are there now.
     void showExport();
     void showSettings();
     void showManual();
     void showAbout();
     void showRemoteConfig(const QString &devId);
+
+signals:
+    /// Of the preview: this run is wanted.
+    void signalConfigure(const orda_client::PressedRun &run);
 
 private slots:
     /// QDesktopServices hands the address over that Report and Detail open.
@@ -50,6 +60,8 @@ private:
     QMainWindow *m_window;
     RecordViewer *m_viewer;
     RunJobs *m_runJobs; // outlives the windows that start them
+    QPointer<PreviewWindow> m_preview;
+    QPointer<CompareWindow> m_compare;
     QPointer<RunsWindow> m_runs;
     QPointer<ManualWindow> m_manual;
 };
