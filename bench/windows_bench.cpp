@@ -59,14 +59,15 @@ QTableView *largestTable(const QWidget *window)
 bool measureWindow(const QString &name, int rows, const std::function<QWidget *()> &make)
 {
     QWidget *window = nullptr;
+    bool isOpen = false;
     measure(name + QStringLiteral(": opening"), [&] {
         window = make();
         window->show();
-        QTest::qWaitFor([&] { return largestTable(window)->model()->rowCount() >= rows; }, longestWait);
+        isOpen = QTest::qWaitFor([&] { return largestTable(window)->model()->rowCount() >= rows; }, longestWait);
     });
-    QTableView *table = largestTable(window);
-    if (table->model()->rowCount() < rows)
+    if (!isOpen)
         return false;
+    QTableView *table = largestTable(window);
     measure(name + QStringLiteral(": sorting"), [table] {
         for (int column = 0; column < table->model()->columnCount(); ++column) {
             table->sortByColumn(column, Qt::AscendingOrder);
@@ -107,10 +108,10 @@ int main(int argc, char *argv[])
     const QString error = session.openInventory(arguments.value(1));
     const auto &store = orda_data::DevsMgrData::instance();
     const int devices = store.devCount(false);
-    if (error.isEmpty())
-        QTest::qWaitFor([&store, devices] { return store.devCount(true) == devices; }, longestWait);
-    if (!error.isEmpty() || devices == 0) {
-        QTextStream(stderr) << "windows_bench: " << error << '\n';
+    const bool isOnline = error.isEmpty() && devices > 0
+                       && QTest::qWaitFor([&store, devices] { return store.devCount(true) == devices; }, longestWait);
+    if (!isOnline) {
+        QTextStream(stderr) << "windows_bench: the devices are not on line " << error << '\n';
         return 2;
     }
     const bool isMeasured =

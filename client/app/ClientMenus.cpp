@@ -60,8 +60,6 @@ void ClientMenus::buildDevices()
     QMenu *menu = addMenu(tr("&Devices"));
     showDevices = add(menu, "showDevices", tr("&Devices"), Qt::Key_F8);
     showDevices->setStatusTip(tr("Lists all devices of the inventory, their states and the reasons"));
-    showDevices->setVisible(false);
-    showDevices->setEnabled(false);
     connectAgain = add(menu, "connectAgain", tr("&Connect again"), {});
     connectAgain->setStatusTip(tr("Tries the devices again that refused the sign-on"));
 }

@@ -132,6 +132,7 @@ void ClientWindow::connectActions()
     connect(m_firstSteps, &FirstSteps::signalOpenRecent, m_opener, &InventoryOpener::openRecent);
     connect(m_firstSteps, &FirstSteps::signalStartDemo, m_opener, &InventoryOpener::startDemo);
     connect(m_opener, &InventoryOpener::signalRecentChanged, m_firstSteps, &FirstSteps::listRecent);
+    connect(m_menus->showDevices, &QAction::triggered, m_windows, &Windows::showDevices);
     connect(m_menus->showPreview, &QAction::triggered, m_windows, &Windows::showPreview);
     connect(m_line, &PressLine::signalPreview, m_windows, &Windows::showPreview);
     connect(m_menus->showCompare, &QAction::triggered, m_windows, &Windows::showCompare);

@@ -6,6 +6,8 @@
 #include "client/app/SettingsDialog.h"
 #include "client/common/ToolWindow.h"
 #include "client/compare/CompareWindow.h"
+#include "client/devices/DeviceStates.h"
+#include "client/devices/DevicesWindow.h"
 #include "client/form/Families.h"
 #include "client/inventory/ExportDialog.h"
 #include "client/preview/PreviewWindow.h"
@@ -33,6 +35,7 @@ Windows::Windows(QWidget *form, ClientSession *session, ClientSettings *settings
     , m_settings(settings)
     , m_window(window)
     , m_viewer(new RecordViewer(this))
+    , m_deviceStates(new DeviceStates(this))
     , m_runJobs(new RunJobs(session, this))
 {
     connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,
@@ -47,6 +50,11 @@ void Windows::show(QPointer<Window> *window, const Make &make)
     if (!*window)
         *window = make();
     ToolWindow::bringToFront(*window);
+}
+
+void Windows::showDevices()
+{
+    show(&m_devices, [this] { return new DevicesWindow(m_session, m_deviceStates, m_form, m_settings, m_window); });
 }
 
 void Windows::showPreview()

@@ -13,6 +13,8 @@ namespace orda_client {
 class ClientSession;
 class ClientSettings;
 class CompareWindow;
+class DeviceStates;
+class DevicesWindow;
 class ManualWindow;
 class PreviewWindow;
 class RecordViewer;
@@ -30,6 +32,7 @@ public:
     /// @param form the batch-configuration form, or what has it
     Windows(QWidget *form, ClientSession *session, ClientSettings *settings, QMainWindow *window);
 
+    void showDevices();
     /// Plans what the form's page would change now.
     void showPreview();
     void showCompare();
@@ -59,7 +62,9 @@ private:
     ClientSettings *m_settings;
     QMainWindow *m_window;
     RecordViewer *m_viewer;
+    DeviceStates *m_deviceStates; // sees each change, whether the window is open or not
     RunJobs *m_runJobs; // outlives the windows that start them
+    QPointer<DevicesWindow> m_devices;
     QPointer<PreviewWindow> m_preview;
     QPointer<CompareWindow> m_compare;
     QPointer<RunsWindow> m_runs;
