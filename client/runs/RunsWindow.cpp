@@ -69,7 +69,7 @@ bool isSame(const RunListModel &model, const QVector<RunLine> &lines)
 } // namespace
 
 RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, ClientSettings *settings, QWidget *parent)
-    : ToolWindow(QStringLiteral("runs"), windowSize, settings, parent)
+    : ToolWindow(QStringLiteral("runsWindow"), windowSize, settings, parent)
     , m_session(session)
     , m_jobs(jobs)
     , m_form(form)
