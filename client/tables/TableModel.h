@@ -6,11 +6,11 @@
 
 namespace orda_client {
 
-/// A table that people read, search, sort and save: a row a thing, a column a text about it. What the texts are, and how
-/// they sort, is the subclass's affair.
+/// A table that people read, search, sort and save: a row a thing, a column a text about it. What the texts are, and
+/// how they sort, is the subclass's affair.
 ///
-/// Qt::EditRole gives a cell's text as it is, for files; Qt::DisplayRole on one line, safe to look at, and the beginning
-/// of a very long one. Names and messages are other people's texts, and are never taken for HTML.
+/// Qt::EditRole gives a cell's text as it is, for files; Qt::DisplayRole on one line, safe to look at, and the
+/// beginning of a very long one. Names and messages are other people's texts, and are never taken for HTML.
 class TableModel : public QAbstractTableModel
 {
     Q_OBJECT
