@@ -11,6 +11,7 @@ namespace orda_journal {
 namespace {
 
 constexpr char runProperty[] = "run";
+constexpr char refusedProperty[] = "runRefused";
 
 } // namespace
 
@@ -51,7 +52,8 @@ void PageWatch::runChanged(QObject *page)
             endRun();
         return;
     }
-    if (!m_journal)
+    const bool isDeclined = !page->property(refusedProperty).toString().isEmpty(); // by another watcher, which said why
+    if (!m_journal || isDeclined)
         return;
     RunStart run;
     run.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
@@ -63,7 +65,7 @@ void PageWatch::runChanged(QObject *page)
     if (why.isEmpty()) {
         m_runningPage = page;
     } else {
-        page->setProperty("runRefused", why);
+        page->setProperty(refusedProperty, why);
         emit signalDeclined(why);
     }
 }

@@ -1,7 +1,7 @@
 #include "client/drive/RunDriver.h"
 
 #include "client/form/Families.h"
-#include "client/record/LastRunWindow.h"
+#include "client/runs/RunsWindow.h"
 #include "client/record/PageRecord.h"
 #include "client/record/RecordFile.h"
 #include "engine/Connecting.h"
@@ -22,6 +22,7 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QDir>
+#include <QEventLoop>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QTableWidget>
@@ -40,6 +41,7 @@ using namespace std::chrono_literals;
 
 // A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
 constexpr auto settlePause = 150ms;
+constexpr auto historyPause = 1s; // the window of the runs reads the history in another thread
 constexpr auto progressInterval = 50ms;
 constexpr int devIdRole = Qt::UserRole + 1;
 
@@ -192,7 +194,7 @@ void RunDriver::configure()
         out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
         printRecord();
         answerSummary();
-        saveLastRunScreenshot();
+        saveRunsScreenshot();
         const bool hasRecord = PageRecord::of(m_window, *m_family).error.isEmpty();
         end(!hasRecord ? int(ExitNoRecord) : m_isAllDone ? int(ExitOk) : int(ExitSomeFailed));
     }
@@ -236,15 +238,17 @@ void RunDriver::answerSummary()
     }
 }
 
-void RunDriver::saveLastRunScreenshot() const
+void RunDriver::saveRunsScreenshot() const
 {
     if (m_options.screenshotsDir.isEmpty())
         return;
-    m_window->findChild<QAction *>(QStringLiteral("showLastRun"))->trigger();
-    QCoreApplication::processEvents(); // so that it is laid out
-    auto *lastRun = m_window->findChild<LastRunWindow *>();
-    saveScreenshot(lastRun, QStringLiteral("last-run"));
-    lastRun->close();
+    m_window->findChild<QAction *>(QStringLiteral("showRuns"))->trigger();
+    QEventLoop reading;
+    QTimer::singleShot(historyPause, &reading, &QEventLoop::quit);
+    reading.exec();
+    auto *runs = m_window->findChild<RunsWindow *>();
+    saveScreenshot(runs, QStringLiteral("runs"));
+    runs->close();
 }
 
 void RunDriver::printRecord() const

@@ -90,12 +90,15 @@ void TableModel::rowsChanged(int first, int last)
 void TableModel::endReset()
 {
     m_ranks.clear();
+    m_columns = -1;
     endResetModel();
 }
 
 int TableModel::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : titles().size();
+    if (m_columns < 0)
+        m_columns = titles().size();
+    return parent.isValid() ? 0 : m_columns;
 }
 
 QVariant TableModel::data(const QModelIndex &index, int role) const

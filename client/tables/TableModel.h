@@ -6,11 +6,11 @@
 
 namespace orda_client {
 
-/// A table that people read, search, sort and save: a row a thing, a column a text about it. What the texts are, and how
-/// they sort, is the subclass's affair.
+/// A table that people read, search, sort and save: a row a thing, a column a text about it. What the texts are, and
+/// how they sort, is the subclass's affair.
 ///
-/// Qt::EditRole gives a cell's text as it is, for files; Qt::DisplayRole on one line, safe to look at, and the beginning
-/// of a very long one. Names and messages are other people's texts, and are never taken for HTML.
+/// Qt::EditRole gives a cell's text as it is, for files; Qt::DisplayRole on one line, safe to look at, and the
+/// beginning of a very long one. Names and messages are other people's texts, and are never taken for HTML.
 class TableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ protected:
         QString text = {};
     };
 
-    /// Asked for with each cell: to be kept, and not made anew.
+    /// Of the columns; changes with endReset() only.
     virtual QStringList titles() const = 0;
     virtual QString text(int row, int column) const = 0;
     /// Unless told otherwise the cell's text.
@@ -55,6 +55,7 @@ protected:
 
 private:
     mutable QHash<int, QVector<int>> m_ranks; // by column
+    mutable int m_columns = -1; // asked for with every index, and titles are slow to translate; -1: not known
 };
 
 } // namespace orda_client
