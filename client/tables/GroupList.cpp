@@ -7,6 +7,8 @@
 #include <QSignalBlocker>
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace orda_client {
 
 GroupList::GroupList(const QString &name, QWidget *parent)
@@ -29,11 +31,19 @@ GroupList::GroupList(const QString &name, QWidget *parent)
 
 void GroupList::setGroups(const QString &allText, int all, const QVector<RowGroup> &groups)
 {
+    if (isSame(allText, groups)) { // what a reader is at stays where it is
+        m_groups = groups;
+        item(0, 1)->setText(QLocale().toString(all));
+        for (int i = 0; i < groups.size(); ++i)
+            item(i + 1, 1)->setText(QLocale().toString(groups.at(i).count));
+        return;
+    }
     const QString chosen = group();
     int row = 0;
     {
         const QSignalBlocker blocker(this);
         setRowCount(0);
+        m_allText = allText;
         m_groups = groups;
         addRow(allText, all);
         for (const RowGroup &candidate : groups) {
@@ -45,6 +55,14 @@ void GroupList::setGroups(const QString &allText, int all, const QVector<RowGrou
     }
     if (!chosen.isEmpty() && row == 0)
         emit signalGroupChosen();
+}
+
+/// But for how many rows they have.
+bool GroupList::isSame(const QString &allText, const QVector<RowGroup> &groups) const
+{
+    return rowCount() > 0 && m_allText == allText
+        && std::equal(groups.cbegin(), groups.cend(), m_groups.cbegin(), m_groups.cend(),
+                      [](const RowGroup &a, const RowGroup &b) { return a.key == b.key && a.text == b.text; });
 }
 
 QString GroupList::group() const

@@ -36,7 +36,9 @@ signals:
 
 private:
     void addRow(const QString &text, int count);
+    bool isSame(const QString &allText, const QVector<RowGroup> &groups) const;
 
+    QString m_allText;
     QVector<RowGroup> m_groups; // below the first row
 };
 
