@@ -1,47 +1,23 @@
 #include "batch/ValuesFile.h"
 
+#include "programs/Csv.h"
+#include "programs/CsvReader.h"
+
 #include <QCoreApplication>
 #include <QHash>
-#include <QRegularExpression>
-#include <QTextCodec>
-
-#include <csv.h>
 
 #include <algorithm>
 
 namespace orda_batch {
 
+using orda_programs::CsvRow;
+using orda_programs::CsvRows;
+using orda_programs::csvText;
+using orda_programs::readCsv;
+
 namespace {
 
-constexpr int utf8Mib = 106;
-
-/// The first separator of the head line that is not in quotation marks.
-char separatorOf(const QByteArray &content)
-{
-    bool isQuoted = false;
-    bool isBegun = false;
-    for (const char c : content) {
-        const bool isLineEnd = c == '\n' || c == '\r';
-        if (c == '"')
-            isQuoted = !isQuoted;
-        else if (!isQuoted && (c == ',' || c == ';'))
-            return c;
-        else if (isLineEnd && isBegun)
-            break;
-        isBegun = isBegun || !isLineEnd;
-    }
-    return ',';
-}
-
-/// What CSV files of ours have before a text that spreadsheets would take for a formula goes away again.
-QString withoutGuard(QString text)
-{
-    static const QRegularExpression guard(
-        QStringLiteral("(^|[;|\\t\\r\\n])'(?='*[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
-    return text.replace(guard, QStringLiteral("\\1"));
-}
-
-class CsvReader
+class CsvValuesReader
 {
     Q_DECLARE_TR_FUNCTIONS(orda_batch::CsvValues)
 
@@ -49,95 +25,52 @@ public:
     ValuesFile read(const QByteArray &content);
 
 private:
-    /// @return whether its quotation marks are right
-    bool readLines(const QByteArray &content);
-    bool readLine(csv_parser *parser, const char *text, int size);
     void complain(int line, int column, const QString &what) { m_file.faults.append({{line, column}, what}); }
-    void takeRow();
+    void takeRow(const CsvRow &row);
     void takeHead();
     void takeValues();
 
-    static void endCell(void *text, std::size_t size, void *reader)
-    {
-        auto *self = static_cast<CsvReader *>(reader);
-        self->m_cells.append(QString::fromUtf8(static_cast<const char *>(text), int(size)));
-    }
-    static void endRow(int, void *reader) { static_cast<CsvReader *>(reader)->takeRow(); }
-
     ValuesFile m_file;
     QStringList m_cells; // of the row that is being read
-    int m_line = 0; // the last that was begun
-    int m_rowLine = 0; // where the row begins: a cell in quotation marks may have several lines
-    bool m_isInRow = false;
-    bool m_isRowSpoilt = false;
+    int m_rowLine = 0; // where the row begins
     QStringList m_head; // empty before it
     int m_deviceColumn = -1;
     QHash<int, QString> m_keys; // by column
 };
 
-ValuesFile CsvReader::read(const QByteArray &content)
+ValuesFile CsvValuesReader::read(const QByteArray &content)
 {
     m_file.isCsv = true;
     m_file.isByDevice = true;
-    if (!readLines(content))
-        complain(m_rowLine, m_cells.size() + 1,
+    const CsvRows csv = readCsv(content);
+    for (const CsvRow &row : csv.rows)
+        takeRow(row);
+    if (csv.brokenLine > 0)
+        complain(csv.brokenLine, csv.brokenCell,
                  tr("wrong quotation marks: they stand around a whole cell, and one within it is written twice"));
     else if (m_head.isEmpty())
         complain(1, 1, tr(R"(is empty; a line with "device" and keys is expected)"));
     else if (m_file.rows.isEmpty() && m_file.faults.isEmpty())
-        complain(m_line + 1, 1, tr("ends after its head; a line for each device is expected"));
+        complain(csv.lines + 1, 1, tr("ends after its head; a line for each device is expected"));
     return m_file;
 }
 
-bool CsvReader::readLines(const QByteArray &content)
+void CsvValuesReader::takeRow(const CsvRow &row)
 {
-    csv_parser parser;
-    csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI);
-    csv_set_delim(&parser, uchar(separatorOf(content)));
-    csv_set_space_func(&parser, [](uchar) { return 0; }); // blanks are a part of texts
-    bool isRight = true;
-    // Line by line, so that it is known where a row lies.
-    for (int start = 0; isRight && start < content.size();) {
-        const int lineEnd = content.indexOf('\n', start);
-        const int end = lineEnd < 0 ? content.size() : lineEnd + 1;
-        isRight = readLine(&parser, content.constData() + start, end - start);
-        start = end;
-    }
-    isRight = isRight && csv_fini(&parser, endCell, endRow, this) == 0;
-    csv_free(&parser);
-    return isRight;
-}
-
-bool CsvReader::readLine(csv_parser *parser, const char *text, int size)
-{
-    ++m_line;
-    if (!m_isInRow)
-        m_rowLine = m_line;
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForMib(utf8Mib)->toUnicode(text, size, &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0) {
-        complain(m_line, 1, tr("is not UTF-8; save the file as CSV in UTF-8"));
-        m_isRowSpoilt = true;
-    }
-    m_isInRow = m_isInRow || (text[0] != '\n' && text[0] != '\r');
-    return csv_parse(parser, text, std::size_t(size), endCell, endRow, this) == std::size_t(size);
-}
-
-void CsvReader::takeRow()
-{
+    for (const int line : row.notUtf8)
+        complain(line, 1, tr("is not UTF-8; save the file as CSV in UTF-8"));
+    m_rowLine = row.line;
+    m_cells = row.cells;
     if (m_head.isEmpty())
         takeHead();
-    else if (!m_isRowSpoilt)
+    else if (row.notUtf8.isEmpty())
         takeValues();
-    m_cells.clear();
-    m_isInRow = false;
-    m_isRowSpoilt = false;
 }
 
-void CsvReader::takeHead()
+void CsvValuesReader::takeHead()
 {
     for (int column = 0; column < m_cells.size(); ++column) {
-        const QString name = withoutGuard(m_cells.at(column)).trimmed();
+        const QString name = csvText(m_cells.at(column)).trimmed();
         const int first = m_head.indexOf(name);
         m_head.append(name);
         if (name.isEmpty())
@@ -159,7 +92,7 @@ void CsvReader::takeHead()
             tr(R"(no column "device", with the id or serial number of each row (columns stand between "," or ";"))"));
 }
 
-void CsvReader::takeValues()
+void CsvValuesReader::takeValues()
 {
     // Spreadsheets write rows of nothing.
     if (std::all_of(m_cells.cbegin(), m_cells.cend(), [](const QString &cell) { return cell.trimmed().isEmpty(); }))
@@ -170,7 +103,7 @@ void CsvReader::takeValues()
             tr("the number of cells is %1; it must be %2, as in the head").arg(m_cells.size()).arg(m_head.size()));
     FileRow row{{m_rowLine, m_deviceColumn + 1}};
     if (m_deviceColumn >= 0) {
-        row.device = withoutGuard(m_cells.at(m_deviceColumn)).trimmed();
+        row.device = csvText(m_cells.at(m_deviceColumn)).trimmed();
         if (row.device.isEmpty()) {
             complain(m_rowLine, m_deviceColumn + 1, tr("names no device; its id or serial number is expected"));
             row.device = QString();
@@ -178,7 +111,7 @@ void CsvReader::takeValues()
     }
     for (int column = 0; column < m_cells.size(); ++column)
         if (m_keys.contains(column) && !m_cells.at(column).trimmed().isEmpty())
-            row.cells.append({{m_rowLine, column + 1}, m_keys.value(column), withoutGuard(m_cells.at(column))});
+            row.cells.append({{m_rowLine, column + 1}, m_keys.value(column), csvText(m_cells.at(column))});
     m_file.rows.append(row);
 }
 
@@ -186,7 +119,7 @@ void CsvReader::takeValues()
 
 ValuesFile readCsvValues(const QByteArray &content)
 {
-    return CsvReader().read(content);
+    return CsvValuesReader().read(content);
 }
 
 } // namespace orda_batch

@@ -16,7 +16,6 @@ using orda_batchCfg::CfgFamily;
 using orda_batchCfg::MemberChange;
 using orda_engine::DeviceReading;
 using orda_engine::MemberDifference;
-using orda_engine::ObjectsByExchange;
 using orda_engine::Selection;
 using orda_journal::Outcome;
 using vms_sdk::DevInfo;
@@ -37,23 +36,6 @@ void setChanges(DeviceResult *result, const QVector<MemberChange> &changes)
 {
     for (const MemberChange &change : changes)
         result->changes.append({change.member, change.before, change.after});
-}
-
-/// The members in which a device is not as an undo has left it.
-QVector<MemberDifference> differencesFromUndo(const CfgFamily &family, const orda_engine::RecordedDevice &recorded,
-                                              const ObjectsByExchange &held)
-{
-    QVector<MemberDifference> differences;
-    for (auto sent = recorded.sent.begin(); sent != recorded.sent.end(); ++sent) {
-        if (!held.contains(sent.key()))
-            continue;
-        const QJsonObject members = family.exchanges.at(sent.key()).membersOf(held.value(sent.key()));
-        const auto changes = family.changesBy(sent.key(), recorded.before.value(sent.key()), *sent);
-        for (const MemberChange &change : changes)
-            if (members.value(change.member) != change.after)
-                differences.append({change.exchange, change.member, change.after, members.value(change.member)});
-    }
-    return differences;
 }
 
 /// The keys that were asked for and that no write had, as the device does not have them.
@@ -161,14 +143,11 @@ DeviceResult verifiedResult(const DevInfo &device, const DeviceReading &reading,
         return result;
     const Selection &selection = input.selection();
     const auto &details = input.runDetails();
-    QVector<MemberDifference> differences;
-    if (details && details->run.kind == QLatin1String("undo"))
-        differences = differencesFromUndo(*selection.family, input.run().device(device.id), reading.held);
-    else
-        differences = orda_engine::differencesOf(
-            *selection.family, selection.flagsOf(device.id), selection.valuesOf(device.id),
-            details ? input.run().device(device.id).sent : ObjectsByExchange(), reading.held);
-    for (const MemberDifference &difference : qAsConst(differences))
+    const QVector<MemberDifference> differences =
+        details ? input.run().differences(device.id, reading.held)
+                : orda_engine::differencesOf(*selection.family, selection.flagsOf(device.id),
+                                             selection.valuesOf(device.id), {}, reading.held);
+    for (const MemberDifference &difference : differences)
         result.changes.append({difference.member, difference.found, difference.wanted});
     result.outcome = differences.isEmpty() ? Outcome::Done : Outcome::Differs;
     if (!details)

@@ -2,10 +2,10 @@
 
 #include "batch/ResultTexts.h"
 #include "batch/TextTable.h"
+#include "engine/RecordedRun.h"
 #include "programs/Csv.h"
 
 #include <families/Families.h>
-#include <run/CfgFamily.h>
 #include <vms_client_sdk/ForeignText.h>
 
 #include <QDateTime>
@@ -16,7 +16,6 @@
 namespace orda_batch {
 
 using orda_journal::DeviceRow;
-using orda_journal::ExchangeRow;
 using orda_journal::Outcome;
 using orda_journal::outcomeName;
 using orda_journal::RunDetails;
@@ -29,11 +28,6 @@ namespace {
 using Changes = QHash<QString, QVector<Change>>; // by device
 
 constexpr int shortId = 8; // characters that tell runs apart well enough for people
-
-QJsonObject objectOf(const QString &text)
-{
-    return QJsonDocument::fromJson(text.toUtf8()).object();
-}
 
 QString localTime(qint64 time)
 {
@@ -57,26 +51,14 @@ QByteArray tableOf(const QStringList &head, const QVector<QStringList> &rows)
     return alignedTable(head, safe).toUtf8();
 }
 
-// What a run changed, or was to change where the device did not take it.
+// As results have them.
 Changes changesOf(const RunDetails &details)
 {
     Changes changes;
-    const orda_batchCfg::CfgFamily *family = orda_batchCfg::Families::find(details.run.family);
-    if (!family)
-        return changes;
-    for (const ExchangeRow &row : details.exchanges) {
-        if (row.before.isEmpty() || row.sent.isEmpty() || row.exchange < 0 || row.exchange >= family->exchanges.size())
-            continue;
-        const QJsonObject held = family->exchanges.at(row.exchange).heldIn(objectOf(row.before));
-        const QJsonObject sent = objectOf(row.sent).value(QLatin1String("param")).toObject();
-        const auto found = family->changesBy(row.exchange, held, sent);
-        for (const orda_batchCfg::MemberChange &change : found)
-            changes[row.devId].append({change.member, change.before, change.after});
-    }
-    // Their writes were recorded and then did not leave.
-    for (const DeviceRow &device : details.devices)
-        if (device.outcome == Outcome::Stopped || device.outcome == Outcome::NotReached)
-            changes.remove(device.devId);
+    const auto found = orda_engine::changesOf(details);
+    for (auto device = found.begin(); device != found.end(); ++device)
+        for (const orda_engine::MemberChange &change : *device)
+            changes[device.key()].append({change.member, change.before, change.after});
     return changes;
 }
 

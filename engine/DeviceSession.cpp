@@ -69,4 +69,10 @@ void DeviceSession::connectAgain()
         m_transport->connectAgain();
 }
 
+void DeviceSession::connectDevicesAgain(const QStringList &devIds)
+{
+    if (m_transport)
+        m_transport->connectDevicesAgain(devIds);
+}
+
 } // namespace orda_engine

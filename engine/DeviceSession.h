@@ -3,6 +3,7 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 
 #include <memory>
 
@@ -33,6 +34,8 @@ public:
     void setDevices(const QList<vms_sdk::DevInfo> &devices);
     /// Tries the devices again that refused the sign-on.
     void connectAgain();
+    /// These are tried again now, those too that refused the sign-on or wait for their next turn.
+    void connectDevicesAgain(const QStringList &devIds);
 
     /// Null once somebody has given the SDK another transport.
     orda_journal::JournalTransport *journal() const;

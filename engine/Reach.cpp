@@ -7,8 +7,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 
-#include <utility>
-
 namespace orda_engine {
 
 namespace {
@@ -48,33 +46,32 @@ ReachReason reasonOf(Eligibility eligibility)
     return ReachReason::None;
 }
 
-/// What a device that is not online lacks, and the words for it; no words where only the time tells something.
-std::pair<ReachReason, QString> causeOf(TroubleReason reason)
+ReachReason reasonOf(TroubleReason trouble)
 {
-    switch (reason) {
+    switch (trouble) {
     case TroubleReason::None:
     case TroubleReason::ConnectionLost:
         break;
     case TroubleReason::Password:
-        return {ReachReason::Password, ReachTexts::tr("refused: user name or password")};
+        return ReachReason::Password;
     case TroubleReason::SerialNumber:
-        return {ReachReason::SerialNumber, ReachTexts::tr("refused: the serial number is another one")};
+        return ReachReason::SerialNumber;
     case TroubleReason::SignOn:
-        return {ReachReason::SignOn, ReachTexts::tr("does not sign on as it should")};
+        return ReachReason::SignOn;
     case TroubleReason::Certificate:
-        return {ReachReason::Certificate, ReachTexts::tr("certificate not accepted")};
+        return ReachReason::Certificate;
     case TroubleReason::Tls:
-        return {ReachReason::Tls, ReachTexts::tr("no secure connection")};
+        return ReachReason::Tls;
     case TroubleReason::ConnectionRefused:
-        return {ReachReason::ConnectionRefused, ReachTexts::tr("connection refused")};
+        return ReachReason::ConnectionRefused;
     case TroubleReason::NoAnswer:
-        return {ReachReason::NoAnswer, ReachTexts::tr("no answer")};
+        return ReachReason::NoAnswer;
     case TroubleReason::NoAddress:
-        return {ReachReason::NoAddress, ReachTexts::tr("no address, or its name is not known")};
+        return ReachReason::NoAddress;
     case TroubleReason::Limits:
-        return {ReachReason::Limits, ReachTexts::tr("cut off: it went beyond a limit")};
+        return ReachReason::Limits;
     }
-    return {ReachReason::Offline, QString()};
+    return ReachReason::Offline;
 }
 
 QString timeText(qint64 since)
@@ -86,7 +83,8 @@ QString timeText(qint64 since)
 
 Reach notConnected(vms_sdk::DevStatus status, const LinkTrouble &trouble)
 {
-    const auto [reason, words] = causeOf(trouble.reason);
+    const ReachReason reason = reasonOf(trouble.reason);
+    const QString words = reason == ReachReason::Offline ? QString() : reachText(reason); // only the time tells more
     if (trouble.offlineSince > 0) {
         const QString since = timeText(trouble.offlineSince);
         return {false, reason,
@@ -96,10 +94,10 @@ Reach notConnected(vms_sdk::DevStatus status, const LinkTrouble &trouble)
     if (!words.isEmpty())
         return {false, reason, words};
     if (trouble.reason == TroubleReason::None && status == vms_sdk::DevConnecting)
-        return {false, ReachReason::Connecting, ReachTexts::tr("connecting")};
+        return {false, ReachReason::Connecting, reachText(ReachReason::Connecting)};
     if (trouble.reason == TroubleReason::None && status == vms_sdk::DevRefused)
         return {false, ReachReason::SignOn, ReachTexts::tr("sign-on refused")}; // by a transport that does not say why
-    return {false, ReachReason::Offline, ReachTexts::tr("off line")};
+    return {false, ReachReason::Offline, reachText(ReachReason::Offline)};
 }
 
 } // namespace
@@ -111,6 +109,52 @@ Reach reachOf(const QString &devId)
     if (eligibility == Eligibility::NotOnline)
         return notConnected(store.getDevStatus(devId), store.getDevTrouble(devId));
     return {eligibility == Eligibility::Eligible, reasonOf(eligibility), orda_batchCfg::eligibilityText(eligibility)};
+}
+
+QString reachText(ReachReason reason)
+{
+    using orda_batchCfg::eligibilityText;
+    switch (reason) {
+    case ReachReason::None:
+        break;
+    case ReachReason::NoSuchDevice:
+        return eligibilityText(Eligibility::NoId);
+    case ReachReason::NotReachedDirectly:
+        return eligibilityText(Eligibility::NotReachedDirectly);
+    case ReachReason::Kind:
+        return eligibilityText(Eligibility::NotCameraNorRecorder);
+    case ReachReason::FactoryPassword:
+        return eligibilityText(Eligibility::FactoryPassword);
+    case ReachReason::Locked:
+        return eligibilityText(Eligibility::Locked);
+    case ReachReason::NoPassword:
+        return eligibilityText(Eligibility::NoPassword);
+    case ReachReason::WeakPassword:
+        return eligibilityText(Eligibility::WeakPassword);
+    case ReachReason::Offline:
+        return ReachTexts::tr("off line");
+    case ReachReason::Connecting:
+        return ReachTexts::tr("connecting");
+    case ReachReason::Password:
+        return ReachTexts::tr("refused: user name or password");
+    case ReachReason::SerialNumber:
+        return ReachTexts::tr("refused: the serial number is another one");
+    case ReachReason::SignOn:
+        return ReachTexts::tr("does not sign on as it should");
+    case ReachReason::Certificate:
+        return ReachTexts::tr("certificate not accepted");
+    case ReachReason::Tls:
+        return ReachTexts::tr("no secure connection");
+    case ReachReason::ConnectionRefused:
+        return ReachTexts::tr("connection refused");
+    case ReachReason::NoAnswer:
+        return ReachTexts::tr("no answer");
+    case ReachReason::NoAddress:
+        return ReachTexts::tr("no address, or its name is not known");
+    case ReachReason::Limits:
+        return ReachTexts::tr("cut off: it went beyond a limit");
+    }
+    return {};
 }
 
 QString reachName(ReachReason reason)

@@ -40,6 +40,9 @@ struct Reach
 /// Whether the device can be written to now. User-interface thread only.
 Reach reachOf(const QString &devId);
 
+/// The reason in words for the user, a part of a sentence, without the time that Reach::text may have; empty for None.
+QString reachText(ReachReason reason);
+
 /// A short English name, such as "serial-number"; "none" for None.
 QString reachName(ReachReason reason);
 

@@ -36,10 +36,22 @@ QJsonObject objectOf(const QString &text)
     return QJsonDocument::fromJson(text.toUtf8()).object();
 }
 
+QJsonObject paramOf(const orda_journal::ExchangeRow &row)
+{
+    return objectOf(row.sent).value(QLatin1String("param")).toObject();
+}
+
+/// Whether the row tells of a write to a device that had been read before.
+bool isWrite(const orda_journal::ExchangeRow &row, const orda_batchCfg::CfgFamily &family)
+{
+    return !row.before.isEmpty() && !row.sent.isEmpty() && row.exchange >= 0 && row.exchange < family.exchanges.size();
+}
+
 } // namespace
 
 RecordedRun::RecordedRun(const orda_journal::RunDetails &details)
     : m_id(details.run.id)
+    , m_isUndo(details.run.kind == QLatin1String("undo"))
 {
     m_written.family = orda_batchCfg::Families::find(details.run.family);
     if (!m_written.family) {
@@ -65,12 +77,11 @@ RecordedRun::RecordedRun(const orda_journal::RunDetails &details)
 
 void RecordedRun::take(const orda_journal::ExchangeRow &row)
 {
-    if (row.before.isEmpty() || row.sent.isEmpty() || row.exchange < 0
-        || row.exchange >= m_written.family->exchanges.size())
+    if (!isWrite(row, *m_written.family))
         return; // nothing has left
     const CfgExchange &exchange = m_written.family->exchanges.at(row.exchange);
     const QJsonObject before = exchange.heldIn(objectOf(row.before));
-    const QJsonObject sent = objectOf(row.sent).value(QLatin1String("param")).toObject();
+    const QJsonObject sent = paramOf(row);
     // What the run did not ask for it only repeated. Where that differs, somebody else changed it between two tries of
     // the run, and an undo must not take it back.
     const QJsonObject asked = exchange.askedBy(m_written.valuesOf(row.devId));
@@ -80,6 +91,43 @@ void RecordedRun::take(const orda_journal::ExchangeRow &row)
     RecordedDevice &device = m_devices[row.devId];
     device.before.insert(row.exchange, exchange.withMembers(before, repeated));
     device.sent.insert(row.exchange, sent);
+}
+
+// An undo has no values of its own: what it has changed is what it wanted.
+QVector<MemberDifference> RecordedRun::differences(const QString &devId, const ObjectsByExchange &held) const
+{
+    const orda_batchCfg::CfgFamily &family = *m_written.family;
+    const RecordedDevice recorded = device(devId);
+    if (!m_isUndo)
+        return differencesOf(family, m_written.flagsOf(devId), m_written.valuesOf(devId), recorded.sent, held);
+    QVector<MemberDifference> differences;
+    for (auto sent = recorded.sent.begin(); sent != recorded.sent.end(); ++sent) {
+        if (!held.contains(sent.key()))
+            continue;
+        const QJsonObject members = family.exchanges.at(sent.key()).membersOf(held.value(sent.key()));
+        const auto changes = family.changesBy(sent.key(), recorded.before.value(sent.key()), *sent);
+        for (const MemberChange &change : changes)
+            if (members.value(change.member) != change.after)
+                differences.append({change.exchange, change.member, change.after, members.value(change.member)});
+    }
+    return differences;
+}
+
+QHash<QString, QVector<MemberChange>> changesOf(const orda_journal::RunDetails &details)
+{
+    QHash<QString, QVector<MemberChange>> changes;
+    const orda_batchCfg::CfgFamily *family = orda_batchCfg::Families::find(details.run.family);
+    if (!family)
+        return changes;
+    for (const orda_journal::ExchangeRow &row : details.exchanges)
+        if (isWrite(row, *family))
+            changes[row.devId] += family->changesBy(
+                row.exchange, family->exchanges.at(row.exchange).heldIn(objectOf(row.before)), paramOf(row));
+    // Their writes were recorded and then did not leave.
+    for (const orda_journal::DeviceRow &device : details.devices)
+        if (device.outcome == Outcome::Stopped || device.outcome == Outcome::NotReached)
+            changes.remove(device.devId);
+    return changes;
 }
 
 } // namespace orda_engine

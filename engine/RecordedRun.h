@@ -29,14 +29,21 @@ public:
     /// Its devices that may have something of it, in their order.
     const Selection &written() const { return m_written; }
     RecordedDevice device(const QString &devId) const { return m_devices.value(devId); }
+    /// The members in which a device is not as the run has left it. @param held what it holds now
+    QVector<MemberDifference> differences(const QString &devId, const ObjectsByExchange &held) const;
 
 private:
     void take(const orda_journal::ExchangeRow &row);
 
     QString m_id;
+    bool m_isUndo;
     QString m_error;
     Selection m_written;
     QHash<QString, RecordedDevice> m_devices;
 };
+
+/// By device what a run changed, or was to change where the device did not take it. Nothing of devices that no write has
+/// left for, and nothing where the family is not known.
+QHash<QString, QVector<MemberChange>> changesOf(const orda_journal::RunDetails &details);
 
 } // namespace orda_engine

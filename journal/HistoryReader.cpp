@@ -156,4 +156,32 @@ std::optional<RunDetails> HistoryReader::run(const QString &id)
     return file.fault() == HistoryFile::NoFault ? details : std::nullopt;
 }
 
+QVector<LatestOutcome> HistoryReader::latestOutcomes()
+{
+    if (!m_connection->isReady())
+        return {};
+    HistoryFile &file = m_connection->file;
+    // Beside max() SQLite takes the other columns from the row that has it.
+    QSqlQuery query = file.prepare(
+        QStringLiteral("SELECT devices.id, serialnumber, outcome, runs.id, family, max(began) FROM devices "
+                       "JOIN runs ON runs.number = run WHERE outcome <> '' GROUP BY devices.id, serialnumber"));
+    QVector<LatestOutcome> latest;
+    if (!file.run(query))
+        return {};
+    while (file.next(query)) {
+        const auto text = [&query](int column) { return query.value(column).toString(); };
+        bool isKnown = false;
+        LatestOutcome outcome;
+        outcome.device.devId = text(0);
+        outcome.device.serialNumber = text(1);
+        outcome.device.outcome = outcomeFromName(text(2), &isKnown);
+        outcome.runId = text(3);
+        outcome.family = text(4);
+        outcome.began = query.value(5).toLongLong();
+        if (isKnown)
+            latest.append(outcome);
+    }
+    return latest;
+}
+
 } // namespace orda_journal

@@ -25,6 +25,9 @@ public:
     QStringList findRuns(const QString &idOrPrefix);
     /// Nothing when there is no such run.
     std::optional<RunDetails> run(const QString &id);
+    /// Of each device the latest, wherever it was made; in no order. What has the same id and another serial number is
+    /// another device, with an outcome of its own: DeviceRow::isReplacedBy() tells which is meant.
+    QVector<LatestOutcome> latestOutcomes();
 
 private:
     class Connection;

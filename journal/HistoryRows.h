@@ -58,6 +58,14 @@ struct DeviceRow
     }
 };
 
+/// What became of a device in the latest run that it has an outcome of.
+struct LatestOutcome
+{
+    DeviceRow device; ///< id, outcome and serial number only
+    QString runId, family;
+    qint64 began = 0; ///< of the run: milliseconds since the epoch, UTC
+};
+
 /// A run as the history has it.
 struct RunRow
 {

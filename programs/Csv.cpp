@@ -17,6 +17,13 @@ QString csvCell(QString text)
     return text;
 }
 
+QString csvText(QString cell)
+{
+    static const QRegularExpression guard(
+        QStringLiteral("(^|[;|\\t\\r\\n])'(?='*[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
+    return cell.replace(guard, QStringLiteral("\\1"));
+}
+
 QString csvLine(const QStringList &texts)
 {
     QStringList cells;

@@ -7,8 +7,8 @@ missing.
 
 import sys
 
-from support.journey import (Atspi, act, dialogs, find, has, set_state, start_on_own_display_and_bus, travel,
-                             wait_for)
+from support.journey import (Atspi, act, client_window, dialogs, find, has, set_state, start_on_own_display_and_bus,
+                             travel, wait_for)
 
 DEVICES = 12
 
@@ -21,7 +21,7 @@ def answer(client, title, text, button):
 
 
 def configure_audio(client):
-    window = find(client, "frame", "Batch Configuration")
+    window = client_window(client)
     entry = find(window, "page tab", "Audio Parameters")
     act(entry, "Press")
     wait_for("open page", lambda: has(entry, "SELECTED"))

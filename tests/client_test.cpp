@@ -3,9 +3,11 @@
 #include "client/app/ClientWindow.h"
 #include "client/record/FailedDevices.h"
 #include "client/session/ClientSession.h"
+#include "client/settings/ClientSettings.h"
 #include "journal/HistoryOptions.h"
 
 #include <QtWidgets>
+#include <orda_base/BaseForm.h>
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <orda_worker/AssistantSignals.h>
@@ -38,12 +40,14 @@ private slots:
     void opensOnASmallScreen()
     {
         ClientSession session(orda_journal::HistoryOptions{});
-        ClientWindow window(&session);
+        ClientSettings settings({});
+        ClientWindow window(&session, &settings);
+        QCOMPARE(session.startDemo(1, {}), QString());
         window.show();
         const QRect screen = window.screen()->availableGeometry();
         QVERIFY(screen.adjusted(0, 0, -1, -1).contains({screen.topLeft(), window.size()})); // with room for a frame
-        const auto *area = qobject_cast<QScrollArea *>(window.centralWidget());
-        const QWidget *form = area->widget();
+        const auto *form = window.findChild<orda_base::BaseForm *>();
+        const auto *area = qobject_cast<QScrollArea *>(form->parentWidget()->parentWidget());
         QTRY_VERIFY(area->horizontalScrollBar()->maximum() > 0);
         QVERIFY(form->width() >= form->minimumSizeHint().width());
         QCOMPARE(area->horizontalScrollBar()->maximum() + area->viewport()->width(), form->width());
@@ -53,7 +57,8 @@ private slots:
     void tellsChangesOnly()
     {
         ClientSession session(orda_journal::HistoryOptions{});
-        ClientWindow window(&session);
+        ClientSettings settings({});
+        ClientWindow window(&session, &settings);
         window.show();
         auto &store = orda_data::DevsMgrData::instance();
         QSignalSpy attempts(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged);
@@ -81,7 +86,8 @@ private slots:
         faults.close();
         ClientSession session(orda_journal::HistoryOptions{});
         vms_sdk::ClientSdk::instance().setRequestTimeout(2s);
-        ClientWindow window(&session);
+        ClientSettings settings({});
+        ClientWindow window(&session, &settings);
         window.show();
         QCOMPARE(session.startDemo(2, faults.fileName()), QString());
         const auto *table = window.findChild<QTableWidget *>("devsTableWt");

@@ -142,6 +142,30 @@ private slots:
         QCOMPARE(device.dials, 3);
     }
 
+    /// For the devices that are meant, and for no others.
+    void pausesAreCutShort()
+    {
+        WebSocketOptions options;
+        options.firstBackOff = options.lastBackOff = 1min;
+        use(options);
+        TestDevice refused(m_id), lost("lost"), other("other");
+        refused.fault = Refuses;
+        lost.fault = other.fault = HangsUp;
+        expectWarning("password");
+        m_transport->setDevices({refused.info, lost.info, other.info});
+        QTRY_COMPARE(m_states[m_id], States({DevConnecting, DevRefused}));
+        QTRY_COMPARE(m_states["lost"], States({DevConnecting, DevOffline}));
+        QTRY_COMPARE(m_states["other"], States({DevConnecting, DevOffline}));
+        refused.fault = lost.fault = other.fault = NoFault;
+        m_transport->connectDevicesAgain({m_id, "lost", "strange"});
+        QTRY_COMPARE(m_states[m_id].mid(2), States({DevConnecting, DevDefaultPassword}));
+        QTRY_COMPARE(m_states["lost"].mid(2), States({DevConnecting, DevDefaultPassword}));
+        m_transport->connectDevicesAgain({m_id}); // whose connection is left alone
+        common_req("now", m_id, QString());
+        QTRY_COMPARE(refused.received, QStringList("now\n"));
+        QCOMPARE(QVector<int>({refused.dials, lost.dials, other.dials}), QVector<int>({2, 2, 1}));
+    }
+
     void aLostDeviceReturnsAndGetsNothingLate()
     {
         TestDevice device(m_id);

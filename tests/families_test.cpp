@@ -1,6 +1,7 @@
 #include "support/FamilyTable.h"
 #include "support/FormFixture.h"
 #include "support/OrdaTest.h"
+#include "support/PropertyWatch.h"
 
 #include <onvif/OnvifParamsCfgPage.h>
 #include <orda_data/DevsMgrData.h>
@@ -92,6 +93,28 @@ QByteArray text(const QJsonValue &value)
     return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
 }
 
+QSet<QString> asSet(const QStringList &names)
+{
+    return {names.begin(), names.end()};
+}
+
+/// Object names of the check boxes of what is meant, as a page tells them.
+QSet<QString> meantBoxes(const QVariantMap &current)
+{
+    QSet<QString> names;
+    const QVariantList members = current["members"].toList();
+    for (const QVariant &member : members) {
+        const QVariantList boxes = member.toMap()["boxes"].toList();
+        QStringList ticked;
+        for (const QVariant &box : boxes)
+            if (qobject_cast<QAbstractButton *>(box.value<QObject *>())->isChecked())
+                ticked.append(box.value<QObject *>()->objectName());
+        if (ticked.size() == boxes.size())
+            names.unite(asSet(ticked));
+    }
+    return names;
+}
+
 } // namespace
 
 /// Each family on the wire: which requests it sends and with what, and the names and texts that it goes by.
@@ -126,7 +149,18 @@ private slots:
         for (const QString &box : boxes)
             QVERIFY2(f.theirPage()->findChild<QCheckBox *>(box), qPrintable(box));
         f.select(boxes);
+        // What the page tells beforehand is what the press then announces, and what its boxes say.
+        const QVariantMap current = f.theirPage()->property("current").toMap();
+        QVariantMap announced;
+        const PropertyWatch watch(f.theirPage(), "run",
+                                  [&announced](const QVariant &begun) { announced.insert(begun.toMap()); });
         const orda_worker::EventConfirmInfo summary = f.run();
+        QCOMPARE(current["family"], announced["family"]);
+        QCOMPARE(text(current["values"].toJsonObject()), text(announced["values"].toJsonObject()));
+        QSet<QString> meant = asSet(boxes);
+        if (!meant.contains("HDStream"))
+            meant.remove("smartEncoding"); // which only the main stream has
+        QCOMPARE(meantBoxes(current), meant);
         QCOMPARE(summary.title, familyRow(name).title);
         QCOMPARE(summary.text, summaryOf(1, 0));
 

@@ -3,6 +3,9 @@
 
     lint.py BUILD FILE.cpp…
 
+Files of one directory that are compiled alike are looked at together, as one source that includes them all: most of the time goes
+into the headers that they share. Where that finds something, or where names of two files clash, each is looked at by itself.
+
 BUILD is a directory that has just been built: Ninja knows there which headers each file is made of. A file is known by what it
 and these headers contain, comments included (a NOLINT is one), by its compile commands, clang-tidy's version, arguments and
 .clang-tidy. What was clean is remembered outside the tree, so that a fresh clone profits; a finding is never remembered.
@@ -18,6 +21,7 @@ import pathlib
 import shlex
 import subprocess
 import sys
+import tempfile
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -26,6 +30,9 @@ KEPT_DAYS = 60  # after the last use
 TOOL = ["clang-tidy", "--quiet", "--extra-arg=-Wno-gnu-zero-variadic-macro-arguments",
         # The analyzer looks at one function after the other: following each call takes as long again as all other checks.
         *("--extra-arg=" + option for option in ("-Xclang", "-analyzer-config", "-Xclang", "mode=shallow"))]
+# Otherwise the analyzer would pass over what is included.
+TOGETHER = [*TOOL, "--extra-arg=-Xclang", "--extra-arg=-analyzer-opt-analyze-headers"]
+MOST_TOGETHER = 12
 
 
 class Build:
@@ -69,19 +76,56 @@ def key(build, source):
     return hashlib.sha256("\0".join(parts).replace(str(ROOT), ".").encode()).hexdigest()
 
 
-def lint(build, source):
-    """Whether clang-tidy had to look, and whether the file is clean; prints what it finds."""
-    before = key(build, source)
-    if (CACHE / before).exists():
-        (CACHE / before).touch()
-        return False, True
-    done = subprocess.run([*TOOL, "-p", build.directory, source], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                          text=True)
-    if done.returncode != 0:
-        print(done.stdout, flush=True)
-    elif key(build, source) == before:  # otherwise somebody is editing it
-        (CACHE / before).touch()
-    return True, done.returncode == 0
+def flags(build, source):
+    """How the file is compiled, without the compiler and what names it and its result."""
+    arguments = iter(shlex.split(build.commands[str(source)][0]["command"]))
+    kept = []
+    for argument in arguments:
+        if argument == "-o":
+            next(arguments)
+        elif argument not in ("-c", str(source)):
+            kept.append(argument)
+    return tuple(kept[next(place for place, argument in enumerate(kept) if argument.startswith("-")):])
+
+
+def groups(build, sources):
+    alike = collections.defaultdict(list)
+    for source in sources:
+        alike[source.parent, flags(build, source)].append(source)
+    return [(how, found[first:first + MOST_TOGETHER]) for (_, how), found in alike.items()
+            for first in range(0, len(found), MOST_TOGETHER)]
+
+
+def lint(build, how, sources):
+    """Those of the files that have findings; prints these."""
+    before = [key(build, source) for source in sources]
+    if len(sources) == 1:
+        command = [*TOOL, "-p", build.directory, sources[0]]
+    else:
+        # In the tree, so that .clang-tidy is found.
+        with tempfile.NamedTemporaryFile("w", dir=build.directory, prefix="together.", suffix=".cpp", delete=False) as together:
+            together.writelines('#include "%s" // NOLINT\n' % source for source in sources)
+        command = [*TOGETHER, together.name, "--", *how]
+    done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+    if len(sources) > 1:
+        os.unlink(together.name)
+    if done.returncode == 0:
+        for source, known in zip(sources, before):
+            if key(build, source) == known:  # otherwise somebody is editing it
+                (CACHE / known).touch()
+        return []
+    if len(sources) > 1:
+        half = len(sources) // 2
+        return lint(build, how, sources[:half]) + lint(build, how, sources[half:])
+    print(done.stdout, flush=True)
+    return sources
+
+
+def is_known(build, source):
+    known = CACHE / key(build, source)
+    if known.exists():
+        known.touch()
+    return known.exists()
 
 
 def main():
@@ -91,11 +135,12 @@ def main():
     unused = [entry for entry in CACHE.iterdir() if entry.stat().st_mtime < time.time() - KEPT_DAYS * 86400]
     for entry in unused:
         entry.unlink(missing_ok=True)
+    unknown = [source for source in sources if not is_known(build, source)]
+    findings = []
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        results = list(pool.map(functools.partial(lint, build), sources))
-    findings = sum(not clean for _, clean in results)
-    print("lint: clang-tidy looked at %d of %d files, %d with findings" % (
-        sum(looked for looked, _ in results), len(results), findings), file=sys.stderr)
+        for found in pool.map(lambda group: lint(build, *group), groups(build, unknown)):
+            findings += found
+    print("lint: clang-tidy looked at %d of %d files, %d with findings" % (len(unknown), len(sources), len(findings)), file=sys.stderr)
     sys.exit(1 if findings else 0)
 
 

@@ -12,8 +12,8 @@ import subprocess
 import sys
 import time
 
-from support.journey import (LIMIT, Atspi, act, descendants, dialogs, find, has, name_of, set_state, skip,
-                             start_on_own_display_and_bus, travel, wait_for)
+from support.journey import (LIMIT, Atspi, act, client_window, descendants, dialogs, find, has, name_of, set_state,
+                             skip, start_on_own_display_and_bus, travel, wait_for)
 
 DEVICES = 12
 SILENT = 2
@@ -145,8 +145,8 @@ def closing_in_mid_run_asks(client, window, window_id):
 
 
 def journey(client):
-    window = find(client, "frame", "Batch Configuration")
-    window_id = wait_for("window", lambda: xdotool("search", "--onlyvisible", "--name", "^Batch Configuration$").split()[:1])[0]
+    window = client_window(client)
+    window_id = wait_for("window", lambda: xdotool("search", "--onlyvisible", "--name", "– Batch Configuration$").split()[:1])[0]
     xdotool("windowactivate", "--sync", window_id)
     xdotool("windowsize", window_id, 1500, 1150)
     wheel_changes_nothing(window)

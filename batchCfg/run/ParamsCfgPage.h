@@ -31,7 +31,7 @@ class ParamsCfgPage : public QWidget
 {
     Q_OBJECT
     /// What Configure would send if it was pressed now, and how the page shows it. There is no signal: it is read anew.
-    Q_PROPERTY(QVariantMap current READ current STORED false)
+    Q_PROPERTY(QVariantMap current READ current STORED false) // clazy:exclude=qproperty-without-notify
 
 public:
     /// Ends a run of this page that is under way.

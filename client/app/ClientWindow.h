@@ -1,40 +1,45 @@
 #pragma once
 
-#include <vms_client_sdk/DevInfo.h>
-
-#include <QHash>
 #include <QMainWindow>
 #include <QPointer>
 
 QT_BEGIN_NAMESPACE
-class QLabel;
-class QToolButton;
+class QStackedWidget;
 QT_END_NAMESPACE
 
-namespace orda_base {
-class DelayedCall;
-}
 namespace orda_worker {
 struct EventConfirmInfo;
 }
 
 namespace orda_client {
 
+class ClientMenus;
 class ClientSession;
+class ClientSettings;
+class ClientStatusBar;
 class CloseQuestion;
-class LastRunWindow;
-class RecordViewer;
-struct Family;
+class FirstSteps;
+class InventoryImport;
+class InventoryOpener;
+class PressGuard;
+class PressLine;
+class RunProgress;
+class Windows;
+struct PressedRun;
 
-/// The client's window: the batch-configuration form, a menu, and a status bar that says how many devices are online
-/// and what happened last. From there opens the window of the last run.
+/// The client's window: the batch-configuration form, or what to begin with as long as there are no devices; menus, and
+/// a status bar. Remembers its size and place, and the page that was shown last.
 class ClientWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit ClientWindow(ClientSession *session, QWidget *parent = nullptr);
+    /// @param session @param settings must outlive the window
+    ClientWindow(ClientSession *session, ClientSettings *settings, QWidget *parent = nullptr);
     ~ClientWindow() override;
+
+    /// Asks before large or odd runs from now on: only where a person sits at the window.
+    void guardPresses();
 
     /// Large enough to show the form without scroll bars.
     QSize sizeHint() const override;
@@ -43,35 +48,30 @@ protected:
     /// In mid-run it asks first.
     void closeEvent(QCloseEvent *event) override;
 
-private slots:
-    /// QDesktopServices hands the address over that Report and Detail open.
-    void openRecord(const QUrl &url);
-
 private:
-    void buildMenu();
-    void returnFocusFrom(const QMenu *menu);
-    void buildStatusBar();
-    void followDevices();
-    void openInventory();
-    void updateStatusBar();
-    void showLast(const QString &text);
+    QWidget *buildForm();
+    void connectActions();
+    void importDevices();
+    void followSession();
+    void rememberPage();
+    void showSource();
     void showSummary(const orda_worker::EventConfirmInfo &info);
-    void askBeforeClosing(QWidget *overlay);
-    void showLastRun();
-    void showLastRunOf(const Family &family);
-    void showRemoteConfig(const QString &devId);
+    void askBeforeClosing();
+    void configure(const PressedRun &run);
 
     ClientSession *m_session;
-    QLabel *m_onlineCount;
-    QLabel *m_last;
-    QAction *m_showLastRun;
-    QToolButton *m_lastRunBt = nullptr;
-    QPointer<LastRunWindow> m_lastRun;
-    RecordViewer *m_viewer;
-    orda_base::DelayedCall *m_statusBarUpdate;
-    QString m_lastChanged; // id of the device whose change of state the status bar is to show
-    QHash<QString, vms_sdk::DevStatus> m_known; // by device id; attempts to connect are left out
-    QPointer<QWidget> m_focusBeforeMenu;
+    ClientSettings *m_settings;
+    QStackedWidget *m_pages; // what to begin with, and the form
+    PressLine *m_line = nullptr;
+    RunProgress *m_progress = nullptr;
+    QWidget *m_form; // has the batch-configuration form in it
+    FirstSteps *m_firstSteps;
+    ClientMenus *m_menus;
+    ClientStatusBar *m_statusBar;
+    InventoryOpener *m_opener;
+    InventoryImport *m_import;
+    Windows *m_windows;
+    PressGuard *m_guard = nullptr;
     QPointer<CloseQuestion> m_closeQuestion;
     bool m_closesInRun = false;
 };

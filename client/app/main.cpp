@@ -2,6 +2,7 @@
 #include "client/app/ClientWindow.h"
 #include "client/drive/RunDriver.h"
 #include "client/session/ClientSession.h"
+#include "client/settings/ClientSettings.h"
 #include "journal/HistoryOptions.h"
 #include "programs/CommandLine.h"
 #include "programs/Complaint.h"
@@ -9,6 +10,8 @@
 #include "programs/Translations.h"
 
 #include <orda_base/Theme.h>
+#include <orda_worker/DictDef.h>
+#include <orda_worker/SystemAssistant.h>
 #include <vms_client_sdk/OpenFiles.h>
 
 #include <QApplication>
@@ -38,6 +41,20 @@ bool chooseScreen()
     return isBlind;
 }
 
+/// The language of the settings, or the system's where it is not there any more.
+QString knownLanguage(const QString &language)
+{
+    return Translations::languages().contains(language) ? language : QString();
+}
+
+orda_base::Theme::Scheme schemeOf(const QString &theme)
+{
+    using orda_base::Theme;
+    if (theme.isEmpty())
+        return Theme::FollowPalette;
+    return theme == QLatin1String("dark") ? Theme::Dark : Theme::Light;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -56,31 +73,34 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("orda_client")));
     vms_sdk::raiseOpenFileLimit();
 
-    const QString language = optionValue(QCoreApplication::arguments(), QStringLiteral("language"));
+    const QStringList arguments = QCoreApplication::arguments();
+    // A driven client begins as on its first day, and leaves nothing behind.
+    const bool isDriven = !optionValue(arguments, QStringLiteral("run")).isEmpty();
+    ClientSettings settings(isDriven ? QString() : ClientSettings::usualPath());
+    const QString language = optionValue(arguments, QStringLiteral("language"));
     Translations translations; // first: mistakes of the command line are told in this language too
-    if (!translations.install(language)) {
+    if (!translations.install(language.isEmpty() ? knownLanguage(settings.language()) : language)) {
         return fail(QCoreApplication::translate("main", "--language takes one of %1, not \"%2\"")
                         .arg(Translations::languages().join(QStringLiteral(", ")), language),
                     ExitUsage);
     }
-    const ClientOptions options = parseOptions(QCoreApplication::arguments());
+    const ClientOptions options = parseOptions(arguments);
     if (!options.error.isEmpty())
         return fail(QCoreApplication::translate("main", "%1 (see orda_client --help)").arg(options.error), ExitUsage);
     if (isBlind && options.family.isEmpty()) {
         return fail(QCoreApplication::translate("main", "there is no display to show the window on; --run needs none"),
                     ExitUsage);
     }
-    using orda_base::Theme;
-    Theme::apply(app, options.theme.isEmpty()                  ? Theme::FollowPalette
-                      : options.theme == QLatin1String("dark") ? Theme::Dark
-                                                               : Theme::Light);
+    orda_base::Theme::apply(app, schemeOf(options.theme.isEmpty() ? settings.theme() : options.theme));
 
     QString warning;
     ClientSession session(orda_journal::HistoryOptions::configured(&warning));
     if (!warning.isEmpty())
         complain(warning);
     QObject::connect(&session, &ClientSession::signalWarning, &app, complain);
-    ClientWindow window(&session);
+    ClientWindow window(&session, &settings);
+    if (!isDriven)
+        window.guardPresses();
     window.show();
 
     QString error;
@@ -88,8 +108,10 @@ int main(int argc, char *argv[])
         error = session.startDemo(options.demoDevices, options.faultsFile);
     else if (!options.inventoryFile.isEmpty())
         error = session.openInventory(options.inventoryFile);
-    if (!error.isEmpty())
+    if (!error.isEmpty() && isDriven)
         return fail(error, ExitInput);
+    if (!error.isEmpty()) // the window offers other ways to devices
+        orda_worker::SystemAssistant::instance().messageAlert(orda_worker::DictDef::instance().alertTitle(), error);
 
     std::unique_ptr<RunDriver> driver; // only without a person at the window: it ends the program at an alert
     if (!options.family.isEmpty()) {

@@ -1,7 +1,6 @@
 #include "client/drive/RunDriver.h"
 
 #include "client/form/Families.h"
-#include "client/record/LastRunWindow.h"
 #include "client/record/PageRecord.h"
 #include "client/record/RecordFile.h"
 #include "engine/Connecting.h"
@@ -22,6 +21,7 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QDir>
+#include <QEventLoop>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QTableWidget>
@@ -40,6 +40,8 @@ using namespace std::chrono_literals;
 
 // A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
 constexpr auto settlePause = 150ms;
+constexpr QSize windowPicture(1280, 680);
+constexpr auto readingPause = 1s; // some windows read devices or the history first
 constexpr auto progressInterval = 50ms;
 constexpr int devIdRole = Qt::UserRole + 1;
 
@@ -137,7 +139,12 @@ void RunDriver::tickAndConfigure()
     const int missing = m_options.deviceIds.size() - m_ticked;
     if (missing > 0)
         complain(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
-    QTimer::singleShot(0ms, this, &RunDriver::configure);
+    QTimer::singleShot(0ms, this, [this] {
+        saveWindowScreenshot("showDevices", "devicesWindow");
+        saveWindowScreenshot("showPreview", "previewWindow");
+        saveWindowScreenshot("showCompare", "compareWindow");
+        configure();
+    });
 }
 
 void RunDriver::openPage(const Family &family)
@@ -192,7 +199,7 @@ void RunDriver::configure()
         out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
         printRecord();
         answerSummary();
-        saveLastRunScreenshot();
+        saveWindowScreenshot("showRuns", "runsWindow");
         const bool hasRecord = PageRecord::of(m_window, *m_family).error.isEmpty();
         end(!hasRecord ? int(ExitNoRecord) : m_isAllDone ? int(ExitOk) : int(ExitSomeFailed));
     }
@@ -236,15 +243,19 @@ void RunDriver::answerSummary()
     }
 }
 
-void RunDriver::saveLastRunScreenshot() const
+void RunDriver::saveWindowScreenshot(const char *action, const char *windowName) const
 {
     if (m_options.screenshotsDir.isEmpty())
         return;
-    m_window->findChild<QAction *>(QStringLiteral("showLastRun"))->trigger();
-    QCoreApplication::processEvents(); // so that it is laid out
-    auto *lastRun = m_window->findChild<LastRunWindow *>();
-    saveScreenshot(lastRun, QStringLiteral("last-run"));
-    lastRun->close();
+    m_window->findChild<QAction *>(QLatin1String(action))->trigger();
+    QEventLoop reading;
+    QTimer::singleShot(readingPause, &reading, &QEventLoop::quit);
+    reading.exec();
+    auto *window = m_window->findChild<QWidget *>(QLatin1String(windowName));
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        window->resize(windowPicture); // the small screen does not matter
+    saveScreenshot(window, QLatin1String(windowName));
+    window->close();
 }
 
 void RunDriver::printRecord() const

@@ -2,6 +2,7 @@
 
 #include <families/Families.h>
 
+#include <QAbstractButton>
 #include <QStackedWidget>
 
 #include <algorithm>
@@ -43,6 +44,12 @@ const Family *shownFamily(const QWidget *form)
     const auto found = std::find_if(families().begin(), families().end(),
                                     [&page](const Family &candidate) { return candidate.pageName == page; });
     return found == families().end() ? nullptr : &*found;
+}
+
+QString familyTitle(const QWidget *form, const Family &family)
+{
+    const auto *entry = form->findChild<QAbstractButton *>(family.navigationKey);
+    return entry ? entry->text() : family.name;
 }
 
 } // namespace orda_client

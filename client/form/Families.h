@@ -26,5 +26,7 @@ QStringList familyNames();
 /// The family whose page the form shows. A run covers the form, so in a run, and when its summary comes, it is the
 /// run's.
 const Family *shownFamily(const QWidget *form);
+/// As the form's navigation calls it, in the operator's language.
+QString familyTitle(const QWidget *form, const Family &family);
 
 } // namespace orda_client

@@ -32,7 +32,7 @@ ParameterTexts::ParameterTexts(const QWidget *form, const orda_batchCfg::CfgFami
 
 QString ParameterTexts::title(const QString &member) const
 {
-    const QString known = m_titles.value(member);
+    QString known = m_titles.value(member);
     if (!known.isEmpty())
         return known;
     // A recorder has several streams of one number.

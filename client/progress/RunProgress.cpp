@@ -204,12 +204,11 @@ void RunProgress::showButtons(bool isGoingOn)
 
 void RunProgress::refresh()
 {
-    const bool isGoingOn = m_refreshTimer.isActive();
     m_bar->setValue(m_tally.settled());
-    m_counts->setWholeText(isGoingOn ? countsText() : resultText());
+    m_counts->setWholeText(isGoingOn() ? countsText() : resultText());
     showText(m_failures, failuresText(m_latestFailures));
     QString stopped;
-    if (!m_whyStopped.isEmpty() && isGoingOn)
+    if (!m_whyStopped.isEmpty() && isGoingOn())
         stopped = tr("%1. What has not left yet is not sent; what has been written stays written: %2", "why, devices")
                       .arg(m_whyStopped, tr("%Ln device(s)", "that were written to", m_tally.done()));
     showText(m_stopped, stopped);

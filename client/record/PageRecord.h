@@ -1,8 +1,5 @@
 #pragma once
 
-#include "client/record/RecordFile.h"
-#include "client/record/RunRecord.h"
-
 #include <QCoreApplication>
 #include <QString>
 #include <QVector>
@@ -32,24 +29,6 @@ public:
     bool isMissing() const { return !error.isEmpty() && entryEnds.isEmpty(); }
     /// The error as a sentence for the user; empty without one.
     QString complaint() const;
-
-    bool operator==(const PageRecord &other) const;
 };
-
-/// A family's record: what is on the disk, and what the page tells about it.
-struct FamilyRecord
-{
-    const Family *family;
-    RecordFile::State state;
-    PageRecord page;
-
-    /// The results of the family's last run. @param error why there are none, for the user; else empty
-    QVector<RunEntry> read(QString *error) const;
-    bool operator!=(const FamilyRecord &other) const;
-};
-
-/// The records that exist or should exist. Those that may be read come first, and among them the newest.
-/// @param also a family that is listed in any case; may be null
-QVector<FamilyRecord> familyRecords(const QWidget *form, const Family *also);
 
 } // namespace orda_client

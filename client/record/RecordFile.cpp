@@ -59,16 +59,24 @@ bool RecordFile::State::operator==(const State &other) const
         && inode == other.inode;
 }
 
-RecordFile::RecordFile(const QString &name)
-    : m_path(temporaryDirectory() + QLatin1Char('/') + name)
+RecordFile::RecordFile(const QString &nameOrPath)
+    : m_path(nameOrPath)
+    , m_isTemporary(!QFileInfo(nameOrPath).isAbsolute())
 {
+    if (m_isTemporary)
+        m_path = temporaryDirectory() + QLatin1Char('/') + nameOrPath;
+}
+
+bool RecordFile::isReachable() const
+{
+    return !m_isTemporary || hasDirectory();
 }
 
 RecordFile::State RecordFile::state() const
 {
     State found;
     struct stat info = {};
-    if (hasDirectory() && ::lstat(QFile::encodeName(m_path).constData(), &info) == 0) {
+    if (isReachable() && ::lstat(QFile::encodeName(m_path).constData(), &info) == 0) {
         found.exists = true;
         found.refusal = refusalOf(info);
         found.changed = qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;
@@ -81,7 +89,7 @@ RecordFile::State RecordFile::state() const
 RecordFile::Content RecordFile::read() const
 {
     const auto fail = [](const QString &why) { return Content{{}, why}; };
-    if (!hasDirectory())
+    if (!isReachable())
         return fail(tr("there is no temporary directory"));
     // O_NONBLOCK: opening a pipe of that name would wait for a writer.
     const int fd = ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);

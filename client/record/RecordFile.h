@@ -34,16 +34,18 @@ public:
         QString error; ///< for the user, empty when the bytes are there
     };
 
-    /// @param name without a directory
-    explicit RecordFile(const QString &name);
+    /// @param nameOrPath a name without a directory: where the module's pages have their records; or an absolute path
+    explicit RecordFile(const QString &nameOrPath);
 
-    /// The same as the module's pages use.
     QString path() const { return m_path; }
     State state() const;
     Content read() const;
 
 private:
+    bool isReachable() const;
+
     QString m_path;
+    bool m_isTemporary;
 };
 
 } // namespace orda_client

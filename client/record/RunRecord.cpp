@@ -183,11 +183,6 @@ bool RunEntry::operator==(const RunEntry &other) const
         && message == other.message && name == other.name;
 }
 
-bool FailureGroup::has(const RunEntry &entry) const
-{
-    return entry.outcome == outcome && (outcome == RunEntry::Unreadable || entry.message == message);
-}
-
 QVector<RunEntry> parseRunRecord(const QString &text, const QStringList &successTexts, const QString &lastTime)
 {
     QVector<RunEntry> entries;

@@ -31,8 +31,6 @@ struct FailureGroup
     RunEntry::Outcome outcome = RunEntry::Failed; ///< never Succeeded
     QString message; ///< empty for unreadable entries
     int count = 0;
-
-    bool has(const RunEntry &entry) const;
 };
 
 /// Reads a record: one entry for each device, in the order of the text. An entry is the time, the serial number, the IP

@@ -1,84 +1,12 @@
 #include "client/record/RunRecordModel.h"
 
-#include <orda_base/SortOrder.h>
-#include <vms_client_sdk/ForeignText.h>
-
-#include <QFont>
-#include <QTextDocument>
-
-#include <algorithm>
-#include <tuple>
-
 namespace orda_client {
-
-namespace {
-
-constexpr int maxShown = 2000; // characters; an unreadable entry may have any length
-
-} // namespace
-
-RunRecordModel::RunRecordModel(QObject *parent)
-    : QAbstractTableModel(parent)
-{
-}
 
 void RunRecordModel::setEntries(const QVector<RunEntry> &entries)
 {
-    const int known = m_entries.size();
-    if (known > 0 && known <= entries.size() && std::equal(m_entries.cbegin(), m_entries.cend(), entries.cbegin())) {
-        if (known == entries.size())
-            return;
-        beginInsertRows({}, known, entries.size() - 1);
-        m_entries = entries;
-        appendKeys(known);
-        endInsertRows();
-        return;
-    }
     beginResetModel();
     m_entries = entries;
-    m_keys.clear();
-    appendKeys(0);
-    endResetModel();
-}
-
-void RunRecordModel::appendKeys(int from)
-{
-    m_keys.reserve(std::size_t(m_entries.size()));
-    for (int row = from; row < m_entries.size(); ++row) {
-        const RunEntry &entry = m_entries.at(row);
-        m_keys.push_back({orda_base::ipv4Number(entry.ip), orda_base::nameCollator().sortKey(entry.name)});
-    }
-}
-
-bool RunRecordModel::isBefore(Column column, int row, int otherRow) const
-{
-    const RunEntry &entry = m_entries.at(row);
-    const RunEntry &other = m_entries.at(otherRow);
-    const Keys &keys = m_keys[std::size_t(row)];
-    const Keys &otherKeys = m_keys[std::size_t(otherRow)];
-    const auto isTextBefore = [](const QString &text, const QString &otherText) {
-        return text != otherText && orda_base::nameCollator().compare(text, otherText) < 0;
-    };
-    switch (column) {
-    case Outcome:
-        return entry.outcome != other.outcome ? entry.outcome < other.outcome : keys.name.compare(otherKeys.name) < 0;
-    case Name:
-        return keys.name.compare(otherKeys.name) < 0;
-    case SerialNumber:
-        return isTextBefore(entry.serialNumber, other.serialNumber);
-    case Ip: {
-        const auto rank = [](const Keys &k, const RunEntry &e) {
-            return std::make_tuple(e.ip.isEmpty(), !k.ip, k.ip.value_or(0), e.ip);
-        };
-        return rank(keys, entry) < rank(otherKeys, other);
-    }
-    case Time:
-        return entry.time < other.time;
-    case Message:
-    case ColumnCount:
-        break;
-    }
-    return isTextBefore(entry.message, other.message);
+    endReset();
 }
 
 int RunRecordModel::rowCount(const QModelIndex &parent) const
@@ -86,29 +14,19 @@ int RunRecordModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_entries.size();
 }
 
-int RunRecordModel::columnCount(const QModelIndex &parent) const
+QStringList RunRecordModel::titles() const
 {
-    return parent.isValid() ? 0 : ColumnCount;
+    return {tr("Outcome"), tr("Name"), tr("Serial number"), tr("IP address"), tr("Time"), tr("Message")};
 }
 
-QString RunRecordModel::outcomeText(RunEntry::Outcome outcome)
+QString RunRecordModel::text(int row, int column) const
 {
-    switch (outcome) {
-    case RunEntry::Failed:
-        return tr("Failed");
-    case RunEntry::Unreadable:
-        return tr("Unreadable");
-    case RunEntry::Succeeded:
-        break;
-    }
-    return tr("Succeeded");
-}
-
-QString RunRecordModel::text(const RunEntry &entry, int column)
-{
+    const RunEntry &entry = m_entries.at(row);
     switch (column) {
     case Outcome:
-        return outcomeText(entry.outcome);
+        return entry.outcome == RunEntry::Failed       ? tr("Failed")
+               : entry.outcome == RunEntry::Unreadable ? tr("Unreadable")
+                                                       : tr("Succeeded");
     case Name:
         return entry.name;
     case SerialNumber:
@@ -122,54 +40,18 @@ QString RunRecordModel::text(const RunEntry &entry, int column)
     }
 }
 
-QVariant RunRecordModel::data(const QModelIndex &index, int role) const
+// Failures first, and among themselves by name.
+TableModel::SortKey RunRecordModel::sortKey(int row, int column) const
 {
-    const RunEntry &entry = m_entries.at(index.row());
-    switch (role) {
-    case Qt::DisplayRole:
-        return vms_sdk::displayText(
-            text(entry, index.column()).left(maxShown).replace(QLatin1Char('\n'), QChar(0x21B5)));
-    case Qt::EditRole:
-        return text(entry, index.column());
-    case Qt::ToolTipRole: {
-        // A tool tip would interpret a name that looks like HTML.
-        const QString shown = vms_sdk::displayText(text(entry, index.column()).left(maxShown), QStringLiteral("\n"));
-        return shown.isEmpty() ? QString() : Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal);
-    }
-    case Qt::FontRole:
-        if (index.column() == Outcome && entry.outcome != RunEntry::Succeeded) {
-            QFont bold;
-            bold.setBold(true);
-            return bold;
-        }
-        return {};
-    default:
-        return {};
-    }
+    const RunEntry &entry = m_entries.at(row);
+    if (column == Ip)
+        return addressKey(entry.ip);
+    return column == Outcome ? SortKey{entry.outcome, entry.name} : TableModel::sortKey(row, column);
 }
 
-QVariant RunRecordModel::headerData(int section, Qt::Orientation orientation, int role) const
+bool RunRecordModel::isEmphasized(int row, int column) const
 {
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::TextAlignmentRole)
-        return int(Qt::AlignLeft | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case Outcome:
-        return tr("Outcome");
-    case Name:
-        return tr("Name");
-    case SerialNumber:
-        return tr("Serial number");
-    case Ip:
-        return tr("IP address");
-    case Time:
-        return tr("Time");
-    default:
-        return tr("Message");
-    }
+    return column == Outcome && m_entries.at(row).outcome != RunEntry::Succeeded;
 }
 
 } // namespace orda_client

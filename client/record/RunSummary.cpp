@@ -23,7 +23,7 @@ QString timeText(const QVector<RunEntry> &entries)
 
 } // namespace
 
-QString RunSummary::text(const QVector<RunEntry> &entries, bool isUnderWay)
+QString RunSummary::text(const QVector<RunEntry> &entries)
 {
     const auto count = [&entries](RunEntry::Outcome outcome) {
         return int(std::count_if(entries.begin(), entries.end(),
@@ -35,8 +35,6 @@ QString RunSummary::text(const QVector<RunEntry> &entries, bool isUnderWay)
                       tr("Failed: %1").arg(locale.toString(count(RunEntry::Failed)))};
     if (count(RunEntry::Unreadable) > 0)
         texts.append(tr("Unreadable: %1").arg(locale.toString(count(RunEntry::Unreadable))));
-    if (isUnderWay)
-        texts.append(tr("The run is still going on."));
     return texts.join(QStringLiteral("   "));
 }
 

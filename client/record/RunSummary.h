@@ -12,7 +12,7 @@ class RunSummary
     Q_DECLARE_TR_FUNCTIONS(orda_client::RunSummary)
 
 public:
-    static QString text(const QVector<RunEntry> &entries, bool isUnderWay);
+    static QString text(const QVector<RunEntry> &entries);
 };
 
 } // namespace orda_client

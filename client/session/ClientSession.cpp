@@ -9,6 +9,7 @@
 
 #include <vms_client_sdk/Inventory.h>
 
+#include <QFileInfo>
 #include <QWidget>
 
 #include <utility>
@@ -38,16 +39,25 @@ orda_journal::JournalTransport *ClientSession::journal() const
     return m_journal;
 }
 
+void ClientSession::setSource(const Source &source)
+{
+    m_source = source;
+    emit signalSourceChanged();
+}
+
 QString ClientSession::startDemo(int devices, const QString &faultsFile)
 {
     QString error;
     QStringList warnings;
-    m_fleet = device_fleet::EmbeddedFleet::startDemo(devices, faultsFile, &warnings, &error);
+    auto fleet = device_fleet::EmbeddedFleet::startDemo(devices, faultsFile, &warnings, &error);
     for (const QString &warning : qAsConst(warnings))
         emit signalWarning(warning);
-    if (m_fleet)
-        m_devices->setDevices(m_fleet->inventory());
-    return error;
+    if (!fleet)
+        return error;
+    m_devices->setDevices(fleet->inventory()); // before an earlier fleet ends
+    m_fleet = std::move(fleet);
+    setSource({{}, devices});
+    return {};
 }
 
 QString ClientSession::openInventory(const QString &file)
@@ -55,9 +65,12 @@ QString ClientSession::openInventory(const QString &file)
     const vms_sdk::Inventory inventory = vms_sdk::readInventory(file);
     for (const QString &warning : inventory.warnings)
         emit signalWarning(warning);
-    if (inventory.error.isEmpty())
-        m_devices->setDevices(inventory.devices);
-    return inventory.error;
+    if (!inventory.error.isEmpty())
+        return inventory.error;
+    m_devices->setDevices(inventory.devices);
+    m_fleet.reset();
+    setSource({QFileInfo(file).absoluteFilePath(), 0});
+    return {};
 }
 
 void ClientSession::watchPages(const QObject *form)
@@ -85,6 +98,11 @@ void ClientSession::tellAlerts()
 void ClientSession::connectAgain()
 {
     m_devices->connectAgain();
+}
+
+void ClientSession::connectDevicesAgain(const QStringList &devIds)
+{
+    m_devices->connectDevicesAgain(devIds);
 }
 
 } // namespace orda_client

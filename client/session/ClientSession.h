@@ -32,9 +32,20 @@ public:
     /// Closes all connections, then ends the embedded fleet.
     ~ClientSession() override;
 
+    /// Where the devices are from; nothing of it is set at first.
+    struct Source
+    {
+        QString inventoryFile; ///< absolute path
+        int demoDevices = 0; ///< of the embedded fleet
+
+        bool isNone() const { return inventoryFile.isEmpty() && demoDevices == 0; }
+    };
+    const Source &source() const { return m_source; }
+
+    /// The store then holds these devices and no others. Changes nothing after an error.
     /// @return an error for the user, empty when the devices are there
     QString startDemo(int devices, const QString &faultsFile);
-    /// The store then holds the devices of this file and no others. @return as startDemo()
+    /// The same with the devices of a file. An embedded fleet ends.
     QString openInventory(const QString &file);
 
     /// Lets the runs of the form's pages into the history.
@@ -42,6 +53,8 @@ public:
 
     /// Tries the devices again that refused the sign-on.
     void connectAgain();
+    /// Tries these again now, those too that refused the sign-on or wait for their next turn.
+    void connectDevicesAgain(const QStringList &devIds);
 
     /// What the jobs of the engine take, and what tells about runs. Null once somebody has given the SDK another
     /// transport.
@@ -54,12 +67,16 @@ signals:
     void signalWarning(const QString &text);
     /// Something that the user must know of: a run was declined, or cannot be recorded.
     void signalAlert(const QString &text);
+    /// The store has the devices of another source(), or of the same one read again.
+    void signalSourceChanged();
 
 private:
+    void setSource(const Source &source);
     void tellAfterRun(const QString &text);
     void tellAlerts();
 
     const orda_journal::HistoryOptions m_historyOptions;
+    Source m_source;
     std::unique_ptr<device_fleet::EmbeddedFleet> m_fleet;
     std::unique_ptr<orda_engine::DeviceSession> m_devices; // before the fleet ends
     QPointer<orda_journal::JournalTransport> m_journal; // the SDK owns it

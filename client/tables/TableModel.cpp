@@ -72,6 +72,15 @@ int TableModel::rank(int row, int column) const
     return ranks.at(row);
 }
 
+bool TableModel::contains(int row, const QString &keyword) const
+{
+    const int columns = titles().size();
+    for (int column = 0; column < columns; ++column)
+        if (text(row, column).contains(keyword, Qt::CaseInsensitive))
+            return true;
+    return false;
+}
+
 void TableModel::rowsChanged(int first, int last)
 {
     m_ranks.clear();
@@ -81,12 +90,15 @@ void TableModel::rowsChanged(int first, int last)
 void TableModel::endReset()
 {
     m_ranks.clear();
+    m_columns = -1;
     endResetModel();
 }
 
 int TableModel::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : titles().size();
+    if (m_columns < 0)
+        m_columns = titles().size();
+    return parent.isValid() ? 0 : m_columns;
 }
 
 QVariant TableModel::data(const QModelIndex &index, int role) const

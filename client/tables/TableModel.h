@@ -6,11 +6,11 @@
 
 namespace orda_client {
 
-/// A table that people read, search, sort and save: a row a thing, a column a text about it. What the texts are, and how
-/// they sort, is the subclass's affair.
+/// A table that people read, search, sort and save: a row a thing, a column a text about it. What the texts are, and
+/// how they sort, is the subclass's affair.
 ///
-/// Qt::EditRole gives a cell's text as it is, for files; Qt::DisplayRole on one line, safe to look at, and the beginning
-/// of a very long one. Names and messages are other people's texts, and are never taken for HTML.
+/// Qt::EditRole gives a cell's text as it is, for files; Qt::DisplayRole on one line, safe to look at, and the
+/// beginning of a very long one. Names and messages are other people's texts, and are never taken for HTML.
 class TableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -21,6 +21,9 @@ public:
     /// The place of a row when the table is sorted by a column. Rows that sort alike have the same. Worked out for all
     /// rows when it is asked for first, and again after rowsChanged() and a reset.
     int rank(int row, int column) const;
+
+    /// Whether one of the row's texts has this one in it, in capitals or not.
+    bool contains(int row, const QString &keyword) const;
 
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -34,6 +37,7 @@ protected:
         QString text = {};
     };
 
+    /// Of the columns; changes with endReset() only.
     virtual QStringList titles() const = 0;
     virtual QString text(int row, int column) const = 0;
     /// Unless told otherwise the cell's text.
@@ -51,6 +55,7 @@ protected:
 
 private:
     mutable QHash<int, QVector<int>> m_ranks; // by column
+    mutable int m_columns = -1; // asked for with every index, and titles are slow to translate; -1: not known
 };
 
 } // namespace orda_client

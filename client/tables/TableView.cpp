@@ -35,6 +35,11 @@ TableView::TableView(QAbstractItemModel *model, const QVector<int> &digits, cons
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStyleSheet(QStringLiteral("QHeaderView::section { padding-left: 6px; }"));
+    setWidths(digits);
+}
+
+void TableView::setWidths(const QVector<int> &digits)
+{
     ensurePolished(); // so that the font is the one that will be used
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (int column = 0; column < digits.size(); ++column)

@@ -14,6 +14,9 @@ public:
     /// @param digits by column its width in digits; 0: as wide as its title. The last column takes the rest
     /// @param name accessible name
     TableView(QAbstractItemModel *model, const QVector<int> &digits, const QString &name, QWidget *parent = nullptr);
+
+    /// @param digits as in the constructor, for a model that has other columns now
+    void setWidths(const QVector<int> &digits);
 };
 
 } // namespace orda_client

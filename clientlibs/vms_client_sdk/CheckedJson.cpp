@@ -63,8 +63,20 @@ int CheckedEntry::choice(const QString &key, const QStringList &choices, int abs
 
 void CheckedEntry::fail(const QString &key, const QString &whatIsRight)
 {
-    if (m_fault.isEmpty())
-        m_fault = tr("field \"%1\": %2").arg(key, whatIsRight);
+    if (!hasFault(key))
+        m_faults.append({key, whatIsRight});
+}
+
+bool CheckedEntry::hasFault(const QString &key) const
+{
+    return std::any_of(m_faults.cbegin(), m_faults.cend(), [&key](const Fault &fault) { return fault.key == key; });
+}
+
+QString CheckedEntry::fault() const
+{
+    if (m_faults.isEmpty())
+        return {};
+    return tr("field \"%1\": %2").arg(m_faults.constFirst().key, m_faults.constFirst().whatIsRight);
 }
 
 QStringList CheckedEntry::unknownKeys() const

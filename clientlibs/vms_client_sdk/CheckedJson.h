@@ -5,13 +5,14 @@
 #include <QJsonObject>
 #include <QSet>
 #include <QStringList>
+#include <QVector>
 
 #include <functional>
 
 namespace vms_sdk {
 
-/// One entry of a CheckedFile. Each field is read by what it must be; the entry keeps the first fault, because later
-/// ones may be consequences of it. After a fault the values are of no use.
+/// One entry of a CheckedFile. Each field is read by what it must be; the entry keeps the first fault of each field,
+/// because later ones may be consequences of it. After a fault the values are of no use.
 class CheckedEntry
 {
     Q_DECLARE_TR_FUNCTIONS(CheckedJson)
@@ -34,8 +35,16 @@ public:
 
     /// @param whatIsRight such as "must not be empty"
     void fail(const QString &key, const QString &whatIsRight);
-    /// Field and what would be right; empty without a fault.
-    const QString &fault() const { return m_fault; }
+    struct Fault
+    {
+        QString key;
+        QString whatIsRight;
+    };
+    /// In the order in which they were found.
+    const QVector<Fault> &faults() const { return m_faults; }
+    bool hasFault(const QString &key) const;
+    /// Field and what would be right, of the first; empty without a fault.
+    QString fault() const;
     /// The fields that nobody has read.
     QStringList unknownKeys() const;
 
@@ -43,7 +52,7 @@ private:
     QString m_name;
     QJsonObject m_fields;
     QSet<QString> m_knownKeys;
-    QString m_fault;
+    QVector<Fault> m_faults;
 };
 
 /// A JSON file that people edit: an object with one list of entries, which are objects. The first fault refuses the

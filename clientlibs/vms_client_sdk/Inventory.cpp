@@ -3,6 +3,7 @@
 #include <vms_client_sdk/CheckedJson.h>
 #include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/InventoryEntries.h>
 #include <vms_client_sdk/WholeFile.h>
 
 #include <QCoreApplication>
@@ -120,10 +121,13 @@ void DeviceReader::checkAddress(const DevInfo &device)
         if (device.port == 0)
             m_entry.fail(QStringLiteral("port"),
                          tr("must be a whole number from 1 to 65535 where no \"url\" is given"));
-        if (!device.path.startsWith(QLatin1Char('/')) || !url.isValid())
+        // With a wrong address or port no path makes it valid.
+        const bool isWrong = m_entry.hasFault(QStringLiteral("ip")) || m_entry.hasFault(QStringLiteral("port"));
+        if (!device.path.startsWith(QLatin1Char('/')) || (!isWrong && !url.isValid()))
             m_entry.fail(QStringLiteral("path"), tr("must be the path of an address and begin with \"/\""));
     }
-    if (!device.fingerprint.isEmpty() && !secure)
+    const bool isUnclear = m_entry.hasFault(QStringLiteral("tls")) || m_entry.hasFault(QStringLiteral("url"));
+    if (!device.fingerprint.isEmpty() && !secure && !isUnclear)
         m_entry.fail(QStringLiteral("fingerprint"), tr("has no use without TLS: set tls to true or give a wss: url"));
 }
 
@@ -203,6 +207,22 @@ Inventory readInventory(const QString &path)
     if (!file.error().isEmpty())
         return {{}, {}, file.error()};
     return {devices, file.warnings(), {}};
+}
+
+InventoryEntries checkInventoryEntries(const QVector<InventoryEntries::Entry> &entries)
+{
+    InventoryEntries checked;
+    UniqueFields uniqueFields;
+    for (int i = 0; i < entries.size(); ++i) {
+        CheckedEntry entry(entries.at(i).name, entries.at(i).fields);
+        checked.devices.append(DeviceReader(entry).read());
+        uniqueFields.check(entry, checked.devices.constLast());
+        for (const CheckedEntry::Fault &fault : entry.faults())
+            checked.faults.append({i, fault.key, fault.whatIsRight});
+    }
+    if (!checked.faults.isEmpty())
+        checked.devices.clear();
+    return checked;
 }
 
 QJsonObject inventoryToJson(const QList<DevInfo> &devices)

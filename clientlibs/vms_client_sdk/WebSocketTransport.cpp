@@ -56,6 +56,13 @@ void WebSocketTransport::connectAgain()
         QMetaObject::invokeMethod(m_worker, &NetworkWorker::connectAgain, Qt::QueuedConnection);
 }
 
+void WebSocketTransport::connectDevicesAgain(const QStringList &devIds)
+{
+    if (m_worker)
+        QMetaObject::invokeMethod(
+            m_worker, [=, worker = m_worker] { worker->connectDevicesAgain(devIds); }, Qt::QueuedConnection);
+}
+
 void WebSocketTransport::shutdown()
 {
     if (!m_worker)

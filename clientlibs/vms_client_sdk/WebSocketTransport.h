@@ -4,6 +4,7 @@
 #include <vms_client_sdk/Export.h>
 #include <vms_client_sdk/WebSocketOptions.h>
 
+#include <QStringList>
 #include <QThread>
 
 namespace vms_sdk {
@@ -31,6 +32,9 @@ public:
 
     /// Devices that refused the sign-on are tried once more.
     void connectAgain();
+    /// These are dialled now as far as they are not connected: after a refused sign-on, and in place of the rest of the
+    /// pause after a loss. Unknown ids, and devices that are being dialled, stay as they are.
+    void connectDevicesAgain(const QStringList &devIds);
 
     /// Closes all connections and ends the network thread; no signal comes after it. Called when the application is
     /// about to quit and by the destructor; every call after the first does nothing.

@@ -89,6 +89,13 @@ def find(root, role, name, shown=True):
     return wait_for(f'{role} "{name}"', look)
 
 
+def client_window(client):
+    """The client's own window, whose title begins with what is open in it."""
+    return wait_for("client's window", lambda: next(
+        (node for node in descendants(client) if node.get_role_name() == "frame" and has(node, "SHOWING")
+         and node.get_name().endswith("– Batch Configuration")), None))
+
+
 def has(node, state):
     return node.get_state_set().contains(getattr(Atspi.StateType, state))
 

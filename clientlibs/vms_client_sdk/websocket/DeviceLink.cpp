@@ -77,12 +77,17 @@ DeviceLink::~DeviceLink()
 
 void DeviceLink::start()
 {
-    if (m_url.isValid() && !m_url.host().isEmpty())
+    if (hasAddress())
         return queue();
     const QString why = QStringLiteral("has no address to dial");
     warn(why);
     setTrouble(TroubleReason::NoAddress, why);
     emit statusChanged(m_device.id, m_status, m_trouble);
+}
+
+bool DeviceLink::hasAddress() const
+{
+    return m_url.isValid() && !m_url.host().isEmpty();
 }
 
 void DeviceLink::end()
@@ -95,6 +100,14 @@ void DeviceLink::connectAgain()
 {
     if (m_status == DevRefused && m_phase == Phase::Resting)
         queue();
+}
+
+void DeviceLink::dialNow()
+{
+    if (m_phase != Phase::Resting || !hasAddress())
+        return;
+    m_host.clearDeadline(this); // of the pause
+    queue();
 }
 
 void DeviceLink::queue()

@@ -37,6 +37,7 @@ public:
     void start();
     void end(); ///< closes the connection and reports the device offline; nothing comes after it
     void connectAgain(); ///< only after a refusal
+    void dialNow(); ///< after a refusal, and in place of the rest of a pause
     void send(const QString &requestId, const QString &text);
 
     void dial(); ///< by the host, once per queueForDialling()
@@ -58,6 +59,7 @@ private:
         Online
     };
 
+    bool hasAddress() const;
     WebSocketConnection *makeConnection();
     void onLineUp();
     void onEnded(int code, const QString &why, TroubleReason reason);

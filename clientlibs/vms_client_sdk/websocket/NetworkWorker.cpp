@@ -97,6 +97,15 @@ void NetworkWorker::connectAgain()
         link->connectAgain();
 }
 
+void NetworkWorker::connectDevicesAgain(const QStringList &devIds)
+{
+    for (const QString &devId : devIds) {
+        const auto known = m_links.find(devId);
+        if (known != m_links.end())
+            known->second->dialNow();
+    }
+}
+
 void NetworkWorker::send(const QString &requestId, const QString &devId, const QString &text)
 {
     const std::lock_guard lock(m_mutex);

@@ -6,6 +6,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 #include <QVector>
 #include <memory>
@@ -28,6 +29,7 @@ public:
 
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
+    void connectDevicesAgain(const QStringList &devIds);
     void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
     void passedOn(const QString &requestId, int characters); ///< from any thread
 

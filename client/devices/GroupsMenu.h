@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMenu>
+#include <QStringList>
+
+namespace orda_client {
+
+class ClientSettings;
+
+/// The groups of the inventory, and the selections that the user has given names: one click chooses the devices of one.
+/// Made anew each time it opens.
+class GroupsMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    /// @param settings must outlive the menu
+    GroupsMenu(ClientSettings *settings, QWidget *parent);
+
+    /// Asks for a name, and keeps these devices under it. A name that is taken is not given to others.
+    void save(const QStringList &devIds);
+
+signals:
+    /// @param devIds of a saved selection also those that the inventory does not have any more
+    void signalChosen(const QStringList &devIds);
+    void signalSaveTicks();
+    void signalSaveRows();
+    /// What became of a wish, for the user.
+    void signalTold(const QString &text);
+
+private:
+    void fill();
+    void addHeading(const QString &text);
+    void addGroups();
+    void addSelections();
+    void askBeforeForgetting(const QString &name);
+
+    ClientSettings *m_settings;
+};
+
+} // namespace orda_client

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QPlainTextEdit;
+QT_END_NAMESPACE
+
+namespace orda_client {
+
+/// Ticks devices in the form's list, and tells how many it has ticked, and which not and why. Hidden until it has
+/// something to tell.
+class TickNote : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param form the batch-configuration form, or a window that has it; may go before this widget
+    explicit TickNote(QWidget *form, QWidget *parent = nullptr);
+
+    /// Ticks exactly these in the form's list. While a run goes on, nothing is ticked.
+    void tick(const QStringList &devIds);
+    void tell(const QString &text);
+
+    /// Of a device that the form's list does not have: its name and why, a line for the user.
+    static QString whyNotListed(const QString &devId);
+
+private:
+    void setText(const QString &text, const QStringList &lines);
+
+    QPointer<QWidget> m_form;
+    QLabel *m_text;
+    QPlainTextEdit *m_lines;
+};
+
+} // namespace orda_client

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "client/common/ToolWindow.h"
+#include "client/form/PressedRun.h"
+#include "client/preview/PreviewModel.h"
+
+#include <QPointer>
+#include <QTimer>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+QT_END_NAMESPACE
+
+namespace orda_base {
+class SearchBox;
+}
+
+namespace orda_client {
+
+class ClientSession;
+class Notice;
+class PlanGroupList;
+class ReadingBar;
+class TableFilter;
+class TableView;
+struct FormPage;
+struct FormTicks;
+
+/// What a press on Configure would do to each ticked device, worked out from what the devices hold now. Reads only. The
+/// plan is of a moment: it counts no more when the page asks for something else, or when a run has begun.
+class PreviewWindow : public ToolWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param session, @param settings must outlive this window
+    /// @param form the batch-configuration form, or a window that has it; may be deleted before this window
+    PreviewWindow(ClientSession *session, QWidget *form, ClientSettings *settings, QWidget *parent);
+
+    /// Reads the ticked devices and plans what the form's page would send to them, as both are now.
+    void preview();
+
+signals:
+    /// The user wants this run: to exactly these devices, with the values of the plan. The page had these values when
+    /// this was raised. Nothing of this window is used afterwards.
+    void signalConfigure(const orda_client::PressedRun &run);
+
+private:
+    QWidget *buildTop();
+    QWidget *buildTable();
+    QWidget *buildButtons();
+
+    void plan(const FormPage &page, const FormTicks &ticks);
+    void tellNoPlan(const QString &why);
+    void finish(const QString &error);
+    void refresh(); ///< after devices were read
+    void showPlan();
+    void updateTable();
+    void updateState();
+    QString whyNotConfigurable() const;
+    void configure();
+
+    ClientSession *m_session;
+    QPointer<QWidget> m_form;
+    PreviewModel *m_model;
+    TableFilter *m_filter;
+    PressedRun m_plan; ///< its devices are all that were ticked; no family: there is no plan
+    QString m_complaint; ///< why there is no plan
+    bool m_isOutdated = false; ///< a run has begun since
+    QTimer m_watch;
+
+    QLabel *m_headline;
+    QLabel *m_values;
+    orda_base::SearchBox *m_search;
+    PlanGroupList *m_groups;
+    QStackedWidget *m_stack;
+    TableView *m_table;
+    QLabel *m_empty;
+    ReadingBar *m_reading;
+    Notice *m_notice;
+    QPushButton *m_configure;
+    QPushButton *m_export;
+};
+
+} // namespace orda_client
