@@ -23,6 +23,7 @@
 #include <families/Families.h>
 #include <orda_base/BaseForm.h>
 #include <shell/BatchCfgInit.h>
+#include <vms_client_sdk/ClientSdk.h>
 
 using namespace orda_client;
 using namespace orda_journal;
@@ -65,6 +66,7 @@ struct Site : QObject
 {
     Site()
     {
+        vms_sdk::ClientSdk::instance().setRequestTimeout(std::chrono::seconds(2));
         fleet.start();
         orda_data::DevsMgrData::instance().updateDevs(fleet.inventory());
         for (const int number : {0, 1, 2, 4, 5, 6})

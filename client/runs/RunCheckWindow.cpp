@@ -55,6 +55,7 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
     , m_devIds(devIds)
     , m_session(session)
     , m_jobs(jobs)
+    , m_isRunGoingOn(jobs->isWriting())
     , m_progress(new orda_base::DelayedCall(
           progressDelay, [this] { updateView(); }, this))
     , m_model(new RunCheckModel(check.kind, this))
@@ -76,8 +77,12 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
         updateView();
     });
     if (const JournalTransport *journal = session->journal()) {
-        connect(journal, &JournalTransport::signalRunBegan, this, &RunCheckWindow::updateView);
-        connect(journal, &JournalTransport::signalRunEnded, this, &RunCheckWindow::updateView);
+        const auto follow = [this](bool isGoingOn) {
+            m_isRunGoingOn = isGoingOn;
+            updateView();
+        };
+        connect(journal, &JournalTransport::signalRunBegan, this, [follow] { follow(true); });
+        connect(journal, &JournalTransport::signalRunEnded, this, [follow] { follow(false); });
     }
     read();
 }
@@ -234,8 +239,7 @@ void RunCheckWindow::updateView()
     if (!m_export)
         return; // still being built
     const bool isReady = !m_job && !m_worker.isRunning() && m_error.isEmpty();
-    const JournalTransport *journal = m_session->journal();
-    const bool isFree = journal && !journal->isBusy();
+    const bool isFree = m_session->journal() && !m_isRunGoingOn;
     m_line->setText(resultText());
     m_table->setEmptyText(m_error.isEmpty() ? tr("What the devices hold is being read.") : m_error);
     m_stop->setVisible(m_job);

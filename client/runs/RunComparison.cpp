@@ -101,7 +101,7 @@ QVector<ComparedDevice> compareRuns(const RunDetails &first, const RunDetails &s
             const Members a = inFirst.value(device.devId), b = inSecond.value(device.devId);
             both.read = differences(a.read, b.read, texts);
             both.written = differences(a.written, b.written, texts);
-            both.state = device.outcome != other->outcome                     ? ComparedDevice::OutcomesDiffer
+            both.state = device.outcome != other->outcome              ? ComparedDevice::OutcomesDiffer
                        : both.read.isEmpty() && both.written.isEmpty() ? ComparedDevice::Same
                                                                        : ComparedDevice::ValuesDiffer;
             others.erase(other);

@@ -71,9 +71,8 @@ RunTargets RunTargets::toTryAgain(const ChosenRun &run, const QStringList &devId
 
 int RunTargets::countNotReached() const
 {
-    return int(std::count_if(selection.devIds.cbegin(), selection.devIds.cend(), [](const QString &devId) {
-        return !orda_engine::reachOf(devId).canBeWritten;
-    }));
+    return int(std::count_if(selection.devIds.cbegin(), selection.devIds.cend(),
+                             [](const QString &devId) { return !orda_engine::reachOf(devId).canBeWritten; }));
 }
 
 QStringList RunTargets::leftOutLines() const
