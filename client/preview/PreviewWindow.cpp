@@ -115,7 +115,7 @@ QWidget *PreviewWindow::buildTable()
         updateTable();
         m_table->scrollToTop();
     });
-    m_table = new TableView(m_filter, {20, 22, 20, 16, 16, 0}, tr("Devices and what would change on them"));
+    m_table = new TableView(m_filter, {18, 20, 16, 15, 12, 0}, tr("Devices and what would change on them"));
     m_table->setObjectName(QStringLiteral("plan"));
     m_empty = plainLabel("empty");
     m_empty->setAlignment(Qt::AlignCenter);

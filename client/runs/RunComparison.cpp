@@ -67,10 +67,11 @@ QString differences(const QMap<int, QJsonObject> &first, const QMap<int, QJsonOb
                     const ParameterTexts &texts)
 {
     QStringList parts;
-    QList<int> places = first.keys() + second.keys();
-    std::sort(places.begin(), places.end());
-    places.erase(std::unique(places.begin(), places.end()), places.end());
-    for (const int place : qAsConst(places)) {
+    QMap<int, QJsonObject> either = first;
+    for (auto place = second.begin(); place != second.end(); ++place)
+        either.insert(place.key(), *place);
+    for (auto exchange = either.cbegin(); exchange != either.cend(); ++exchange) {
+        const int place = exchange.key();
         const QJsonObject a = first.value(place), b = second.value(place);
         QStringList names = a.keys() + b.keys();
         names.removeDuplicates();

@@ -78,7 +78,8 @@ int RunTargets::countNotReached() const
 QStringList RunTargets::leftOutLines() const
 {
     QStringList lines;
-    for (const QString &line : leftOut.mid(0, maxLines))
+    const QStringList first = leftOut.mid(0, maxLines);
+    for (const QString &line : first)
         lines.append(vms_sdk::displayText(line));
     if (leftOut.size() > maxLines)
         lines.append(tr("… and %n more", "devices", leftOut.size() - maxLines));
