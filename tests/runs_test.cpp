@@ -22,6 +22,7 @@
 #include <QtWidgets>
 #include <families/Families.h>
 #include <orda_base/BaseForm.h>
+#include <orda_worker/AssistantSignals.h>
 #include <shell/BatchCfgInit.h>
 #include <vms_client_sdk/ClientSdk.h>
 
@@ -302,6 +303,43 @@ private slots:
         site.window->close();
         QVERIFY(recorded.wait());
         QCOMPARE(site.runs().constFirst().counts.value(Outcome::Unchanged), 6);
+    }
+
+    void whatTheEngineRefusesIsSaid()
+    {
+        Site site;
+        const QString run = site.run("{'aiGain': 33}", site.devIds);
+        QVERIFY(site.open(run));
+        child(site.window, "verify")->click(); // closed while it reads: the turn is free again
+        child<QWidget>(site.window, "runVerify")->close();
+        QTRY_VERIFY(!child<QWidget>(site.window, "runVerify") && !site.session.journal()->isBusy());
+        QCOMPARE(site.session.journal()->beginReading(), QString());
+        const QSignalSpy alerts(&orda_worker::AssistantSignals::instance(),
+                                &orda_worker::AssistantSignals::signalMessageAlerted);
+        child<QTableView>(site.window, "runDevices")->selectAll();
+        child(site.window, "tryAgain")->click();
+        site.answer(site.window);
+        QTRY_COMPARE(alerts.count(), 1);
+        QVERIFY(!alerts.at(0).at(1).toString().isEmpty());
+        dismissDialogs();
+        site.session.journal()->end();
+        QCOMPARE(site.runs().size(), 1);
+    }
+
+    /// Without values a run would ask for everything that its family has.
+    void deviceWithoutValuesIsLeftOut()
+    {
+        RunDetails details;
+        details.run.family = "audio";
+        details.devices = {{"own", Outcome::Failed, 0, {}, {}}, {"none", Outcome::Failed, 0, {}, {}}};
+        details.devices[0].ownValues = parsed("{'aiGain': 5}");
+        const ChosenRun run{{details.run, {}, {}, {}},
+                            {{details.devices.at(0), {}}, {details.devices.at(1), {}}},
+                            orda_engine::RecordedRun(details)};
+        const RunTargets targets = RunTargets::toTryAgain(run, {"own", "none"});
+        QCOMPARE(targets.selection.devIds, QStringList("own"));
+        QCOMPARE(targets.selection.valuesOf("own"), parsed("{'aiGain': 5}"));
+        QCOMPARE(targets.leftOut.size(), 1);
     }
 
     void historyThatCannotBeReadSaysWhy()
