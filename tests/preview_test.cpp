@@ -51,6 +51,7 @@ struct Site
             qFatal("28 of the 30 devices can be configured");
         click(*form, "selAll");
         all = FormTicks::of(form.get()).devIds;
+        all.sort(); // they stand in the order in which they came on line
         values = page().values;
     }
     ~Site() { clearStore(); }
@@ -93,7 +94,6 @@ bool isRead(const QWidget &window)
                            20'000);
 }
 
-/// Another state of a page, as a user could make it.
 void shuffle(const FormPage &page, QRandomGenerator *random)
 {
     for (const FormPage::Member &member : page.members) {
