@@ -50,8 +50,7 @@ struct Site
         if (!QTest::qWaitFor([this] { return FormTicks::listedIn(form.get()).size() == 28; }, 20'000))
             qFatal("28 of the 30 devices can be configured");
         click(*form, "selAll");
-        all = FormTicks::of(form.get()).devIds;
-        all.sort(); // they stand in the order in which they came on line
+        (all = FormTicks::of(form.get()).devIds).sort(); // they stand in the order in which they came on line
         values = page().values;
     }
     ~Site() { clearStore(); }
@@ -139,8 +138,7 @@ private slots:
         const QList<int> counts{28, changing.size(), 26 - others.size(), 26 - having.size(), 1, 1, 0};
         QMap<int, QStringList> shown; // what would change, or why nothing can
         for (int group = 0; group < counts.size(); ++group) {
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                              list->visualItemRect(list->item(group, 0)).center());
+            list->selectRow(group);
             shown[group] = column(window, "plan", 5);
             QCOMPARE(list->item(group, 1)->text().toInt(), counts.at(group));
             QCOMPARE(shown[group].size(), counts.at(group));
@@ -178,6 +176,8 @@ private slots:
         const QSignalSpy wanted(&window, &PreviewWindow::signalConfigure);
         click(window, "configureChanging"); // at once
         QVERIFY(wanted.isEmpty() && says("notice", "page has changed"));
+        orda_data::DevsMgrData::instance().updateDevs(site.fleet.inventory()); // another one, for all that is known
+        QVERIFY(says("notice", "inventory has changed"));
 
         site.fleet.setFault("dev-0002", "chnosd_get_param", {device_fleet::Fault::NoAnswer});
         click(window, "previewAgain");
