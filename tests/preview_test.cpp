@@ -71,8 +71,9 @@ struct Site
     QMap<QString, int> differing(const QJsonObject &standard, bool withLacking = true) const
     {
         QMap<QString, int> counts;
+        const QStringList keys = values.keys();
         for (const QString &devId : all)
-            for (const QString &key : values.keys())
+            for (const QString &key : keys)
                 if (standard.contains(key) && held(devId)[key] != standard[key]
                     && (withLacking || held(devId).contains(key)))
                     ++counts[devId];
@@ -204,7 +205,8 @@ private slots:
         click(window, "onlyDifferent");
         const auto isCompared = [&](const QJsonObject &standard) {
             QStringList numbers;
-            for (const int number : site.differing(standard))
+            const QMap<QString, int> differing = site.differing(standard);
+            for (const int number : differing)
                 numbers.append(QString::number(number));
             numbers.sort();
             return numbers == column(window, "settings", 0);
@@ -223,7 +225,8 @@ private slots:
         QCOMPARE(ticked, site.differing(site.held(model)).keys());
 
         QJsonObject expected;
-        for (const QString &key : site.values.keys())
+        const QStringList keys = site.values.keys();
+        for (const QString &key : keys)
             if (site.held(model).contains(key))
                 expected.insert(key, site.held(model)[key]);
         click(window, "saveProfile");

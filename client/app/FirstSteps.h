@@ -4,6 +4,7 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QPushButton;
 class QSpinBox;
 class QVBoxLayout;
 QT_END_NAMESPACE
@@ -35,6 +36,7 @@ private:
     QWidget *buildImport();
 
     const ClientSettings *m_settings;
+    QPushButton *m_open;
     QLabel *m_recentCaption;
     QVBoxLayout *m_recent;
     QSpinBox *m_demoDevices;

@@ -33,6 +33,8 @@ using namespace std::chrono_literals;
 constexpr auto refreshDelay = 80ms;
 constexpr auto announceDelay = 2s; // a screen reader needs that long for one text
 
+constexpr int spacing = 2;
+
 /// What may change a page in a way that it has no signal for.
 bool isInput(QEvent::Type type)
 {
@@ -79,16 +81,14 @@ void PressLine::buildWidgets()
     new orda_base::ReturnPressesButton(m_preview); // as in the form
     connect(m_preview, &QPushButton::clicked, this, &PressLine::signalPreview);
 
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(2);
-    texts->addStretch();
-    texts->addWidget(m_text);
-    texts->addWidget(m_complaint);
-    texts->addStretch();
-    auto *layout = new QHBoxLayout(this);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_text, 1);
+    row->addWidget(m_preview);
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(texts, 1);
-    layout->addWidget(m_preview);
+    layout->setSpacing(spacing);
+    layout->addLayout(row);
+    layout->addWidget(m_complaint);
 }
 
 template <typename Editor, typename Signal>

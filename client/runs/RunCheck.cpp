@@ -37,8 +37,7 @@ QString CheckedDevice::stateText(State state)
     return {};
 }
 
-QVector<CheckedDevice> RunCheck::devices(const QStringList &devIds,
-                                         const QHash<QString, DeviceReading> &readings) const
+QVector<CheckedDevice> RunCheck::devices(const QStringList &devIds, const QHash<QString, DeviceReading> &readings) const
 {
     const QSet<QString> isMeant(devIds.begin(), devIds.end());
     QVector<CheckedDevice> checked;
@@ -82,8 +81,7 @@ void RunCheck::takeBack(CheckedDevice *device, const ObjectsByExchange &held) co
 {
     const orda_batchCfg::CfgFamily &family = *run->recorded.written().family;
     const orda_engine::RecordedDevice recorded = run->recorded.device(device->row.devId);
-    const orda_engine::DeviceUndo undo =
-        orda_engine::undoOf(family, recorded.before, recorded.sent, held, force);
+    const orda_engine::DeviceUndo undo = orda_engine::undoOf(family, recorded.before, recorded.sent, held, force);
     QVector<orda_batchCfg::MemberChange> back, over, kept, stuck;
     for (auto exchange = undo.begin(); exchange != undo.end(); ++exchange) {
         const int place = exchange.key();
