@@ -49,6 +49,7 @@ using orda_journal::JournalTransport;
 namespace {
 
 constexpr QSize wantedSize(1500, 850);
+constexpr int margin = 12;
 
 } // namespace
 
@@ -100,10 +101,14 @@ QWidget *ClientWindow::buildForm()
     auto *layout = new QVBoxLayout(room);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(area, 1);
+    layout->setSpacing(0);
+    auto *below = new QVBoxLayout;
+    below->setContentsMargins(margin, margin / 2, margin, margin / 2);
+    layout->addLayout(below);
     m_line = new PressLine(area);
-    layout->addWidget(m_line);
+    below->addWidget(m_line);
     m_progress = new RunProgress(m_session->journal(), m_settings);
-    layout->addWidget(m_progress);
+    below->addWidget(m_progress);
     // In mid-run the line would say what a press cannot do.
     connect(m_session->journal(), &JournalTransport::signalRunBegan, m_line, &QWidget::hide);
     connect(m_session->journal(), &JournalTransport::signalRunEnded, m_line, &QWidget::show);

@@ -21,20 +21,25 @@ CompareModel::CompareModel(QObject *parent)
 void CompareModel::clear()
 {
     beginResetModel();
+    forget();
+    showColumns({});
+    endReset();
+}
+
+void CompareModel::forget()
+{
     m_table.reset();
     m_texts.reset();
     m_rows.clear();
     m_rowOf.clear();
     m_valueTexts.clear();
-    showColumns({});
-    endReset();
 }
 
 void CompareModel::setDevices(const orda_batchCfg::CfgFamily &family, const QStringList &devIds,
                               const QStringList &members, const ParameterTexts &texts)
 {
-    clear();
     beginResetModel();
+    forget();
     m_table = std::make_unique<SettingsTable>(family, members, devIds.size());
     m_texts = std::make_unique<const ParameterTexts>(texts);
     for (const QString &devId : devIds) {

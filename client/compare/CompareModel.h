@@ -65,6 +65,7 @@ private:
         QString why = {}; ///< it was not read
     };
 
+    void forget();
     void showColumns(const QVector<int> &columns);
     void addTexts();
     QString valueText(int column, int cell) const;

@@ -6,19 +6,18 @@ namespace orda_client {
 
 DevicesFilter::DevicesFilter(DevicesModel *model, QObject *parent)
     : TableFilter(model, parent)
+    , m_model(model)
 {
     setDynamicSortFilter(false);
     refresh();
-    connect(model, &QAbstractItemModel::modelReset, this, &DevicesFilter::refresh);
 }
 
 void DevicesFilter::refresh()
 {
-    m_isShown.resize(sourceModel()->rowCount());
+    m_isShown.resize(m_model->rowCount());
     for (int row = 0; row < m_isShown.size(); ++row)
         m_isShown[row] = TableFilter::filterAcceptsRow(row, {});
-    invalidateFilter();
-    sort(sortColumn(), sortOrder());
+    m_model->resetRows();
 }
 
 int DevicesFilter::outdated() const

@@ -19,7 +19,8 @@ public:
     /// @param model must outlive the filter
     explicit DevicesFilter(DevicesModel *model, QObject *parent = nullptr);
 
-    /// Searches, chooses and sorts anew, by the present texts and states.
+    /// Searches, chooses and sorts anew, by the present texts and states; also needed when the model has other devices.
+    /// The model is reset: to take thousands of rows out one by one takes seconds.
     void refresh();
     /// How many devices refresh() would show or leave out otherwise than now.
     int outdated() const;
@@ -28,6 +29,7 @@ protected:
     bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
 
 private:
+    DevicesModel *m_model;
     QVector<bool> m_isShown; // by the model's row; as refresh() found it
 };
 

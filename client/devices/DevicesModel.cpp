@@ -130,6 +130,12 @@ bool DevicesModel::isInGroup(int row, const QString &key) const
     return key.isEmpty() || key == groupKey(state.kind) || key == groupKey(state.kind, state.reason);
 }
 
+void DevicesModel::resetRows()
+{
+    beginResetModel();
+    endReset();
+}
+
 int DevicesModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : m_rows.size();

@@ -37,6 +37,8 @@ public:
     /// Takes the states anew. Rows stay where they are.
     void updateStates();
     void updateOutcomes();
+    /// Tells views and filters to look at all rows anew, although they are as they were.
+    void resetRows();
 
     QString devId(int row) const { return m_rows.at(row).devId; }
     /// -1: it has no such device.

@@ -177,13 +177,13 @@ void DevicesWindow::follow()
     auto *again = new QShortcut(QKeySequence::Refresh, this);
     connect(again, &QShortcut::activated, this, &DevicesWindow::refresh);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &DevicesWindow::updateSelection);
-    connect(m_tick, &QPushButton::clicked, this, [this] { m_note->tick(selectedIds()); });
+    connect(m_tick, &QPushButton::clicked, this, [this] { m_note->tick(selected().devIds); });
     connect(m_connect, &QPushButton::clicked, this, &DevicesWindow::connectAgain);
     connect(m_export, &QPushButton::clicked, this,
             [this] { CsvFile::saveAs(this, *m_filter, QStringLiteral("devices")); });
     connect(m_groups, &GroupsMenu::signalChosen, m_note, &TickNote::tick);
     connect(m_groups, &GroupsMenu::signalTold, m_note, &TickNote::tell);
-    connect(m_groups, &GroupsMenu::signalSaveRows, this, [this] { m_groups->save(selectedIds()); });
+    connect(m_groups, &GroupsMenu::signalSaveRows, this, [this] { m_groups->save(selected().devIds); });
     connect(m_groups, &GroupsMenu::signalSaveTicks, this,
             [this] { m_groups->save(m_form ? FormTicks::of(m_form).devIds : QStringList()); });
 
@@ -202,8 +202,9 @@ void DevicesWindow::follow()
 void DevicesWindow::takeChanges(bool isListChanged)
 {
     if (isListChanged) {
-        const QStringList selected = selectedIds();
+        const Selected selected = this->selected();
         m_model->loadDevices();
+        m_filter->refresh();
         select(selected);
     } else {
         m_model->updateStates();
@@ -219,9 +220,11 @@ void DevicesWindow::updateGroups()
 
 void DevicesWindow::refresh()
 {
+    const Selected selected = this->selected();
     m_filter->setKeyword(m_search->text());
     m_filter->setAccepts([this, group = m_stateList->group()](int row) { return m_model->isInGroup(row, group); });
     m_filter->refresh();
+    select(selected);
     updateTexts();
 }
 
@@ -237,7 +240,7 @@ void DevicesWindow::updateTexts()
 void DevicesWindow::updateSelection()
 {
     const QLocale locale;
-    const int selected = m_table->selectionModel()->selectedRows().size();
+    const int selected = this->selected().devIds.size();
     QStringList parts{
         tr("%1 of %Ln device(s) shown", nullptr, m_model->rowCount()).arg(locale.toString(m_filter->rowCount()))};
     if (selected > 0)
@@ -255,33 +258,63 @@ QString DevicesWindow::emptyText() const
                                     : tr("No device fits the search and the choice beside it.");
 }
 
-QStringList DevicesWindow::selectedIds() const
+DevicesWindow::Selected DevicesWindow::selected() const
 {
-    QModelIndexList selected = m_table->selectionModel()->selectedRows();
-    std::sort(selected.begin(), selected.end());
-    QStringList devIds;
-    const QVector<int> rows = m_filter->rowsOf(selected);
-    for (const int row : rows)
-        devIds.append(m_model->devId(row));
-    return devIds;
+    // By ranges: QItemSelectionModel::selectedRows() compares each row with each range.
+    QVector<int> rows;
+    const QItemSelection ranges = m_table->selectionModel()->selection();
+    for (const QItemSelectionRange &range : ranges)
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    Selected selected;
+    for (const int row : qAsConst(rows))
+        selected.devIds.append(devId(m_filter->index(row, 0)));
+    if (m_table->currentIndex().isValid())
+        selected.current = devId(m_table->currentIndex());
+    return selected;
 }
 
-void DevicesWindow::select(const QStringList &devIds)
+QString DevicesWindow::devId(const QModelIndex &index) const
 {
-    QItemSelection selection;
-    for (const QString &devId : devIds) {
-        const QModelIndex index = m_filter->mapFromSource(m_model->index(m_model->rowOf(devId), 0));
-        if (index.isValid())
-            selection.select(index, index);
-    }
-    m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    return m_model->devId(m_filter->mapToSource(index).row());
+}
+
+QModelIndex DevicesWindow::indexOf(const QString &devId) const
+{
+    const int row = m_model->rowOf(devId);
+    return row < 0 ? QModelIndex() : m_filter->mapFromSource(m_model->index(row, 0));
+}
+
+void DevicesWindow::select(const Selected &selected)
+{
+    QVector<int> rows;
+    for (const QString &devId : selected.devIds)
+        if (const QModelIndex index = indexOf(devId); index.isValid())
+            rows.append(index.row());
+    std::sort(rows.begin(), rows.end());
+    QItemSelection ranges;
+    for (int i = 0, first = 0; i < rows.size(); ++i)
+        if (i + 1 == rows.size() || rows.at(i + 1) != rows.at(i) + 1) {
+            ranges.select(m_filter->index(rows.at(first), 0), m_filter->index(rows.at(i), 0));
+            first = i + 1;
+        }
+    QItemSelectionModel *selection = m_table->selectionModel();
+    const QModelIndex current = indexOf(selected.current);
+    selection->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    selection->select(ranges, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (current.isValid())
+        m_table->scrollTo(current);
+    else
+        m_table->scrollToTop();
 }
 
 void DevicesWindow::connectAgain()
 {
     QStringList devIds;
-    const QStringList selected = selectedIds();
-    for (const QString &devId : selected)
+    const Selected selected = this->selected();
+    for (const QString &devId : selected.devIds)
         if (m_states->of(devId).kind == DeviceState::OffLine)
             devIds.append(devId);
     m_session->connectDevicesAgain(devIds);

@@ -46,6 +46,12 @@ public:
                   QWidget *parent = nullptr);
 
 private:
+    struct Selected
+    {
+        QStringList devIds; ///< as they stand
+        QString current; ///< the device that has the keyboard's focus; empty: none
+    };
+
     QWidget *buildStates();
     QWidget *buildTop();
     QWidget *buildTable();
@@ -60,8 +66,10 @@ private:
     void updateSelection();
     QString emptyText() const;
 
-    QStringList selectedIds() const; ///< as they stand
-    void select(const QStringList &devIds);
+    Selected selected() const;
+    void select(const Selected &selected); ///< as far as they are shown
+    QString devId(const QModelIndex &index) const;
+    QModelIndex indexOf(const QString &devId) const;
     void connectAgain();
     void tickThese();
 

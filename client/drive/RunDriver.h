@@ -52,7 +52,7 @@ private:
     void followProgress();
     void handleSummary(const orda_worker::EventConfirmInfo &info);
     void answerSummary();
-    void saveRunsScreenshot() const;
+    void saveWindowScreenshot(const char *action, const char *windowName) const;
     void printRecord() const;
     void saveScreenshot(QWidget *widget, const QString &name) const;
     static void end(int exitCode);

@@ -97,13 +97,11 @@ QWidget *PreviewWindow::buildTop()
         updateTable();
     });
     auto *top = new QWidget;
-    auto *layout = new QHBoxLayout(top);
+    auto *layout = new QVBoxLayout(top);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto *texts = new QVBoxLayout;
-    texts->addWidget(m_headline);
-    texts->addWidget(m_values);
-    layout->addLayout(texts, 1);
-    layout->addWidget(m_search, 0, Qt::AlignBottom);
+    layout->addWidget(m_headline);
+    layout->addWidget(m_values);
+    layout->addWidget(m_search, 0, Qt::AlignRight);
     return top;
 }
 
@@ -208,7 +206,7 @@ void PreviewWindow::plan(const FormPage &page, const FormTicks &ticks)
     m_headline->setText(text);
     m_values->setText(texts.list(page.values).join(QStringLiteral("; ")));
     m_reading->start(m_session->journal(), selection);
-    refresh();
+    showPlan();
 }
 
 void PreviewWindow::tellNoPlan(const QString &why)
@@ -218,7 +216,7 @@ void PreviewWindow::tellNoPlan(const QString &why)
     m_headline->clear();
     m_values->clear();
     m_model->clear();
-    refresh();
+    showPlan();
 }
 
 void PreviewWindow::finish(const QString &error)
@@ -233,6 +231,11 @@ void PreviewWindow::refresh()
 {
     m_model->refresh();
     m_filter->invalidate();
+    showPlan();
+}
+
+void PreviewWindow::showPlan()
+{
     m_groups->setCounts(*m_model);
     updateTable();
     updateState();

@@ -55,7 +55,8 @@ private:
     void plan(const FormPage &page, const FormTicks &ticks);
     void tellNoPlan(const QString &why);
     void finish(const QString &error);
-    void refresh();
+    void refresh(); ///< after devices were read
+    void showPlan();
     void updateTable();
     void updateState();
     QString whyNotConfigurable() const;

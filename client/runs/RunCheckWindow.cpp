@@ -91,7 +91,8 @@ void RunCheckWindow::buildTable()
     };
     using Device = CheckedDevice;
     const SearchedTable::Choice all{tr("All devices"), nullptr};
-    const SearchedTable::Choice unread{tr("Not read"), withState({Device::NotRead, Device::NotReached, Device::Replaced})};
+    const SearchedTable::Choice unread{tr("Not read"),
+                                       withState({Device::NotRead, Device::NotReached, Device::Replaced})};
     if (m_check.kind == RunCheck::Verify)
         m_table->setChoices(tr("S&how:"), {all,
                                            {tr("Not as written"), withState({Device::Differs})},
@@ -99,12 +100,11 @@ void RunCheckWindow::buildTable()
                                            unread});
     else
         m_table->setChoices(
-            tr("S&how:"),
-            {all,
-             {tr("Goes back"), withState({Device::GoesBack, Device::GoesBackInPart})},
-             {tr("Changed since"), [this](int row) { return m_model->devices().at(row).isChangedSince; }},
-             {tr("Nothing goes back"), withState({Device::Stays, Device::AlreadyBack})},
-             unread});
+            tr("S&how:"), {all,
+                           {tr("Goes back"), withState({Device::GoesBack, Device::GoesBackInPart})},
+                           {tr("Changed since"), [this](int row) { return m_model->devices().at(row).isChangedSince; }},
+                           {tr("Nothing goes back"), withState({Device::Stays, Device::AlreadyBack})},
+                           unread});
     connect(m_table, &SearchedTable::signalShownChanged, this, &RunCheckWindow::updateView);
     connect(m_table, &SearchedTable::signalSelectionChanged, this, &RunCheckWindow::updateView);
 }
@@ -247,11 +247,11 @@ void RunCheckWindow::updateView()
     int changedSince = 0;
     for (const CheckedDevice &device : m_model->devices())
         changedSince += device.isChangedSince ? 1 : 0;
-    m_force->setVisible(changedSince > 0 || m_check.force);
+    m_force->setVisible(changedSince > 0);
     m_force->setText(tr("&Write over what was changed since the run on %Ln device(s), too", nullptr, changedSince));
     m_force->setEnabled(isReady);
     const int devices = devicesToTakeBack().size();
-    m_undo->setText(tr("&Undo on %Ln device(s)…", nullptr, devices));
+    m_undo->setText(devices == 0 ? tr("&Undo…") : tr("&Undo on %Ln device(s)…", nullptr, devices));
     m_undo->setEnabled(isReady && isFree && devices > 0);
 }
 
@@ -275,9 +275,10 @@ void RunCheckWindow::askToTakeBack()
     QStringList lines{tr("Parameters: %1").arg(m_check.run->line.family),
                       tr("Run of %1", "time").arg(RunTexts::time(m_check.run->line.run.began))};
     if (m_devIds.size() > devIds.size())
-        lines.append(tr("%Ln other device(s) of the run are left out: they are not selected, nothing goes back on them, "
-                        "or they were not read.",
-                        nullptr, m_devIds.size() - devIds.size()));
+        lines.append(
+            tr("%Ln other device(s) of the run are left out: they are not selected, nothing goes back on them, "
+               "or they were not read.",
+               nullptr, m_devIds.size() - devIds.size()));
     if (m_check.force)
         lines.append(tr("What was changed since the run is written over, too."));
     askBeforeRun(this, tr("Undo"), tr("Take the run back on %Ln device(s)?", nullptr, devIds.size()), lines,

@@ -69,7 +69,7 @@ bool isSame(const RunListModel &model, const QVector<RunLine> &lines)
 } // namespace
 
 RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, ClientSettings *settings, QWidget *parent)
-    : ToolWindow(QStringLiteral("runs"), windowSize, settings, parent)
+    : ToolWindow(QStringLiteral("runsWindow"), windowSize, settings, parent)
     , m_session(session)
     , m_jobs(jobs)
     , m_form(form)
@@ -105,19 +105,19 @@ RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, Cli
 
 QWidget *RunsWindow::buildRuns()
 {
-    m_runs = new SearchedTable(m_model, {20, 18, 12, 32, 10, 18}, QStringLiteral("runs"), tr("Runs, latest first"),
+    m_runs = new SearchedTable(m_model, {20, 18, 27, 28, 10, 18}, QStringLiteral("runs"), tr("Runs, latest first"),
                                tr("Searches times, parameters, outcomes, programs and values"));
-    m_runs->setChoices(
-        tr("&Runs:"),
-        {{tr("All runs"), nullptr},
-         {tr("With devices that are not done"),
-          [this](int row) {
-              const auto &counts = m_model->line(row).run.counts;
-              return std::any_of(counts.keyBegin(), counts.keyEnd(),
-                                 [](orda_journal::Outcome outcome) { return RunTexts::isFailure(outcome); });
-          }},
-         {tr("Configured"), [this](int row) { return m_model->line(row).run.undoes.isEmpty(); }},
-         {tr("Taken back"), [this](int row) { return !m_model->line(row).run.undoes.isEmpty(); }}});
+    m_runs->setChoices(tr("&Runs:"),
+                       {{tr("All runs"), nullptr},
+                        {tr("With devices that are not done"),
+                         [this](int row) {
+                             const auto &counts = m_model->line(row).run.counts;
+                             return std::any_of(counts.keyBegin(), counts.keyEnd(), [](orda_journal::Outcome outcome) {
+                                 return RunTexts::isFailure(outcome);
+                             });
+                         }},
+                        {tr("Configured"), [this](int row) { return m_model->line(row).run.undoes.isEmpty(); }},
+                        {tr("Undo"), [this](int row) { return !m_model->line(row).run.undoes.isEmpty(); }}});
     m_runs->view()->sortByColumn(RunListModel::Began, Qt::DescendingOrder);
     m_runs->setEmptyText(tr("The history is being read."));
     m_compare = button(tr("Com&pare two runs"), "compareRuns");
@@ -331,8 +331,8 @@ void RunsWindow::askToTryAgain()
     if (!run->line.values.isEmpty())
         lines.append(run->line.values);
     if (!targets.selection.ownValues.isEmpty())
-        lines.append(tr("%Ln device(s) get values of their own, as in this run.", nullptr,
-                        targets.selection.ownValues.size()));
+        lines.append(
+            tr("%Ln device(s) get values of their own, as in this run.", nullptr, targets.selection.ownValues.size()));
     if (const int notReached = targets.countNotReached(); notReached > 0)
         lines.append(tr("%Ln of them cannot be written to now and will end as not reached.", nullptr, notReached));
     if (!targets.leftOut.isEmpty())
@@ -342,14 +342,14 @@ void RunsWindow::askToTryAgain()
             tr("Try again"), targets.refusal.isEmpty() ? lines.join(QLatin1Char('\n')) : targets.refusal);
         return;
     }
-    askBeforeRun(this, tr("Try again"),
-                 tr("%1: configure %Ln device(s) again with the values of this run?", "parameters", count)
-                     .arg(run->line.family),
-                 lines, tr("Configure"), [this, run, devIds] {
-                     const QString runId = m_jobs->tryAgain(*run, devIds);
-                     if (!runId.isEmpty())
-                         m_wanted = runId;
-                 });
+    askBeforeRun(
+        this, tr("Try again"),
+        tr("%1: configure %Ln device(s) again with the values of this run?", "parameters", count).arg(run->line.family),
+        lines, tr("Configure"), [this, run, devIds] {
+            const QString runId = m_jobs->tryAgain(*run, devIds);
+            if (!runId.isEmpty())
+                m_wanted = runId;
+        });
 }
 
 void RunsWindow::check(RunCheck::Kind kind)
