@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """All figures of docs/performance.md: runs the benchmark programs, each beside its floor, and prints one table.
 
-    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,batch,start]
+    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,batch,windows,start]
 
 BIN is the directory of the built programs. A figure is the median of its repetitions; a ratio is that of the medians of
 two programs that ran in turn.
@@ -19,7 +19,7 @@ import tempfile
 import time
 
 HERE = pathlib.Path(__file__).parent
-PARTS = ("run", "list", "site", "engine", "batch", "start")
+PARTS = ("run", "list", "site", "engine", "batch", "windows", "start")
 BATCH_SIZE = 1000  # devices, at most, for whole commands
 OSD = ("bShowOSD=false", "timeFormat=YYYY-MM-DD hh:mm:ss", "timePos=left_top", "channelName=HD IPC",
        "position=left_top", "bLargeOSD=false")
@@ -295,6 +295,27 @@ def measure_start(options, env, table):
     table.add("Start of the client to the form shown", 200, statistics.median(times), "ms", None, "1000 ms")
 
 
+def measure_windows(options, env, directory, table):
+    size = max(options.sizes)
+    directory = directory / "windows"  # another fleet, and a history of its own
+    directory.mkdir()
+    env = dict(env, XDG_STATE_HOME=str(directory), XDG_CONFIG_HOME=str(directory))
+    fleet = Fleet(options, size, directory, env)
+    try:
+        inventory = fleet.inventory(size)
+        run([options.bin / "engine_client", "apply", inventory], env)  # a run over all of them, to be shown
+        fleet.rest(size)
+        pauses = collections.defaultdict(list)
+        for _ in range(options.repeat):
+            for what, pause in json.loads(run([options.bin / "windows_bench", inventory], env)).items():
+                pauses[what].append(pause)
+            fleet.rest(size)
+        for what, found in pauses.items():
+            table.add("Window " + what + ", longest pause", size, statistics.median(found), "ms", None, "100 ms" if size == 10000 else None)
+    finally:
+        fleet.end()
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("bin", type=pathlib.Path)
@@ -319,6 +340,8 @@ def main():
                 measure_engine(options, env, directory, table)
             elif part == "batch":
                 measure_batch(options, env, directory, table)
+            elif part == "windows":
+                measure_windows(options, env, directory, table)
             elif part == "start":
                 measure_start(options, env, table)
             else:

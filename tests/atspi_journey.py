@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""One run of the client as a blind operator's tools see it: by names, states and actions of its AT-SPI tree alone.
+"""First steps and one run of the client as a blind operator's tools see them: by names, states and actions of its AT-SPI tree alone.
 
 atspi_journey.py ORDA_CLIENT; starts itself again on a display and a session bus of its own. Exit code 77: a tool is
 missing.
@@ -7,26 +7,16 @@ missing.
 
 import sys
 
-from support.journey import (Atspi, act, client_window, dialogs, find, has, set_state, start_on_own_display_and_bus,
-                             travel, wait_for)
+from support.journey import (Atspi, act, answer, choose_menu_entry, client_window, find, has, open_page, set_state,
+                             start_on_own_display_and_bus, travel, wait_for)
 
 DEVICES = 12
-
-
-def answer(client, title, text, button):
-    dialog = find(client, "alert", title)
-    find(dialog, "label", text)
-    act(find(dialog, "push button", button), "Press")
-    wait_for("answered dialog", lambda: not dialogs(client))
+NO_INVENTORY = "/no/such/inventory.json"
 
 
 def configure_audio(client):
     window = client_window(client)
-    entry = find(window, "page tab", "Audio Parameters")
-    act(entry, "Press")
-    wait_for("open page", lambda: has(entry, "SELECTED"))
-    page = find(window, "filler", "Audio Parameters")
-
+    page = open_page(window, "Audio Parameters")
     configure = find(page, "push button", "Configure")
     set_state(find(page, "check box", "All parameters"), "CHECKED", False)
     wait_for("disabled button", lambda: not has(configure, "ENABLED"))
@@ -71,11 +61,19 @@ def configure_audio(client):
     find(page, "push button", "Report")
 
 
+def first_steps(client):
+    """The inventory of the command line is not there: the client says so, and offers other ways."""
+    answer(client, "Notice", f"{NO_INVENTORY}: cannot be read: No such file or directory", "OK")
+    find(client, "spin button", "Number of devices").get_value_iface().set_current_value(DEVICES)
+    act(find(client, "push button", "Start the demo"), "Press")
+
+
 def journey(client):
+    first_steps(client)
     configure_audio(client)
-    act(find(client, "menu item", "Quit", shown=False), "Press")
+    choose_menu_entry(client, "Quit")
 
 
 if __name__ == "__main__":
     start_on_own_display_and_bus()
-    sys.exit(travel([sys.argv[1], "--demo", str(DEVICES), "--language", "en"], journey))
+    sys.exit(travel([sys.argv[1], "--inventory", NO_INVENTORY, "--language", "en"], journey))

@@ -1,22 +1,17 @@
-#include "support/FleetOf.h"
 #include "support/OrdaTest.h"
 #include "support/RecordEntry.h"
 #include "support/Store.h"
 
-#include "client/app/ClientWindow.h"
 #include "client/form/Families.h"
-#include "client/record/LastRunWindow.h"
-#include "client/session/ClientSession.h"
+#include "client/record/RecordWindow.h"
 #include "client/settings/ClientSettings.h"
-#include "fleet/EmbeddedFleet.h"
-#include "journal/HistoryOptions.h"
 
 #include <QtWidgets>
-#include <vms_client_sdk/ClientSignals.h>
+#include <orda_base/BaseForm.h>
+#include <shell/BatchCfgInit.h>
+#include <vms_client_sdk/DevInfo.h>
 
 using namespace orda_client;
-using device_fleet::EmbeddedFleet;
-using device_fleet::Fault;
 
 namespace {
 
@@ -25,15 +20,10 @@ QString recordPath()
     return QDir::temp().filePath(findFamily("audio")->recordFile);
 }
 
-QString now()
-{
-    return QDateTime::currentDateTime().toString("yyyy-MM-dd hh:mm:ss");
-}
-
-void append(const QString &text, QIODevice::OpenMode mode = QIODevice::Append)
+void write(const QString &text)
 {
     QFile file(recordPath());
-    QVERIFY(file.open(QIODevice::WriteOnly | mode));
+    QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text.toLocal8Bit());
 }
 
@@ -51,64 +41,34 @@ Widget *child(const QWidget &window, const char *name)
     return window.findChild<Widget *>(name);
 }
 
-QLineEdit *searchIn(const QWidget &window, const char *box)
-{
-    return child<QWidget>(window, box)->findChild<QLineEdit *>();
-}
-
-/// The client with the window of the last run beside it.
+/// The form over devices that are online, with the serial numbers "SN0" on, and the window of a record file.
 struct Client
 {
-    Client()
+    explicit Client(const QStringList &serialNumbers = {})
     {
-        window.show();
-        child<QAction>(window, "showLastRun")->trigger();
+        auto &store = orda_data::DevsMgrData::instance();
+        for (const QString &serialNumber : serialNumbers) {
+            vms_sdk::DevInfo dev;
+            dev.id = QString("dev%1").arg(store.devCount(false));
+            dev.serialNumber = serialNumber;
+            dev.ip = "10.0.0.1";
+            dev.accessCode = dev.kindCode = 1;
+            store.updateDevs({dev});
+            store.setDevStatus(dev.id, vms_sdk::DevOnline);
+        }
+        form.reset(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
+        form->show();
+        window = std::make_unique<RecordWindow>(recordPath(), form.get(), &settings, nullptr);
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->show();
     }
+    ~Client() { clearStore(); }
+    Q_DISABLE_COPY_MOVE(Client)
 
-    ClientSession session{orda_journal::HistoryOptions()};
-    ClientSettings settings{QString()};
-    ClientWindow window{&session, &settings};
-    const LastRunWindow &lastRun() const { return *window.findChild<LastRunWindow *>(); }
-    QAbstractItemModel *shown() const { return child<QTableView>(lastRun(), "record")->model(); }
-};
-
-/// The client over a fleet, of which four devices refuse and one talks nonsense.
-struct Site : Client
-{
-    Site()
-    {
-        child<QAbstractButton>(window, "audio_param")->click();
-        fleet.start();
-        devices = fleet.inventory();
-        devices[1].name = "=1+\"1\";=2, north";
-        orda_data::DevsMgrData::instance().updateDevs(devices);
-        const auto areOnline = [this] {
-            return itemOf(0) && itemOf(1) && itemOf(2) && itemOf(4) && itemOf(5) && itemOf(6);
-        };
-        if (!QTest::qWaitFor(areOnline))
-            qFatal("the devices did not come online");
-        for (const int device : {1, 2, 4, 5})
-            fleet.setFault(devices.at(device).id, "ai_get_param", {Fault::ErrorCode, -1});
-        fleet.setFault(devices.at(6).id, "*", {Fault::Garbage});
-    }
-
-    ~Site() { clearStore(); } // the next one waits for devices of its own
-    Q_DISABLE_COPY_MOVE(Site)
-
-    QTableWidgetItem *itemOf(int device) const
-    {
-        return list->findItems(devices.at(device).serialNumber, Qt::MatchExactly).value(0);
-    }
-    QStringList serialNumbers(const QList<int> &numbers) const
-    {
-        QStringList texts;
-        for (const int number : numbers)
-            texts.append(devices.at(number).serialNumber);
-        texts.sort();
-        return texts;
-    }
+    QAbstractItemModel *shown() const { return child<QTableView>(*window, "record")->model(); }
     QStringList ticked() const
     {
+        const auto *list = child<QTableWidget>(*form, "devsTableWt");
         QStringList texts;
         for (int row = 0; row < list->rowCount(); ++row)
             if (list->item(row, 0)->checkState() == Qt::Checked && !list->isRowHidden(row))
@@ -116,38 +76,16 @@ struct Site : Client
         texts.sort();
         return texts;
     }
-    QAbstractButton *again() const { return child<QAbstractButton>(lastRun(), "tickFailedAgain"); }
-    void press(const char *button) const
-    {
-        child<QAbstractButton>(*child<QWidget>(window, "audioParametersPage"), button)->click();
-    }
-    void report() const { press("reportBt"); }
-    bool isLastRunOpen() const { return window.findChild<LastRunWindow *>(); }
-    void closeLastRun() const
-    {
-        window.findChild<LastRunWindow *>()->close();
-        QTRY_VERIFY(!isLastRunOpen());
-    }
-    void configure() const
-    {
-        press("okBt");
-        child<QDialog>(window, "eventConfirmDialog")->reject();
-    }
-    void tickAllAndConfigure() const
-    {
-        child<QCheckBox>(window, "selAll")->click();
-        configure();
-    }
 
-    EmbeddedFleet fleet{fleetOf(30)};
-    QList<vms_sdk::DevInfo> devices;
-    QTableWidget *list = child<QTableWidget>(window, "devsTableWt");
+    ClientSettings settings{QString()};
+    std::unique_ptr<QWidget> form;
+    std::unique_ptr<RecordWindow> window;
 };
 
 } // namespace
 
-/// The client's window of the last run, from the record to the second try.
-class LastRunTest : public OrdaTest
+/// The window of one record file, from the file to the ticks in the form.
+class RecordTest : public OrdaTest
 {
     Q_OBJECT
 
@@ -167,172 +105,80 @@ private slots:
         row("more than one name", "ln -f $0 $0.elsewhere");
         row("too large", "truncate -s 4G $0");
         row("another user", "chown 65534 $0");
+        row("No such file", "rm $0");
     }
 
     void recordOfDoubtfulOriginIsNotRead()
     {
         QFETCH(QString, command);
-        append(entry("A", "10.0.0.1", "no", "Cam"));
+        write(entry("A", "10.0.0.1", "no", "Cam"));
         const bool isDone = QProcess::execute("sh", {"-c", command, recordPath()}) == 0;
         if (!isDone && command.startsWith("chown"))
             QSKIP("only root can give a file away");
         QVERIFY(isDone);
         const Client client;
         QCOMPARE(client.shown()->rowCount(), 0);
-        QVERIFY(child<QLabel>(client.lastRun(), "empty")->text().contains(QTest::currentDataTag()));
+        QVERIFY(child<QLabel>(*client.window, "recordEmpty")->text().contains(QTest::currentDataTag()));
     }
 
     void columnsSortAsPeopleReadThem()
     {
-        append(entry("3", "10.0.0.9", "success", "cam 10") + entry("1", "", "no", "cam 3")
-               + entry("2", "10.0.0.10", "success", "Cam 2") + entry("4", "gate.site", "success", "Gate"));
+        write(entry("3", "10.0.0.9", "success", "cam 10") + entry("1", "", "no", "cam 3")
+              + entry("2", "10.0.0.10", "success", "Cam 2") + entry("4", "gate.site", "success", "Gate"));
         const Client client;
-        const auto order = [&client] { return column(client.shown(), 2).join(' '); };
         const auto sorted = [&](int by) {
-            child<QTableView>(client.lastRun(), "record")->sortByColumn(by, Qt::AscendingOrder);
-            return order();
+            child<QTableView>(*client.window, "record")->sortByColumn(by, Qt::AscendingOrder);
+            return column(client.shown(), 2).join(' ');
         };
-        QCOMPARE(order(), "1 2 3 4"); // failures first
+        QCOMPARE(column(client.shown(), 2).join(' '), "1 2 3 4"); // failures first
         QCOMPARE(sorted(1), "2 1 3 4");
         QCOMPARE(sorted(3), "3 2 4 1");
     }
 
     void failuresAreGroupedFoundAndExported()
     {
-        const Site site;
-        const LastRunWindow &window = site.lastRun();
-        QVERIFY(!site.again()->isEnabled());
-        QVERIFY(child<QLabel>(window, "empty")->text().startsWith("No run yet"));
-        site.tickAllAndConfigure();
-        const auto *shown = site.shown();
-        QCOMPARE(shown->rowCount(), site.ticked().size());
-
-        auto *groups = child<QTableWidget>(window, "groups");
-        QCOMPARE(column(groups->model(), 0).mid(1),
-                 QStringList({"Failed to get audio in parameters(-1)", "Failed to parse json data"}));
+        write(entry("A", "10.0.0.1", "no(-1)", "=1+\"1\";=2, north") + entry("B", "10.0.0.2", "no(-1)", "B")
+              + entry("C", "10.0.0.3", "never", "<b>C") + entry("D", "10.0.0.4", "success", "D"));
+        const Client client;
+        auto *groups = child<QTableWidget>(*client.window, "groups");
+        QCOMPARE(column(groups->model(), 0), QStringList({"All devices", "no(-1)", "never"}));
         groups->selectRow(1);
-        QStringList grouped = column(shown, 2);
-        grouped.sort();
-        QCOMPARE(grouped, site.serialNumbers({1, 2, 4, 5}));
+        QCOMPARE(column(client.shown(), 2).join(' '), "A B");
         groups->selectRow(0);
-        child<QComboBox>(window, "outcomes")->setCurrentIndex(1);
-        QCOMPARE(shown->rowCount(), 5);
-        searchIn(window, "recordSearch")->setText("=1+");
-        child<QAbstractButton>(window, "exportCsv")->click();
+        child<QComboBox>(*client.window, "recordChoice")->setCurrentIndex(1);
+        QCOMPARE(client.shown()->rowCount(), 3);
+        child<QWidget>(*client.window, "recordSearch")->findChild<QLineEdit *>()->setText("=1+");
+        child<QAbstractButton>(*client.window, "exportCsv")->click();
         const QString exported = QDir::temp().filePath("failed.csv");
-        emit window.findChild<QFileDialog *>()->fileSelected(exported);
+        emit client.window->findChild<QFileDialog *>()->fileSelected(exported);
         QFile file(exported);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString row = column(shown, 4).constFirst() + ",Failed to get audio in parameters(-1)\r\n";
-        QCOMPARE(file.readAll(), QStringLiteral("\uFEFFOutcome,Name,Serial number,IP address,Time,Message\r\n"
-                                                "Failed,\"'=1+\"\"1\"\";'=2, north\",%1,%2,%3")
-                                     .arg(site.devices.at(1).serialNumber, site.devices.at(1).ip, row)
-                                     .toUtf8());
+        QCOMPARE(file.readAll(),
+                 QStringLiteral("\uFEFFOutcome,Name,Serial number,IP address,Time,Message\r\n"
+                                "Failed,\"'=1+\"\"1\"\";'=2, north\",A,10.0.0.1,2026-03-04 05:06:07,no(-1)\r\n")
+                     .toUtf8());
     }
 
-    /// The record grows by what leaves a doubt, two devices in the list have one number, another goes offline.
     void whatLeavesADoubtIsNotTickedAgain()
     {
-        Site site;
-        site.tickAllAndConfigure();
-        const LastRunWindow &window = site.lastRun();
-        const auto *groups = child<QTableWidget>(window, "groups");
-        QTRY_VERIFY(site.again()->isEnabled());
-        append(entry("", "10.0.0.1", "no", "nameless", now()));
-        QTRY_COMPARE(groups->rowCount(), 4);
-        append(entry("unknown", "10.0.0.1", "no", "stranger", now())
-               + entry(qPrintable(site.devices.at(2).serialNumber), "10.0.0.1", "success", "twin", now()) + "2026-");
-        QTRY_COMPARE(groups->rowCount(), 5);
-        site.itemOf(0)->setText(site.devices.at(6).serialNumber);
-        site.fleet.setOnline(site.devices.at(4).id, false);
-        QTRY_VERIFY(!site.itemOf(4));
-        searchIn(site.window, "searchBox")->setText(site.devices.at(6).serialNumber);
-        site.again()->click();
-        QCOMPARE(site.ticked(), site.serialNumbers({1, 5}));
-        QCOMPARE(searchIn(site.window, "searchBox")->text(), QString());
-        QVERIFY(child<QLabel>(window, "tickReport")->text().startsWith("Ticked 2 of 8"));
-        QStringList left = child<QPlainTextEdit>(window, "tickReportList")->toPlainText().split('\n');
-        QCOMPARE(left.size(), 6);
-        QCOMPARE(left.filter("not in the list").size(), 2);
-        QCOMPARE(left.filter("several devices of the run").size(), 1);
-        QCOMPARE(left.filter("several devices in the list").size(), 1);
-        QCOMPARE(left.filter("nameless: it has no serial number").size(), 1);
-        QCOMPARE(left.filter("2026-: its entry in the record cannot be read").size(), 1);
-    }
-
-    void failedDevicesAreConfiguredAtTheSecondTry()
-    {
-        Site site;
-        site.tickAllAndConfigure();
-        QTRY_VERIFY(site.again()->isEnabled());
-        site.again()->click();
-        QCOMPARE(site.ticked(), site.serialNumbers({1, 2, 4, 5, 6}));
-        site.fleet.clearFaults();
-        QStringList changed; // by the operator and by the button, in mid-run
-        const auto midRun =
-            connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalCommonRes, this, [&] {
-                if (changed.isEmpty()) {
-                    site.list->item(site.itemOf(1)->row(), 0)->setCheckState(Qt::Unchecked);
-                    site.again()->click();
-                    changed = site.ticked();
-                }
-            });
-        site.configure();
-        disconnect(midRun);
-        QCOMPARE(changed, site.serialNumbers({2, 4, 5, 6})); // the list is left alone
-        QCOMPARE(column(site.shown(), 5), QStringList(QVector<QString>(5, "success").toList()));
-        QVERIFY(!site.again()->isEnabled());
-    }
-
-    void reportWithoutAViewerOpensTheWindow()
-    {
-        const QTemporaryDir programs; // an opener that finds none
-        QFile opener(programs.filePath("xdg-open")), seen(programs.filePath("seen"));
-        QVERIFY(opener.open(QIODevice::WriteOnly));
-        opener.write("#!/bin/sh\necho \"$1\" >\"${0%/*}/seen\"\nexit 3\n");
-        opener.close();
-        opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        Site site;
-        // A time of this very run, so that nothing but the writer's word tells that this is no entry.
-        site.devices[6].name = QString("X\n\n%1    SN    10.0.0.1            success                Y").arg(now());
-        orda_data::DevsMgrData::instance().updateDevs(site.devices);
-        site.tickAllAndConfigure();
-        site.closeLastRun();
-        const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", QFile::encodeName(programs.path()));
-        site.report();
-        QTRY_VERIFY(site.isLastRunOpen());
-        qputenv("PATH", path);
-        QVERIFY(seen.open(QIODevice::ReadOnly));
-        QCOMPARE(seen.readAll(), QFile::encodeName(recordPath()) + '\n');
-        const QStringList outcomes = column(site.shown(), 0);
-        QCOMPARE(outcomes.size() - outcomes.filter("Succeeded").size(), 5);
-        QVERIFY(!column(site.shown(), 2).contains("SN"));
-    }
-
-    /// What another has put there is not shown, and Report opens the window.
-    void runThatLostItsRecordIsShownAsSuch()
-    {
-        append("elsewhere");
-        QVERIFY(QFile::rename(recordPath(), recordPath() + ".elsewhere")
-                && QFile::link(recordPath() + ".elsewhere", recordPath()));
-        const Site site;
-        site.closeLastRun();
-        child<QCheckBox>(site.window, "selAll")->click();
-        expectWarning("it is a symbolic link");
-        site.press("okBt");
-        auto *summary = child<QMessageBox>(site.window, "eventConfirmDialog");
-        QVERIFY(summary->informativeText().contains("failure:5\nThe last run left no record"));
-        const auto labels = summary->findChildren<QLabel *>();
-        for (const QLabel *label : labels) // the dialog has grown
-            QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));
-        summary->reject();
-        site.report();
-        QVERIFY(site.isLastRunOpen());
-        QCOMPARE(site.shown()->rowCount(), 0);
-        QVERIFY(child<QLabel>(site.lastRun(), "empty")->text().contains("it is a symbolic link"));
+        write(entry("SN1", "10.0.0.1", "no", "cam") + entry("SN2", "10.0.0.1", "no", "cam")
+              + entry("gone", "10.0.0.1", "no", "stranger") + entry("", "10.0.0.1", "no", "nameless")
+              + entry("SN3", "10.0.0.1", "no", "twin") + entry("SN3", "10.0.0.1", "success", "twin")
+              + entry("SN4", "10.0.0.1", "no", "cam") + entry("SN5", "10.0.0.1", "success", "cam") + "2026-");
+        const Client client({"SN1", "SN2", "SN3", "SN4", "SN4", "SN5"});
+        child<QWidget>(*client.form, "searchBox")->findChild<QLineEdit *>()->setText("SN5");
+        child<QAbstractButton>(*client.window, "tickFailedAgain")->click();
+        QCOMPARE(client.ticked(), QStringList({"SN1", "SN2"}));
+        QVERIFY(child<QLabel>(*client.window, "tickReport")->text().startsWith("Ticked 2 of 7"));
+        const QStringList left = child<QPlainTextEdit>(*client.window, "tickReportList")->toPlainText().split('\n');
+        for (const char *why :
+             {"stranger (gone): it is not in the list", "nameless: it has no serial number",
+              "several devices of the run", "several devices in the list", "2026-: its entry in the record cannot"})
+            QVERIFY2(left.filter(why).size() == 1, why);
+        QCOMPARE(left.size(), 5);
+        QCOMPARE(child<QWidget>(*client.form, "audioParametersPage")->isVisible(), true);
     }
 };
 
-ORDA_TEST_MAIN(LastRunTest)
-#include "lastrun_test.moc"
+ORDA_TEST_MAIN(RecordTest)
+#include "record_test.moc"

@@ -60,8 +60,6 @@ void ClientMenus::buildDevices()
     QMenu *menu = addMenu(tr("&Devices"));
     showDevices = add(menu, "showDevices", tr("&Devices"), Qt::Key_F8);
     showDevices->setStatusTip(tr("Lists all devices of the inventory, their states and the reasons"));
-    showDevices->setVisible(false);
-    showDevices->setEnabled(false);
     connectAgain = add(menu, "connectAgain", tr("&Connect again"), {});
     connectAgain->setStatusTip(tr("Tries the devices again that refused the sign-on"));
 }
@@ -69,6 +67,11 @@ void ClientMenus::buildDevices()
 void ClientMenus::buildRun()
 {
     QMenu *menu = addMenu(tr("&Run"));
+    showPreview = add(menu, "showPreview", tr("&Preview"), Qt::Key_F7);
+    showPreview->setStatusTip(tr("What Configure would change on each ticked device; nothing is written"));
+    showCompare = add(menu, "showCompare", tr("&Compare with a standard"), Qt::Key_F6);
+    showCompare->setStatusTip(tr("The present settings of the ticked devices beside a standard; nothing is written"));
+    menu->addSeparator();
     showRuns = add(menu, "showRuns", tr("&Runs"), Qt::Key_F9);
     showRuns->setStatusTip(tr("What runs did to the devices; tries again, verifies, takes back, compares"));
 }

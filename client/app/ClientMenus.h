@@ -33,6 +33,8 @@ public:
     QAction *showDevices = nullptr;
     QAction *connectAgain = nullptr;
     // Run
+    QAction *showPreview = nullptr;
+    QAction *showCompare = nullptr;
     QAction *showRuns = nullptr;
     // Help
     QAction *showManual = nullptr;

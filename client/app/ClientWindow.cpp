@@ -10,10 +10,10 @@
 #include "client/form/Families.h"
 #include "client/form/FormPage.h"
 #include "client/form/FormTicks.h"
+#include "client/inventory/InventoryImport.h"
 #include "client/press/PressGuard.h"
 #include "client/press/PressLine.h"
 #include "client/progress/RunProgress.h"
-#include "client/inventory/InventoryImport.h"
 #include "client/record/PageRecord.h"
 #include "client/session/ClientSession.h"
 #include "client/settings/ClientSettings.h"
@@ -36,8 +36,11 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QScrollArea>
+#include <QSet>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace orda_client {
 
@@ -46,6 +49,7 @@ using orda_journal::JournalTransport;
 namespace {
 
 constexpr QSize wantedSize(1500, 850);
+constexpr int margin = 12;
 
 } // namespace
 
@@ -97,19 +101,24 @@ QWidget *ClientWindow::buildForm()
     auto *layout = new QVBoxLayout(room);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(area, 1);
-    auto *line = new PressLine(area);
-    layout->addWidget(line);
-    auto *progress = new RunProgress(m_session->journal(), m_settings);
-    layout->addWidget(progress);
+    layout->setSpacing(0);
+    auto *below = new QVBoxLayout;
+    below->setContentsMargins(margin, margin / 2, margin, margin / 2);
+    layout->addLayout(below);
+    m_line = new PressLine(area);
+    below->addWidget(m_line);
+    m_progress = new RunProgress(m_session->journal(), m_settings);
+    below->addWidget(m_progress);
     // In mid-run the line would say what a press cannot do.
-    connect(m_session->journal(), &JournalTransport::signalRunBegan, line, &QWidget::hide);
-    connect(m_session->journal(), &JournalTransport::signalRunEnded, line, &QWidget::show);
+    connect(m_session->journal(), &JournalTransport::signalRunBegan, m_line, &QWidget::hide);
+    connect(m_session->journal(), &JournalTransport::signalRunEnded, m_line, &QWidget::show);
     return room;
 }
 
 void ClientWindow::guardPresses()
 {
     m_guard = new PressGuard(m_form, m_settings, this);
+    connect(m_guard, &PressGuard::signalPreview, m_windows, &Windows::showPreview);
 }
 
 void ClientWindow::connectActions()
@@ -128,7 +137,13 @@ void ClientWindow::connectActions()
     connect(m_firstSteps, &FirstSteps::signalOpenRecent, m_opener, &InventoryOpener::openRecent);
     connect(m_firstSteps, &FirstSteps::signalStartDemo, m_opener, &InventoryOpener::startDemo);
     connect(m_opener, &InventoryOpener::signalRecentChanged, m_firstSteps, &FirstSteps::listRecent);
-    connect(m_menus->showRuns, &QAction::triggered, m_windows, &Windows::showRuns);
+    connect(m_menus->showDevices, &QAction::triggered, m_windows, &Windows::showDevices);
+    connect(m_menus->showPreview, &QAction::triggered, m_windows, &Windows::showPreview);
+    connect(m_line, &PressLine::signalPreview, m_windows, &Windows::showPreview);
+    connect(m_menus->showCompare, &QAction::triggered, m_windows, &Windows::showCompare);
+    connect(m_menus->showRuns, &QAction::triggered, m_windows, [this] { m_windows->showRun({}); });
+    connect(m_progress, &RunProgress::signalShowRun, m_windows, &Windows::showRun);
+    connect(m_windows, &Windows::signalConfigure, this, &ClientWindow::configure);
     connect(m_menus->showManual, &QAction::triggered, m_windows, &Windows::showManual);
     connect(m_menus->showAbout, &QAction::triggered, m_windows, &Windows::showAbout);
 }
@@ -181,20 +196,43 @@ void ClientWindow::showSource()
 
 void ClientWindow::closeEvent(QCloseEvent *event)
 {
-    QWidget *overlay = FormTicks::runOverlay(m_form);
-    if (!overlay || m_closesInRun) {
+    if (!m_progress->isGoingOn() || m_closesInRun) {
         QMainWindow::closeEvent(event);
         return;
     }
     event->ignore();
-    askBeforeClosing(overlay);
+    askBeforeClosing();
 }
 
-void ClientWindow::askBeforeClosing(QWidget *overlay)
+void ClientWindow::configure(const PressedRun &run)
+{
+    const auto *family = orda_batchCfg::Families::find(run.family);
+    const QStringList ids = FormTicks::listedIn(m_form);
+    const QSet<QString> listed(ids.begin(), ids.end());
+    const auto gone = int(std::count_if(run.devIds.begin(), run.devIds.end(),
+                                        [&listed](const QString &devId) { return !listed.contains(devId); }));
+    if (!family || FormTicks::runOverlay(m_form))
+        return;
+    if (gone > 0) {
+        orda_worker::SystemAssistant::instance().messageAlert(
+            orda_worker::DictDef::instance().alertTitle(),
+            tr("Nothing was configured: %n device(s) of the preview cannot be configured any more. Preview again.",
+               nullptr, gone));
+        return;
+    }
+    FormTicks::tickExactly(m_form, run.devIds);
+    const FormPage page = FormPage::of(m_form, *family);
+    page.open(m_form);
+    if (m_guard) // they are the same devices, in the order of the list
+        m_guard->allowOnce({run.family, run.values, FormTicks::of(m_form).devIds});
+    page.press();
+}
+
+void ClientWindow::askBeforeClosing()
 {
     if (m_closeQuestion)
         return;
-    m_closeQuestion = new CloseQuestion(overlay, this);
+    m_closeQuestion = new CloseQuestion(m_progress, this);
     connect(m_closeQuestion, &QDialog::accepted, this, [this] {
         m_closesInRun = true;
         close();

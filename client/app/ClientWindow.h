@@ -22,7 +22,10 @@ class FirstSteps;
 class InventoryImport;
 class InventoryOpener;
 class PressGuard;
+class PressLine;
+class RunProgress;
 class Windows;
+struct PressedRun;
 
 /// The client's window: the batch-configuration form, or what to begin with as long as there are no devices; menus, and
 /// a status bar. Remembers its size and place, and the page that was shown last.
@@ -53,11 +56,14 @@ private:
     void rememberPage();
     void showSource();
     void showSummary(const orda_worker::EventConfirmInfo &info);
-    void askBeforeClosing(QWidget *overlay);
+    void askBeforeClosing();
+    void configure(const PressedRun &run);
 
     ClientSession *m_session;
     ClientSettings *m_settings;
     QStackedWidget *m_pages; // what to begin with, and the form
+    PressLine *m_line = nullptr;
+    RunProgress *m_progress = nullptr;
     QWidget *m_form; // has the batch-configuration form in it
     FirstSteps *m_firstSteps;
     ClientMenus *m_menus;

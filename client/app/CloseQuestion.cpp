@@ -1,11 +1,12 @@
 #include "client/app/CloseQuestion.h"
 
+#include "client/progress/RunProgress.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QVariant>
 
 #include <chrono>
 
@@ -20,9 +21,9 @@ constexpr auto followInterval = 200ms;
 
 } // namespace
 
-CloseQuestion::CloseQuestion(QWidget *overlay, QWidget *parent)
+CloseQuestion::CloseQuestion(const RunProgress *progress, QWidget *parent)
     : QDialog(parent)
-    , m_overlay(overlay)
+    , m_progress(progress)
     , m_count(new QLabel(this))
 {
     setObjectName(QStringLiteral("closeQuestion"));
@@ -61,13 +62,12 @@ CloseQuestion::CloseQuestion(QWidget *overlay, QWidget *parent)
 
 void CloseQuestion::follow()
 {
-    if (!m_overlay || m_overlay->isHidden()) {
-        reject(); // the run is over, and its summary is shown
+    if (!m_progress || !m_progress->isGoingOn()) {
+        reject(); // the run is over, and its result is shown
         return;
     }
-    const int total = m_overlay->property("total").toInt();
-    const int missing = total - m_overlay->property("finished").toInt();
-    m_count->setText(tr("%1 of %n device(s) have not answered", nullptr, total).arg(missing));
+    m_count->setText(
+        tr("%1 of %n device(s) have not answered", nullptr, m_progress->devices()).arg(m_progress->left()));
     setAccessibleDescription(m_count->text());
 }
 

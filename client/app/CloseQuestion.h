@@ -9,6 +9,8 @@ QT_END_NAMESPACE
 
 namespace orda_client {
 
+class RunProgress;
+
 /// Asks whether the window is to be closed in mid-run, says how many devices have not answered yet, and goes away by
 /// itself when the run ends. Accepted: close. Deletes itself.
 class CloseQuestion : public QDialog
@@ -16,13 +18,13 @@ class CloseQuestion : public QDialog
     Q_OBJECT
 
 public:
-    /// @param overlay what covers the form during the run
-    CloseQuestion(QWidget *overlay, QWidget *parent);
+    /// @param progress of the run, which is under way
+    CloseQuestion(const RunProgress *progress, QWidget *parent);
 
 private:
     void follow();
 
-    QPointer<QWidget> m_overlay;
+    QPointer<const RunProgress> m_progress;
     QLabel *m_count;
 };
 

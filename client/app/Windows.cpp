@@ -5,8 +5,12 @@
 #include "client/app/RemoteConfigDialog.h"
 #include "client/app/SettingsDialog.h"
 #include "client/common/ToolWindow.h"
+#include "client/compare/CompareWindow.h"
+#include "client/devices/DeviceStates.h"
+#include "client/devices/DevicesWindow.h"
 #include "client/form/Families.h"
 #include "client/inventory/ExportDialog.h"
+#include "client/preview/PreviewWindow.h"
 #include "client/record/PageRecord.h"
 #include "client/record/RecordFile.h"
 #include "client/record/RecordViewer.h"
@@ -31,12 +35,13 @@ Windows::Windows(QWidget *form, ClientSession *session, ClientSettings *settings
     , m_settings(settings)
     , m_window(window)
     , m_viewer(new RecordViewer(this))
+    , m_deviceStates(new DeviceStates(this))
     , m_runJobs(new RunJobs(session, this))
 {
     connect(&orda_base::BaseTools::instance(), &orda_base::BaseTools::signalDevRemoteConfigOpened, this,
             &Windows::showRemoteConfig);
     QDesktopServices::setUrlHandler({}, this, "openRecord"); // the module opens paths without a scheme
-    connect(m_viewer, &RecordViewer::signalNoViewer, this, &Windows::showRuns);
+    connect(m_viewer, &RecordViewer::signalNoViewer, this, [this] { showRun({}); });
 }
 
 template <typename Window, typename Make>
@@ -47,10 +52,31 @@ void Windows::show(QPointer<Window> *window, const Make &make)
     ToolWindow::bringToFront(*window);
 }
 
-void Windows::showRuns()
+void Windows::showDevices()
+{
+    show(&m_devices, [this] { return new DevicesWindow(m_session, m_deviceStates, m_form, m_settings, m_window); });
+}
+
+void Windows::showPreview()
+{
+    if (!m_preview) {
+        m_preview = new PreviewWindow(m_session, m_form, m_settings, m_window);
+        connect(m_preview, &PreviewWindow::signalConfigure, this, &Windows::signalConfigure);
+    }
+    ToolWindow::bringToFront(m_preview);
+    m_preview->preview();
+}
+
+void Windows::showCompare()
+{
+    show(&m_compare, [this] { return new CompareWindow(m_session, m_form, m_settings, m_window); });
+    m_compare->compare();
+}
+
+void Windows::showRun(const QString &runId)
 {
     show(&m_runs, [this] { return new RunsWindow(m_session, m_runJobs, m_form, m_settings, m_window); });
-    m_runs->showRun({});
+    m_runs->showRun(runId);
 }
 
 void Windows::showRemoteConfig(const QString &devId)
@@ -92,7 +118,7 @@ void Windows::openRecord(const QUrl &url)
         if (isOwn && state.exists && state.refusal.isEmpty())
             m_viewer->open(file.path());
         else
-            showRuns();
+            showRun({});
         return;
     }
     QDesktopServices::openUrl(url); // not a record; Qt does not call this handler again for it

@@ -12,10 +12,15 @@ namespace orda_client {
 
 class ClientSession;
 class ClientSettings;
+class CompareWindow;
+class DeviceStates;
+class DevicesWindow;
 class ManualWindow;
+class PreviewWindow;
 class RecordViewer;
 class RunJobs;
 class RunsWindow;
+struct PressedRun;
 
 /// Opens the windows beside the main one, each once: one that is open already comes to the front. All of them close
 /// with the main window.
@@ -27,14 +32,22 @@ public:
     /// @param form the batch-configuration form, or what has it
     Windows(QWidget *form, ClientSession *session, ClientSettings *settings, QMainWindow *window);
 
-    /// Turns to the latest run.
-    void showRuns();
+    void showDevices();
+    /// Plans what the form's page would change now.
+    void showPreview();
+    void showCompare();
+    /// @param runId empty: the latest
+    void showRun(const QString &runId);
     /// Saves the devices that are there now.
     void showExport();
     void showSettings();
     void showManual();
     void showAbout();
     void showRemoteConfig(const QString &devId);
+
+signals:
+    /// Of the preview: this run is wanted.
+    void signalConfigure(const orda_client::PressedRun &run);
 
 private slots:
     /// QDesktopServices hands the address over that Report and Detail open.
@@ -49,7 +62,11 @@ private:
     ClientSettings *m_settings;
     QMainWindow *m_window;
     RecordViewer *m_viewer;
+    DeviceStates *m_deviceStates; // sees each change, whether the window is open or not
     RunJobs *m_runJobs; // outlives the windows that start them
+    QPointer<DevicesWindow> m_devices;
+    QPointer<PreviewWindow> m_preview;
+    QPointer<CompareWindow> m_compare;
     QPointer<RunsWindow> m_runs;
     QPointer<ManualWindow> m_manual;
 };

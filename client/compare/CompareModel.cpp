@@ -21,20 +21,25 @@ CompareModel::CompareModel(QObject *parent)
 void CompareModel::clear()
 {
     beginResetModel();
+    forget();
+    showColumns({});
+    endReset();
+}
+
+void CompareModel::forget()
+{
     m_table.reset();
     m_texts.reset();
     m_rows.clear();
     m_rowOf.clear();
     m_valueTexts.clear();
-    showColumns({});
-    endReset();
 }
 
 void CompareModel::setDevices(const orda_batchCfg::CfgFamily &family, const QStringList &devIds,
                               const QStringList &members, const ParameterTexts &texts)
 {
-    clear();
     beginResetModel();
+    forget();
     m_table = std::make_unique<SettingsTable>(family, members, devIds.size());
     m_texts = std::make_unique<const ParameterTexts>(texts);
     for (const QString &devId : devIds) {
@@ -101,8 +106,7 @@ void CompareModel::addTexts()
     m_valueTexts.resize(m_table->columnCount());
     for (int column = 0; column < m_valueTexts.size(); ++column)
         for (int cell = m_valueTexts.at(column).size(); cell < m_table->valueCount(column); ++cell)
-            m_valueTexts[column].append(
-                m_texts->value(m_table->column(column).member, m_table->value(column, cell)));
+            m_valueTexts[column].append(m_texts->value(m_table->column(column).member, m_table->value(column, cell)));
 }
 
 QString CompareModel::valueText(int column, int cell) const

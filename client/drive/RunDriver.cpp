@@ -1,7 +1,6 @@
 #include "client/drive/RunDriver.h"
 
 #include "client/form/Families.h"
-#include "client/runs/RunsWindow.h"
 #include "client/record/PageRecord.h"
 #include "client/record/RecordFile.h"
 #include "engine/Connecting.h"
@@ -41,7 +40,8 @@ using namespace std::chrono_literals;
 
 // A page that has just been opened is laid out in a few turns of the event loop; the status bar counts every 100 ms.
 constexpr auto settlePause = 150ms;
-constexpr auto historyPause = 1s; // the window of the runs reads the history in another thread
+constexpr QSize windowPicture(1280, 680);
+constexpr auto readingPause = 1s; // some windows read devices or the history first
 constexpr auto progressInterval = 50ms;
 constexpr int devIdRole = Qt::UserRole + 1;
 
@@ -53,7 +53,7 @@ QTextStream &out()
 
 } // namespace
 
-RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject *parent)
+RunDriver::RunDriver(const DriveOptions &options, QMainWindow *window, QObject *parent)
     : QObject(parent)
     , m_options(options)
     , m_family(findFamily(options.family))
@@ -139,7 +139,12 @@ void RunDriver::tickAndConfigure()
     const int missing = m_options.deviceIds.size() - m_ticked;
     if (missing > 0)
         complain(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
-    QTimer::singleShot(0ms, this, &RunDriver::configure);
+    QTimer::singleShot(0ms, this, [this] {
+        saveWindowScreenshot("showDevices", "devicesWindow");
+        saveWindowScreenshot("showPreview", "previewWindow");
+        saveWindowScreenshot("showCompare", "compareWindow");
+        configure();
+    });
 }
 
 void RunDriver::openPage(const Family &family)
@@ -194,7 +199,7 @@ void RunDriver::configure()
         out() << "longest pause: " << qRound(m_pauses.longestPause()) << " ms" << Qt::endl;
         printRecord();
         answerSummary();
-        saveRunsScreenshot();
+        saveWindowScreenshot("showRuns", "runsWindow");
         const bool hasRecord = PageRecord::of(m_window, *m_family).error.isEmpty();
         end(!hasRecord ? int(ExitNoRecord) : m_isAllDone ? int(ExitOk) : int(ExitSomeFailed));
     }
@@ -238,17 +243,19 @@ void RunDriver::answerSummary()
     }
 }
 
-void RunDriver::saveRunsScreenshot() const
+void RunDriver::saveWindowScreenshot(const char *action, const char *windowName) const
 {
     if (m_options.screenshotsDir.isEmpty())
         return;
-    m_window->findChild<QAction *>(QStringLiteral("showRuns"))->trigger();
+    m_window->findChild<QAction *>(QLatin1String(action))->trigger();
     QEventLoop reading;
-    QTimer::singleShot(historyPause, &reading, &QEventLoop::quit);
+    QTimer::singleShot(readingPause, &reading, &QEventLoop::quit);
     reading.exec();
-    auto *runs = m_window->findChild<RunsWindow *>();
-    saveScreenshot(runs, QStringLiteral("runs"));
-    runs->close();
+    auto *window = m_window->findChild<QWidget *>(QLatin1String(windowName));
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        window->resize(windowPicture); // the small screen does not matter
+    saveScreenshot(window, QLatin1String(windowName));
+    window->close();
 }
 
 void RunDriver::printRecord() const

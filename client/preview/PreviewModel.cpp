@@ -16,12 +16,20 @@ enum Column
     ChangesColumn = DeviceColumn + DeviceCells::Count
 };
 
+constexpr int sortedBy = 60; // characters of the changes
+
 } // namespace
+
+PreviewModel::PreviewModel(QObject *parent)
+    : TableModel(parent)
+    , m_titles(QStringList(tr("Outcome")) + DeviceCells::titles() + QStringList(tr("What would change")))
+{
+}
 
 void PreviewModel::setSelection(const orda_engine::Selection &selection, const ParameterTexts &texts)
 {
-    clear();
     beginResetModel();
+    forget();
     m_selection = selection.withoutDuplicates();
     m_texts = std::make_unique<const ParameterTexts>(texts);
     for (const QString &devId : qAsConst(m_selection.devIds)) {
@@ -35,11 +43,16 @@ void PreviewModel::setSelection(const orda_engine::Selection &selection, const P
 void PreviewModel::clear()
 {
     beginResetModel();
+    forget();
+    endReset();
+}
+
+void PreviewModel::forget()
+{
     m_selection = {};
     m_rows.clear();
     m_rowOf.clear();
     m_counts = {};
-    endReset();
 }
 
 void PreviewModel::take(const DeviceReading &reading)
@@ -119,11 +132,6 @@ int PreviewModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_rows.size();
 }
 
-QStringList PreviewModel::titles() const
-{
-    return QStringList(tr("Outcome")) + DeviceCells::titles() + QStringList(tr("What would change"));
-}
-
 QString PreviewModel::outcomeText(Group group)
 {
     switch (group) {
@@ -160,6 +168,8 @@ TableModel::SortKey PreviewModel::sortKey(int row, int column) const
         return {shown.group};
     if (column == DeviceColumn + DeviceCells::Address)
         return addressKey(shown.device.ip);
+    if (column == ChangesColumn)
+        return {0, shown.changes.left(sortedBy)}; // they may be long, and comparing them takes its time
     return TableModel::sortKey(row, column);
 }
 

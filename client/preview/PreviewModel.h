@@ -32,7 +32,7 @@ public:
         GroupCount
     };
 
-    using TableModel::TableModel;
+    explicit PreviewModel(QObject *parent = nullptr);
 
     /// Begins anew: none of these devices was read.
     void setSelection(const orda_engine::Selection &selection, const ParameterTexts &texts);
@@ -49,7 +49,7 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
 
 protected:
-    QStringList titles() const override;
+    QStringList titles() const override { return m_titles; }
     QString text(int row, int column) const override;
     SortKey sortKey(int row, int column) const override;
     bool isEmphasized(int row, int column) const override;
@@ -63,11 +63,13 @@ private:
         QString changes = {}; ///< or why there are none
     };
 
+    void forget();
     void takePlan(Row *row, const orda_engine::DeviceReading &reading) const;
     QStringList changeTexts(const orda_engine::DevicePlan &plan) const;
     void count(const Row &row, int difference);
     static QString outcomeText(Group group);
 
+    const QStringList m_titles; // asked for with each cell
     orda_engine::Selection m_selection;
     std::unique_ptr<const ParameterTexts> m_texts;
     QVector<Row> m_rows;

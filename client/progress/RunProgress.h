@@ -40,6 +40,12 @@ public:
     /// @param settings haltShare(), as it is when a run begins; outlives this
     RunProgress(orda_journal::JournalTransport *journal, const ClientSettings *settings, QWidget *parent = nullptr);
 
+    /// Whether a run is under way now.
+    bool isGoingOn() const { return m_refreshTimer.isActive(); }
+    /// Of the run that is under way, or was last: devices, and those without an outcome.
+    int devices() const { return m_tally.devices(); }
+    int left() const { return m_tally.left(); }
+
 signals:
     /// The operator wants to see a run that has ended.
     void signalShowRun(const QString &runId);

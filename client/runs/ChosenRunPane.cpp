@@ -27,19 +27,18 @@ ChosenRunPane::ChosenRunPane(QWidget *parent)
     , m_model(new RunDeviceModel(this))
     , m_summary(new QLabel)
     , m_groups(new GroupList(tr("Failures by message")))
-    , m_devices(new SearchedTable(m_model, {14, 19, 16, 15, 28}, QStringLiteral("runDevices"),
-                                  tr("Devices of the run"),
+    , m_devices(new SearchedTable(m_model, {14, 19, 16, 15, 28}, QStringLiteral("runDevices"), tr("Devices of the run"),
                                   tr("Searches names, serial numbers, addresses, messages and values")))
 {
     m_summary->setObjectName(QStringLiteral("runSummary"));
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);
-    QVector<SearchedTable::Choice> choices{
-        {tr("All devices"), nullptr}, {tr("Not done"), [this](int row) { return m_model->isFailed(row); }}};
-    for (const Outcome outcome : {Outcome::Done, Outcome::Unchanged, Outcome::Failed, Outcome::Unknown, Outcome::Stopped,
-                                  Outcome::PartlyWritten, Outcome::NotReached, Outcome::Differs})
-        choices.append({RunTexts::outcome(outcome),
-                        [this, outcome](int row) { return m_model->device(row).outcome == outcome; }});
+    QVector<SearchedTable::Choice> choices{{tr("All devices"), nullptr},
+                                           {tr("Not done"), [this](int row) { return m_model->isFailed(row); }}};
+    for (const Outcome outcome : {Outcome::Done, Outcome::Unchanged, Outcome::Failed, Outcome::Unknown,
+                                  Outcome::Stopped, Outcome::PartlyWritten, Outcome::NotReached, Outcome::Differs})
+        choices.append(
+            {RunTexts::outcome(outcome), [this, outcome](int row) { return m_model->device(row).outcome == outcome; }});
     m_devices->setChoices(tr("S&how:"), choices);
     m_devices->setEmptyText(tr("Choose a run above."));
 
@@ -91,7 +90,7 @@ QString ChosenRunPane::summary() const
     if (!run())
         return {};
     const RunLine &line = run()->line;
-    QStringList parts{RunTexts::time(line.run.began), line.family, RunTexts::kind(line.run)};
+    QStringList parts{RunTexts::time(line.run.began), line.family, line.kind};
     if (!line.values.isEmpty())
         parts.append(line.values);
     parts.append(RunTexts::counts(line.run));
@@ -104,7 +103,8 @@ void ChosenRunPane::showGroup()
     if (group.isEmpty())
         m_devices->setAccepts(nullptr);
     else
-        m_devices->setAccepts([this, group](int row) { return m_model->isFailed(row) && m_model->groupOf(row) == group; });
+        m_devices->setAccepts(
+            [this, group](int row) { return m_model->isFailed(row) && m_model->groupOf(row) == group; });
 }
 
 QStringList ChosenRunPane::devicesIn(const QVector<int> &rows) const

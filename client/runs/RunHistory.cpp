@@ -14,9 +14,19 @@ using orda_journal::RunRow;
 
 namespace {
 
-RunLine lineOf(const RunRow &run, const RunTexts &texts)
+/// @param began by run id, for the run that an undo takes back
+RunLine lineOf(const RunRow &run, const RunTexts &texts, const QHash<QString, qint64> &began)
 {
-    return {run, texts.family(run.family), texts.values(run).join(QStringLiteral("; "))};
+    return {run, texts.family(run.family), RunTexts::kind(run, began.value(run.undoes)),
+            texts.values(run).join(QStringLiteral("; "))};
+}
+
+QHash<QString, qint64> beginningsOf(const QVector<RunRow> &runs)
+{
+    QHash<QString, qint64> began;
+    for (const RunRow &run : runs)
+        began.insert(run.id, run.began);
+    return began;
 }
 
 } // namespace
@@ -27,8 +37,9 @@ RunLines readRunLines(const HistoryOptions &options, const RunTexts &texts)
     const QVector<RunRow> runs = reader.runs();
     RunLines read;
     read.error = reader.error();
+    const QHash<QString, qint64> began = beginningsOf(runs);
     for (const RunRow &run : runs)
-        read.lines.append(lineOf(run, texts));
+        read.lines.append(lineOf(run, texts, began));
     return read;
 }
 
@@ -39,12 +50,14 @@ ChosenRunPtr readChosenRun(const HistoryOptions &options, const RunTexts &texts,
     *error = reader.error();
     if (!details)
         return nullptr;
+    const bool isUndo = !details->run.undoes.isEmpty();
+    const QHash<QString, qint64> began = isUndo ? beginningsOf(reader.runs()) : QHash<QString, qint64>();
     QVector<RunDevice> devices;
     const auto changes = orda_engine::changesOf(*details);
     for (const orda_journal::DeviceRow &row : details->devices)
         devices.append({row, texts.changes(details->run.family, changes.value(row.devId))});
     return std::make_shared<const ChosenRun>(
-        ChosenRun{lineOf(details->run, texts), devices, orda_engine::RecordedRun(*details)});
+        ChosenRun{lineOf(details->run, texts, began), devices, orda_engine::RecordedRun(*details)});
 }
 
 RunHistory::RunHistory(const HistoryOptions &options, QWidget *form, QObject *parent)

@@ -19,6 +19,7 @@ struct RunLine
 {
     orda_journal::RunRow run;
     QString family; ///< title
+    QString kind; ///< "Configured" or "Undo of …"
     QString values; ///< "Volume: 5; …", each parameter once
 };
 

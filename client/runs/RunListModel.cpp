@@ -37,8 +37,7 @@ int RunListModel::rowCount(const QModelIndex &parent) const
 
 QStringList RunListModel::titles() const
 {
-    return {tr("Began"),    tr("Parameters"), tr("Kind"),  tr("Devices"),
-            tr("Duration"), tr("Program"),    tr("Values")};
+    return {tr("Began"), tr("Parameters"), tr("Kind"), tr("Devices"), tr("Values"), tr("Duration"), tr("Program")};
 }
 
 QString RunListModel::text(int row, int column) const
@@ -50,15 +49,15 @@ QString RunListModel::text(int row, int column) const
     case FamilyTitle:
         return line.family;
     case Kind:
-        return RunTexts::kind(line.run);
+        return line.kind;
     case Counts:
         return RunTexts::counts(line.run);
     case Duration:
         return RunTexts::duration(line.run);
-    case Program:
-        return line.run.program;
-    default:
+    case Values:
         return line.values;
+    default:
+        return line.run.program;
     }
 }
 

@@ -52,9 +52,11 @@ QString RunTexts::changes(const QString &family, const QVector<orda_batchCfg::Me
     return parts.join(QStringLiteral("; "));
 }
 
-QString RunTexts::kind(const RunRow &run)
+QString RunTexts::kind(const RunRow &run, qint64 undone)
 {
-    return run.undoes.isEmpty() ? tr("Configured") : tr("Taken back");
+    if (run.undoes.isEmpty())
+        return tr("Configured");
+    return undone == 0 ? tr("Undo") : tr("Undo of %1", "time").arg(time(undone));
 }
 
 QString RunTexts::outcome(Outcome outcome)

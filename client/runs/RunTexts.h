@@ -29,8 +29,8 @@ public:
     /// Null for a family that the form does not have.
     const ParameterTexts *parameters(const QString &family) const;
 
-    /// "Configured" or "Taken back".
-    static QString kind(const orda_journal::RunRow &run);
+    /// "Configured", or "Undo of" the run that began then. @param undone 0: not known
+    static QString kind(const orda_journal::RunRow &run, qint64 undone);
     static QString outcome(orda_journal::Outcome outcome);
     /// Of a device without one the text for it.
     static QString outcome(const orda_journal::DeviceRow &device, bool isUnderWay);

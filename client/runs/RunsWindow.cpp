@@ -1,6 +1,7 @@
 #include "client/runs/RunsWindow.h"
 
 #include "client/form/Families.h"
+#include "client/form/FormTicks.h"
 #include "client/record/RecordWindow.h"
 #include "client/runs/ChosenRunPane.h"
 #include "client/runs/RunCheckWindow.h"
@@ -69,7 +70,7 @@ bool isSame(const RunListModel &model, const QVector<RunLine> &lines)
 } // namespace
 
 RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, ClientSettings *settings, QWidget *parent)
-    : ToolWindow(QStringLiteral("runs"), windowSize, settings, parent)
+    : ToolWindow(QStringLiteral("runsWindow"), windowSize, settings, parent)
     , m_session(session)
     , m_jobs(jobs)
     , m_form(form)
@@ -79,6 +80,7 @@ RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, Cli
           historyDelay, [this] { m_history->readRuns(); }, this))
     , m_progress(new orda_base::DelayedCall(
           progressDelay, [this] { updateView(); }, this))
+    , m_isRunGoingOn(FormTicks::runOverlay(form) || jobs->isWriting())
 {
     setWindowTitle(tr("Runs"));
     m_pane = new ChosenRunPane;
@@ -105,19 +107,19 @@ RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, Cli
 
 QWidget *RunsWindow::buildRuns()
 {
-    m_runs = new SearchedTable(m_model, {20, 18, 12, 32, 10, 18}, QStringLiteral("runs"), tr("Runs, latest first"),
+    m_runs = new SearchedTable(m_model, {20, 17, 26, 26, 34, 9}, QStringLiteral("runs"), tr("Runs, latest first"),
                                tr("Searches times, parameters, outcomes, programs and values"));
-    m_runs->setChoices(
-        tr("&Runs:"),
-        {{tr("All runs"), nullptr},
-         {tr("With devices that are not done"),
-          [this](int row) {
-              const auto &counts = m_model->line(row).run.counts;
-              return std::any_of(counts.keyBegin(), counts.keyEnd(),
-                                 [](orda_journal::Outcome outcome) { return RunTexts::isFailure(outcome); });
-          }},
-         {tr("Configured"), [this](int row) { return m_model->line(row).run.undoes.isEmpty(); }},
-         {tr("Taken back"), [this](int row) { return !m_model->line(row).run.undoes.isEmpty(); }}});
+    m_runs->setChoices(tr("&Runs:"),
+                       {{tr("All runs"), nullptr},
+                        {tr("With devices that are not done"),
+                         [this](int row) {
+                             const auto &counts = m_model->line(row).run.counts;
+                             return std::any_of(counts.keyBegin(), counts.keyEnd(), [](orda_journal::Outcome outcome) {
+                                 return RunTexts::isFailure(outcome);
+                             });
+                         }},
+                        {tr("Configured"), [this](int row) { return m_model->line(row).run.undoes.isEmpty(); }},
+                        {tr("Undo"), [this](int row) { return !m_model->line(row).run.undoes.isEmpty(); }}});
     m_runs->view()->sortByColumn(RunListModel::Began, Qt::DescendingOrder);
     m_runs->setEmptyText(tr("The history is being read."));
     m_compare = button(tr("Com&pare two runs"), "compareRuns");
@@ -174,6 +176,7 @@ void RunsWindow::followRuns()
     if (!journal)
         return;
     connect(journal, &JournalTransport::signalRunBegan, this, [this](const orda_journal::RunStart &run) {
+        m_isRunGoingOn = true;
         m_settled = 0;
         m_total = run.devIds.size();
         m_readSoon->request();
@@ -183,7 +186,10 @@ void RunsWindow::followRuns()
         ++m_settled;
         m_progress->request();
     });
-    connect(journal, &JournalTransport::signalRunEnded, this, &RunsWindow::updateView);
+    connect(journal, &JournalTransport::signalRunEnded, this, [this] {
+        m_isRunGoingOn = false;
+        updateView();
+    });
     connect(journal, &JournalTransport::signalRunRecorded, m_history, &RunHistory::readRuns);
 }
 
@@ -296,8 +302,9 @@ QVector<int> RunsWindow::comparableRuns() const
 
 QString RunsWindow::lineText() const
 {
-    const JournalTransport *journal = m_session->journal();
-    if (journal && journal->isBusy() && m_settled < m_total)
+    if (m_isRunGoingOn && m_total == 0)
+        return tr("A run is going on.");
+    if (m_isRunGoingOn)
         return tr("A run is going on: %1 of %Ln device(s) have their outcome.", nullptr, m_total)
             .arg(QLocale().toString(m_settled));
     return m_pane->run() ? m_pane->run()->recorded.error() : QString();
@@ -307,8 +314,7 @@ void RunsWindow::updateView()
 {
     if (!m_export)
         return; // still being built
-    const JournalTransport *journal = m_session->journal();
-    const bool isFree = journal && !journal->isBusy();
+    const bool isFree = m_session->journal() && !m_isRunGoingOn;
     const int again = m_pane->meantDevices().size();
     const bool isWritten = isFree && !writtenDevices().isEmpty();
     m_line->setText(lineText());
@@ -331,8 +337,8 @@ void RunsWindow::askToTryAgain()
     if (!run->line.values.isEmpty())
         lines.append(run->line.values);
     if (!targets.selection.ownValues.isEmpty())
-        lines.append(tr("%Ln device(s) get values of their own, as in this run.", nullptr,
-                        targets.selection.ownValues.size()));
+        lines.append(
+            tr("%Ln device(s) get values of their own, as in this run.", nullptr, targets.selection.ownValues.size()));
     if (const int notReached = targets.countNotReached(); notReached > 0)
         lines.append(tr("%Ln of them cannot be written to now and will end as not reached.", nullptr, notReached));
     if (!targets.leftOut.isEmpty())
@@ -342,14 +348,14 @@ void RunsWindow::askToTryAgain()
             tr("Try again"), targets.refusal.isEmpty() ? lines.join(QLatin1Char('\n')) : targets.refusal);
         return;
     }
-    askBeforeRun(this, tr("Try again"),
-                 tr("%1: configure %Ln device(s) again with the values of this run?", "parameters", count)
-                     .arg(run->line.family),
-                 lines, tr("Configure"), [this, run, devIds] {
-                     const QString runId = m_jobs->tryAgain(*run, devIds);
-                     if (!runId.isEmpty())
-                         m_wanted = runId;
-                 });
+    askBeforeRun(
+        this, tr("Try again"),
+        tr("%1: configure %Ln device(s) again with the values of this run?", "parameters", count).arg(run->line.family),
+        lines, tr("Configure"), [this, run, devIds] {
+            const QString runId = m_jobs->tryAgain(*run, devIds);
+            if (!runId.isEmpty())
+                m_wanted = runId;
+        });
 }
 
 void RunsWindow::check(RunCheck::Kind kind)

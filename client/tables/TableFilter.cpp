@@ -47,12 +47,7 @@ bool TableFilter::filterAcceptsRow(int row, const QModelIndex &) const
 {
     if (m_accepts && !m_accepts(row))
         return false;
-    if (m_keyword.isEmpty())
-        return true;
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        if (m_model->index(row, column).data(Qt::EditRole).toString().contains(m_keyword, Qt::CaseInsensitive))
-            return true;
-    return false;
+    return m_keyword.isEmpty() || m_model->contains(row, m_keyword);
 }
 
 bool TableFilter::lessThan(const QModelIndex &left, const QModelIndex &right) const

@@ -72,6 +72,15 @@ int TableModel::rank(int row, int column) const
     return ranks.at(row);
 }
 
+bool TableModel::contains(int row, const QString &keyword) const
+{
+    const int columns = titles().size();
+    for (int column = 0; column < columns; ++column)
+        if (text(row, column).contains(keyword, Qt::CaseInsensitive))
+            return true;
+    return false;
+}
+
 void TableModel::rowsChanged(int first, int last)
 {
     m_ranks.clear();

@@ -22,6 +22,9 @@ public:
     /// rows when it is asked for first, and again after rowsChanged() and a reset.
     int rank(int row, int column) const;
 
+    /// Whether one of the row's texts has this one in it, in capitals or not.
+    bool contains(int row, const QString &keyword) const;
+
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
