@@ -123,7 +123,7 @@ struct Site
         const QHash<QString, std::function<bool()>> steps{
             {"choose", [&] { return list->selectRow(cells(list->model(), 0).indexOf(rest)), true; }},
             {"search", [&] { return child<QWidget>("deviceSearch")->findChild<QLineEdit *>()->setText(rest), true; }},
-            {"sort", [&] { return view->sortByColumn(rest[0].digitValue(), Qt::SortOrder(rest.size() > 4)), true; }},
+            {"sort", [&] { return view->sortByColumn(rest[0].digitValue(), Qt::SortOrder(rest[2] == 'd')), true; }},
             {"select",
              [&] {
                  return view->selectionModel()->select(table()->index(cells(table(), 0).indexOf(rest), 0), rows), true;

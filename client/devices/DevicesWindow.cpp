@@ -201,6 +201,7 @@ void DevicesWindow::follow()
 
     connect(m_outcomes, &LastOutcomes::signalRead, this, [this] {
         m_model->updateOutcomes();
+        m_outdated = m_filter->outdated();
         updateTexts();
         if (!m_outcomes->error().isEmpty())
             m_note->tell(m_outcomes->error());
@@ -218,8 +219,10 @@ void DevicesWindow::takeChanges(bool isListChanged)
         m_model->loadDevices();
         m_filter->refresh();
         select(selected);
+        m_outdated = 0;
     } else {
         m_model->updateStates();
+        m_outdated = m_filter->outdated();
     }
     updateGroups();
     updateTexts();
@@ -236,13 +239,13 @@ void DevicesWindow::refresh()
     m_filter->setKeyword(m_search->text());
     m_filter->setAccepts([this, group = m_stateList->group()](int row) { return m_model->isInGroup(row, group); });
     m_filter->refresh();
+    m_outdated = 0;
     select(selected);
     updateTexts();
 }
 
 void DevicesWindow::updateTexts()
 {
-    m_outdated = m_filter->outdated();
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_empty->setText(emptyText());
     m_export->setEnabled(m_filter->rowCount() > 0);
