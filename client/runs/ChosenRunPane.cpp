@@ -122,10 +122,10 @@ QStringList ChosenRunPane::selectedDevices() const
 
 QStringList ChosenRunPane::meantDevices() const
 {
-    const QStringList selected = selectedDevices();
-    if (!selected.isEmpty() || m_groups->group().isEmpty())
-        return selected;
-    return devicesIn(m_devices->filter()->shownRows());
+    const QVector<int> selected = m_devices->selectedRows();
+    if (!selected.isEmpty())
+        return devicesIn(selected);
+    return m_groups->group().isEmpty() ? QStringList() : devicesIn(m_devices->filter()->shownRows());
 }
 
 bool ChosenRunPane::isEmpty() const
