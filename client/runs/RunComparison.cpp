@@ -7,8 +7,6 @@
 #include <QMap>
 #include <QSet>
 
-#include <algorithm>
-
 namespace orda_client {
 
 using orda_journal::DeviceRow;
