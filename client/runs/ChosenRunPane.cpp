@@ -90,10 +90,9 @@ QString ChosenRunPane::summary() const
     if (!run())
         return {};
     const RunLine &line = run()->line;
-    QStringList parts{RunTexts::time(line.run.began), line.family, line.kind};
+    QStringList parts{RunTexts::time(line.run.began), line.family, line.kind, RunTexts::counts(line.run)};
     if (!line.values.isEmpty())
-        parts.append(line.values);
-    parts.append(RunTexts::counts(line.run));
+        parts.append(line.values); // last, because there may be many
     return vms_sdk::displayText(parts.join(QStringLiteral("   ")));
 }
 
