@@ -69,10 +69,10 @@ struct Site
         QObject::connect(watch, &PageWatch::signalDeclined, &window, [this] { ++alerts; });
         for (const Family &family : families())
             watch->watch(form->findChild<QWidget *>(family.pageName));
-        guard = new PressGuard(form, &settings, &window);
         auto *layout = new QVBoxLayout(&window);
         layout->addWidget(form);
-        layout->addWidget(new PressLine(form));
+        guard = new PressGuard(&window, &settings, &window);
+        layout->addWidget(new PressLine(&window));
         layout->addWidget(new RunProgress(journal, &settings));
         window.show();
         QApplication::setActiveWindow(&window);

@@ -119,7 +119,7 @@ void PressLine::followForm()
     connect(rows, &QAbstractItemModel::dataChanged, m_refreshSoon, &DelayedCall::request);
     // A row that is hidden or shown again gets another height.
     connect(list->verticalHeader(), &QHeaderView::sectionResized, m_refreshSoon, &DelayedCall::request);
-    connect(m_form, &QObject::destroyed, m_refreshSoon, &DelayedCall::request);
+    connect(list, &QObject::destroyed, m_refreshSoon, &DelayedCall::request);
 }
 
 bool PressLine::eventFilter(QObject *watched, QEvent *event)
@@ -132,8 +132,9 @@ bool PressLine::eventFilter(QObject *watched, QEvent *event)
 
 void PressLine::refresh()
 {
-    const FormPage page = m_form ? FormPage::shown(m_form) : FormPage();
-    const FormTicks ticks = m_form ? FormTicks::of(m_form) : FormTicks();
+    const bool isFormThere = m_form && FormTicks::listOf(m_form);
+    const FormPage page = isFormThere ? FormPage::shown(m_form) : FormPage();
+    const FormTicks ticks = isFormThere ? FormTicks::of(m_form) : FormTicks();
     const QStringList complaints = ValueChecks::of(page);
     m_text->setWholeText(PressTexts::press(page, ticks));
     m_complaint->setWholeText(complaints.isEmpty() ? QString()

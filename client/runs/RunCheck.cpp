@@ -17,6 +17,8 @@ QString CheckedDevice::stateText(State state)
     switch (state) {
     case Differs:
         return RunCheck::tr("Differs");
+    case IsWrittenOver:
+        return RunCheck::tr("Is written over");
     case GoesBack:
         return RunCheck::tr("Goes back");
     case GoesBackInPart:
@@ -100,10 +102,11 @@ void RunCheck::takeBack(CheckedDevice *device, const ObjectsByExchange &held) co
     }
     device->isChangedSince = !over.isEmpty() || !kept.isEmpty();
     const bool isLeft = !kept.isEmpty() || !stuck.isEmpty();
-    const bool isWritten = !back.isEmpty() || !over.isEmpty();
-    device->state = isWritten ? (isLeft ? CheckedDevice::GoesBackInPart : CheckedDevice::GoesBack)
-                  : isLeft    ? CheckedDevice::Stays
-                              : CheckedDevice::AlreadyBack;
+    const bool isWritten = !back.isEmpty();
+    device->state = !over.isEmpty() ? CheckedDevice::IsWrittenOver
+                  : !isWritten      ? (isLeft ? CheckedDevice::Stays : CheckedDevice::AlreadyBack)
+                  : isLeft          ? CheckedDevice::GoesBackInPart
+                                    : CheckedDevice::GoesBack;
     const QString name = run->line.run.family;
     device->changes = texts.changes(name, back + over);
     QStringList notes;

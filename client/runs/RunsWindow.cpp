@@ -107,7 +107,7 @@ RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, Cli
 
 QWidget *RunsWindow::buildRuns()
 {
-    m_runs = new SearchedTable(m_model, {20, 18, 27, 28, 10, 18}, QStringLiteral("runs"), tr("Runs, latest first"),
+    m_runs = new SearchedTable(m_model, {20, 17, 26, 26, 34, 9}, QStringLiteral("runs"), tr("Runs, latest first"),
                                tr("Searches times, parameters, outcomes, programs and values"));
     m_runs->setChoices(tr("&Runs:"),
                        {{tr("All runs"), nullptr},
