@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""One run of the client as a blind operator's tools see it: by names, states and actions of its AT-SPI tree alone.
+"""First steps and one run of the client as a blind operator's tools see them: by names, states and actions of its AT-SPI tree alone.
 
 atspi_journey.py ORDA_CLIENT; starts itself again on a display and a session bus of its own. Exit code 77: a tool is
 missing.
@@ -11,6 +11,7 @@ from support.journey import (Atspi, act, answer, choose_menu_entry, client_windo
                              start_on_own_display_and_bus, travel, wait_for)
 
 DEVICES = 12
+NO_INVENTORY = "/no/such/inventory.json"
 
 
 def configure_audio(client):
@@ -60,11 +61,19 @@ def configure_audio(client):
     find(page, "push button", "Report")
 
 
+def first_steps(client):
+    """The inventory of the command line is not there: the client says so, and offers other ways."""
+    answer(client, "Notice", f"{NO_INVENTORY}: cannot be read: No such file or directory", "OK")
+    find(client, "spin button", "Number of devices").get_value_iface().set_current_value(DEVICES)
+    act(find(client, "push button", "Start the demo"), "Press")
+
+
 def journey(client):
+    first_steps(client)
     configure_audio(client)
     choose_menu_entry(client, "Quit")
 
 
 if __name__ == "__main__":
     start_on_own_display_and_bus()
-    sys.exit(travel([sys.argv[1], "--demo", str(DEVICES), "--language", "en"], journey))
+    sys.exit(travel([sys.argv[1], "--inventory", NO_INVENTORY, "--language", "en"], journey))

@@ -1,6 +1,5 @@
-#include "support/FleetOf.h"
 #include "support/OrdaTest.h"
-#include "support/Store.h"
+#include "support/RunsSite.h"
 
 #include "client/app/ClientWindow.h"
 #include "client/form/Families.h"
@@ -8,148 +7,19 @@
 #include "client/runs/RunCheckWindow.h"
 #include "client/runs/RunComparison.h"
 #include "client/runs/RunComparisonWindow.h"
-#include "client/runs/RunJobs.h"
 #include "client/runs/RunTargets.h"
-#include "client/runs/RunsWindow.h"
-#include "client/session/ClientSession.h"
-#include "client/settings/ClientSettings.h"
-#include "engine/ApplyJob.h"
-#include "engine/Reach.h"
-#include "fleet/EmbeddedFleet.h"
-#include "journal/HistoryReader.h"
-#include "journal/JournalTransport.h"
 
-#include <QtWidgets>
-#include <families/Families.h>
-#include <orda_base/BaseForm.h>
-#include <shell/BatchCfgInit.h>
+#include <orda_worker/AssistantSignals.h>
 
 using namespace orda_client;
 using namespace orda_journal;
-using device_fleet::EmbeddedFleet;
 using device_fleet::Fault;
 using orda_batchCfg::Families;
 
 namespace {
 
-template <typename Widget = QAbstractButton>
-Widget *child(const QWidget *window, const char *name)
-{
-    return window->findChild<Widget *>(name);
-}
-
-QStringList column(const QWidget *window, const char *table, int number)
-{
-    const auto *model = child<QTableView>(window, table)->model();
-    QStringList texts;
-    for (int row = 0; row < model->rowCount(); ++row)
-        texts.append(model->index(row, number).data().toString());
-    return texts;
-}
-
-QStringList times(int count, const char *text)
-{
-    QStringList texts;
-    while (texts.size() < count)
-        texts.append(text);
-    return texts;
-}
-
-QJsonObject parsed(QString text)
-{
-    return QJsonDocument::fromJson(text.replace('\'', '"').toUtf8()).object();
-}
-
-/// The client's session over a fleet, of which six devices are used, and the window of the runs.
-struct Site : QObject
-{
-    Site()
-    {
-        fleet.start();
-        orda_data::DevsMgrData::instance().updateDevs(fleet.inventory());
-        for (const int number : {0, 1, 2, 4, 5, 6})
-            devIds.append(fleet.inventory().at(number).id);
-        const auto isOnline = [](const QString &devId) { return orda_engine::reachOf(devId).canBeWritten; };
-        if (!QTest::qWaitFor([&] { return std::all_of(devIds.begin(), devIds.end(), isOnline); }))
-            qFatal("the devices did not come online");
-        connect(&fleet, &EmbeddedFleet::requestReceived, this, [this](const QString &devId, const QString &method) {
-            if (method.contains("_set_"))
-                written.insert(devId);
-        });
-    }
-    ~Site() override
-    {
-        delete window;
-        clearStore();
-    }
-
-    HistoryOptions options() const
-    {
-        HistoryOptions options;
-        options.path = place.filePath("history.db");
-        return options;
-    }
-    /// A run of the engine, recorded. @return its id
-    QString run(const QString &values, const QStringList &on)
-    {
-        QSignalSpy recorded(session.journal(), &JournalTransport::signalRunRecorded);
-        orda_engine::ApplyJob job(session.journal(), {Families::find("audio"), on, parsed(values)});
-        job.start();
-        return recorded.wait() ? job.runId() : QString();
-    }
-    RunDetails recorded(const QString &runId) const { return HistoryReader(options()).run(runId).value(); }
-    QVector<RunRow> runs() const { return HistoryReader(options()).runs(); }
-    /// What a device holds of the audio parameters "in".
-    int gain(const QString &devId) const
-    {
-        const QJsonObject device = fleet.dump().value("devices").toObject().value(devId).toObject();
-        for (const QJsonValue &object : device)
-            if (object.toObject().contains("aiGain"))
-                return object.toObject().value("aiGain").toInt(-1);
-        return -1;
-    }
-
-    /// Opens the window, turned to a run.
-    bool open(const QString &runId)
-    {
-        window = new RunsWindow(&session, &jobs, form.get(), &settings, nullptr);
-        window->show();
-        window->showRun(runId);
-        const int devices = recorded(runId).devices.size();
-        return QTest::qWaitFor([&] { return column(window, "runDevices", 0).size() == devices; });
-    }
-    /// Opens what reads the run's devices; back when it has shown them.
-    QWidget *check(const char *button, const char *name, int devices) const
-    {
-        child(window, button)->click();
-        QWidget *opened = child<QWidget>(window, name);
-        const bool isShown = opened && QTest::qWaitFor([&] { return column(opened, "checked", 0).size() == devices; });
-        return isShown ? opened : nullptr;
-    }
-    void answer(const QWidget *asker, const char *with = "write")
-    {
-        auto *box = child<QMessageBox>(asker, "runQuestion");
-        question = box ? box->text() : QString("(none)");
-        if (box && QByteArray(with) == "write")
-            child(box, "write")->click();
-        else if (box)
-            box->reject();
-    }
-
-    QTemporaryDir place;
-    EmbeddedFleet fleet{fleetOf(30)};
-    ClientSession session{options()};
-    ClientSettings settings{QString()};
-    std::unique_ptr<QWidget> form{orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm()};
-    RunJobs jobs{&session};
-    QPointer<RunsWindow> window;
-    QStringList devIds;
-    QSet<QString> written; // ids of the devices that got a write
-    QString question;
-};
-
 /// The whole client over that fleet, with all devices ticked on the page for audio.
-struct Pressed : Site
+struct Pressed : RunsSite
 {
     Pressed()
     {
@@ -177,14 +47,14 @@ class RunsTest : public OrdaTest
 private slots:
     void failuresAreTriedAgain()
     {
-        Site site;
+        RunsSite site;
         for (const int place : {1, 2})
             site.fleet.setFault(site.devIds.at(place), "ai_get_param", {Fault::ErrorCode, -1});
         site.fleet.setFault(site.devIds.at(5), "*", {Fault::Garbage});
         const QString first = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(first));
         QCOMPARE(column(site.window, "runs", 3), QStringList("Done: 3, Failed: 3"));
-        QVERIFY(column(site.window, "runs", 6).constFirst().endsWith(": 33"));
+        QVERIFY(column(site.window, "runs", 4).constFirst().endsWith(": 33"));
         QVERIFY(column(site.window, "runDevices", 5).filter(QRegularExpression(": \\d+ → 33$")).size() == 3);
         const auto *again = child(site.window, "tryAgain");
         QVERIFY(!again->isEnabled()); // nobody has said which
@@ -210,7 +80,7 @@ private slots:
 
     void runIsVerifiedAndTakenBack()
     {
-        Site site;
+        RunsSite site;
         site.run("{'aiGain': 20}", site.devIds);
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         const QString changed = site.devIds.at(1);
@@ -224,8 +94,8 @@ private slots:
         site.written.clear();
         QWidget *undo = site.check("undo", "runUndo", 6);
         QVERIFY(undo);
-        QCOMPARE(column(undo, "checked", 0), times(5, "Goes back") + QStringList("Stays as it is"));
-        QVERIFY(column(undo, "checked", 4).constFirst().endsWith(": 33 → 20"));
+        QCOMPARE(column(undo, "checked", 0), QStringList("Stays as it is") + times(5, "Goes back"));
+        QVERIFY(column(undo, "checked", 4).constLast().endsWith(": 33 → 20"));
         QVERIFY(!child<QCheckBox>(undo, "force")->isChecked());
         QVERIFY(site.written.isEmpty()); // a preview
         child(undo, "takeBack")->click();
@@ -250,7 +120,7 @@ private slots:
         QVERIFY(undo);
         QCOMPARE(column(undo, "checked", 0), QStringList("Stays as it is") + times(5, "Already back"));
         child(undo, "force")->click();
-        QTRY_COMPARE(column(undo, "checked", 0).constFirst(), "Goes back");
+        QTRY_COMPARE(column(undo, "checked", 0).constFirst(), "Is written over");
         QVERIFY(column(undo, "checked", 5).constFirst().startsWith("changed since and written over"));
         child(undo, "takeBack")->click();
         site.answer(undo);
@@ -261,7 +131,7 @@ private slots:
     /// The device has another serial number than in the run: whatever stands in its place now is not touched.
     void anotherDeviceIsLeftOutAndNamed()
     {
-        Site site;
+        RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds.mid(0, 2));
         vms_sdk::DevInfo other = orda_data::DevsMgrData::instance().getDevInfoById(site.devIds.at(0));
         QVERIFY(site.open(run));
@@ -286,7 +156,7 @@ private slots:
 
     void jobOutlivesTheWindow()
     {
-        Site site;
+        RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));
         for (const QString &devId : qAsConst(site.devIds))
@@ -302,9 +172,46 @@ private slots:
         QCOMPARE(site.runs().constFirst().counts.value(Outcome::Unchanged), 6);
     }
 
+    void whatTheEngineRefusesIsSaid()
+    {
+        RunsSite site;
+        const QString run = site.run("{'aiGain': 33}", site.devIds);
+        QVERIFY(site.open(run));
+        child(site.window, "verify")->click(); // closed while it reads: the turn is free again
+        child<QWidget>(site.window, "runVerify")->close();
+        QTRY_VERIFY(!child<QWidget>(site.window, "runVerify") && !site.session.journal()->isBusy());
+        QCOMPARE(site.session.journal()->beginReading(), QString());
+        const QSignalSpy alerts(&orda_worker::AssistantSignals::instance(),
+                                &orda_worker::AssistantSignals::signalMessageAlerted);
+        child<QTableView>(site.window, "runDevices")->selectAll();
+        child(site.window, "tryAgain")->click();
+        site.answer(site.window);
+        QTRY_COMPARE(alerts.count(), 1);
+        QVERIFY(!alerts.at(0).at(1).toString().isEmpty());
+        dismissDialogs();
+        site.session.journal()->end();
+        QCOMPARE(site.runs().size(), 1);
+    }
+
+    /// Without values a run would ask for everything that its family has.
+    void deviceWithoutValuesIsLeftOut()
+    {
+        RunDetails details;
+        details.run.family = "audio";
+        details.devices = {{"own", Outcome::Failed, 0, {}, {}}, {"none", Outcome::Failed, 0, {}, {}}};
+        details.devices[0].ownValues = parsed("{'aiGain': 5}");
+        const ChosenRun run{{details.run, {}, {}, {}},
+                            {{details.devices.at(0), {}}, {details.devices.at(1), {}}},
+                            orda_engine::RecordedRun(details)};
+        const RunTargets targets = RunTargets::toTryAgain(run, {"own", "none"});
+        QCOMPARE(targets.selection.devIds, QStringList("own"));
+        QCOMPARE(targets.selection.valuesOf("own"), parsed("{'aiGain': 5}"));
+        QCOMPARE(targets.leftOut.size(), 1);
+    }
+
     void historyThatCannotBeReadSaysWhy()
     {
-        Site site;
+        RunsSite site;
         QFile file(site.options().path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(5000, 'x'));
@@ -419,7 +326,7 @@ private slots:
     /// Keyboard and assistive technology: everything has a name, and no two things one mnemonic.
     void everythingHasANameAndAKeyOfItsOwn()
     {
-        Site site;
+        RunsSite site;
         site.run("{'aiGain': 20}", site.devIds);
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));

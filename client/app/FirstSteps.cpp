@@ -70,6 +70,7 @@ QHBoxLayout *rowOf(std::initializer_list<QWidget *> widgets)
 FirstSteps::FirstSteps(const ClientSettings *settings, QWidget *parent)
     : QScrollArea(parent)
     , m_settings(settings)
+    , m_open(button(tr("&Open inventory…"), "openInventoryBt", "common_bt_style1"))
     , m_recentCaption(new QLabel(tr("Opened last:")))
     , m_recent(new QVBoxLayout)
     , m_demoDevices(new QSpinBox)
@@ -106,16 +107,15 @@ QWidget *FirstSteps::buildInventory()
     QVBoxLayout *layout = card(tr("Open an inventory"));
     layout->addWidget(explanation(tr("An inventory is a file that lists the devices of a site and how they are "
                                      "reached.")));
-    auto *open = button(tr("&Open inventory…"), "openInventoryBt", "common_bt_style1");
-    connect(open, &QPushButton::clicked, this, &FirstSteps::signalOpen);
-    layout->addLayout(rowOf({open}));
+    connect(m_open, &QPushButton::clicked, this, &FirstSteps::signalOpen);
+    layout->addLayout(rowOf({m_open}));
     layout->addWidget(m_recentCaption);
     m_recent->setSpacing(spacing / 2);
     layout->addLayout(m_recent);
     return layout->parentWidget();
 }
 
-QWidget *FirstSteps::buildImport()
+QWidget *FirstSteps::buildImport() const
 {
     QVBoxLayout *layout = card(tr("Bring cameras in"));
     layout->addWidget(explanation(
@@ -155,6 +155,7 @@ void FirstSteps::listRecent()
     }
     const QStringList paths = m_settings->recentInventories();
     m_recentCaption->setVisible(!paths.isEmpty());
+    QWidget *before = m_open;
     for (const QString &path : paths) {
         const QFileInfo file(path);
         const QString shown = vms_sdk::displayText(QStringLiteral("%1 – %2").arg(file.fileName(), file.path()));
@@ -167,6 +168,8 @@ void FirstSteps::listRecent()
         entry->setToolTip(Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal));
         connect(entry, &QPushButton::clicked, this, [this, path] { emit signalOpenRecent(path); });
         m_recent->addWidget(entry);
+        setTabOrder(before, entry);
+        before = entry;
     }
 }
 

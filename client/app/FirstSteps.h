@@ -4,6 +4,7 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QPushButton;
 class QSpinBox;
 class QVBoxLayout;
 QT_END_NAMESPACE
@@ -32,9 +33,10 @@ signals:
 private:
     QWidget *buildInventory();
     QWidget *buildDemo();
-    QWidget *buildImport();
+    QWidget *buildImport() const;
 
     const ClientSettings *m_settings;
+    QPushButton *m_open;
     QLabel *m_recentCaption;
     QVBoxLayout *m_recent;
     QSpinBox *m_demoDevices;

@@ -78,7 +78,7 @@ SettingsDialog::SettingsDialog(ClientSettings *settings, const orda_journal::His
     , m_language(new QComboBox)
     , m_theme(new QComboBox)
     , m_askAbove(new QSpinBox)
-    , m_halts(new QCheckBox(tr("S&top a run by itself when more of its devices have failed than")))
+    , m_halts(new QCheckBox(tr("Sto&p a run by itself when more of its devices have failed than")))
     , m_haltShare(new QSpinBox)
 {
     setObjectName(QStringLiteral("settingsDialog"));

@@ -44,6 +44,7 @@ void DevicesModel::loadDevices()
     beginResetModel();
     m_rows.clear();
     m_rowOf.clear();
+    m_timeTexts.clear();
     const QList<vms_sdk::DevInfo> devices = orda_data::DevsMgrData::instance().getAllDevs(false);
     m_rows.reserve(devices.size());
     for (const vms_sdk::DevInfo &dev : devices) {
@@ -56,12 +57,22 @@ void DevicesModel::loadDevices()
     endReset();
 }
 
-void DevicesModel::takeState(Row *row) const
+void DevicesModel::takeState(Row *row)
 {
     const DeviceState state = m_states->of(row->devId);
     if (state.since != row->state.since)
-        row->since = RunTexts::time(state.since);
+        row->since = timeText(state.since);
     row->state = state;
+}
+
+/// Thousands of devices come on line in one second, and a time is slow to put into words.
+QString DevicesModel::timeText(qint64 time)
+{
+    constexpr qint64 second = 1000;
+    QString &text = m_timeTexts[time / second];
+    if (text.isEmpty())
+        text = RunTexts::time(time);
+    return text;
 }
 
 void DevicesModel::takeOutcome(Row *row) const
@@ -69,13 +80,11 @@ void DevicesModel::takeOutcome(Row *row) const
     vms_sdk::DevInfo device;
     device.id = row->devId;
     device.serialNumber = row->serialNumber;
-    const orda_journal::LatestOutcome *latest = m_outcomes->of(device);
-    row->began = latest ? latest->began : 0;
-    row->lastRun = latest ? RunTexts::time(latest->began) : QString();
-    row->outcome = latest ? *latest->device.outcome : orda_journal::Outcome::Done;
-    row->outcomeText = latest ? tr("%1: %2", "parameters, outcome")
-                                    .arg(LastOutcomes::familyTitle(latest->family), RunTexts::outcome(row->outcome))
-                              : QString();
+    const LastOutcomes::LastOutcome *last = m_outcomes->of(device);
+    row->began = last ? last->latest.began : 0;
+    row->outcome = last ? *last->latest.device.outcome : orda_journal::Outcome::Done;
+    row->outcomeText = last ? last->text : QString();
+    row->lastRun = last ? last->time : QString();
 }
 
 void DevicesModel::updateStates()

@@ -72,12 +72,14 @@ private:
         QString outcomeText = {}, lastRun = {};
     };
 
-    void takeState(Row *row) const;
+    QString timeText(qint64 time);
+    void takeState(Row *row);
     void takeOutcome(Row *row) const;
     const DeviceStates *m_states;
     const LastOutcomes *m_outcomes;
     QVector<Row> m_rows; // in the order of the store
     QHash<QString, int> m_rowOf; // by device id
+    QHash<qint64, QString> m_timeTexts; // by second since the epoch
 };
 
 } // namespace orda_client

@@ -15,6 +15,7 @@
 #include "journal/JournalTransport.h"
 
 #include <orda_base/SearchBox.h>
+#include <orda_data/DevsMgrData.h>
 
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
@@ -33,7 +34,7 @@ namespace orda_client {
 namespace {
 
 constexpr QSize windowSize(1320, 700);
-constexpr int statesWidth = 270;
+constexpr int statesWidth = 310;
 constexpr int margin = 12;
 
 QLabel *plainLabel(const char *name)
@@ -65,6 +66,7 @@ DevicesWindow::DevicesWindow(ClientSession *session, DeviceStates *states, QWidg
     beside->setContentsMargins(0, 0, 0, 0);
     beside->addWidget(buildTop());
     beside->addWidget(buildTable(), 1);
+    beside->addWidget(buildBelow());
     splitter->addWidget(right);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
@@ -110,8 +112,6 @@ QWidget *DevicesWindow::buildTop()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_counts, 1);
     layout->addWidget(m_search);
-    m_refresh = addButton(layout, tr("&Refresh"), "refresh",
-                          tr("Searches, chooses and sorts anew, by the present states (F5)"));
     return top;
 }
 
@@ -128,6 +128,20 @@ QWidget *DevicesWindow::buildTable()
     m_stack->addWidget(m_table);
     m_stack->addWidget(m_empty);
     return m_stack;
+}
+
+// What is about the table has a row of its own: all buttons in one would be too wide for small screens.
+QWidget *DevicesWindow::buildBelow()
+{
+    auto *below = new QWidget;
+    auto *row = new QHBoxLayout(below);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch();
+    m_refresh =
+        addButton(row, tr("&Refresh"), "refresh", tr("Searches, chooses and sorts anew, by the present states (F5)"));
+    m_export = addButton(row, tr("&Export CSV…"), "exportCsv",
+                         tr("Saves the rows that are shown, in their order, for a spreadsheet"));
+    return below;
 }
 
 QPushButton *DevicesWindow::addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip)
@@ -160,8 +174,6 @@ QWidget *DevicesWindow::buildButtons()
     m_connect = addButton(
         row, tr("C&onnect again"), "connectAgain",
         tr("Tries the selected devices that are off line again at once, those too that have refused the sign-on"));
-    m_export = addButton(row, tr("&Export CSV…"), "exportCsv",
-                         tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     row->addStretch();
     const auto *close = addButton(row, tr("&Close"), "close", {});
     connect(close, &QPushButton::clicked, this, &QWidget::close);
@@ -189,6 +201,7 @@ void DevicesWindow::follow()
 
     connect(m_outcomes, &LastOutcomes::signalRead, this, [this] {
         m_model->updateOutcomes();
+        m_outdated = m_filter->outdated();
         updateTexts();
         if (!m_outcomes->error().isEmpty())
             m_note->tell(m_outcomes->error());
@@ -206,8 +219,10 @@ void DevicesWindow::takeChanges(bool isListChanged)
         m_model->loadDevices();
         m_filter->refresh();
         select(selected);
+        m_outdated = 0;
     } else {
         m_model->updateStates();
+        m_outdated = m_filter->outdated();
     }
     updateGroups();
     updateTexts();
@@ -224,13 +239,13 @@ void DevicesWindow::refresh()
     m_filter->setKeyword(m_search->text());
     m_filter->setAccepts([this, group = m_stateList->group()](int row) { return m_model->isInGroup(row, group); });
     m_filter->refresh();
+    m_outdated = 0;
     select(selected);
     updateTexts();
 }
 
 void DevicesWindow::updateTexts()
 {
-    m_outdated = m_filter->outdated();
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_empty->setText(emptyText());
     m_export->setEnabled(m_filter->rowCount() > 0);
@@ -312,10 +327,11 @@ void DevicesWindow::select(const Selected &selected)
 
 void DevicesWindow::connectAgain()
 {
+    const auto &store = orda_data::DevsMgrData::instance(); // of devices that are not offered, too
     QStringList devIds;
     const Selected selected = this->selected();
     for (const QString &devId : selected.devIds)
-        if (m_states->of(devId).kind == DeviceState::OffLine)
+        if (!vms_sdk::isOnlineStatus(store.getDevStatus(devId)))
             devIds.append(devId);
     m_session->connectDevicesAgain(devIds);
     m_note->tell(devIds.isEmpty() ? tr("None of the selected devices is off line.")

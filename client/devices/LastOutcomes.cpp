@@ -1,5 +1,6 @@
 #include "client/devices/LastOutcomes.h"
 
+#include "client/runs/RunTexts.h"
 #include "journal/HistoryReader.h"
 
 #include <families/Families.h>
@@ -13,6 +14,19 @@ namespace orda_client {
 
 using orda_batchCfg::Families;
 using orda_journal::LatestOutcome;
+
+namespace {
+
+/// As the form calls the family; its name where it is not known.
+QString familyTitle(const QString &family)
+{
+    for (const orda_batchCfg::FamilyEntry &entry : Families::all())
+        if (entry.family.name == family)
+            return entry.title ? Families::tr(entry.title) : entry.family.translated(entry.family.title);
+    return family;
+}
+
+} // namespace
 
 LastOutcomes::LastOutcomes(const orda_journal::HistoryOptions &history, QObject *parent)
     : QObject(parent)
@@ -36,10 +50,14 @@ LastOutcomes::Read LastOutcomes::readNow(const orda_journal::HistoryOptions &his
     const QVector<LatestOutcome> found = reader.latestOutcomes();
     read.error = reader.error();
     for (const LatestOutcome &outcome : found)
-        read.outcomes[outcome.device.devId].append(outcome);
-    for (QVector<LatestOutcome> &ofDevice : read.outcomes)
+        read.outcomes[outcome.device.devId].append(
+            {outcome,
+             tr("%1: %2", "parameters, outcome")
+                 .arg(familyTitle(outcome.family), RunTexts::outcome(*outcome.device.outcome)),
+             RunTexts::time(outcome.began)});
+    for (QVector<LastOutcome> &ofDevice : read.outcomes)
         std::sort(ofDevice.begin(), ofDevice.end(),
-                  [](const LatestOutcome &a, const LatestOutcome &b) { return a.began > b.began; });
+                  [](const LastOutcome &a, const LastOutcome &b) { return a.latest.began > b.latest.began; });
     return read;
 }
 
@@ -51,23 +69,15 @@ void LastOutcomes::take()
     emit signalRead();
 }
 
-const LatestOutcome *LastOutcomes::of(const vms_sdk::DevInfo &device) const
+const LastOutcomes::LastOutcome *LastOutcomes::of(const vms_sdk::DevInfo &device) const
 {
     const auto known = m_read.outcomes.constFind(device.id);
     if (known == m_read.outcomes.constEnd())
         return nullptr;
-    const auto meant = std::find_if(known->cbegin(), known->cend(), [&device](const LatestOutcome &outcome) {
-        return !outcome.device.isReplacedBy(device.serialNumber);
+    const auto meant = std::find_if(known->cbegin(), known->cend(), [&device](const LastOutcome &outcome) {
+        return !outcome.latest.device.isReplacedBy(device.serialNumber);
     });
     return meant == known->cend() ? nullptr : &*meant;
-}
-
-QString LastOutcomes::familyTitle(const QString &family)
-{
-    for (const orda_batchCfg::FamilyEntry &entry : Families::all())
-        if (entry.family.name == family)
-            return entry.title ? Families::tr(entry.title) : entry.family.translated(entry.family.title);
-    return family;
 }
 
 } // namespace orda_client

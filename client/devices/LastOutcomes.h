@@ -5,7 +5,6 @@
 
 #include <vms_client_sdk/DevInfo.h>
 
-#include <QCoreApplication>
 #include <QFutureWatcher>
 #include <QHash>
 #include <QObject>
@@ -20,18 +19,22 @@ class LastOutcomes : public QObject
     Q_OBJECT
 
 public:
+    struct LastOutcome
+    {
+        orda_journal::LatestOutcome latest;
+        QString text; ///< "Audio Parameters: Done"
+        QString time; ///< when the run began
+    };
+
     explicit LastOutcomes(const orda_journal::HistoryOptions &history, QObject *parent = nullptr);
 
     /// Reads the history anew; returns at once. While it is being read, it is read once more after that.
     void read();
 
     /// Null when the history has none of this device. One of a device that was replaced by it since does not count.
-    const orda_journal::LatestOutcome *of(const vms_sdk::DevInfo &device) const;
+    const LastOutcome *of(const vms_sdk::DevInfo &device) const;
     /// Why the history could not be read, for the user; empty when it was.
     QString error() const { return m_read.error; }
-
-    /// As the form calls the family; its name where the form does not have it.
-    static QString familyTitle(const QString &family);
 
 signals:
     void signalRead();
@@ -39,7 +42,7 @@ signals:
 private:
     struct Read
     {
-        QHash<QString, QVector<orda_journal::LatestOutcome>> outcomes; ///< by device id
+        QHash<QString, QVector<LastOutcome>> outcomes; ///< by device id
         QString error;
     };
 

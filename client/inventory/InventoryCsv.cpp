@@ -118,8 +118,9 @@ InventoryCsv::Content Reader::read(const QByteArray &content)
     else if (m_entries.isEmpty() && m_result.faults.isEmpty())
         complain(csv.lines + 1, 1, {}, tr("ends after its head; a line for each device is expected"));
     checkDevices();
-    std::stable_sort(m_result.faults.begin(), m_result.faults.end(),
-                     [](const auto &a, const auto &b) { return a.line < b.line; });
+    std::stable_sort(m_result.faults.begin(), m_result.faults.end(), [](const auto &a, const auto &b) {
+        return a.line != b.line ? a.line < b.line : a.column < b.column;
+    });
     if (!m_result.faults.isEmpty())
         m_result.devices.clear();
     return m_result;
@@ -145,7 +146,7 @@ void Reader::takeHead(const orda_programs::CsvRow &row)
     }
     if (!columns.contains(&fields[0]))
         complain(row.line, 1, QString::fromLatin1(fields[0].name),
-                 tr("the column is missing; the first line names the columns, with \",\" or \";\" between them"));
+                 tr(R"(the column is missing; the first line names the columns, with "," or ";" between them)"));
 }
 
 void Reader::takeDevice(const orda_programs::CsvRow &row)

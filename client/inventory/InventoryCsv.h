@@ -28,7 +28,7 @@ public:
     struct Content
     {
         QList<vms_sdk::DevInfo> devices; ///< in the order of the lines; empty when there are faults
-        QVector<Fault> faults; ///< all of them, from top to bottom
+        QVector<Fault> faults; ///< all of them, by line and column
         QStringList unusedColumns; ///< names that are no fields
     };
     /// Blanks around texts go away, but for user names and passwords.
