@@ -165,9 +165,9 @@ def key_stops_run(client, window, overlay, ticked):
     if not has(overlay, "FOCUSED"):
         fail("the form is not covered any more")
     xdotool("key", "shift+Escape")
-    find(window, "label", re.compile("Stopped[.] .*"))
+    find(window, "label", re.compile(".*Stopped.*"))
     find(client, "alert", "Audio Parameters Configuration Result")
-    find(window, "label", re.compile(f"Written: {ticked - len(LATE)}, not written: {len(LATE)}.*"))
+    find(window, "label", re.compile(f".*Written: {ticked - len(LATE)}, not written: {len(LATE)}.*"))
     xdotool("key", "Escape")
     wait_for("answered summary", lambda: not dialogs(client))
 
