@@ -57,11 +57,16 @@ def expect(what, found, wanted):
         sys.exit(f"failed: {what}: {found} instead of {wanted}")
 
 
+def differing(held, other):
+    """By device: the groups of parameters of which the other one holds something else."""
+    return {dev_id: {name: group for name, group in groups.items() if other[dev_id].get(name) != group}
+            for dev_id, groups in held.items() if other[dev_id] != groups}
+
+
 def expect_held(fleet, wanted, when):
     """All that all devices hold, not only what was to change."""
     held = fleet.dump()
-    expect(f"what devices hold {when}", {dev_id: members for dev_id, members in held.items() if members != wanted[dev_id]},
-           {dev_id: members for dev_id, members in wanted.items() if members != held.get(dev_id)})
+    expect(f"what devices hold {when}", differing(held, wanted), differing(wanted, held))
 
 
 def fill_page(window):
