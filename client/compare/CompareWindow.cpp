@@ -8,6 +8,7 @@
 #include "client/preview/Notice.h"
 #include "client/preview/ReadingBar.h"
 #include "client/session/ClientSession.h"
+#include "client/settings/ClientSettings.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/TableFilter.h"
 #include "client/tables/TableView.h"
@@ -80,8 +81,10 @@ CompareWindow::CompareWindow(ClientSession *session, QWidget *form, ClientSettin
     connect(m_standard, &StandardBar::signalChosen, this, &CompareWindow::useStandard);
     connect(m_standard, &StandardBar::signalTakeModel, this, &CompareWindow::takeModel);
     connect(m_standard, &StandardBar::signalLoad, this, &CompareWindow::load);
-    connect(m_standard, &StandardBar::signalSaved, this,
-            [this](const QString &name) { m_notice->say(tr("The profile “%1” was saved.").arg(name)); });
+    connect(m_standard, &StandardBar::signalSaved, this, [this](const QString &name) {
+        const QStringList told{tr("The profile “%1” was saved.").arg(name), this->settings()->writeProblem()};
+        m_notice->say(told.join(QLatin1Char(' ')).trimmed());
+    });
     connect(m_reading, &ReadingBar::signalRead, m_model, &CompareModel::take);
     connect(m_reading, &ReadingBar::signalFresh, this, &CompareWindow::refresh);
     connect(m_reading, &ReadingBar::signalFinished, this, &CompareWindow::finish);
