@@ -154,6 +154,61 @@ private slots:
         QCOMPARE(column(undo, "checked", 0), QStringList({"Goes back", "Another device"}));
     }
 
+    /// What was left out when the operator was asked stays out, whatever the inventory has become since.
+    void onlyWhatWasAskedAboutIsTriedAgain()
+    {
+        Site site;
+        const QString run = site.run("{'aiGain': 33}", site.devIds.mid(0, 2));
+        const vms_sdk::DevInfo own = orda_data::DevsMgrData::instance().getDevInfoById(site.devIds.at(0));
+        QVERIFY(site.open(run));
+        vms_sdk::DevInfo other = own;
+        other.serialNumber = "ANOTHER";
+        expectWarning("sign-on refused");
+        orda_data::DevsMgrData::instance().updateDevs({other});
+        child<QTableView>(site.window, "runDevices")->selectAll();
+        child(site.window, "tryAgain")->click();
+        orda_data::DevsMgrData::instance().updateDevs({own});
+        QTRY_VERIFY(orda_engine::reachOf(own.id).canBeWritten);
+        site.written.clear();
+        site.answer(site.window);
+        QVERIFY2(site.question.contains("configure 1 device(s)"), qPrintable(site.question));
+        QTRY_COMPARE(column(site.window, "runs", 0).size(), 2);
+        QTRY_VERIFY(!site.jobs.isWriting());
+        QCOMPARE(site.written, QSet<QString>{site.devIds.at(1)});
+    }
+
+    void undoIsNotOfferedByAnOldReading_data()
+    {
+        columns<QString>({"since"});
+        for (const char *since : {"run", "inventory", "run while it is asked"})
+            row(since, QString(since));
+    }
+
+    void undoIsNotOfferedByAnOldReading()
+    {
+        QFETCH(QString, since);
+        Site site;
+        site.run("{'aiGain': 20}", site.devIds);
+        const QString run = site.run("{'aiGain': 33}", site.devIds);
+        QVERIFY(site.open(run));
+        const QPointer<QWidget> undo = site.check("undo", "runUndo", 6);
+        QTRY_VERIFY(undo && child(undo, "takeBack")->isEnabled());
+        if (since.contains("asked"))
+            child(undo, "takeBack")->click();
+        if (since.startsWith("run"))
+            site.run("{'aiGain': 44}", {site.devIds.at(1)});
+        else
+            orda_data::DevsMgrData::instance().updateDevs(site.fleet.inventory());
+        site.written.clear();
+        if (since.contains("asked"))
+            site.answer(undo);
+        QTest::qWait(50);
+        QVERIFY(undo && !child(undo, "takeBack")->isEnabled() && site.written.isEmpty());
+        dismissDialogs();
+        child(undo, "readAgain")->click();
+        QTRY_VERIFY(child(undo, "takeBack")->isEnabled());
+    }
+
     void jobOutlivesTheWindow()
     {
         RunsSite site;

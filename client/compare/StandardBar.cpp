@@ -78,6 +78,12 @@ void StandardBar::setModel(const QString &devId, const QString &shownName)
     fill(Model);
 }
 
+void StandardBar::forgetModel()
+{
+    m_modelId.clear();
+    fill(source() == Model ? Page : source(), profile());
+}
+
 void StandardBar::fill(Source chosen, const QString &profile)
 {
     m_sources->clear();

@@ -331,7 +331,7 @@ void DevicesWindow::connectAgain()
 void DevicesWindow::tickThese()
 {
     auto *dialog = new TickTheseDialog(m_form, m_states, this);
-    connect(dialog, &TickTheseDialog::signalTick, m_note, &TickNote::tick);
+    connect(dialog, &TickTheseDialog::signalTick, m_note, [this](const QStringList &devIds) { m_note->tick(devIds); });
     dialog->open();
 }
 

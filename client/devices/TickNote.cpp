@@ -16,7 +16,7 @@ TickNote::TickNote(QWidget *form, QWidget *parent)
 {
 }
 
-void TickNote::tick(const QStringList &devIds)
+void TickNote::tick(const QStringList &devIds, const QStringList &replaced)
 {
     if (!m_form)
         return tell(tr("The form is closed. Nothing was ticked."));
@@ -24,15 +24,20 @@ void TickNote::tick(const QStringList &devIds)
         return tell(tr("A run is going on. Until it has ended nothing is ticked."));
     const FormTicks::Ticked ticked = FormTicks::tickExactly(m_form, devIds);
     QString text = tr("Ticked %1 of %Ln device(s) in the device list, and no others.", nullptr,
-                      ticked.count + ticked.notListed.size())
+                      ticked.count + ticked.notListed.size() + replaced.size())
                        .arg(QLocale().toString(ticked.count));
     if (ticked.isSearchCleared)
         text += QLatin1Char(' ') + tr("The list's search was cleared: it hid some of them.");
-    if (!ticked.notListed.isEmpty())
+    if (!ticked.notListed.isEmpty() || !replaced.isEmpty())
         text += QLatin1Char(' ') + tr("Not ticked:");
     QStringList lines;
     for (const QString &devId : ticked.notListed)
         lines.append(whyNotListed(devId));
+    for (const QString &devId : replaced) {
+        const vms_sdk::DevInfo now = orda_data::DevsMgrData::instance().getDevInfoById(devId);
+        lines.append(tr("%1: it is another device than was saved", "device")
+                         .arg(vms_sdk::displayText(DeviceState::deviceName(now))));
+    }
     say(text, lines);
 }
 

@@ -18,7 +18,8 @@ public:
     explicit TickNote(QWidget *form, QWidget *parent = nullptr);
 
     /// Ticks exactly these in the form's list. While a run goes on, nothing is ticked.
-    void tick(const QStringList &devIds);
+    /// @param replaced further ids of devices that were meant and that are others now: these are named
+    void tick(const QStringList &devIds, const QStringList &replaced = {});
     void tell(const QString &text) { say(text); }
 
     /// Of a device that the form's list does not have: its name and why, a line for the user.

@@ -137,9 +137,12 @@ QWidget *TickTheseDialog::buildButtons()
     m_tick = styledButton({}, "tickFound", "common_bt_style1");
     m_tick->setAutoDefault(false);
     connect(m_tick, &QPushButton::clicked, this, [this] {
-        const QStringList devIds = m_devIds;
+        const QStringList shown = m_devIds;
+        lookUp();
+        if (m_devIds != shown)
+            return; // the list was changed just now: the button says what it would tick instead
         accept();
-        emit signalTick(devIds);
+        emit signalTick(shown);
     });
     auto *cancel = styledButton(tr("&Cancel"), "cancelTicking");
     cancel->setAutoDefault(false);

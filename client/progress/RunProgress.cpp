@@ -207,8 +207,9 @@ void RunProgress::refresh()
     showText(m_failures, failuresText(m_latestFailures));
     QString stopped;
     if (!m_whyStopped.isEmpty() && isGoingOn())
-        stopped = tr("%1. What has not left yet is not sent; what has been written stays written: %2", "why, devices")
-                      .arg(m_whyStopped, tr("%Ln device(s)", "that were written to", m_tally.done()));
+        stopped =
+            tr("%1. What has not left yet is not sent; what has been written stays written: %2", "why, devices")
+                .arg(m_whyStopped, tr("%Ln device(s)", "that were written to", m_tally.done() - m_tally.unchanged()));
     showText(m_stopped, stopped);
     m_announceSoon->request();
 }
@@ -254,7 +255,9 @@ QString RunProgress::countsText() const
 QString RunProgress::resultText() const
 {
     const QLocale locale;
-    QStringList parts{tr("Written: %1", "devices").arg(locale.toString(m_tally.done()))};
+    QStringList parts{tr("Written: %1", "devices").arg(locale.toString(m_tally.done() - m_tally.unchanged()))};
+    if (m_tally.unchanged() > 0) // of an undo nothing was even sent
+        parts.append(tr("unchanged: %1", "devices").arg(locale.toString(m_tally.unchanged())));
     if (m_tally.partlyWritten() > 0)
         parts.append(tr("partly written: %1", "devices").arg(locale.toString(m_tally.partlyWritten())));
     if (m_tally.inDoubt() > 0)

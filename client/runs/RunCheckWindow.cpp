@@ -12,6 +12,8 @@
 #include "journal/JournalTransport.h"
 
 #include <orda_base/DelayedCall.h>
+#include <orda_data/DataSignals.h>
+#include <orda_worker/SystemAssistant.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -74,9 +76,16 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
             m_isRunGoingOn = isGoingOn;
             updateView();
         };
-        connect(journal, &JournalTransport::signalRunBegan, this, [follow] { follow(true); });
+        connect(journal, &JournalTransport::signalRunBegan, this, [this, follow] {
+            outdate(tr("A run has begun since, and devices may have changed. Press “Read again”."));
+            follow(true);
+        });
         connect(journal, &JournalTransport::signalRunEnded, this, [follow] { follow(false); });
     }
+    const auto &devices = orda_data::DataSignals::instance();
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Read again”.")); };
+    connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
+    connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     read();
 }
 
@@ -172,6 +181,7 @@ void RunCheckWindow::read()
     m_toRead = selection.devIds.size();
     m_readings.clear();
     m_error.clear();
+    m_outdated.clear();
     m_model->setDevices({});
     if (m_force) { // what it writes over is another thing each time
         const QSignalBlocker blocker(m_force);
@@ -212,6 +222,12 @@ void RunCheckWindow::workOut()
     updateView();
 }
 
+void RunCheckWindow::outdate(const QString &why)
+{
+    m_outdated = why;
+    updateView();
+}
+
 QString RunCheckWindow::resultText() const
 {
     if (!m_error.isEmpty())
@@ -226,6 +242,8 @@ QString RunCheckWindow::resultText() const
     for (auto count = counts.cbegin(); count != counts.cend(); ++count)
         parts.append(tr("%1: %2", "state, number of devices")
                          .arg(CheckedDevice::stateText(count.key()), locale.toString(count.value())));
+    if (!m_outdated.isEmpty())
+        parts.append(m_outdated);
     return parts.join(QStringLiteral("   "));
 }
 
@@ -233,7 +251,7 @@ void RunCheckWindow::updateView()
 {
     if (!m_export)
         return; // still being built
-    const bool isReady = !m_job && !m_worker.isRunning() && m_error.isEmpty();
+    const bool isReady = !m_job && !m_worker.isRunning() && m_error.isEmpty() && m_outdated.isEmpty();
     const bool isFree = m_session->journal() && !m_isRunGoingOn;
     m_line->setText(resultText());
     m_table->setEmptyText(m_error.isEmpty() ? tr("What the devices hold is being read.") : m_error);
@@ -282,6 +300,10 @@ void RunCheckWindow::askToTakeBack()
         lines.append(tr("What was changed since the run is written over, too."));
     askBeforeRun(this, tr("Undo"), tr("Take the run back on %Ln device(s)?", nullptr, devIds.size()), lines,
                  tr("Take back"), [this, devIds, force = m_check.force] {
+                     if (!m_outdated.isEmpty()) { // while the question was open
+                         orda_worker::SystemAssistant::instance().messageAlert(tr("Undo"), m_outdated);
+                         return;
+                     }
                      const QString runId = m_jobs->takeBack(*m_check.run, devIds, force);
                      if (runId.isEmpty())
                          return;

@@ -345,8 +345,8 @@ void RunsWindow::askToTryAgain()
     askBeforeRun(
         this, tr("Try again"),
         tr("%1: configure %Ln device(s) again with the values of this run?", "parameters", count).arg(run->line.family),
-        lines, tr("Configure"), [this, run, devIds] {
-            const QString runId = m_jobs->tryAgain(*run, devIds);
+        lines, tr("Configure"), [this, run, asked = targets.selection.devIds] { // and none that was left out
+            const QString runId = m_jobs->tryAgain(*run, asked);
             if (!runId.isEmpty())
                 m_wanted = runId;
         });
