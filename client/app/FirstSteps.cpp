@@ -129,7 +129,6 @@ QWidget *FirstSteps::buildDemo()
     m_demoDevices->setObjectName(QStringLiteral("demoDevices"));
     m_demoDevices->setRange(1, mostDemoDevices);
     m_demoDevices->setValue(usualDemoDevices);
-    m_demoDevices->setButtonSymbols(QSpinBox::NoButtons);
     auto *caption = new QLabel(tr("&Number of devices"));
     caption->setBuddy(m_demoDevices);
     auto *start = styledButton(tr("&Start the demo"), "startDemoBt", "common_bt_style2");
