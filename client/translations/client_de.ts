@@ -2136,8 +2136,8 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message numerus="yes">
         <source>%n device(s) ticked</source>
         <translation>
-            <numerusform>%n Gerät ausgewählt</numerusform>
-            <numerusform>%n Geräte ausgewählt</numerusform>
+            <numerusform>%n Gerät angehakt</numerusform>
+            <numerusform>%n Geräte angehakt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2884,13 +2884,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <name>orda_client::TickReport</name>
     <message>
         <source>Failed devices that are not ticked</source>
-        <translation>Fehlgeschlagene Geräte, die nicht ausgewählt sind</translation>
+        <translation>Fehlgeschlagene Geräte, die nicht angehakt sind</translation>
     </message>
     <message numerus="yes">
         <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
         <translation>
-            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste ausgewählt.</numerusform>
-            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste ausgewählt.</numerusform>
+            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste angehakt.</numerusform>
+            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste angehakt.</numerusform>
         </translation>
     </message>
     <message>
@@ -2899,7 +2899,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
     <message>
         <source>Not ticked:</source>
-        <translation>Nicht ausgewählt:</translation>
+        <translation>Nicht angehakt:</translation>
     </message>
 </context>
 <context>
