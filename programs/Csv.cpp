@@ -19,6 +19,8 @@ QString csvCell(QString text)
 
 QString csvText(QString cell)
 {
+    if (!cell.contains(QLatin1Char('\''))) // as nearly all, and the expression below takes its time
+        return cell;
     static const QRegularExpression guard(
         QStringLiteral("(^|[;|\\t\\r\\n])'(?='*[=+@\\t\\r\\n\uFF1D\uFF0B\uFF20\uFF0D-])"));
     return cell.replace(guard, QStringLiteral("\\1"));

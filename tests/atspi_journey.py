@@ -7,27 +7,16 @@ missing.
 
 import sys
 
-from support.journey import (Atspi, act, client_window, dialogs, find, has, set_state, start_on_own_display_and_bus,
-                             travel, wait_for)
+from support.journey import (Atspi, act, answer, choose_menu_entry, client_window, find, has, open_page, set_state,
+                             start_on_own_display_and_bus, travel, wait_for)
 
 DEVICES = 12
 NO_INVENTORY = "/no/such/inventory.json"
 
 
-def answer(client, title, text, button):
-    dialog = find(client, "alert", title)
-    find(dialog, "label", text)
-    act(find(dialog, "push button", button), "Press")
-    wait_for("answered dialog", lambda: not dialogs(client))
-
-
 def configure_audio(client):
     window = client_window(client)
-    entry = find(window, "page tab", "Audio Parameters")
-    act(entry, "Press")
-    wait_for("open page", lambda: has(entry, "SELECTED"))
-    page = find(window, "filler", "Audio Parameters")
-
+    page = open_page(window, "Audio Parameters")
     configure = find(page, "push button", "Configure")
     set_state(find(page, "check box", "All parameters"), "CHECKED", False)
     wait_for("disabled button", lambda: not has(configure, "ENABLED"))
@@ -82,7 +71,7 @@ def first_steps(client):
 def journey(client):
     first_steps(client)
     configure_audio(client)
-    act(find(client, "menu item", "Quit", shown=False), "Press")
+    choose_menu_entry(client, "Quit")
 
 
 if __name__ == "__main__":

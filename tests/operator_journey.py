@@ -12,8 +12,8 @@ import subprocess
 import sys
 import time
 
-from support.journey import (LIMIT, Atspi, act, client_window, descendants, dialogs, find, has, name_of, set_state,
-                             skip, start_on_own_display_and_bus, travel, wait_for)
+from support.journey import (LIMIT, Atspi, act, client_window, descendants, dialogs, find, has, name_of, open_page,
+                             set_state, start_on_own_display_and_bus, travel, wait_for)
 
 DEVICES = 12
 SILENT = 2
@@ -54,13 +54,6 @@ def value(editor):
 
 def editors(page):
     return [node for node in descendants(page) if node.get_role_name() in WHEELED and has(node, "SHOWING")]
-
-
-def open_page(window, title):
-    entry = find(window, "page tab", title)
-    act(entry, "Press")
-    wait_for("open page", lambda: has(entry, "SELECTED"))
-    return find(window, "filler", title)
 
 
 def wheel_changes_nothing(window):

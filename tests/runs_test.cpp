@@ -22,7 +22,9 @@
 #include <QtWidgets>
 #include <families/Families.h>
 #include <orda_base/BaseForm.h>
+#include <orda_worker/AssistantSignals.h>
 #include <shell/BatchCfgInit.h>
+#include <vms_client_sdk/ClientSdk.h>
 
 using namespace orda_client;
 using namespace orda_journal;
@@ -65,6 +67,7 @@ struct Site : QObject
 {
     Site()
     {
+        vms_sdk::ClientSdk::instance().setRequestTimeout(std::chrono::seconds(2));
         fleet.start();
         orda_data::DevsMgrData::instance().updateDevs(fleet.inventory());
         for (const int number : {0, 1, 2, 4, 5, 6})
@@ -184,7 +187,7 @@ private slots:
         const QString first = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(first));
         QCOMPARE(column(site.window, "runs", 3), QStringList("Done: 3, Failed: 3"));
-        QVERIFY(column(site.window, "runs", 6).constFirst().endsWith(": 33"));
+        QVERIFY(column(site.window, "runs", 4).constFirst().endsWith(": 33"));
         QVERIFY(column(site.window, "runDevices", 5).filter(QRegularExpression(": \\d+ → 33$")).size() == 3);
         const auto *again = child(site.window, "tryAgain");
         QVERIFY(!again->isEnabled()); // nobody has said which
@@ -224,8 +227,8 @@ private slots:
         site.written.clear();
         QWidget *undo = site.check("undo", "runUndo", 6);
         QVERIFY(undo);
-        QCOMPARE(column(undo, "checked", 0), times(5, "Goes back") + QStringList("Stays as it is"));
-        QVERIFY(column(undo, "checked", 4).constFirst().endsWith(": 33 → 20"));
+        QCOMPARE(column(undo, "checked", 0), QStringList("Stays as it is") + times(5, "Goes back"));
+        QVERIFY(column(undo, "checked", 4).constLast().endsWith(": 33 → 20"));
         QVERIFY(!child<QCheckBox>(undo, "force")->isChecked());
         QVERIFY(site.written.isEmpty()); // a preview
         child(undo, "takeBack")->click();
@@ -250,7 +253,7 @@ private slots:
         QVERIFY(undo);
         QCOMPARE(column(undo, "checked", 0), QStringList("Stays as it is") + times(5, "Already back"));
         child(undo, "force")->click();
-        QTRY_COMPARE(column(undo, "checked", 0).constFirst(), "Goes back");
+        QTRY_COMPARE(column(undo, "checked", 0).constFirst(), "Is written over");
         QVERIFY(column(undo, "checked", 5).constFirst().startsWith("changed since and written over"));
         child(undo, "takeBack")->click();
         site.answer(undo);
@@ -300,6 +303,43 @@ private slots:
         site.window->close();
         QVERIFY(recorded.wait());
         QCOMPARE(site.runs().constFirst().counts.value(Outcome::Unchanged), 6);
+    }
+
+    void whatTheEngineRefusesIsSaid()
+    {
+        Site site;
+        const QString run = site.run("{'aiGain': 33}", site.devIds);
+        QVERIFY(site.open(run));
+        child(site.window, "verify")->click(); // closed while it reads: the turn is free again
+        child<QWidget>(site.window, "runVerify")->close();
+        QTRY_VERIFY(!child<QWidget>(site.window, "runVerify") && !site.session.journal()->isBusy());
+        QCOMPARE(site.session.journal()->beginReading(), QString());
+        const QSignalSpy alerts(&orda_worker::AssistantSignals::instance(),
+                                &orda_worker::AssistantSignals::signalMessageAlerted);
+        child<QTableView>(site.window, "runDevices")->selectAll();
+        child(site.window, "tryAgain")->click();
+        site.answer(site.window);
+        QTRY_COMPARE(alerts.count(), 1);
+        QVERIFY(!alerts.at(0).at(1).toString().isEmpty());
+        dismissDialogs();
+        site.session.journal()->end();
+        QCOMPARE(site.runs().size(), 1);
+    }
+
+    /// Without values a run would ask for everything that its family has.
+    void deviceWithoutValuesIsLeftOut()
+    {
+        RunDetails details;
+        details.run.family = "audio";
+        details.devices = {{"own", Outcome::Failed, 0, {}, {}}, {"none", Outcome::Failed, 0, {}, {}}};
+        details.devices[0].ownValues = parsed("{'aiGain': 5}");
+        const ChosenRun run{{details.run, {}, {}, {}},
+                            {{details.devices.at(0), {}}, {details.devices.at(1), {}}},
+                            orda_engine::RecordedRun(details)};
+        const RunTargets targets = RunTargets::toTryAgain(run, {"own", "none"});
+        QCOMPARE(targets.selection.devIds, QStringList("own"));
+        QCOMPARE(targets.selection.valuesOf("own"), parsed("{'aiGain': 5}"));
+        QCOMPARE(targets.leftOut.size(), 1);
     }
 
     void historyThatCannotBeReadSaysWhy()

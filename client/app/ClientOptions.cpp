@@ -83,8 +83,8 @@ QString mistakeIn(const ClientOptions &options, const QCommandLineParser &parser
         return ClientOptions::tr("--faults needs --demo: only simulated devices have faults to order");
     if (isSet(known.theme) && options.theme != QLatin1String("light") && options.theme != QLatin1String("dark"))
         return ClientOptions::tr("--theme takes light or dark, not \"%1\"").arg(options.theme);
-    if (isSet(known.run) && !findFamily(options.family))
-        return ClientOptions::tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.family);
+    if (isSet(known.run) && !findFamily(options.drive.family))
+        return ClientOptions::tr("--run takes one of %1, not \"%2\"").arg(familyList(), options.drive.family);
     if (isSet(known.run) && !isSet(known.demo) && !isSet(known.inventory))
         return ClientOptions::tr("--run needs devices: --demo N or --inventory FILE");
     if (!isSet(known.run) && (isSet(known.devices) || isSet(known.screenshots) || isSet(known.yes)))
@@ -93,10 +93,10 @@ QString mistakeIn(const ClientOptions &options, const QCommandLineParser &parser
         return ClientOptions::tr("--run with --inventory writes the form's default values to real devices: add --yes "
                                  "if that is meant, or set values of your own with orda_batch(1)");
     }
-    if (!namesAllDevices(parser, known) && options.deviceIds.isEmpty())
+    if (!namesAllDevices(parser, known) && options.drive.deviceIds.isEmpty())
         return ClientOptions::tr("--devices takes \"all\" or device ids with commas between them");
-    if (isSet(known.screenshots) && !QDir().mkpath(options.screenshotsDir))
-        return ClientOptions::tr("--screenshots: cannot make the directory \"%1\"").arg(options.screenshotsDir);
+    if (isSet(known.screenshots) && !QDir().mkpath(options.drive.screenshotsDir))
+        return ClientOptions::tr("--screenshots: cannot make the directory \"%1\"").arg(options.drive.screenshotsDir);
     return {};
 }
 
@@ -121,10 +121,10 @@ ClientOptions parseOptions(const QStringList &arguments)
     options.inventoryFile = parser.value(known.inventory);
     options.faultsFile = parser.value(known.faults);
     options.theme = parser.value(known.theme);
-    options.family = parser.value(known.run);
-    options.screenshotsDir = parser.value(known.screenshots);
+    options.drive.family = parser.value(known.run);
+    options.drive.screenshotsDir = parser.value(known.screenshots);
     if (!namesAllDevices(parser, known))
-        options.deviceIds = idsIn(parser.value(known.devices));
+        options.drive.deviceIds = idsIn(parser.value(known.devices));
     options.error = mistakeIn(options, parser, known);
     return options;
 }

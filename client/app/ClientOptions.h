@@ -1,8 +1,9 @@
 #pragma once
 
+#include "client/drive/RunDriver.h"
+
 #include <QCoreApplication>
 #include <QString>
-#include <QStringList>
 
 namespace orda_client {
 
@@ -16,9 +17,7 @@ public:
     QString inventoryFile;
     QString faultsFile; ///< for the embedded fleet
     QString theme; ///< "light" or "dark"; empty: as the desktop is
-    QString family; ///< to drive without a person; empty: a person drives
-    QStringList deviceIds; ///< for the driven run; empty: all
-    QString screenshotsDir;
+    DriveOptions drive; ///< without a family a person drives
 
     QString error; ///< not empty: the command line is wrong; the text names what and what would be right
 };

@@ -115,7 +115,7 @@ QWidget *FirstSteps::buildInventory()
     return layout->parentWidget();
 }
 
-QWidget *FirstSteps::buildImport()
+QWidget *FirstSteps::buildImport() const
 {
     QVBoxLayout *layout = card(tr("Bring cameras in"));
     layout->addWidget(explanation(

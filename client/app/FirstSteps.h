@@ -33,7 +33,7 @@ signals:
 private:
     QWidget *buildInventory();
     QWidget *buildDemo();
-    QWidget *buildImport();
+    QWidget *buildImport() const;
 
     const ClientSettings *m_settings;
     QPushButton *m_open;

@@ -87,7 +87,7 @@ int main(int argc, char *argv[])
     const ClientOptions options = parseOptions(arguments);
     if (!options.error.isEmpty())
         return fail(QCoreApplication::translate("main", "%1 (see orda_client --help)").arg(options.error), ExitUsage);
-    if (isBlind && options.family.isEmpty()) {
+    if (isBlind && options.drive.family.isEmpty()) {
         return fail(QCoreApplication::translate("main", "there is no display to show the window on; --run needs none"),
                     ExitUsage);
     }
@@ -114,8 +114,8 @@ int main(int argc, char *argv[])
         orda_worker::SystemAssistant::instance().messageAlert(orda_worker::DictDef::instance().alertTitle(), error);
 
     std::unique_ptr<RunDriver> driver; // only without a person at the window: it ends the program at an alert
-    if (!options.family.isEmpty()) {
-        driver = std::make_unique<RunDriver>(options, &window);
+    if (!options.drive.family.isEmpty()) {
+        driver = std::make_unique<RunDriver>(options.drive, &window);
         QTimer::singleShot(std::chrono::milliseconds(0), driver.get(), &RunDriver::start);
     }
     return QApplication::exec();

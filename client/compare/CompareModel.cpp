@@ -106,8 +106,7 @@ void CompareModel::addTexts()
     m_valueTexts.resize(m_table->columnCount());
     for (int column = 0; column < m_valueTexts.size(); ++column)
         for (int cell = m_valueTexts.at(column).size(); cell < m_table->valueCount(column); ++cell)
-            m_valueTexts[column].append(
-                m_texts->value(m_table->column(column).member, m_table->value(column, cell)));
+            m_valueTexts[column].append(m_texts->value(m_table->column(column).member, m_table->value(column, cell)));
 }
 
 QString CompareModel::valueText(int column, int cell) const

@@ -32,7 +32,8 @@ public:
     void clear();
     /// What reading a device gave. Shown with the next refresh().
     void take(const orda_engine::DeviceReading &reading);
-    /// Shows what has come since, compared with the standard. Resets the model where the columns are others than before.
+    /// Shows what has come since, compared with the standard. Resets the model where the columns are others than
+    /// before.
     void refresh();
 
     /// Shown with the next refresh(), as the following.

@@ -1,10 +1,10 @@
 #include "client/compare/CompareWindow.h"
 
 #include "client/compare/CompareModel.h"
+#include "client/compare/FormChanges.h"
 #include "client/compare/StandardBar.h"
 #include "client/form/Families.h"
 #include "client/form/FormTicks.h"
-#include "client/form/PageLoader.h"
 #include "client/preview/Notice.h"
 #include "client/preview/ReadingBar.h"
 #include "client/session/ClientSession.h"
@@ -132,8 +132,8 @@ QWidget *CompareWindow::buildChoices()
     });
     m_search = new orda_base::SearchBox;
     m_search->setObjectName(QStringLiteral("compareSearch"));
-    m_search->setToolTip(tr("Searches all columns (%1)")
-                             .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+    m_search->setToolTip(
+        tr("Searches all columns (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
         updateTable();
@@ -230,8 +230,9 @@ void CompareWindow::read()
         return;
     }
     if (devIds.isEmpty()) {
-        tellNothing(tr("No device is ticked in the list, or the list's search hides all that are. Tick the devices that "
-                       "are to be compared, then press “Read again”."));
+        tellNothing(
+            tr("No device is ticked in the list, or the list's search hides all that are. Tick the devices that "
+               "are to be compared, then press “Read again”."));
         return;
     }
     m_complaint.clear();
@@ -329,10 +330,10 @@ void CompareWindow::updateSummary()
     const int different = m_model->differentCount();
     const int read = m_model->readCount();
     const QLocale locale;
-    m_summary->setText(tr("As of %1: %2 differ from the standard, %3 do not, %4 were not read.",
-                          "time, three numbers of devices")
-                           .arg(m_time, locale.toString(different), locale.toString(read - different),
-                                locale.toString(m_model->rowCount() - read)));
+    m_summary->setText(
+        tr("As of %1: %2 differ from the standard, %3 do not, %4 were not read.", "time, three numbers of devices")
+            .arg(m_time, locale.toString(different), locale.toString(read - different),
+                 locale.toString(m_model->rowCount() - read)));
 }
 
 int CompareWindow::chosenRow() const
@@ -378,22 +379,8 @@ void CompareWindow::load(const QJsonObject &values)
     const FormPage shown = page();
     if (!shown.family)
         return;
-    const PageLoader::Loaded loaded = PageLoader(m_form, *shown.family).load(values);
-    if (!loaded.refusal.isEmpty()) {
-        m_notice->say(loaded.refusal);
-        return;
-    }
-    const ParameterTexts texts(m_form, *shown.family);
-    QStringList lines;
-    for (const QString &member : loaded.notSet)
-        lines.append(tr("The page cannot send this value, and leaves it out: %1", "parameter").arg(texts.title(member)));
-    for (const QString &member : loaded.besides)
-        lines.append(tr("The page would send this besides: %1", "parameter").arg(texts.title(member)));
-    m_notice->say(loaded.isWhole() ? tr("The values were loaded into the page. Nothing was sent to devices.")
-                                   : tr("The page does not have all of the values as they should be. Look at it before "
-                                        "you press Configure:"),
-                  lines);
-    shown.open(m_form);
+    const FormChanges::Told told = FormChanges::load(m_form, *shown.family, values);
+    m_notice->say(told.text, told.lines);
 }
 
 void CompareWindow::tickDifferent()
@@ -401,22 +388,8 @@ void CompareWindow::tickDifferent()
     updateButtons(); // a run may have begun since the last look
     if (!m_tick->isEnabled())
         return;
-    QStringList devIds;
-    for (int row = 0; row < m_model->rowCount(); ++row)
-        if (m_model->isDifferent(row))
-            devIds.append(m_model->device(row).devId);
-    const FormTicks::Ticked ticked = FormTicks::tickExactly(m_form, devIds);
-    QString text = tr("Ticked %1 of %Ln device(s) that differ in the device list, and no others.", nullptr,
-                      devIds.size())
-                       .arg(QLocale().toString(ticked.count));
-    if (ticked.isSearchCleared)
-        text += QLatin1Char(' ') + tr("The list's search was cleared: it hid some of them.");
-    if (!ticked.notListed.isEmpty())
-        text += QLatin1Char(' ') + tr("These are not in the list now:");
-    QStringList lines;
-    for (const QString &devId : ticked.notListed)
-        lines.append(m_model->device(m_model->rowOf(devId)).shownName());
-    m_notice->say(text, lines);
+    const FormChanges::Told told = FormChanges::tickDifferent(m_form, *m_model);
+    m_notice->say(told.text, told.lines);
 }
 
 } // namespace orda_client

@@ -29,8 +29,8 @@ QString placeOf(const QJsonValue &value)
 const CfgKey *keyOf(const CfgFamily &family, const QString &member)
 {
     const QString name = member.section(QLatin1Char('.'), -1);
-    const auto found = std::find_if(family.keys.cbegin(), family.keys.cend(),
-                                    [&name](const CfgKey &key) { return key.name == name; });
+    const auto found =
+        std::find_if(family.keys.cbegin(), family.keys.cend(), [&name](const CfgKey &key) { return key.name == name; });
     return found == family.keys.cend() ? nullptr : &*found;
 }
 
@@ -181,10 +181,10 @@ void SettingsTable::expectMostFrequent()
         int lacking = m_read;
         for (int place = 0; place < values.distinct.size(); ++place) {
             lacking -= values.devices.at(place);
-            const int lead = best == nothing ? values.devices.at(place)
-                                             : values.devices.at(place) - values.devices.at(best);
-            const bool isBefore = lead == 0 && best != nothing
-                && placeOf(values.distinct.at(place)) < placeOf(values.distinct.at(best));
+            const int lead =
+                best == nothing ? values.devices.at(place) : values.devices.at(place) - values.devices.at(best);
+            const bool isBefore =
+                lead == 0 && best != nothing && placeOf(values.distinct.at(place)) < placeOf(values.distinct.at(best));
             if (lead > 0 || isBefore) // the same one whatever order the devices came in
                 best = place;
         }

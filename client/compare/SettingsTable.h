@@ -10,8 +10,8 @@
 
 namespace orda_client {
 
-/// What many devices hold of a family, a column a member, and where they differ from a standard. Plain data: values that
-/// are equal are kept once, so that devices are compared by numbers.
+/// What many devices hold of a family, a column a member, and where they differ from a standard. Plain data: values
+/// that are equal are kept once, so that devices are compared by numbers.
 class SettingsTable
 {
 public:

@@ -47,7 +47,8 @@ StandardBar::StandardBar(ClientSettings *settings, QWidget *parent)
         buttons->addWidget(button);
         return button;
     };
-    m_takeModel = add(tr("Take as &model"), "takeModel", tr("Compares the others with the device that is chosen below"));
+    m_takeModel =
+        add(tr("Take as &model"), "takeModel", tr("Compares the others with the device that is chosen below"));
     m_load = add(tr("&Load into the page"), "loadIntoPage",
                  tr("Ticks the parameters of the standard on the page, and no others, and gives them its values"));
     m_save = add(tr("Sa&ve as profile…"), "saveProfile", tr("Keeps the values of the standard under a name"));
@@ -130,25 +131,26 @@ void StandardBar::askForName()
     dialog->setLabelText(tr("Name of the profile. One that has this name already is replaced."));
     dialog->setTextValue(profile());
     // The values of this moment: the page may change while the dialog is open.
-    connect(dialog, &QInputDialog::textValueSelected, this, [this, values = m_values, family = m_family](const QString &text) {
-        const QString name = text.trimmed();
-        if (name.isEmpty())
-            return;
-        m_settings->setProfile(family, name, values);
-        if (family != m_family)
-            return;
-        fill(Profile, name);
-        emit signalSaved(name);
-        emit signalChosen();
-    });
+    connect(dialog, &QInputDialog::textValueSelected, this,
+            [this, values = m_values, family = m_family](const QString &text) {
+                const QString name = text.trimmed();
+                if (name.isEmpty())
+                    return;
+                m_settings->setProfile(family, name, values);
+                if (family != m_family)
+                    return;
+                fill(Profile, name);
+                emit signalSaved(name);
+                emit signalChosen();
+            });
     dialog->open();
 }
 
 void StandardBar::askToForget()
 {
-    auto *question = new QMessageBox(QMessageBox::Question, tr("Forget profile"),
-                                     tr("Forget the profile “%1”?").arg(vms_sdk::displayText(profile())),
-                                     QMessageBox::Cancel, this);
+    auto *question =
+        new QMessageBox(QMessageBox::Question, tr("Forget profile"),
+                        tr("Forget the profile “%1”?").arg(vms_sdk::displayText(profile())), QMessageBox::Cancel, this);
     question->setObjectName(QStringLiteral("forgetQuestion"));
     question->setTextFormat(Qt::PlainText);
     question->setAttribute(Qt::WA_DeleteOnClose);

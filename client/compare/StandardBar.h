@@ -12,8 +12,8 @@ namespace orda_client {
 
 class ClientSettings;
 
-/// Where the standard comes from that devices are compared with, and what is done with it: kept as a profile, forgotten,
-/// loaded into the page.
+/// Where the standard comes from that devices are compared with, and what is done with it: kept as a profile,
+/// forgotten, loaded into the page.
 class StandardBar : public QWidget
 {
     Q_OBJECT

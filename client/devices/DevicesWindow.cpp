@@ -15,6 +15,7 @@
 #include "journal/JournalTransport.h"
 
 #include <orda_base/SearchBox.h>
+#include <orda_data/DevsMgrData.h>
 
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
@@ -33,7 +34,7 @@ namespace orda_client {
 namespace {
 
 constexpr QSize windowSize(1320, 700);
-constexpr int statesWidth = 270;
+constexpr int statesWidth = 310;
 constexpr int margin = 12;
 
 QLabel *plainLabel(const char *name)
@@ -312,10 +313,11 @@ void DevicesWindow::select(const Selected &selected)
 
 void DevicesWindow::connectAgain()
 {
+    const auto &store = orda_data::DevsMgrData::instance(); // of devices that are not offered, too
     QStringList devIds;
     const Selected selected = this->selected();
     for (const QString &devId : selected.devIds)
-        if (m_states->of(devId).kind == DeviceState::OffLine)
+        if (!vms_sdk::isOnlineStatus(store.getDevStatus(devId)))
             devIds.append(devId);
     m_session->connectDevicesAgain(devIds);
     m_note->tell(devIds.isEmpty() ? tr("None of the selected devices is off line.")

@@ -33,8 +33,8 @@ class TickNote;
 /// form's list: the selected ones, those of a list that somebody has, those of a group or of a saved selection.
 ///
 /// What rows say and how many have which state follows the devices. Which rows are shown, and in which order, stays
-/// as it is until the user searches, chooses or sorts, or asks for it with F5: so no row moves away while somebody
-/// selects. How many rows wait for that is said above the table.
+/// as it is until the user searches, chooses or sorts, asks for it with F5, or the inventory changes: so no row moves
+/// away while somebody selects. How many rows wait for that is said above the table.
 class DevicesWindow : public ToolWindow
 {
     Q_OBJECT

@@ -97,7 +97,7 @@ QWidget *TickTheseDialog::buildInput()
     load->setProperty("common_bt_style2", true);
     load->setAutoDefault(false);
     connect(load, &QPushButton::clicked, this, &TickTheseDialog::askForFile);
-    m_firstColumnOnly = new QCheckBox(tr("It is a &table: only the first column names devices"));
+    m_firstColumnOnly = new QCheckBox(tr("It is a t&able: only the first column names devices"));
     m_firstColumnOnly->setObjectName(QStringLiteral("firstColumnOnly"));
 
     auto *input = new QWidget;

@@ -53,7 +53,7 @@ QTextStream &out()
 
 } // namespace
 
-RunDriver::RunDriver(const ClientOptions &options, QMainWindow *window, QObject *parent)
+RunDriver::RunDriver(const DriveOptions &options, QMainWindow *window, QObject *parent)
     : QObject(parent)
     , m_options(options)
     , m_family(findFamily(options.family))

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "client/app/ClientOptions.h"
 #include "client/drive/PauseMeter.h"
 #include "programs/ExitCode.h"
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QStringList>
 
 QT_BEGIN_NAMESPACE
 class QMainWindow;
@@ -26,6 +26,14 @@ enum ClientExit
     ExitNoRecord = 6 ///< the run took place, but its record is missing or not whole
 };
 
+/// What a driven run is about.
+struct DriveOptions
+{
+    QString family; ///< CfgFamily::name
+    QStringList deviceIds; ///< empty: all
+    QString screenshotsDir; ///< where pictures are saved; empty: there are none
+};
+
 /// Drives the form as an operator would, without one: waits until the devices have come online, opens the family's
 /// page, ticks devices, presses Configure, prints progress, summary, duration, the window's longest pause and the
 /// record, answers the summary and ends the application. Says first that it is for demos and pictures.
@@ -35,7 +43,7 @@ class RunDriver : public QObject
 
 public:
     /// @param window has the form in it and must outlive the driver
-    RunDriver(const ClientOptions &options, QMainWindow *window, QObject *parent = nullptr);
+    RunDriver(const DriveOptions &options, QMainWindow *window, QObject *parent = nullptr);
 
     /// Returns at once; the application ends with an ExitCode when the run is over.
     void start();
@@ -57,7 +65,7 @@ private:
     void saveScreenshot(QWidget *widget, const QString &name) const;
     static void end(int exitCode);
 
-    ClientOptions m_options;
+    DriveOptions m_options;
     const Family *m_family;
     QMainWindow *m_window;
     int m_ticked = 0;

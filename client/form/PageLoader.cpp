@@ -66,14 +66,8 @@ PageLoader::Loaded PageLoader::load(const QJsonObject &values)
     }
     emptyUnwanted(wanted);
 
-    Members sent = current();
-    for (const FormPage::Member &member : shown.members) {
-        const bool isWrong = wanted.contains(member.name) && sent.contains(member.name)
-            && sent.value(member.name) != wanted.value(member.name);
-        if (isWrong && !member.boxes.isEmpty() && member.boxes.constFirst())
-            member.boxes.constFirst()->setChecked(false); // another value than the user's must not be sent
-    }
-    sent = current();
+    untickWrong(wanted);
+    const Members sent = current();
     for (auto member = wanted.begin(); member != wanted.end(); ++member)
         if (!sent.contains(member.key()) || sent.value(member.key()) != *member)
             result.notSet.append(member.key());
@@ -136,6 +130,23 @@ void PageLoader::setEditor(QWidget *editor, const Members &wanted) const
         if (!fits())
             button->toggle();
     }
+}
+
+/// Another value than the user's must not be sent.
+void PageLoader::untickWrong(const Members &wanted) const
+{
+    const FormPage shown = page();
+    const Members sent = current();
+    const auto isWrong = [&](const FormPage::Member &member) {
+        const auto value = sent.constFind(member.name);
+        return wanted.contains(member.name) && value != sent.constEnd() && *value != wanted.value(member.name);
+    };
+    const bool isAllWrong = std::any_of(shown.members.begin(), shown.members.end(), [&](const auto &member) {
+        return member.boxes.isEmpty() && isWrong(member); // it goes with whatever is sent
+    });
+    for (const FormPage::Member &member : shown.members)
+        if (!member.boxes.isEmpty() && member.boxes.constFirst() && (isAllWrong || isWrong(member)))
+            member.boxes.constFirst()->setChecked(false);
 }
 
 /// Parameters that share a box with a wanted one stay out when their line is empty, as a server without an address.

@@ -47,6 +47,7 @@ private:
     Members current() const;
     void tickBoxes(const Members &wanted) const;
     void setEditor(QWidget *editor, const Members &wanted) const;
+    void untickWrong(const Members &wanted) const;
     void emptyUnwanted(const Members &wanted) const;
 
     const QWidget *m_form;

@@ -146,7 +146,7 @@ void Reader::takeHead(const orda_programs::CsvRow &row)
     }
     if (!columns.contains(&fields[0]))
         complain(row.line, 1, QString::fromLatin1(fields[0].name),
-                 tr("the column is missing; the first line names the columns, with \",\" or \";\" between them"));
+                 tr(R"(the column is missing; the first line names the columns, with "," or ";" between them)"));
 }
 
 void Reader::takeDevice(const orda_programs::CsvRow &row)

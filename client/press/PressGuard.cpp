@@ -2,12 +2,14 @@
 
 #include "client/form/Families.h"
 #include "client/form/FormPage.h"
+#include "client/form/FormTicks.h"
 #include "client/press/ValueChecks.h"
 #include "client/settings/ClientSettings.h"
 
 #include <families/Families.h>
 
 #include <QEvent>
+#include <QTableWidget>
 #include <QTimer>
 #include <QVariant>
 
@@ -41,12 +43,17 @@ PressGuard::PressGuard(QWidget *form, const ClientSettings *settings, QObject *p
     for (const Family &family : families())
         if (auto *page = form->findChild<QWidget *>(family.pageName))
             page->installEventFilter(this);
-    connect(form, &QObject::destroyed, this, &PressGuard::dropQuestion);
+    connect(FormTicks::listOf(form), &QObject::destroyed, this, &PressGuard::dropQuestion);
 }
 
 PressGuard::~PressGuard()
 {
     dropQuestion();
+}
+
+bool PressGuard::isFormThere() const
+{
+    return m_form && FormTicks::listOf(m_form);
 }
 
 void PressGuard::dropQuestion()
@@ -81,7 +88,7 @@ void PressGuard::runAnnounced(QObject *page)
     const std::optional<PressedRun> allowed = std::exchange(m_allowed, std::nullopt); // for this one only
     const PressedRun run = announcedBy(page);
     const orda_batchCfg::CfgFamily *family = orda_batchCfg::Families::find(run.family);
-    if (!m_form || !family || !page->property(refusedProperty).toString().isEmpty())
+    if (!isFormThere() || !family || !page->property(refusedProperty).toString().isEmpty())
         return;
     dropQuestion(); // it is about an earlier press
     if (allowed && *allowed == run)
@@ -99,7 +106,7 @@ void PressGuard::runAnnounced(QObject *page)
 void PressGuard::ask()
 {
     const std::optional<PressQuestion::Asked> asked = std::exchange(m_toAsk, std::nullopt);
-    if (!asked || !m_form)
+    if (!asked || !isFormThere())
         return;
     m_question = new PressQuestion(m_form, *asked, m_form->window());
     // Pressed from the event loop: the press comes back when the run is over, and the question may be gone by then.
@@ -112,7 +119,7 @@ void PressGuard::ask()
 void PressGuard::press(const PressedRun &run)
 {
     const orda_batchCfg::CfgFamily *family = orda_batchCfg::Families::find(run.family);
-    if (!m_form || !family)
+    if (!isFormThere() || !family)
         return;
     allowOnce(run);
     FormPage::of(m_form, *family).press(); // this may be gone afterwards: nothing may follow

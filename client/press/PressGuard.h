@@ -41,6 +41,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool isFormThere() const;
     void runAnnounced(QObject *page);
     void ask();
     void press(const PressedRun &run);

@@ -33,6 +33,8 @@ using namespace std::chrono_literals;
 constexpr auto refreshDelay = 80ms;
 constexpr auto announceDelay = 2s; // a screen reader needs that long for one text
 
+constexpr int spacing = 2;
+
 /// What may change a page in a way that it has no signal for.
 bool isInput(QEvent::Type type)
 {
@@ -79,16 +81,14 @@ void PressLine::buildWidgets()
     new orda_base::ReturnPressesButton(m_preview); // as in the form
     connect(m_preview, &QPushButton::clicked, this, &PressLine::signalPreview);
 
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(2);
-    texts->addStretch();
-    texts->addWidget(m_text);
-    texts->addWidget(m_complaint);
-    texts->addStretch();
-    auto *layout = new QHBoxLayout(this);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_text, 1);
+    row->addWidget(m_preview);
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(texts, 1);
-    layout->addWidget(m_preview);
+    layout->setSpacing(spacing);
+    layout->addLayout(row);
+    layout->addWidget(m_complaint);
 }
 
 template <typename Editor, typename Signal>
@@ -119,7 +119,7 @@ void PressLine::followForm()
     connect(rows, &QAbstractItemModel::dataChanged, m_refreshSoon, &DelayedCall::request);
     // A row that is hidden or shown again gets another height.
     connect(list->verticalHeader(), &QHeaderView::sectionResized, m_refreshSoon, &DelayedCall::request);
-    connect(m_form, &QObject::destroyed, m_refreshSoon, &DelayedCall::request);
+    connect(list, &QObject::destroyed, m_refreshSoon, &DelayedCall::request);
 }
 
 bool PressLine::eventFilter(QObject *watched, QEvent *event)
@@ -132,8 +132,9 @@ bool PressLine::eventFilter(QObject *watched, QEvent *event)
 
 void PressLine::refresh()
 {
-    const FormPage page = m_form ? FormPage::shown(m_form) : FormPage();
-    const FormTicks ticks = m_form ? FormTicks::of(m_form) : FormTicks();
+    const bool isFormThere = m_form && FormTicks::listOf(m_form);
+    const FormPage page = isFormThere ? FormPage::shown(m_form) : FormPage();
+    const FormTicks ticks = isFormThere ? FormTicks::of(m_form) : FormTicks();
     const QStringList complaints = ValueChecks::of(page);
     m_text->setWholeText(PressTexts::press(page, ticks));
     m_complaint->setWholeText(complaints.isEmpty() ? QString()

@@ -40,6 +40,7 @@ PressQuestion::PressQuestion(const QWidget *form, const Asked &asked, QWidget *p
     setMinimumWidth(leastWidth);
     m_layout->setContentsMargins(margin, margin, margin, margin);
     m_layout->setSpacing(margin / 2);
+    m_layout->setSizeConstraint(QLayout::SetFixedSize); // which leaves room for lines that are wrapped
 
     auto *count = new QLabel(tr("Configure %Ln device(s)?", nullptr, asked.run.devIds.size()), this);
     count->setObjectName(QStringLiteral("questionCount"));
@@ -84,6 +85,7 @@ void PressQuestion::addValues(const QWidget *form, const PressedRun &run)
     list->setObjectName(QStringLiteral("questionValues"));
     list->setReadOnly(true);
     list->setTabChangesFocus(true);
+    list->ensurePolished(); // with the font that it will have
     const int lines = std::min(values.size(), mostLines);
     list->setFixedHeight(lines * list->fontMetrics().lineSpacing() + edge);
     auto *caption = new QLabel(tr("&Values that would be written:"), this);

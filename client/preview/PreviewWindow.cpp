@@ -14,6 +14,7 @@
 
 #include <families/Families.h>
 #include <orda_base/SearchBox.h>
+#include <orda_data/DataSignals.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -74,10 +75,12 @@ PreviewWindow::PreviewWindow(ClientSession *session, QWidget *form, ClientSettin
     connect(m_reading, &ReadingBar::signalFresh, this, &PreviewWindow::refresh);
     connect(m_reading, &ReadingBar::signalFinished, this, &PreviewWindow::finish);
     if (auto *journal = session->journal())
-        connect(journal, &orda_journal::JournalTransport::signalRunBegan, this, [this] {
-            m_isOutdated = true;
-            updateState();
-        });
+        connect(journal, &orda_journal::JournalTransport::signalRunBegan, this,
+                [this] { outdate(tr("A run has begun since, and devices may have changed. Press “Preview again”.")); });
+    const auto &devices = orda_data::DataSignals::instance();
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Preview again”.")); };
+    connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
+    connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     m_watch.setInterval(watchInterval);
     connect(&m_watch, &QTimer::timeout, this, &PreviewWindow::updateState);
     m_watch.start();
@@ -90,8 +93,8 @@ QWidget *PreviewWindow::buildTop()
     m_values = plainLabel("values");
     m_search = new orda_base::SearchBox;
     m_search->setObjectName(QStringLiteral("previewSearch"));
-    m_search->setToolTip(tr("Searches all columns (%1)")
-                             .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+    m_search->setToolTip(
+        tr("Searches all columns (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
         updateTable();
@@ -115,7 +118,7 @@ QWidget *PreviewWindow::buildTable()
         updateTable();
         m_table->scrollToTop();
     });
-    m_table = new TableView(m_filter, {20, 22, 20, 16, 16, 0}, tr("Devices and what would change on them"));
+    m_table = new TableView(m_filter, {18, 20, 16, 15, 12, 0}, tr("Devices and what would change on them"));
     m_table->setObjectName(QStringLiteral("plan"));
     m_empty = plainLabel("empty");
     m_empty->setAlignment(Qt::AlignCenter);
@@ -190,7 +193,7 @@ void PreviewWindow::plan(const FormPage &page, const FormTicks &ticks)
 {
     m_plan = {page.family->name, page.values, ticks.devIds};
     m_complaint.clear();
-    m_isOutdated = false;
+    m_outdated.clear();
     const orda_engine::Selection selection{page.family, ticks.devIds, page.values};
     const ParameterTexts texts(m_form, *page.family);
     m_model->setSelection(selection, texts);
@@ -207,6 +210,12 @@ void PreviewWindow::plan(const FormPage &page, const FormTicks &ticks)
     m_values->setText(texts.list(page.values).join(QStringLiteral("; ")));
     m_reading->start(m_session->journal(), selection);
     showPlan();
+}
+
+void PreviewWindow::outdate(const QString &why)
+{
+    m_outdated = why;
+    updateState();
 }
 
 void PreviewWindow::tellNoPlan(const QString &why)
@@ -264,8 +273,8 @@ QString PreviewWindow::whyNotConfigurable() const
         return tr("There is no preview yet.");
     if (!m_form)
         return tr("The form is closed.");
-    if (m_isOutdated)
-        return tr("A run has begun since, and devices may have changed. Press “Preview again”.");
+    if (!m_outdated.isEmpty())
+        return m_outdated;
     if (FormPage::of(m_form, *family).values != m_plan.values)
         return tr("The page has changed since: it would send something else. Press “Preview again”.");
     if (m_model->count(PreviewModel::NotRead) > 0)

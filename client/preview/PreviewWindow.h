@@ -29,7 +29,8 @@ struct FormPage;
 struct FormTicks;
 
 /// What a press on Configure would do to each ticked device, worked out from what the devices hold now. Reads only. The
-/// plan is of a moment: it counts no more when the page asks for something else, or when a run has begun.
+/// plan is of a moment: it counts no more when the page asks for something else, when a run has begun, or when the
+/// inventory has changed, whose devices may have the same identifiers.
 class PreviewWindow : public ToolWindow
 {
     Q_OBJECT
@@ -53,6 +54,7 @@ private:
     QWidget *buildButtons();
 
     void plan(const FormPage &page, const FormTicks &ticks);
+    void outdate(const QString &why);
     void tellNoPlan(const QString &why);
     void finish(const QString &error);
     void refresh(); ///< after devices were read
@@ -68,7 +70,7 @@ private:
     TableFilter *m_filter;
     PressedRun m_plan; ///< its devices are all that were ticked; no family: there is no plan
     QString m_complaint; ///< why there is no plan
-    bool m_isOutdated = false; ///< a run has begun since
+    QString m_outdated; ///< what has happened since that makes the plan worth nothing; empty: nothing
     QTimer m_watch;
 
     QLabel *m_headline;

@@ -95,8 +95,8 @@ void ReadingBar::showCount()
 {
     const QLocale locale;
     m_progress->setValue(m_read);
-    m_text->setText(tr("Reading devices: %1 of %2")
-                        .arg(locale.toString(m_read), locale.toString(m_progress->maximum())));
+    m_text->setText(
+        tr("Reading devices: %1 of %2").arg(locale.toString(m_read), locale.toString(m_progress->maximum())));
 }
 
 } // namespace orda_client

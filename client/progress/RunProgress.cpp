@@ -33,6 +33,7 @@ constexpr auto announceDelay = 2s; // a screen reader needs that long for one te
 constexpr int failuresShown = 3;
 constexpr int offlineNamed = 2;
 constexpr int barWidth = 160;
+constexpr int spacing = 2;
 
 QString nameOf(const QString &devId)
 {
@@ -91,18 +92,19 @@ RunProgress::RunProgress(JournalTransport *journal, const ClientSettings *settin
           announceDelay, [this] { announce(); }, this))
 {
     setObjectName(QStringLiteral("runProgress"));
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(2);
-    for (QWidget *label : {m_counts, m_stopped, m_offline, m_failures})
-        texts->addWidget(label);
     m_bar->setTextVisible(false);
     m_bar->setFixedWidth(barWidth);
     m_bar->setAccessibleName(tr("Devices of the run that have their result"));
-    auto *layout = new QHBoxLayout(this);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_counts, 1);
+    row->addWidget(m_bar, 0, Qt::AlignVCenter);
+    row->addWidget(buildButtons());
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(texts, 1);
-    layout->addWidget(m_bar, 0, Qt::AlignVCenter);
-    layout->addWidget(buildButtons());
+    layout->setSpacing(spacing);
+    layout->addLayout(row);
+    for (QWidget *label : {m_stopped, m_offline, m_failures})
+        layout->addWidget(label);
 
     connect(&m_refreshTimer, &QTimer::timeout, this, &RunProgress::refresh);
     if (m_journal) {
@@ -131,8 +133,8 @@ QWidget *RunProgress::buildButtons()
     m_stopBt = add(tr("&Stop"), "stopRun");
     m_stopBt->setToolTip(
         tr("What has not left yet is not sent (%1)").arg(m_stopShortcut->key().toString(QKeySequence::NativeText)));
-    m_showRunBt = add(tr("S&how run"), "showRun");
-    m_closeBt = add(tr("C&lose"), "closeRun");
+    m_showRunBt = add(tr("Sho&w run"), "showRun");
+    m_closeBt = add(tr("Cl&ose"), "closeRun");
     m_stopShortcut->setAutoRepeat(false);
     const auto stopNow = [this] { stop(tr("Stopped")); };
     connect(m_stopBt, &QPushButton::clicked, this, stopNow);
@@ -205,8 +207,8 @@ void RunProgress::refresh()
     m_bar->setValue(m_tally.settled());
     m_counts->setWholeText(isGoingOn() ? countsText() : resultText());
     showText(m_failures, failuresText(m_latestFailures));
-    QString stopped = m_whyStopped;
-    if (!stopped.isEmpty() && isGoingOn())
+    QString stopped;
+    if (!m_whyStopped.isEmpty() && isGoingOn())
         stopped = tr("%1. What has not left yet is not sent; what has been written stays written: %2", "why, devices")
                       .arg(m_whyStopped, tr("%Ln device(s)", "that were written to", m_tally.done()));
     showText(m_stopped, stopped);
@@ -262,7 +264,8 @@ QString RunProgress::resultText() const
     parts.append(tr("not written: %1", "devices").arg(locale.toString(m_tally.notWritten())));
     if (m_tally.notReached() > 0)
         parts.append(tr("of these not reached: %1", "devices").arg(locale.toString(m_tally.notReached())));
-    return parts.join(QStringLiteral(", "));
+    const QString result = parts.join(QStringLiteral(", "));
+    return m_whyStopped.isEmpty() ? result : tr("%1. %2", "why it has stopped, counts").arg(m_whyStopped, result);
 }
 
 } // namespace orda_client

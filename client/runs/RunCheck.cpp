@@ -17,6 +17,8 @@ QString CheckedDevice::stateText(State state)
     switch (state) {
     case Differs:
         return RunCheck::tr("Differs");
+    case IsWrittenOver:
+        return RunCheck::tr("Is written over");
     case GoesBack:
         return RunCheck::tr("Goes back");
     case GoesBackInPart:
@@ -37,8 +39,7 @@ QString CheckedDevice::stateText(State state)
     return {};
 }
 
-QVector<CheckedDevice> RunCheck::devices(const QStringList &devIds,
-                                         const QHash<QString, DeviceReading> &readings) const
+QVector<CheckedDevice> RunCheck::devices(const QStringList &devIds, const QHash<QString, DeviceReading> &readings) const
 {
     const QSet<QString> isMeant(devIds.begin(), devIds.end());
     QVector<CheckedDevice> checked;
@@ -82,8 +83,7 @@ void RunCheck::takeBack(CheckedDevice *device, const ObjectsByExchange &held) co
 {
     const orda_batchCfg::CfgFamily &family = *run->recorded.written().family;
     const orda_engine::RecordedDevice recorded = run->recorded.device(device->row.devId);
-    const orda_engine::DeviceUndo undo =
-        orda_engine::undoOf(family, recorded.before, recorded.sent, held, force);
+    const orda_engine::DeviceUndo undo = orda_engine::undoOf(family, recorded.before, recorded.sent, held, force);
     QVector<orda_batchCfg::MemberChange> back, over, kept, stuck;
     for (auto exchange = undo.begin(); exchange != undo.end(); ++exchange) {
         const int place = exchange.key();
@@ -102,10 +102,11 @@ void RunCheck::takeBack(CheckedDevice *device, const ObjectsByExchange &held) co
     }
     device->isChangedSince = !over.isEmpty() || !kept.isEmpty();
     const bool isLeft = !kept.isEmpty() || !stuck.isEmpty();
-    const bool isWritten = !back.isEmpty() || !over.isEmpty();
-    device->state = isWritten ? (isLeft ? CheckedDevice::GoesBackInPart : CheckedDevice::GoesBack)
-                  : isLeft    ? CheckedDevice::Stays
-                              : CheckedDevice::AlreadyBack;
+    const bool isWritten = !back.isEmpty();
+    device->state = !over.isEmpty() ? CheckedDevice::IsWrittenOver
+                  : !isWritten      ? (isLeft ? CheckedDevice::Stays : CheckedDevice::AlreadyBack)
+                  : isLeft          ? CheckedDevice::GoesBackInPart
+                                    : CheckedDevice::GoesBack;
     const QString name = run->line.run.family;
     device->changes = texts.changes(name, back + over);
     QStringList notes;

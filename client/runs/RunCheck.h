@@ -14,9 +14,10 @@ struct CheckedDevice
     enum State
     {
         Differs, ///< verify: not as the run has left it
-        GoesBack, ///< undo: everything that the run has changed
+        IsWrittenOver, ///< undo by force: something that was changed since
+        Stays, ///< undo: all that the run has changed was changed since, or cannot be taken out
         GoesBackInPart, ///< undo: something of it; the rest stays
-        Stays, ///< undo: all of it was changed since, or cannot be taken out
+        GoesBack, ///< undo: all of it
         NotRead,
         NotReached,
         Replaced, ///< it is another device by now, and was not read
@@ -31,7 +32,7 @@ struct CheckedDevice
     bool isChangedSince = false; ///< undo: somebody has changed something of it since the run
 
     /// Whether taking the run back writes to the device.
-    bool isWritten() const { return state == GoesBack || state == GoesBackInPart; }
+    bool isWritten() const { return state == GoesBack || state == GoesBackInPart || state == IsWrittenOver; }
     static QString stateText(State state);
 };
 

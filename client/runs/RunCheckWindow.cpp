@@ -55,6 +55,7 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
     , m_devIds(devIds)
     , m_session(session)
     , m_jobs(jobs)
+    , m_isRunGoingOn(jobs->isWriting())
     , m_progress(new orda_base::DelayedCall(
           progressDelay, [this] { updateView(); }, this))
     , m_model(new RunCheckModel(check.kind, this))
@@ -76,8 +77,12 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
         updateView();
     });
     if (const JournalTransport *journal = session->journal()) {
-        connect(journal, &JournalTransport::signalRunBegan, this, &RunCheckWindow::updateView);
-        connect(journal, &JournalTransport::signalRunEnded, this, &RunCheckWindow::updateView);
+        const auto follow = [this](bool isGoingOn) {
+            m_isRunGoingOn = isGoingOn;
+            updateView();
+        };
+        connect(journal, &JournalTransport::signalRunBegan, this, [follow] { follow(true); });
+        connect(journal, &JournalTransport::signalRunEnded, this, [follow] { follow(false); });
     }
     read();
 }
@@ -100,11 +105,12 @@ void RunCheckWindow::buildTable()
                                            unread});
     else
         m_table->setChoices(
-            tr("S&how:"), {all,
-                           {tr("Goes back"), withState({Device::GoesBack, Device::GoesBackInPart})},
-                           {tr("Changed since"), [this](int row) { return m_model->devices().at(row).isChangedSince; }},
-                           {tr("Nothing goes back"), withState({Device::Stays, Device::AlreadyBack})},
-                           unread});
+            tr("S&how:"),
+            {all,
+             {tr("Goes back"), withState({Device::GoesBack, Device::GoesBackInPart, Device::IsWrittenOver})},
+             {tr("Changed since"), [this](int row) { return m_model->devices().at(row).isChangedSince; }},
+             {tr("Nothing goes back"), withState({Device::Stays, Device::AlreadyBack})},
+             unread});
     connect(m_table, &SearchedTable::signalShownChanged, this, &RunCheckWindow::updateView);
     connect(m_table, &SearchedTable::signalSelectionChanged, this, &RunCheckWindow::updateView);
 }
@@ -135,8 +141,9 @@ QWidget *RunCheckWindow::buildLine()
 QWidget *RunCheckWindow::buildButtons()
 {
     auto *buttons = new QWidget;
-    auto *layout = new QHBoxLayout(buttons);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *rows = new QVBoxLayout(buttons);
+    rows->setContentsMargins(0, 0, 0, 0);
+    auto *layout = new QHBoxLayout;
     if (m_check.kind == RunCheck::Undo) {
         m_undo = button({}, "takeBack", "common_bt_style1");
         m_undo->setToolTip(tr("Takes the run back on the selected devices, or on all, where something goes back"));
@@ -147,8 +154,10 @@ QWidget *RunCheckWindow::buildButtons()
             m_check.force = isOn;
             workOut();
         });
+        rows->addWidget(m_force); // a row of its own, because it says much
         layout->addWidget(m_undo);
     }
+    rows->addLayout(layout);
     m_export = button(tr("&Export CSV…"), "exportCsv");
     m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     connect(m_export, &QPushButton::clicked, this, [this] {
@@ -158,8 +167,6 @@ QWidget *RunCheckWindow::buildButtons()
     auto *close = button(tr("&Close"), "close");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     layout->addWidget(m_export);
-    if (m_force)
-        layout->addWidget(m_force);
     layout->addStretch();
     layout->addWidget(close);
     return buttons;
@@ -234,8 +241,7 @@ void RunCheckWindow::updateView()
     if (!m_export)
         return; // still being built
     const bool isReady = !m_job && !m_worker.isRunning() && m_error.isEmpty();
-    const JournalTransport *journal = m_session->journal();
-    const bool isFree = journal && !journal->isBusy();
+    const bool isFree = m_session->journal() && !m_isRunGoingOn;
     m_line->setText(resultText());
     m_table->setEmptyText(m_error.isEmpty() ? tr("What the devices hold is being read.") : m_error);
     m_stop->setVisible(m_job);

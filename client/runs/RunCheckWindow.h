@@ -61,6 +61,7 @@ private:
     QPointer<orda_engine::ReadJob> m_job; // while it reads
     QHash<QString, orda_engine::DeviceReading> m_readings;
     int m_toRead = 0;
+    bool m_isRunGoingOn; // in this program
     QString m_error; // why nothing was read
     QFutureWatcher<QVector<CheckedDevice>> m_worker;
     orda_base::DelayedCall *m_progress;

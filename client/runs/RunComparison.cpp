@@ -7,8 +7,6 @@
 #include <QMap>
 #include <QSet>
 
-#include <algorithm>
-
 namespace orda_client {
 
 using orda_journal::DeviceRow;
@@ -67,10 +65,11 @@ QString differences(const QMap<int, QJsonObject> &first, const QMap<int, QJsonOb
                     const ParameterTexts &texts)
 {
     QStringList parts;
-    QList<int> places = first.keys() + second.keys();
-    std::sort(places.begin(), places.end());
-    places.erase(std::unique(places.begin(), places.end()), places.end());
-    for (const int place : qAsConst(places)) {
+    QMap<int, QJsonObject> either = first;
+    for (auto place = second.begin(); place != second.end(); ++place)
+        either.insert(place.key(), *place);
+    for (auto exchange = either.cbegin(); exchange != either.cend(); ++exchange) {
+        const int place = exchange.key();
         const QJsonObject a = first.value(place), b = second.value(place);
         QStringList names = a.keys() + b.keys();
         names.removeDuplicates();
@@ -101,7 +100,7 @@ QVector<ComparedDevice> compareRuns(const RunDetails &first, const RunDetails &s
             const Members a = inFirst.value(device.devId), b = inSecond.value(device.devId);
             both.read = differences(a.read, b.read, texts);
             both.written = differences(a.written, b.written, texts);
-            both.state = device.outcome != other->outcome                     ? ComparedDevice::OutcomesDiffer
+            both.state = device.outcome != other->outcome              ? ComparedDevice::OutcomesDiffer
                        : both.read.isEmpty() && both.written.isEmpty() ? ComparedDevice::Same
                                                                        : ComparedDevice::ValuesDiffer;
             others.erase(other);

@@ -117,8 +117,8 @@ RunComparisonWindow::RunComparisonWindow(const RunLine &first, const RunLine &se
         const QStringList parts{RunTexts::time(line.run.began), line.values, RunTexts::counts(line.run)};
         return vms_sdk::displayText(parts.join(QStringLiteral("   ")));
     };
-    auto *about = new QLabel(tr("First: %1").arg(runText(first)) + QLatin1Char('\n')
-                             + tr("Second: %1").arg(runText(second)));
+    auto *about =
+        new QLabel(tr("First: %1").arg(runText(first)) + QLatin1Char('\n') + tr("Second: %1").arg(runText(second)));
     about->setTextFormat(Qt::PlainText);
     about->setWordWrap(true);
     auto *exported = new QPushButton(tr("&Export CSV…"));

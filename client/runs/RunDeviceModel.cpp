@@ -49,8 +49,7 @@ int RunDeviceModel::rowCount(const QModelIndex &parent) const
 
 QStringList RunDeviceModel::titles() const
 {
-    return {tr("Outcome"),    tr("Name"),    tr("Serial number"),
-            tr("IP address"), tr("Message"), tr("Before → after")};
+    return {tr("Outcome"), tr("Name"), tr("Serial number"), tr("IP address"), tr("Message"), tr("Before → after")};
 }
 
 QString RunDeviceModel::text(int row, int column) const
@@ -66,7 +65,8 @@ QString RunDeviceModel::text(int row, int column) const
     case Ip:
         return recorded.ip;
     case Message:
-        return recorded.late.isEmpty() ? recorded.message : tr("%1 (it answered later)", "message").arg(recorded.message);
+        return recorded.late.isEmpty() ? recorded.message
+                                       : tr("%1 (it answered later)", "message").arg(recorded.message);
     default:
         return m_run->devices.at(row).changes;
     }

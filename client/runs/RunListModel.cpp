@@ -37,7 +37,7 @@ int RunListModel::rowCount(const QModelIndex &parent) const
 
 QStringList RunListModel::titles() const
 {
-    return {tr("Began"), tr("Parameters"), tr("Kind"), tr("Devices"), tr("Duration"), tr("Program"), tr("Values")};
+    return {tr("Began"), tr("Parameters"), tr("Kind"), tr("Devices"), tr("Values"), tr("Duration"), tr("Program")};
 }
 
 QString RunListModel::text(int row, int column) const
@@ -54,10 +54,10 @@ QString RunListModel::text(int row, int column) const
         return RunTexts::counts(line.run);
     case Duration:
         return RunTexts::duration(line.run);
-    case Program:
-        return line.run.program;
-    default:
+    case Values:
         return line.values;
+    default:
+        return line.run.program;
     }
 }
 

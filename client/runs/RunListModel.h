@@ -17,9 +17,9 @@ public:
         FamilyTitle,
         Kind,
         Counts,
+        Values,
         Duration,
         Program,
-        Values,
         ColumnCount
     };
 

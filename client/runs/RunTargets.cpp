@@ -71,15 +71,15 @@ RunTargets RunTargets::toTryAgain(const ChosenRun &run, const QStringList &devId
 
 int RunTargets::countNotReached() const
 {
-    return int(std::count_if(selection.devIds.cbegin(), selection.devIds.cend(), [](const QString &devId) {
-        return !orda_engine::reachOf(devId).canBeWritten;
-    }));
+    return int(std::count_if(selection.devIds.cbegin(), selection.devIds.cend(),
+                             [](const QString &devId) { return !orda_engine::reachOf(devId).canBeWritten; }));
 }
 
 QStringList RunTargets::leftOutLines() const
 {
     QStringList lines;
-    for (const QString &line : leftOut.mid(0, maxLines))
+    const QStringList first = leftOut.mid(0, maxLines);
+    for (const QString &line : first)
         lines.append(vms_sdk::displayText(line));
     if (leftOut.size() > maxLines)
         lines.append(tr("… and %n more", "devices", leftOut.size() - maxLines));

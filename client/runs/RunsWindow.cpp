@@ -1,6 +1,7 @@
 #include "client/runs/RunsWindow.h"
 
 #include "client/form/Families.h"
+#include "client/form/FormTicks.h"
 #include "client/record/RecordWindow.h"
 #include "client/runs/ChosenRunPane.h"
 #include "client/runs/RunCheckWindow.h"
@@ -79,6 +80,7 @@ RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, Cli
           historyDelay, [this] { m_history->readRuns(); }, this))
     , m_progress(new orda_base::DelayedCall(
           progressDelay, [this] { updateView(); }, this))
+    , m_isRunGoingOn(FormTicks::runOverlay(form) || jobs->isWriting())
 {
     setWindowTitle(tr("Runs"));
     m_pane = new ChosenRunPane;
@@ -105,7 +107,7 @@ RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, Cli
 
 QWidget *RunsWindow::buildRuns()
 {
-    m_runs = new SearchedTable(m_model, {20, 18, 27, 28, 10, 18}, QStringLiteral("runs"), tr("Runs, latest first"),
+    m_runs = new SearchedTable(m_model, {20, 17, 26, 26, 34, 9}, QStringLiteral("runs"), tr("Runs, latest first"),
                                tr("Searches times, parameters, outcomes, programs and values"));
     m_runs->setChoices(tr("&Runs:"),
                        {{tr("All runs"), nullptr},
@@ -174,6 +176,7 @@ void RunsWindow::followRuns()
     if (!journal)
         return;
     connect(journal, &JournalTransport::signalRunBegan, this, [this](const orda_journal::RunStart &run) {
+        m_isRunGoingOn = true;
         m_settled = 0;
         m_total = run.devIds.size();
         m_readSoon->request();
@@ -183,7 +186,10 @@ void RunsWindow::followRuns()
         ++m_settled;
         m_progress->request();
     });
-    connect(journal, &JournalTransport::signalRunEnded, this, &RunsWindow::updateView);
+    connect(journal, &JournalTransport::signalRunEnded, this, [this] {
+        m_isRunGoingOn = false;
+        updateView();
+    });
     connect(journal, &JournalTransport::signalRunRecorded, m_history, &RunHistory::readRuns);
 }
 
@@ -296,8 +302,9 @@ QVector<int> RunsWindow::comparableRuns() const
 
 QString RunsWindow::lineText() const
 {
-    const JournalTransport *journal = m_session->journal();
-    if (journal && journal->isBusy() && m_settled < m_total)
+    if (m_isRunGoingOn && m_total == 0)
+        return tr("A run is going on.");
+    if (m_isRunGoingOn)
         return tr("A run is going on: %1 of %Ln device(s) have their outcome.", nullptr, m_total)
             .arg(QLocale().toString(m_settled));
     return m_pane->run() ? m_pane->run()->recorded.error() : QString();
@@ -307,8 +314,7 @@ void RunsWindow::updateView()
 {
     if (!m_export)
         return; // still being built
-    const JournalTransport *journal = m_session->journal();
-    const bool isFree = journal && !journal->isBusy();
+    const bool isFree = m_session->journal() && !m_isRunGoingOn;
     const int again = m_pane->meantDevices().size();
     const bool isWritten = isFree && !writtenDevices().isEmpty();
     m_line->setText(lineText());

@@ -73,7 +73,8 @@ private:
     bool m_wantsLatest = true;
     bool m_isListing = false; // the list is being filled: what is selected meanwhile is not the user's choice
     QString m_chosen; // id of the run that is shown, or is being read
-    int m_settled = 0, m_total = 0; // devices of the run that is under way here
+    bool m_isRunGoingOn; // in this program; a reading that keeps a run from beginning is told by the engine
+    int m_settled = 0, m_total = 0; // devices of that run; 0: it began before this window
 
     SearchedTable *m_runs = nullptr;
     ChosenRunPane *m_pane = nullptr;

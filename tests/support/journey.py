@@ -1,6 +1,7 @@
 """What the journeys share: a display and a session bus of their own, and the client's AT-SPI tree by names and states."""
 
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -8,8 +9,9 @@ import tempfile
 import time
 import warnings
 
-LIMIT = 20  # seconds for any single step
+LIMIT = 30  # seconds for any single step; a device that does not answer takes 15
 SKIPPED = 77
+WINDOWS = ("alert", "dialog", "frame")  # roles of what an application has at the top
 
 
 def skip(reason):
@@ -72,28 +74,32 @@ def name_of(node):
 
 
 def descendants(node):
-    for index in range(node.get_child_count()):
-        child = node.get_child_at_index(index)
-        if child:
-            yield child
+    for child in children(node):
+        yield child
+        if child.get_role_name() != "table":  # whose cells are asked for by row and column
             yield from descendants(child)
 
 
-def find(root, role, name, shown=True):
+def find(root, role, name, shown=True, state=None):
+    """The control of that name, or of a name that a compiled pattern fits, as soon as it is there and as wanted."""
     def look():
-        for node in descendants(root):
-            if node.get_role_name() == role and name_of(node) == name and (not shown or has(node, "SHOWING")):
+        for node in children(root) if role in WINDOWS else descendants(root):
+            fits = node.get_role_name() == role and (name.fullmatch if isinstance(name, re.Pattern) else name.__eq__)(name_of(node))
+            if fits and (not shown or has(node, "SHOWING")) and (not state or has(node, state)):
                 return node
         return None
 
-    return wait_for(f'{role} "{name}"', look)
+    return wait_for(f'{role} "{getattr(name, "pattern", name)}"', look)
+
+
+def devices(count):
+    """How texts name so many, before and after they were translated into proper English."""
+    return f"{count} device(?:s|\\(s\\))?"
 
 
 def client_window(client):
     """The client's own window, whose title begins with what is open in it."""
-    return wait_for("client's window", lambda: next(
-        (node for node in descendants(client) if node.get_role_name() == "frame" and has(node, "SHOWING")
-         and node.get_name().endswith("– Batch Configuration")), None))
+    return find(client, "frame", re.compile(".*– Batch Configuration"))
 
 
 def has(node, state):
@@ -115,8 +121,37 @@ def set_state(node, state, wanted):
     wait_for(f'"{name_of(node)}" {state}={wanted}', lambda: has(node, state) == wanted)
 
 
+def open_page(window, title):
+    entry = find(window, "page tab", title)
+    act(entry, "Press")
+    wait_for("open page", lambda: has(entry, "SELECTED"))
+    return find(window, "filler", title)
+
+
+def choose_menu_entry(client, title):
+    """Of the window's menu bar; an entry is there for assistive technology while its menu is closed, too."""
+    act(find(client, "menu item", title, shown=False), "Press")
+
+
+def rows_of(table):
+    table = table.get_table_iface()
+    return [[table.get_accessible_at(row, column).get_name() for column in range(table.get_n_columns())]
+            for row in range(table.get_n_rows())]
+
+
+def answer(client, title, text, button):
+    dialog = find(client, "alert", title)
+    find(dialog, "label", text)
+    act(find(dialog, "push button", button), "Press")
+    wait_for("answered dialog", lambda: not dialogs(client))
+
+
+def children(node):
+    return [child for child in map(node.get_child_at_index, range(node.get_child_count())) if child]
+
+
 def dialogs(client):
-    return [node for node in descendants(client) if node.get_role_name() in ("dialog", "alert")]
+    return [window for window in children(client) if window.get_role_name() in ("alert", "dialog")]
 
 
 def application():
