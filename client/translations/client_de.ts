@@ -370,7 +370,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
     <message>
         <source>Differs in</source>
-        <translation>Weicht ab in</translation>
+        <translation>Abweichungen</translation>
     </message>
     <message>
         <source>%1, and the standard: %2</source>
@@ -476,39 +476,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>As of %1: %2 differ from the standard, %3 do not, %4 were not read.</source>
         <comment>time, three numbers of devices</comment>
         <translation>Stand %1: vom Standard abweichend %2, nicht abweichend %3, nicht gelesen %4.</translation>
-    </message>
-    <message>
-        <source>The page cannot send this value, and leaves it out: %1</source>
-        <comment>parameter</comment>
-        <translation>Die Seite kann diesen Wert nicht senden und lässt ihn aus: %1</translation>
-    </message>
-    <message>
-        <source>The page would send this besides: %1</source>
-        <comment>parameter</comment>
-        <translation>Die Seite würde außerdem senden: %1</translation>
-    </message>
-    <message>
-        <source>The values were loaded into the page. Nothing was sent to devices.</source>
-        <translation>Die Werte wurden in die Seite geladen. An Geräte wurde nichts gesendet.</translation>
-    </message>
-    <message>
-        <source>The page does not have all of the values as they should be. Look at it before you press Configure:</source>
-        <translation>Auf der Seite stehen nicht alle Werte so, wie sie sollen. Sehen Sie nach, bevor Sie Konfigurieren drücken:</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln device(s) that differ in the device list, and no others.</source>
-        <translation>
-            <numerusform>%1 von %Ln abweichenden Gerät in der Geräteliste angehakt und keine anderen.</numerusform>
-            <numerusform>%1 von %Ln abweichenden Geräten in der Geräteliste angehakt und keine anderen.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
-    </message>
-    <message>
-        <source>These are not in the list now:</source>
-        <translation>Diese stehen jetzt nicht in der Liste:</translation>
     </message>
 </context>
 <context>
@@ -898,6 +865,42 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>&amp;Start the demo</source>
         <translation>De&amp;mo starten</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::FormChanges</name>
+    <message>
+        <source>The page cannot send this value, and leaves it out: %1</source>
+        <comment>parameter</comment>
+        <translation>Die Seite kann diesen Wert nicht senden und lässt ihn aus: %1</translation>
+    </message>
+    <message>
+        <source>The page would send this besides: %1</source>
+        <comment>parameter</comment>
+        <translation>Die Seite würde außerdem senden: %1</translation>
+    </message>
+    <message>
+        <source>The values were loaded into the page. Nothing was sent to devices.</source>
+        <translation>Die Werte wurden in die Seite geladen. An Geräte wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>The page does not have all of the values as they should be. Look at it before you press Configure:</source>
+        <translation>Auf der Seite stehen nicht alle Werte so, wie sie sollen. Sehen Sie nach, bevor Sie Konfigurieren drücken:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln device(s) that differ in the device list, and no others.</source>
+        <translation>
+            <numerusform>%1 von %Ln abweichenden Gerät in der Geräteliste angehakt und keine anderen.</numerusform>
+            <numerusform>%1 von %Ln abweichenden Geräten in der Geräteliste angehakt und keine anderen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
+    </message>
+    <message>
+        <source>These are not in the list now:</source>
+        <translation>Diese stehen jetzt nicht in der Liste:</translation>
     </message>
 </context>
 <context>
@@ -1570,6 +1573,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>No device would change: there is nothing to configure.</source>
         <translation>Kein Gerät würde sich ändern: Es gibt nichts zu konfigurieren.</translation>
     </message>
+    <message>
+        <source>The inventory has changed since. Press “Preview again”.</source>
+        <translation>Der Bestand hat sich seither geändert. Drücken Sie „Vorschau erneuern“.</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::ReadingBar</name>
@@ -1782,6 +1789,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>not there before and cannot be taken out: %1</source>
         <translation>vorher nicht vorhanden und nicht entfernbar: %1</translation>
+    </message>
+    <message>
+        <source>Is written over</source>
+        <translation>Wird überschrieben</translation>
     </message>
 </context>
 <context>
@@ -2237,14 +2248,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Was noch nicht unterwegs ist, wird nicht gesendet (%1)</translation>
     </message>
     <message>
-        <source>S&amp;how run</source>
-        <translation>Lauf &amp;anzeigen</translation>
-    </message>
-    <message>
-        <source>C&amp;lose</source>
-        <translation>&amp;Schließen</translation>
-    </message>
-    <message>
         <source>Stopped</source>
         <translation>Gestoppt</translation>
     </message>
@@ -2344,6 +2347,19 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>of these not reached: %1</source>
         <comment>devices</comment>
         <translation>davon nicht erreicht: %1</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w run</source>
+        <translation>Lauf &amp;anzeigen</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>why it has stopped, counts</comment>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
@@ -2650,6 +2666,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>Configure</source>
         <translation>Konfigurieren</translation>
     </message>
+    <message>
+        <source>A run is going on.</source>
+        <translation>Ein Lauf ist im Gange.</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::SearchedTable</name>
@@ -2917,10 +2937,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Datei &amp;laden …</translation>
     </message>
     <message>
-        <source>It is a &amp;table: only the first column names devices</source>
-        <translation>Es ist eine &amp;Tabelle: nur die erste Spalte nennt Geräte</translation>
-    </message>
-    <message>
         <source>What of the list is not ticked</source>
         <translation>Was von der Liste nicht angehakt wird</translation>
     </message>
@@ -2987,6 +3003,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>This of the list is not ticked, or was given more than once:</source>
         <translation>Dies von der Liste wird nicht angehakt oder war mehr als einmal angegeben:</translation>
+    </message>
+    <message>
+        <source>It is a t&amp;able: only the first column names devices</source>
+        <translation>Es ist eine &amp;Tabelle: nur die erste Spalte nennt Geräte</translation>
     </message>
 </context>
 <context>

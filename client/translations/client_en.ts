@@ -39,16 +39,6 @@
     </message>
 </context>
 <context>
-    <name>orda_client::CompareWindow</name>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln device(s) that differ in the device list, and no others.</source>
-        <translation>
-            <numerusform>Ticked %1 of %Ln device that differs in the device list, and no others.</numerusform>
-            <numerusform>Ticked %1 of %Ln devices that differ in the device list, and no others.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>orda_client::DevicesWindow</name>
     <message numerus="yes">
         <source>%1 of %Ln device(s) shown</source>
@@ -88,6 +78,16 @@
         <translation>
             <numerusform>Saves %n device as a table, which can be changed and imported again.</numerusform>
             <numerusform>Saves %n devices as a table, which can be changed and imported again.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::FormChanges</name>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln device(s) that differ in the device list, and no others.</source>
+        <translation>
+            <numerusform>Ticked %1 of %Ln device that differs in the device list, and no others.</numerusform>
+            <numerusform>Ticked %1 of %Ln devices that differ in the device list, and no others.</numerusform>
         </translation>
     </message>
 </context>

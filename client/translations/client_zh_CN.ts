@@ -366,7 +366,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
     <message>
         <source>Differs in</source>
-        <translation>差异</translation>
+        <translation>差异数</translation>
     </message>
     <message>
         <source>%1, and the standard: %2</source>
@@ -472,38 +472,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>As of %1: %2 differ from the standard, %3 do not, %4 were not read.</source>
         <comment>time, three numbers of devices</comment>
         <translation>截至 %1：与标准有差异 %2 台，无差异 %3 台，未读取 %4 台。</translation>
-    </message>
-    <message>
-        <source>The page cannot send this value, and leaves it out: %1</source>
-        <comment>parameter</comment>
-        <translation>该页面无法发送此值，已略去：%1</translation>
-    </message>
-    <message>
-        <source>The page would send this besides: %1</source>
-        <comment>parameter</comment>
-        <translation>该页面还会发送：%1</translation>
-    </message>
-    <message>
-        <source>The values were loaded into the page. Nothing was sent to devices.</source>
-        <translation>值已载入页面。未向设备发送任何内容。</translation>
-    </message>
-    <message>
-        <source>The page does not have all of the values as they should be. Look at it before you press Configure:</source>
-        <translation>页面上并非所有值都符合要求。请在按“配置”之前检查：</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln device(s) that differ in the device list, and no others.</source>
-        <translation>
-            <numerusform>已在设备列表中勾选 %Ln 台有差异设备中的 %1 台，未勾选其他设备。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
-    </message>
-    <message>
-        <source>These are not in the list now:</source>
-        <translation>以下设备当前不在列表中：</translation>
     </message>
 </context>
 <context>
@@ -731,7 +699,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message numerus="yes">
         <source>%1 of %Ln device(s) shown</source>
         <translation>
-            <numerusform>显示 %1 台（共 %Ln 台）设备</numerusform>
+            <numerusform>%Ln 台设备中显示 %1 台</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -888,6 +856,41 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>&amp;Start the demo</source>
         <translation>开始演示(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::FormChanges</name>
+    <message>
+        <source>The page cannot send this value, and leaves it out: %1</source>
+        <comment>parameter</comment>
+        <translation>该页面无法发送此值，已略去：%1</translation>
+    </message>
+    <message>
+        <source>The page would send this besides: %1</source>
+        <comment>parameter</comment>
+        <translation>该页面还会发送：%1</translation>
+    </message>
+    <message>
+        <source>The values were loaded into the page. Nothing was sent to devices.</source>
+        <translation>值已载入页面。未向设备发送任何内容。</translation>
+    </message>
+    <message>
+        <source>The page does not have all of the values as they should be. Look at it before you press Configure:</source>
+        <translation>页面上并非所有值都符合要求。请在按“配置”之前检查：</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln device(s) that differ in the device list, and no others.</source>
+        <translation>
+            <numerusform>已在设备列表中勾选 %Ln 台有差异设备中的 %1 台，未勾选其他设备。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
+    </message>
+    <message>
+        <source>These are not in the list now:</source>
+        <translation>以下设备当前不在列表中：</translation>
     </message>
 </context>
 <context>
@@ -1335,7 +1338,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>%1 to %2</source>
         <comment>parameters, devices</comment>
-        <translation>将 %1 写入 %2</translation>
+        <translation>写入 %2：%1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln parameter(s)</source>
@@ -1364,7 +1367,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>%1 and %2</source>
         <comment>cameras, recorders</comment>
-        <translation>%1 和 %2</translation>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
@@ -1385,7 +1388,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>the device lacks %1</source>
         <comment>parameter</comment>
-        <translation>设备没有 %1</translation>
+        <translation>设备缺少：%1</translation>
     </message>
     <message>
         <source>would change</source>
@@ -1490,7 +1493,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>%1: %2 to %3, as of %4. Nothing was written.</source>
         <comment>page, parameters, devices, time</comment>
-        <translation>%1：将 %2 写入 %3，截至 %4。未写入任何内容。</translation>
+        <translation>%1：%2，%3，截至 %4。未写入任何内容。</translation>
     </message>
     <message numerus="yes">
         <source>%Ln parameter(s)</source>
@@ -1544,6 +1547,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>No device would change: there is nothing to configure.</source>
         <translation>没有设备会更改：无需配置。</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press “Preview again”.</source>
+        <translation>清单之后有变化。请按“重新预览”。</translation>
     </message>
 </context>
 <context>
@@ -1757,6 +1764,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>not there before and cannot be taken out: %1</source>
         <translation>之前不存在且无法移除：%1</translation>
+    </message>
+    <message>
+        <source>Is written over</source>
+        <translation>将被覆盖</translation>
     </message>
 </context>
 <context>
@@ -2202,14 +2213,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>尚未发出的不再发送 (%1)</translation>
     </message>
     <message>
-        <source>S&amp;how run</source>
-        <translation>显示运行(&amp;H)</translation>
-    </message>
-    <message>
-        <source>C&amp;lose</source>
-        <translation>关闭(&amp;L)</translation>
-    </message>
-    <message>
         <source>Stopped</source>
         <translation>已停止</translation>
     </message>
@@ -2302,6 +2305,19 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>of these not reached: %1</source>
         <comment>devices</comment>
         <translation>其中未连上：%1</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w run</source>
+        <translation>显示运行(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>关闭(&amp;O)</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>why it has stopped, counts</comment>
+        <translation>%1。%2</translation>
     </message>
 </context>
 <context>
@@ -2602,6 +2618,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>Configure</source>
         <translation>配置</translation>
     </message>
+    <message>
+        <source>A run is going on.</source>
+        <translation>运行正在进行。</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::SearchedTable</name>
@@ -2865,10 +2885,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>载入文件(&amp;L)…</translation>
     </message>
     <message>
-        <source>It is a &amp;table: only the first column names devices</source>
-        <translation>这是表格，只有第一列是设备(&amp;T)</translation>
-    </message>
-    <message>
         <source>What of the list is not ticked</source>
         <translation>名单中不勾选的项</translation>
     </message>
@@ -2934,6 +2950,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>This of the list is not ticked, or was given more than once:</source>
         <translation>名单中以下各项不勾选或重复给出：</translation>
+    </message>
+    <message>
+        <source>It is a t&amp;able: only the first column names devices</source>
+        <translation>这是表格，只有第一列是设备(&amp;A)</translation>
     </message>
 </context>
 <context>
