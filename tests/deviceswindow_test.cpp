@@ -30,15 +30,9 @@ DevInfo device(int number)
     const QString text = QString::number(number);
     DevInfo dev;
     dev.id = "dev" + text, dev.name = "Cam " + text, dev.serialNumber = "SN" + text;
-    dev.ip = "10.0.0." + QString::number(number + 1), dev.port = 80;
-    dev.accessCode = 1, dev.kindCode = number == 8 ? 3 : 1;
-    dev.group = number < 3 ? "north & south" : "";
+    dev.ip = "10.0.0." + QString::number(number + 1), dev.port = 80, dev.accessCode = 1;
+    dev.kindCode = number == 8 ? 3 : 1, dev.group = number < 3 ? "north & south" : "";
     return dev;
-}
-
-orda_data::DevsMgrData &store()
-{
-    return orda_data::DevsMgrData::instance();
 }
 
 QStringList cells(const QAbstractItemModel *model, int column)
@@ -60,11 +54,11 @@ struct Site
             ClientSdk::instance().setTransport(std::make_unique<ScriptedTransport>(silent));
         form.reset(orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm());
         for (int i = 0; i < devices; ++i) {
-            store().updateDevs({device(i)});
-            store().setDevStatus(device(i).id, i < 8 ? DevOnline : DevOffline);
+            store.updateDevs({device(i)});
+            store.setDevStatus(device(i).id, i < 8 ? DevOnline : DevOffline);
         }
-        store().setDevTrouble("dev9", {TroubleReason::NoAnswer, {}, 1000});
-        store().setDevStatus("dev9", DevConnecting);
+        store.setDevTrouble("dev9", {TroubleReason::NoAnswer, {}, 1000});
+        store.setDevStatus("dev9", DevConnecting);
         QSignalSpy(&states, &DeviceStates::signalChanged).wait(1000);
         open();
     }
@@ -129,20 +123,20 @@ struct Site
         const QHash<QString, std::function<bool()>> steps{
             {"choose", [&] { return list->selectRow(cells(list->model(), 0).indexOf(rest)), true; }},
             {"search", [&] { return child<QWidget>("deviceSearch")->findChild<QLineEdit *>()->setText(rest), true; }},
-            {"sort", [&] { return view->sortByColumn(4, Qt::SortOrder(rest == "down")), true; }},
+            {"sort", [&] { return view->sortByColumn(rest[0].digitValue(), Qt::SortOrder(rest[2] == 'd')), true; }},
             {"select",
              [&] {
                  return view->selectionModel()->select(table()->index(cells(table(), 0).indexOf(rest), 0), rows), true;
              }},
             {"click", [&] { return QTest::mouseClick(child<QPushButton>(rest), Qt::LeftButton), true; }},
-            {"online", [&] { return store().setDevStatus(rest, DevOnline), true; }},
-            {"offline", [&] { return store().setDevStatus(rest, DevOffline), true; }},
-            {"add", [&] { return store().updateDevs({device(rest.mid(3).toInt())}), true; }},
+            {"online", [&] { return store.setDevStatus(rest, DevOnline), true; }},
+            {"offline", [&] { return store.setDevStatus(rest, DevOffline), true; }},
+            {"delete", [&] { return store.deleteDevs({rest}), true; }},
             {"replace",
              [&] {
-                 DevInfo other = store().getDevInfoById(rest);
+                 DevInfo other = store.getDevInfoById(rest);
                  other.serialNumber = "NEW";
-                 return store().updateDevs({other}), true;
+                 return store.updateDevs({other}), true;
              }},
             {"other", // client with the same settings, in a process of its own
              [&] {
@@ -152,7 +146,6 @@ struct Site
                      && other.write(QString("[General]\nselections=\"%1\"\n").arg(json).toUtf8()) > 0;
              }},
             {"readonly", [&] { return QDir().mkdir(place.filePath("client.ini")); }}, // for root, too
-            {"delete", [&] { return store().deleteDevs({rest}), true; }},
             {"tick", [&] { return FormTicks::tickExactly(form.get(), rest.split(' ')).notListed.isEmpty(); }},
             {"run", [&] { return (new orda_base::DisabledWaitingWt(form.get(), {}))->show(), true; }},
             {"menu", [&] { return clickMenu("groupsMenu", rest); }},
@@ -165,6 +158,7 @@ struct Site
         return steps.contains(word) && steps.value(word)();
     }
 
+    orda_data::DevsMgrData &store = orda_data::DevsMgrData::instance();
     QTemporaryDir place;
     HistoryOptions history;
     ClientSettings settings{place.filePath("client.ini")};
@@ -240,14 +234,13 @@ private slots:
         const auto since = [&site](const char *devId) { return site.states.of(devId).since; };
         const qint64 online = since("dev0"), never = since("dev10");
         QTest::qWait(2);
-        store().setDevTrouble("dev0", {TroubleReason::ConnectionLost, {}, 5000});
-        store().setDevStatus("dev0", DevOffline);
+        site.store.setDevTrouble("dev0", {TroubleReason::ConnectionLost, {}, 5000});
+        site.store.setDevStatus("dev0", DevOffline);
         QCOMPARE(since("dev0"), 5000);
         emit ClientSignals::instance().signalDevTroubled("dev10", {TroubleReason::NoAddress, {}, 0});
-        QCOMPARE(site.states.of("dev10").text(), "Off line: no address, or its name is not known");
-        QCOMPARE(since("dev10"), never);
-        store().setDevStatus("dev10", DevOnline);
-        store().setDevStatus("dev0", DevOnline); // it was away for less than it takes to tell
+        QVERIFY(site.states.of("dev10").text().contains("no address") && since("dev10") == never);
+        site.store.setDevStatus("dev10", DevOnline);
+        site.store.setDevStatus("dev0", DevOnline); // it was away for less than it takes to tell
         QVERIFY(online > 0 && since("dev0") > online && since("dev10") > never);
         const QSignalSpy told(&site.states, &DeviceStates::signalChanged); // of all that, once
         QVERIFY(!QTest::qWaitFor([&] { return told.count() > 1; }, 500) && told.count() == 1);
@@ -277,13 +270,13 @@ private slots:
         TestDevice refused("SN-1");
         refused.fault = Refuses;
         expectWarning("password");
-        store().updateDevs({refused.info});
-        QTRY_COMPARE(store().getDevStatus("SN-1"), DevRefused);
+        site.store.updateDevs({refused.info});
+        QTRY_COMPARE(site.store.getDevStatus("SN-1"), DevRefused);
         refused.fault = NoFault;
         QTRY_COMPARE(site.table()->rowCount(), 1);
         site.child<QTableView>("devices")->selectAll();
         site.take("click", "connectAgain");
-        QTRY_VERIFY(isOnlineStatus(store().getDevStatus("SN-1")));
+        QTRY_VERIFY(isOnlineStatus(site.store.getDevStatus("SN-1")));
         QCOMPARE(refused.dials, 2);
     }
 };

@@ -1,6 +1,5 @@
-#include "support/FleetOf.h"
 #include "support/OrdaTest.h"
-#include "support/Store.h"
+#include "support/RunsSite.h"
 
 #include "client/app/ClientWindow.h"
 #include "client/form/Families.h"
@@ -8,151 +7,19 @@
 #include "client/runs/RunCheckWindow.h"
 #include "client/runs/RunComparison.h"
 #include "client/runs/RunComparisonWindow.h"
-#include "client/runs/RunJobs.h"
 #include "client/runs/RunTargets.h"
-#include "client/runs/RunsWindow.h"
-#include "client/session/ClientSession.h"
-#include "client/settings/ClientSettings.h"
-#include "engine/ApplyJob.h"
-#include "engine/Reach.h"
-#include "fleet/EmbeddedFleet.h"
-#include "journal/HistoryReader.h"
-#include "journal/JournalTransport.h"
 
-#include <QtWidgets>
-#include <families/Families.h>
-#include <orda_base/BaseForm.h>
 #include <orda_worker/AssistantSignals.h>
-#include <shell/BatchCfgInit.h>
-#include <vms_client_sdk/ClientSdk.h>
 
 using namespace orda_client;
 using namespace orda_journal;
-using device_fleet::EmbeddedFleet;
 using device_fleet::Fault;
 using orda_batchCfg::Families;
 
 namespace {
 
-template <typename Widget = QAbstractButton>
-Widget *child(const QWidget *window, const char *name)
-{
-    return window->findChild<Widget *>(name);
-}
-
-QStringList column(const QWidget *window, const char *table, int number)
-{
-    const auto *model = child<QTableView>(window, table)->model();
-    QStringList texts;
-    for (int row = 0; row < model->rowCount(); ++row)
-        texts.append(model->index(row, number).data().toString());
-    return texts;
-}
-
-QStringList times(int count, const char *text)
-{
-    QStringList texts;
-    while (texts.size() < count)
-        texts.append(text);
-    return texts;
-}
-
-QJsonObject parsed(QString text)
-{
-    return QJsonDocument::fromJson(text.replace('\'', '"').toUtf8()).object();
-}
-
-/// The client's session over a fleet, of which six devices are used, and the window of the runs.
-struct Site : QObject
-{
-    Site()
-    {
-        vms_sdk::ClientSdk::instance().setRequestTimeout(std::chrono::seconds(2));
-        fleet.start();
-        orda_data::DevsMgrData::instance().updateDevs(fleet.inventory());
-        for (const int number : {0, 1, 2, 4, 5, 6})
-            devIds.append(fleet.inventory().at(number).id);
-        const auto isOnline = [](const QString &devId) { return orda_engine::reachOf(devId).canBeWritten; };
-        if (!QTest::qWaitFor([&] { return std::all_of(devIds.begin(), devIds.end(), isOnline); }))
-            qFatal("the devices did not come online");
-        connect(&fleet, &EmbeddedFleet::requestReceived, this, [this](const QString &devId, const QString &method) {
-            if (method.contains("_set_"))
-                written.insert(devId);
-        });
-    }
-    ~Site() override
-    {
-        delete window;
-        clearStore();
-    }
-
-    HistoryOptions options() const
-    {
-        HistoryOptions options;
-        options.path = place.filePath("history.db");
-        return options;
-    }
-    /// A run of the engine, recorded. @return its id
-    QString run(const QString &values, const QStringList &on)
-    {
-        QSignalSpy recorded(session.journal(), &JournalTransport::signalRunRecorded);
-        orda_engine::ApplyJob job(session.journal(), {Families::find("audio"), on, parsed(values)});
-        job.start();
-        return recorded.wait() ? job.runId() : QString();
-    }
-    RunDetails recorded(const QString &runId) const { return HistoryReader(options()).run(runId).value(); }
-    QVector<RunRow> runs() const { return HistoryReader(options()).runs(); }
-    /// What a device holds of the audio parameters "in".
-    int gain(const QString &devId) const
-    {
-        const QJsonObject device = fleet.dump().value("devices").toObject().value(devId).toObject();
-        for (const QJsonValue &object : device)
-            if (object.toObject().contains("aiGain"))
-                return object.toObject().value("aiGain").toInt(-1);
-        return -1;
-    }
-
-    /// Opens the window, turned to a run.
-    bool open(const QString &runId)
-    {
-        window = new RunsWindow(&session, &jobs, form.get(), &settings, nullptr);
-        window->show();
-        window->showRun(runId);
-        const int devices = recorded(runId).devices.size();
-        return QTest::qWaitFor([&] { return column(window, "runDevices", 0).size() == devices; });
-    }
-    /// Opens what reads the run's devices; back when it has shown them.
-    QWidget *check(const char *button, const char *name, int devices) const
-    {
-        child(window, button)->click();
-        QWidget *opened = child<QWidget>(window, name);
-        const bool isShown = opened && QTest::qWaitFor([&] { return column(opened, "checked", 0).size() == devices; });
-        return isShown ? opened : nullptr;
-    }
-    void answer(const QWidget *asker, const char *with = "write")
-    {
-        auto *box = child<QMessageBox>(asker, "runQuestion");
-        question = box ? box->text() : QString("(none)");
-        if (box && QByteArray(with) == "write")
-            child(box, "write")->click();
-        else if (box)
-            box->reject();
-    }
-
-    QTemporaryDir place;
-    EmbeddedFleet fleet{fleetOf(30)};
-    ClientSession session{options()};
-    ClientSettings settings{QString()};
-    std::unique_ptr<QWidget> form{orda_batchCfg::BatchCfgInit::instance().createBatchCfgForm()};
-    RunJobs jobs{&session};
-    QPointer<RunsWindow> window;
-    QStringList devIds;
-    QSet<QString> written; // ids of the devices that got a write
-    QString question;
-};
-
 /// The whole client over that fleet, with all devices ticked on the page for audio.
-struct Pressed : Site
+struct Pressed : RunsSite
 {
     Pressed()
     {
@@ -180,7 +47,7 @@ class RunsTest : public OrdaTest
 private slots:
     void failuresAreTriedAgain()
     {
-        Site site;
+        RunsSite site;
         for (const int place : {1, 2})
             site.fleet.setFault(site.devIds.at(place), "ai_get_param", {Fault::ErrorCode, -1});
         site.fleet.setFault(site.devIds.at(5), "*", {Fault::Garbage});
@@ -213,7 +80,7 @@ private slots:
 
     void runIsVerifiedAndTakenBack()
     {
-        Site site;
+        RunsSite site;
         site.run("{'aiGain': 20}", site.devIds);
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         const QString changed = site.devIds.at(1);
@@ -264,7 +131,7 @@ private slots:
     /// The device has another serial number than in the run: whatever stands in its place now is not touched.
     void anotherDeviceIsLeftOutAndNamed()
     {
-        Site site;
+        RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds.mid(0, 2));
         vms_sdk::DevInfo other = orda_data::DevsMgrData::instance().getDevInfoById(site.devIds.at(0));
         QVERIFY(site.open(run));
@@ -344,7 +211,7 @@ private slots:
 
     void jobOutlivesTheWindow()
     {
-        Site site;
+        RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));
         for (const QString &devId : qAsConst(site.devIds))
@@ -362,7 +229,7 @@ private slots:
 
     void whatTheEngineRefusesIsSaid()
     {
-        Site site;
+        RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));
         child(site.window, "verify")->click(); // closed while it reads: the turn is free again
@@ -399,7 +266,7 @@ private slots:
 
     void historyThatCannotBeReadSaysWhy()
     {
-        Site site;
+        RunsSite site;
         QFile file(site.options().path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(5000, 'x'));
@@ -514,7 +381,7 @@ private slots:
     /// Keyboard and assistive technology: everything has a name, and no two things one mnemonic.
     void everythingHasANameAndAKeyOfItsOwn()
     {
-        Site site;
+        RunsSite site;
         site.run("{'aiGain': 20}", site.devIds);
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));

@@ -99,6 +99,7 @@ void ClientStatusBar::tell(const QString &text)
     const QString line = QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), text);
     m_last->setText(m_last->fontMetrics().elidedText(line, Qt::ElideRight, m_last->contentsRect().width()));
     m_last->setToolTip(Qt::convertFromPlainText(line, Qt::WhiteSpaceNormal));
+    m_last->setAccessibleDescription(line); // as plain text, and whole
 }
 
 void ClientStatusBar::offerRuns()

@@ -25,7 +25,7 @@ class ClientStatusBar : public QStatusBar
 public:
     /// @param devices triggered by a click on the count, while it is enabled
     /// @param runs on a button that is hidden until the first run is over
-    ClientStatusBar(QAction *devices, QAction *runs, QWidget *parent);
+    ClientStatusBar(QAction *devices, QAction *runs, QWidget *parent = nullptr);
 
     /// Shows a line, with the time, until the next one.
     void tell(const QString &text);

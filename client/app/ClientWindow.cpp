@@ -62,7 +62,7 @@ ClientWindow::ClientWindow(ClientSession *session, ClientSettings *settings, QWi
     , m_form(buildForm())
     , m_firstSteps(new FirstSteps(settings))
     , m_menus(new ClientMenus(settings, this))
-    , m_statusBar(new ClientStatusBar(m_menus->showDevices, m_menus->showRuns, this))
+    , m_statusBar(new ClientStatusBar(m_menus->showDevices, m_menus->showRuns))
     , m_opener(new InventoryOpener(m_form, session, settings, this))
     , m_import(new InventoryImport(settings, this))
     , m_windows(new Windows(m_form, session, settings, this))
@@ -71,7 +71,7 @@ ClientWindow::ClientWindow(ClientSession *session, ClientSettings *settings, QWi
     m_pages->addWidget(m_firstSteps);
     m_pages->addWidget(m_form);
     setCentralWidget(m_pages);
-    setStatusBar(m_statusBar);
+    setStatusBar(m_statusBar); // after the pages, which so have the focus at first: their shortcuts work at once
     session->watchPages(m_form);
     if (!settings->restoreGeometry(this))
         resize(openingSize(this, wantedSize));

@@ -175,9 +175,8 @@ bool CompareModel::isEmphasized(int row, int column) const
 
 QVariant CompareModel::data(const QModelIndex &index, int role) const
 {
-    const QVariant shown = TableModel::data(index, role);
     if (role != Qt::ToolTipRole || index.column() < FirstMember || !isEmphasized(index.row(), index.column()))
-        return shown;
+        return TableModel::data(index, role);
     const int place = m_shown.at(index.column() - FirstMember);
     return Qt::convertFromPlainText(tr("%1, and the standard: %2", "value of the device, value of the standard")
                                         .arg(vms_sdk::displayText(text(index.row(), index.column())),

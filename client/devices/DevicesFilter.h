@@ -30,7 +30,8 @@ protected:
 
 private:
     DevicesModel *m_model;
-    QVector<bool> m_isShown; // by the model's row; as refresh() found it
+    /// By the model's row, as refresh() found it: so that the setters of TableFilter take no row out before.
+    QVector<bool> m_isShown;
 };
 
 } // namespace orda_client

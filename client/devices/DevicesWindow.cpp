@@ -66,6 +66,7 @@ DevicesWindow::DevicesWindow(ClientSession *session, DeviceStates *states, QWidg
     beside->setContentsMargins(0, 0, 0, 0);
     beside->addWidget(buildTop());
     beside->addWidget(buildTable(), 1);
+    beside->addWidget(buildBelow());
     splitter->addWidget(right);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
@@ -111,8 +112,6 @@ QWidget *DevicesWindow::buildTop()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_counts, 1);
     layout->addWidget(m_search);
-    m_refresh = addButton(layout, tr("&Refresh"), "refresh",
-                          tr("Searches, chooses and sorts anew, by the present states (F5)"));
     return top;
 }
 
@@ -129,6 +128,20 @@ QWidget *DevicesWindow::buildTable()
     m_stack->addWidget(m_table);
     m_stack->addWidget(m_empty);
     return m_stack;
+}
+
+// What is about the table has a row of its own: all buttons in one would be too wide for small screens.
+QWidget *DevicesWindow::buildBelow()
+{
+    auto *below = new QWidget;
+    auto *row = new QHBoxLayout(below);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch();
+    m_refresh =
+        addButton(row, tr("&Refresh"), "refresh", tr("Searches, chooses and sorts anew, by the present states (F5)"));
+    m_export = addButton(row, tr("&Export CSV…"), "exportCsv",
+                         tr("Saves the rows that are shown, in their order, for a spreadsheet"));
+    return below;
 }
 
 QPushButton *DevicesWindow::addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip)
@@ -161,8 +174,6 @@ QWidget *DevicesWindow::buildButtons()
     m_connect = addButton(
         row, tr("C&onnect again"), "connectAgain",
         tr("Tries the selected devices that are off line again at once, those too that have refused the sign-on"));
-    m_export = addButton(row, tr("&Export CSV…"), "exportCsv",
-                         tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     row->addStretch();
     const auto *close = addButton(row, tr("&Close"), "close", {});
     connect(close, &QPushButton::clicked, this, &QWidget::close);
@@ -190,6 +201,7 @@ void DevicesWindow::follow()
 
     connect(m_outcomes, &LastOutcomes::signalRead, this, [this] {
         m_model->updateOutcomes();
+        m_outdated = m_filter->outdated();
         updateTexts();
         if (!m_outcomes->error().isEmpty())
             m_note->tell(m_outcomes->error());
@@ -207,8 +219,10 @@ void DevicesWindow::takeChanges(bool isListChanged)
         m_model->loadDevices();
         m_filter->refresh();
         select(selected);
+        m_outdated = 0;
     } else {
         m_model->updateStates();
+        m_outdated = m_filter->outdated();
     }
     updateGroups();
     updateTexts();
@@ -225,13 +239,13 @@ void DevicesWindow::refresh()
     m_filter->setKeyword(m_search->text());
     m_filter->setAccepts([this, group = m_stateList->group()](int row) { return m_model->isInGroup(row, group); });
     m_filter->refresh();
+    m_outdated = 0;
     select(selected);
     updateTexts();
 }
 
 void DevicesWindow::updateTexts()
 {
-    m_outdated = m_filter->outdated();
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
     m_empty->setText(emptyText());
     m_export->setEnabled(m_filter->rowCount() > 0);

@@ -55,6 +55,7 @@ private:
     QWidget *buildStates();
     QWidget *buildTop();
     QWidget *buildTable();
+    QWidget *buildBelow();
     QWidget *buildButtons();
     QPushButton *addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip);
     void follow();

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <chrono>
+#include <utility>
 
 namespace orda_client {
 
@@ -210,6 +211,7 @@ void TickTheseDialog::report(const DeviceLookup::Found &found, const QStringList
 {
     if (!found.error.isEmpty()) {
         m_summary->setText(vms_sdk::displayText(found.error));
+        m_reported.clear();
         m_report->clear();
         return;
     }
@@ -236,7 +238,7 @@ void TickTheseDialog::report(const DeviceLookup::Found &found, const QStringList
                        : problems.isEmpty() ? tr("All devices of the list were found.")
                                             : tr("This of the list is not ticked, or was given more than once:"));
     const QString shown = vms_sdk::displayText(problems, QStringLiteral("\n"));
-    if (shown != m_report->toPlainText()) // so that it does not scroll back while devices come and go
+    if (std::exchange(m_reported, shown) != shown) // it does not scroll back while devices come and go
         m_report->setPlainText(shown);
 }
 

@@ -47,6 +47,7 @@ private:
     QCheckBox *m_firstColumnOnly;
     QLabel *m_summary;
     QPlainTextEdit *m_report;
+    QString m_reported; // its text
     QPushButton *m_tick;
     QStringList m_devIds; // to be ticked
     orda_base::DelayedCall m_lookUp;

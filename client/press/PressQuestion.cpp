@@ -60,7 +60,8 @@ PressQuestion::PressQuestion(const QWidget *form, const Asked &asked, QWidget *p
     QStringList texts;
     const auto labels = findChildren<QLabel *>();
     for (const QLabel *label : labels)
-        texts.append(label->text());
+        if (!label->buddy()) // whose control has it as its name
+            texts.append(label->text());
     setAccessibleDescription(texts.join(QLatin1Char('\n')));
 }
 

@@ -69,7 +69,7 @@ PreviewModel::Group PlanGroupList::group() const
     return selected.isEmpty() ? PreviewModel::All : PreviewModel::Group(selected.constFirst().row());
 }
 
-void PlanGroupList::reset()
+void PlanGroupList::chooseAll()
 {
     selectRow(PreviewModel::All);
 }

@@ -16,8 +16,7 @@ public:
 
     void setCounts(const PreviewModel &model);
     PreviewModel::Group group() const;
-    /// Chooses all devices.
-    void reset();
+    void chooseAll();
 
 signals:
     void signalGroupChosen();

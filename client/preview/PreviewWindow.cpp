@@ -170,7 +170,7 @@ QWidget *PreviewWindow::buildButtons()
 void PreviewWindow::preview()
 {
     m_reading->forget();
-    m_groups->reset();
+    m_groups->chooseAll();
     const FormPage page = m_form ? FormPage::shown(m_form) : FormPage();
     const FormTicks ticks = m_form ? FormTicks::of(m_form) : FormTicks();
     if (!m_form)

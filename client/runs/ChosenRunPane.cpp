@@ -90,10 +90,9 @@ QString ChosenRunPane::summary() const
     if (!run())
         return {};
     const RunLine &line = run()->line;
-    QStringList parts{RunTexts::time(line.run.began), line.family, line.kind};
+    QStringList parts{RunTexts::time(line.run.began), line.family, line.kind, RunTexts::counts(line.run)};
     if (!line.values.isEmpty())
-        parts.append(line.values);
-    parts.append(RunTexts::counts(line.run));
+        parts.append(line.values); // last, because there may be many
     return vms_sdk::displayText(parts.join(QStringLiteral("   ")));
 }
 
@@ -122,10 +121,10 @@ QStringList ChosenRunPane::selectedDevices() const
 
 QStringList ChosenRunPane::meantDevices() const
 {
-    const QStringList selected = selectedDevices();
-    if (!selected.isEmpty() || m_groups->group().isEmpty())
-        return selected;
-    return devicesIn(m_devices->filter()->shownRows());
+    const QVector<int> selected = m_devices->selectedRows();
+    if (!selected.isEmpty())
+        return devicesIn(selected);
+    return m_groups->group().isEmpty() ? QStringList() : devicesIn(m_devices->filter()->shownRows());
 }
 
 bool ChosenRunPane::isEmpty() const

@@ -188,6 +188,7 @@ void RunsWindow::followRuns()
     });
     connect(journal, &JournalTransport::signalRunEnded, this, [this] {
         m_isRunGoingOn = false;
+        m_readSoon->request(); // of a run that the history has lost nothing more is told
         updateView();
     });
     connect(journal, &JournalTransport::signalRunRecorded, m_history, &RunHistory::readRuns);

@@ -35,7 +35,7 @@ signals:
     void signalGroupChosen();
 
 private:
-    void addRow(const QString &text, int count);
+    void addRow(const QString &recorded, int count);
     bool isSame(const QString &allText, const QVector<RowGroup> &groups) const;
 
     QString m_allText;

@@ -1,5 +1,7 @@
 #include "client/tables/TableView.h"
 
+#include <orda_base/TableAccess.h>
+
 #include <QHeaderView>
 
 #include <algorithm>
@@ -16,8 +18,9 @@ constexpr int cellPadding = 16;
 TableView::TableView(QAbstractItemModel *model, const QVector<int> &digits, const QString &name, QWidget *parent)
     : QTableView(parent)
 {
-    setAccessibleName(name);
     setModel(model);
+    orda_base::installTableAccess(this);
+    setAccessibleName(name);
     setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);

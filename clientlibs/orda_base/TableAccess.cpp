@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QPair>
 #include <QPersistentModelIndex>
+#include <QStringList>
 #include <QTableView>
 
 namespace orda_base {
@@ -322,9 +323,15 @@ private:
     mutable QHash<QPair<int, int>, QAccessible::Id> m_headers; // by row and column
 };
 
+QStringList &classesWithAccess()
+{
+    static QStringList names;
+    return names;
+}
+
 QAccessibleInterface *makeTableAccess(const QString &className, QObject *object)
 {
-    if (className == QLatin1String("orda_base::TableWidget"))
+    if (classesWithAccess().contains(className))
         return new TableAccess(qobject_cast<QTableView *>(object));
     return nullptr;
 }
@@ -333,6 +340,9 @@ QAccessibleInterface *makeTableAccess(const QString &className, QObject *object)
 
 void installTableAccess(QTableView *view)
 {
+    const QString name = QString::fromLatin1(view->metaObject()->className());
+    if (!classesWithAccess().contains(name))
+        classesWithAccess().append(name);
     QAccessible::installFactory(makeTableAccess); // does nothing when it is there already
     // The constructor of QTableView has told assistive technology of the table by now, which has made one of Qt's.
     if (QAccessible::isActive())
