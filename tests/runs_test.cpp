@@ -157,7 +157,7 @@ private slots:
     /// What was left out when the operator was asked stays out, whatever the inventory has become since.
     void onlyWhatWasAskedAboutIsTriedAgain()
     {
-        Site site;
+        RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds.mid(0, 2));
         const vms_sdk::DevInfo own = orda_data::DevsMgrData::instance().getDevInfoById(site.devIds.at(0));
         QVERIFY(site.open(run));
@@ -167,6 +167,7 @@ private slots:
         orda_data::DevsMgrData::instance().updateDevs({other});
         child<QTableView>(site.window, "runDevices")->selectAll();
         child(site.window, "tryAgain")->click();
+        QTRY_COMPARE(orda_data::DevsMgrData::instance().getDevStatus(own.id), vms_sdk::DevRefused);
         orda_data::DevsMgrData::instance().updateDevs({own});
         QTRY_VERIFY(orda_engine::reachOf(own.id).canBeWritten);
         site.written.clear();
@@ -187,7 +188,7 @@ private slots:
     void undoIsNotOfferedByAnOldReading()
     {
         QFETCH(QString, since);
-        Site site;
+        RunsSite site;
         site.run("{'aiGain': 20}", site.devIds);
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));
