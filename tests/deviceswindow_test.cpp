@@ -131,7 +131,7 @@ struct Site
             {"click", [&] { return QTest::mouseClick(child<QPushButton>(rest), Qt::LeftButton), true; }},
             {"online", [&] { return store.setDevStatus(rest, DevOnline), true; }},
             {"offline", [&] { return store.setDevStatus(rest, DevOffline), true; }},
-            {"delete", [&] { return store.deleteDevs({rest}), true; }},
+            {"add", [&] { return store.updateDevs({device(rest.mid(3).toInt())}), true; }},
             {"replace",
              [&] {
                  DevInfo other = store.getDevInfoById(rest);
@@ -146,6 +146,7 @@ struct Site
                      && other.write(QString("[General]\nselections=\"%1\"\n").arg(json).toUtf8()) > 0;
              }},
             {"readonly", [&] { return QDir().mkdir(place.filePath("client.ini")); }}, // for root, too
+            {"delete", [&] { return store.deleteDevs({rest}), true; }},
             {"tick", [&] { return FormTicks::tickExactly(form.get(), rest.split(' ')).notListed.isEmpty(); }},
             {"run", [&] { return (new orda_base::DisabledWaitingWt(form.get(), {}))->show(), true; }},
             {"menu", [&] { return clickMenu("groupsMenu", rest); }},

@@ -106,7 +106,7 @@ struct Site
         });
     }
 
-    void press(const QString &step, const QString &rest)
+    void press(const QString &step, const QString &rest) const
     {
         auto *okBt = page()->findChild<QPushButton *>("okBt");
         okBt->setFocus();

@@ -301,9 +301,9 @@ private slots:
         QTRY_VERIFY(site.client.findChild<RunsWindow *>());
         qputenv("PATH", path);
         QVERIFY(seen.open(QIODevice::ReadOnly));
-        QCOMPARE(seen.readAll(), QFile::encodeName(site.recordPath()) + '\n');
+        QCOMPARE(seen.readAll(), QFile::encodeName(Pressed::recordPath()) + '\n');
         QTRY_VERIFY(column(site.client.findChild<RunsWindow *>(), "runDevices", 0).contains("Failed"));
-        const RecordWindow record(site.recordPath(), &site.client, &site.settings, nullptr);
+        const RecordWindow record(Pressed::recordPath(), &site.client, &site.settings, nullptr);
         QVERIFY(!column(&record, "record", 2).contains("SN"));
         QCOMPARE(column(&record, "record", 0).filter("Unreadable").size(), 1); // one entry, but not one that is sure
     }
@@ -312,8 +312,8 @@ private slots:
     void runThatLostItsRecordIsShownAsSuch()
     {
         Pressed site;
-        QFile(site.recordPath()).remove();
-        QVERIFY(QFile::link(site.place.filePath("elsewhere"), site.recordPath()));
+        QFile(Pressed::recordPath()).remove();
+        QVERIFY(QFile::link(site.place.filePath("elsewhere"), Pressed::recordPath()));
         expectWarning("it is a symbolic link");
         site.press("okBt");
         auto *summary = child<QMessageBox>(&site.client, "eventConfirmDialog");
@@ -324,9 +324,9 @@ private slots:
         summary->reject();
         site.press("reportBt");
         QVERIFY(site.client.findChild<RunsWindow *>());
-        const RecordWindow record(site.recordPath(), &site.client, &site.settings, nullptr);
+        const RecordWindow record(Pressed::recordPath(), &site.client, &site.settings, nullptr);
         QVERIFY(child<QLabel>(&record, "recordEmpty")->text().contains("it is a symbolic link"));
-        QFile(site.recordPath()).remove();
+        QFile(Pressed::recordPath()).remove();
     }
 
     void runsAreCompared_data()

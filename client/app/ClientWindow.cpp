@@ -105,6 +105,7 @@ QWidget *ClientWindow::buildForm()
     layout->setSpacing(0);
     auto *below = new QVBoxLayout;
     below->setContentsMargins(margin, margin / 2, margin, margin / 2);
+    below->setSpacing(margin / 2); // else that of the layout around it
     layout->addLayout(below);
     m_line = new PressLine(area);
     below->addWidget(m_line);

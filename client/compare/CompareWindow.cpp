@@ -1,11 +1,12 @@
 #include "client/compare/CompareWindow.h"
 
+#include "client/common/Notice.h"
+#include "client/common/Widgets.h"
 #include "client/compare/CompareModel.h"
 #include "client/compare/FormChanges.h"
 #include "client/compare/StandardBar.h"
 #include "client/form/Families.h"
 #include "client/form/FormTicks.h"
-#include "client/preview/Notice.h"
 #include "client/preview/ReadingBar.h"
 #include "client/session/ClientSession.h"
 #include "client/settings/ClientSettings.h"
@@ -42,15 +43,6 @@ constexpr auto watchInterval = 300ms;
 constexpr QSize windowSize(1280, 680);
 constexpr int emptyMargin = 12;
 constexpr int memberDigits = 16; // width of a member's column
-
-QLabel *plainLabel(const char *name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
@@ -184,9 +176,7 @@ QWidget *CompareWindow::buildButtons()
     auto *layout = new QHBoxLayout(buttons);
     layout->setContentsMargins(0, 0, 0, 0);
     const auto add = [layout](const QString &text, const char *name, const char *style) {
-        auto *button = new QPushButton(text);
-        button->setObjectName(QLatin1String(name));
-        button->setProperty(style, true);
+        auto *button = styledButton(text, name, style);
         layout->addWidget(button);
         return button;
     };

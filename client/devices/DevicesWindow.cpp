@@ -1,5 +1,6 @@
 #include "client/devices/DevicesWindow.h"
 
+#include "client/common/Widgets.h"
 #include "client/devices/DeviceStates.h"
 #include "client/devices/DevicesFilter.h"
 #include "client/devices/DevicesModel.h"
@@ -36,15 +37,6 @@ namespace {
 constexpr QSize windowSize(1320, 700);
 constexpr int statesWidth = 310;
 constexpr int margin = 12;
-
-QLabel *plainLabel(const char *name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
@@ -118,7 +110,7 @@ QWidget *DevicesWindow::buildTop()
 QWidget *DevicesWindow::buildTable()
 {
     // By column, in digits.
-    m_table = new TableView(m_filter, {22, 30, 20, 16, 14, 9, 13, 30, 20}, tr("Devices"));
+    m_table = new TableView(m_filter, {22, 30, 20, 16, 14, 11, 13, 30, 20}, tr("Devices"));
     m_table->setObjectName(QStringLiteral("devices"));
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_empty = plainLabel("empty");
@@ -146,9 +138,7 @@ QWidget *DevicesWindow::buildBelow()
 
 QPushButton *DevicesWindow::addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip)
 {
-    auto *button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setProperty("common_bt_style2", true);
+    auto *button = styledButton(text, name);
     button->setToolTip(toolTip);
     row->addWidget(button);
     return button;

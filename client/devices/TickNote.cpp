@@ -6,39 +6,14 @@
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ForeignText.h>
 
-#include <QLabel>
 #include <QLocale>
-#include <QPlainTextEdit>
-#include <QVBoxLayout>
 
 namespace orda_client {
 
-namespace {
-
-constexpr int linesShown = 4;
-constexpr int edge = 24; // of the list's frame and margins, above and below
-
-} // namespace
-
 TickNote::TickNote(QWidget *form, QWidget *parent)
-    : QWidget(parent)
+    : Notice(tr("Devices that are not ticked"), "tickNote", parent)
     , m_form(form)
-    , m_text(new QLabel(this))
-    , m_lines(new QPlainTextEdit(this))
 {
-    m_text->setObjectName(QStringLiteral("tickNote"));
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
-    m_lines->setObjectName(QStringLiteral("notTicked"));
-    m_lines->setAccessibleName(tr("Devices that are not ticked"));
-    m_lines->setReadOnly(true);
-    m_lines->setTabChangesFocus(true);
-    m_lines->setMaximumHeight(linesShown * fontMetrics().lineSpacing() + edge);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_text);
-    layout->addWidget(m_lines);
-    hide();
 }
 
 void TickNote::tick(const QStringList &devIds, const QStringList &replaced)
@@ -63,20 +38,7 @@ void TickNote::tick(const QStringList &devIds, const QStringList &replaced)
         lines.append(tr("%1: it is another device than was saved", "device")
                          .arg(vms_sdk::displayText(DeviceState::deviceName(now))));
     }
-    setText(text, lines);
-}
-
-void TickNote::tell(const QString &text)
-{
-    setText(text, {});
-}
-
-void TickNote::setText(const QString &text, const QStringList &lines)
-{
-    m_text->setText(vms_sdk::displayText(text));
-    m_lines->setPlainText(lines.join(QLatin1Char('\n')));
-    m_lines->setVisible(!lines.isEmpty());
-    setVisible(true);
+    say(text, lines);
 }
 
 QString TickNote::whyNotListed(const QString &devId)

@@ -1,6 +1,7 @@
 #include "client/progress/RunProgress.h"
 
 #include "client/common/ElidedLabel.h"
+#include "client/common/Widgets.h"
 #include "client/settings/ClientSettings.h"
 #include "journal/JournalTransport.h"
 
@@ -121,10 +122,7 @@ QWidget *RunProgress::buildButtons()
     auto *layout = new QHBoxLayout(buttons);
     layout->setContentsMargins(0, 0, 0, 0);
     const auto add = [layout](const QString &text, const char *objectName) {
-        auto *button = new QPushButton(text);
-        button->setObjectName(QLatin1String(objectName));
-        button->setProperty("common_bt_style2", true);
-        button->setAutoDefault(false);
+        auto *button = styledButton(text, objectName);
         button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus with what covers the form
         new orda_base::ReturnPressesButton(button); // as in the form
         layout->addWidget(button);

@@ -1,5 +1,6 @@
 #include "client/runs/RunCheckWindow.h"
 
+#include "client/common/Widgets.h"
 #include "client/runs/RunCheckModel.h"
 #include "client/runs/RunJobs.h"
 #include "client/runs/RunQuestion.h"
@@ -38,14 +39,6 @@ using namespace std::chrono_literals;
 
 constexpr QSize windowSize(1180, 560);
 constexpr auto progressDelay = 100ms; // thousands of devices may be read in a second
-
-QPushButton *button(const QString &text, const char *name, const char *style = "common_bt_style2")
-{
-    auto *made = new QPushButton(text);
-    made->setObjectName(QLatin1String(name));
-    made->setProperty(style, true);
-    return made;
-}
 
 } // namespace
 
@@ -130,13 +123,13 @@ QWidget *RunCheckWindow::buildLine()
     m_line->setObjectName(QStringLiteral("checkLine"));
     m_line->setTextFormat(Qt::PlainText);
     m_line->setWordWrap(true);
-    m_stop = button(tr("S&top"), "stopReading");
+    m_stop = styledButton(tr("S&top"), "stopReading");
     m_stop->setToolTip(tr("Ends the reading; nothing is written"));
     connect(m_stop, &QPushButton::clicked, this, [this] {
         if (m_job)
             m_job->cancel();
     });
-    m_again = button(tr("&Read again"), "readAgain");
+    m_again = styledButton(tr("&Read again"), "readAgain");
     connect(m_again, &QPushButton::clicked, this, &RunCheckWindow::read);
     auto *line = new QWidget;
     auto *layout = new QHBoxLayout(line);
@@ -154,7 +147,7 @@ QWidget *RunCheckWindow::buildButtons()
     rows->setContentsMargins(0, 0, 0, 0);
     auto *layout = new QHBoxLayout;
     if (m_check.kind == RunCheck::Undo) {
-        m_undo = button({}, "takeBack", "common_bt_style1");
+        m_undo = styledButton({}, "takeBack", "common_bt_style1");
         m_undo->setToolTip(tr("Takes the run back on the selected devices, or on all, where something goes back"));
         connect(m_undo, &QPushButton::clicked, this, &RunCheckWindow::askToTakeBack);
         m_force = new QCheckBox;
@@ -167,13 +160,13 @@ QWidget *RunCheckWindow::buildButtons()
         layout->addWidget(m_undo);
     }
     rows->addLayout(layout);
-    m_export = button(tr("&Export CSV…"), "exportCsv");
+    m_export = styledButton(tr("&Export CSV…"), "exportCsv");
     m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     connect(m_export, &QPushButton::clicked, this, [this] {
         CsvFile::saveAs(this, *m_table->filter(),
                         m_check.kind == RunCheck::Verify ? QStringLiteral("verify") : QStringLiteral("undo"));
     });
-    auto *close = button(tr("&Close"), "close");
+    auto *close = styledButton(tr("&Close"), "close");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     layout->addWidget(m_export);
     layout->addStretch();
