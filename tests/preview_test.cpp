@@ -253,6 +253,23 @@ private slots:
         QVERIFY(!tick->isEnabled() && text("empty").contains("inventory has changed"));
     }
 
+    void formGoesWhileTheWindowsAreOpen()
+    {
+        Site site;
+        QWidget room;
+        site.form->setParent(&room);
+        PreviewWindow preview(&site.session, &room, &site.settings, nullptr);
+        CompareWindow compare(&site.session, &room, &site.settings, nullptr);
+        preview.preview(); // it is in the middle of reading when the form goes
+        site.form.reset();
+        QVERIFY(isRead(preview) && !preview.findChild<QPushButton *>("configureChanging")->isEnabled());
+        preview.preview();
+        compare.compare();
+        QVERIFY(preview.findChild<QLabel *>("empty")->text().startsWith("The form shows no page"));
+        QCOMPARE(compare.findChild<QLabel *>("empty")->text(), QString("The form is closed."));
+        QCOMPARE(FormTicks::tickExactly(&room, site.all).notListed, site.all);
+    }
+
     void loadsAnyStateOfAPage_data() { seeds(20); }
     void loadsAnyStateOfAPage()
     {

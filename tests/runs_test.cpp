@@ -167,6 +167,7 @@ private slots:
         orda_data::DevsMgrData::instance().updateDevs({other});
         child<QTableView>(site.window, "runDevices")->selectAll();
         child(site.window, "tryAgain")->click();
+        QTRY_COMPARE(orda_data::DevsMgrData::instance().getDevStatus(own.id), vms_sdk::DevRefused);
         orda_data::DevsMgrData::instance().updateDevs({own});
         QTRY_VERIFY(orda_engine::reachOf(own.id).canBeWritten);
         site.written.clear();

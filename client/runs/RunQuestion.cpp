@@ -2,8 +2,10 @@
 
 #include <vms_client_sdk/ForeignText.h>
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 
 namespace orda_client {
 
@@ -23,6 +25,9 @@ void askBeforeRun(QWidget *parent, const QString &title, const QString &question
     box->setDefaultButton(cancel);
     box->setEscapeButton(cancel);
     QObject::connect(write, &QPushButton::clicked, parent, accepted);
+    // The second click of a double click on the window's button may land here.
+    write->setEnabled(false);
+    QTimer::singleShot(QApplication::doubleClickInterval(), write, [write] { write->setEnabled(true); });
     box->open();
 }
 
