@@ -33,8 +33,8 @@ namespace orda_client {
 
 namespace {
 
-constexpr QSize windowSize(1320, 700);
-constexpr int statesWidth = 310;
+constexpr QSize windowSize(1480, 760); // or the screen's
+constexpr int statesWidth = 340;
 constexpr int margin = 12;
 
 QLabel *plainLabel(const char *name)
@@ -90,6 +90,7 @@ QWidget *DevicesWindow::buildStates()
 {
     m_stateList = new GroupList(tr("States"));
     m_stateList->setObjectName(QStringLiteral("states"));
+    m_stateList->setTextElideMode(Qt::ElideRight); // no reason has a code at its end
     auto *caption = new QLabel(tr("Sho&w"));
     caption->setBuddy(m_stateList);
     auto *states = new QWidget;
@@ -118,8 +119,9 @@ QWidget *DevicesWindow::buildTop()
 QWidget *DevicesWindow::buildTable()
 {
     // By column, in digits.
-    m_table = new TableView(m_filter, {22, 30, 20, 16, 14, 9, 13, 30, 20}, tr("Devices"));
+    m_table = new TableView(m_filter, {22, 34, 20, 16, 14, 9, 13, 30, 20}, tr("Devices"));
     m_table->setObjectName(QStringLiteral("devices"));
+    m_table->elideAtEnd({DevicesModel::State});
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_empty = plainLabel("empty");
     m_empty->setAlignment(Qt::AlignCenter);
