@@ -1,3 +1,4 @@
+#include "support/Controls.h"
 #include "support/FamilyTable.h"
 #include "support/FormFixture.h"
 #include "support/OrdaTest.h"
@@ -9,30 +10,6 @@
 #include <orda_worker/AssistantSignals.h>
 
 namespace {
-
-/// What a screen reader says: the caption that labels the control, else its own name. A combo box has none of its own.
-QString spokenName(QWidget *widget)
-{
-    const QAccessibleInterface *access = QAccessible::queryAccessibleInterface(widget);
-    const auto labels = access->relations(QAccessible::Label);
-    if (!labels.isEmpty())
-        return labels.constFirst().first->text(QAccessible::Name);
-    return qobject_cast<QComboBox *>(widget) ? QString() : access->text(QAccessible::Name);
-}
-
-QList<QWidget *> shownControls(const QWidget *window)
-{
-    QList<QWidget *> controls;
-    const auto widgets = window->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        bool isControl = (widget->focusPolicy() & Qt::TabFocus) != 0;
-        for (const char *type : {"QAbstractButton", "QLineEdit", "QComboBox", "QAbstractSlider", "QAbstractSpinBox"})
-            isControl = isControl || (widget->inherits(type) && !widget->inherits("QScrollBar"));
-        if (isControl && widget->isVisible() && widget->isEnabled() && !widget->parent()->inherits("QAbstractSpinBox"))
-            controls.append(widget);
-    }
-    return controls;
-}
 
 void press(int key, QWidget *focus = QApplication::focusWidget())
 {

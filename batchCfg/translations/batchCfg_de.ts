@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>no IP address, and still with its factory password</source>
-        <translation>keine IP-Adresse und noch mit Werkskennwort</translation>
+        <translation>keine IP-Adresse und noch mit Werkspasswort</translation>
     </message>
     <message>
         <source>no IP address, and locked</source>
@@ -889,6 +889,11 @@
     <message>
         <source>VideoParamsCfgPage</source>
         <translation>VideoParamsCfgPage</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>stream, parameter</comment>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>

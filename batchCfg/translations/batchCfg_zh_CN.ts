@@ -890,6 +890,11 @@
         <source>VideoParamsCfgPage</source>
         <translation>VideoParamsCfgPage</translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>stream, parameter</comment>
+        <translation>%1，%2</translation>
+    </message>
 </context>
 <context>
     <name>orda_batchCfg::VideoParamsCfgTask</name>

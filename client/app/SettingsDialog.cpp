@@ -6,6 +6,7 @@
 #include "programs/Translations.h"
 
 #include <orda_base/ReturnPressesButton.h>
+#include <orda_worker/SystemAssistant.h>
 #include <vms_client_sdk/ForeignText.h>
 
 #include <QCheckBox>
@@ -202,7 +203,10 @@ void SettingsDialog::accept()
     m_settings->setTheme(m_theme->currentData().toString());
     m_settings->setAskAbove(m_askAbove->value());
     m_settings->setHaltShare(m_halts->isChecked() ? m_haltShare->value() : 0);
+    const QString problem = m_settings->writeProblem();
     QDialog::accept();
+    if (!problem.isEmpty())
+        orda_worker::SystemAssistant::instance().messageAlert(tr("Settings"), problem);
 }
 
 } // namespace orda_client

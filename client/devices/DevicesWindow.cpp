@@ -1,5 +1,6 @@
 #include "client/devices/DevicesWindow.h"
 
+#include "client/common/Widgets.h"
 #include "client/devices/DeviceStates.h"
 #include "client/devices/DevicesFilter.h"
 #include "client/devices/DevicesModel.h"
@@ -36,15 +37,6 @@ namespace {
 constexpr QSize windowSize(1480, 760); // or the screen's
 constexpr int statesWidth = 340;
 constexpr int margin = 12;
-
-QLabel *plainLabel(const char *name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
@@ -119,7 +111,7 @@ QWidget *DevicesWindow::buildTop()
 QWidget *DevicesWindow::buildTable()
 {
     // By column, in digits.
-    m_table = new TableView(m_filter, {22, 34, 20, 16, 14, 9, 13, 30, 20}, tr("Devices"));
+    m_table = new TableView(m_filter, {22, 34, 20, 16, 14, 11, 13, 30, 20}, tr("Devices"));
     m_table->setObjectName(QStringLiteral("devices"));
     m_table->elideAtEnd({DevicesModel::State});
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -148,9 +140,7 @@ QWidget *DevicesWindow::buildBelow()
 
 QPushButton *DevicesWindow::addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip)
 {
-    auto *button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setProperty("common_bt_style2", true);
+    auto *button = styledButton(text, name);
     button->setToolTip(toolTip);
     row->addWidget(button);
     return button;
@@ -343,7 +333,7 @@ void DevicesWindow::connectAgain()
 void DevicesWindow::tickThese()
 {
     auto *dialog = new TickTheseDialog(m_form, m_states, this);
-    connect(dialog, &TickTheseDialog::signalTick, m_note, &TickNote::tick);
+    connect(dialog, &TickTheseDialog::signalTick, m_note, [this](const QStringList &devIds) { m_note->tick(devIds); });
     dialog->open();
 }
 

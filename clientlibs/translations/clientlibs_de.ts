@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>holds passwords and may be read or changed by others; set its mode to 0600 (chmod 600)</source>
-        <translation>enthält Kennwörter und ist für andere lesbar oder veränderbar; bitte den Modus auf 0600 setzen (chmod 600)</translation>
+        <translation>enthält Passwörter und ist für andere lesbar oder veränderbar; bitte den Modus auf 0600 setzen (chmod 600)</translation>
     </message>
     <message>
         <source>must not be the same as in %1</source>
@@ -155,7 +155,7 @@
     <name>orda_base::TableOperWtStyle</name>
     <message>
         <source>Space ticks and unticks the selected rows</source>
-        <translation>Die Leertaste wählt die markierten Zeilen aus und ab</translation>
+        <translation>Die Leertaste hakt die ausgewählten Zeilen an oder ab</translation>
     </message>
 </context>
 </TS>

@@ -124,7 +124,7 @@
     </message>
     <message>
         <source>more than %1 % of the devices failed</source>
-        <translation>mehr als %1 % der Geräte sind gescheitert</translation>
+        <translation>mehr als %1 % der Geräte sind fehlgeschlagen</translation>
     </message>
     <message>
         <source>stopped</source>
