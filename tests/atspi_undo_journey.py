@@ -117,7 +117,6 @@ def preview_and_configure(client, plan):
     act(configure, "Press")
     answer(client, "OSD Parameters Configuration Result", f"A total of {len(plan.changing)} devices have been configured, "
            f"success:{plan.done}, failure:{len(plan.changing) - plan.done}", "Cancel")
-    act(find(preview, "push button", "Close"), "Press")
 
 
 def look_at_runs(client, *wanted):

@@ -93,6 +93,7 @@ void RunCheckWindow::buildTable()
 {
     m_table = new SearchedTable(m_model, {17, 19, 17, 16, 46}, QStringLiteral("checked"), tr("Devices of the run"),
                                 tr("Searches names, serial numbers, addresses, changes and notes"));
+    m_table->view()->elideAtEnd({RunCheckModel::Changes, RunCheckModel::Note});
     const auto withState = [this](const QVector<CheckedDevice::State> &states) {
         return [this, states](int row) { return states.contains(m_model->devices().at(row).state); };
     };

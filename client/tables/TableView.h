@@ -18,6 +18,9 @@ public:
 
     /// @param digits as in the constructor, for a model that has other columns now
     void setWidths(const QVector<int> &digits);
+    /// Shortens the texts of these columns at their end, for lists: without its middle "a: 1 → 2; b: 3 → 4" would be
+    /// taken for "a: 3 → 4". Other columns lose their middle, because a message has its error code at the end.
+    void elideAtEnd(const QVector<int> &columns);
 };
 
 } // namespace orda_client
