@@ -89,7 +89,7 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
 
 void RunCheckWindow::buildTable()
 {
-    m_table = new SearchedTable(m_model, {17, 19, 17, 16, 46}, QStringLiteral("checked"), tr("Devices of the run"),
+    m_table = new SearchedTable(m_model, {20, 19, 17, 16, 46}, QStringLiteral("checked"), tr("Devices of the run"),
                                 tr("Searches names, serial numbers, addresses, changes and notes"));
     const auto withState = [this](const QVector<CheckedDevice::State> &states) {
         return [this, states](int row) { return states.contains(m_model->devices().at(row).state); };
