@@ -86,7 +86,9 @@ bool measureWindow(const QString &name, int rows, const std::function<QWidget *(
         orda_base::SearchBox *search = nullptr;
         for (const QWidget *around = table->parentWidget(); around && !search; around = around->parentWidget())
             search = around->findChild<orda_base::SearchBox *>();
-        auto *edit = search->findChild<QLineEdit *>();
+        auto *edit = search ? search->findChild<QLineEdit *>() : nullptr;
+        if (!edit)
+            qFatal("there is no search");
         for (const char *typed : {"1", "12", "123", "12", "1", ""}) {
             edit->setText(QLatin1String(typed));
             QTest::qWait(1);

@@ -44,6 +44,8 @@ JournalTransport::~JournalTransport()
 QString JournalTransport::takeTurn(Turn turn, Owner owner)
 {
     // A page's run counts itself when it is announced; that of a page that nobody watches is not announced here.
+    if (m_turn == Turn::Reading)
+        return tr("Devices are being read. Please wait until that has ended, or stop it.");
     if (isBusy() || (owner == Owner::Engine && orda_batchCfg::CfgRun::isUnderWay()))
         return tr("A configuration is under way. Please wait until it has ended.");
     m_run.reset(); // its late answers are not told from what is read now

@@ -250,6 +250,36 @@ private slots:
         QCOMPARE(client.window.size(), QSize(700, 500));
     }
 
+    void previewIsNoAnswerToOddValues_data()
+    {
+        columns<QString, bool>({"name", "isAsked"});
+        row("as it should be", QString("Gate"), false);
+        row("empty", QString(), true);
+    }
+
+    void previewIsNoAnswerToOddValues()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isAsked);
+        Client client(m_directory);
+        client.settings.setAskAbove(0);
+        client.window.guardPresses();
+        client.child<QSpinBox>("demoDevices")->setValue(3);
+        client.press("startDemoBt");
+        QTRY_VERIFY(client.child<QTableWidget>("devsTableWt")->rowCount() > 0);
+        client.press("osd_param");
+        client.press("selAll");
+        client.child("osdParamsCfgPage")->findChild<QLineEdit *>("nameParam")->setText(name);
+        client.choose("showPreview");
+        const auto *preview = client.child("previewWindow");
+        QTRY_VERIFY(preview->findChild<QPushButton *>("configureChanging")->isEnabled());
+        const QSignalSpy begun(client.session.journal(), &orda_journal::JournalTransport::signalRunBegan);
+        preview->findChild<QPushButton *>("configureChanging")->click();
+        QTest::qWait(50);
+        QCOMPARE(client.window.findChild<QDialog *>("pressQuestion") != nullptr, isAsked);
+        QCOMPARE(begun.count(), isAsked ? 0 : 1);
+    }
+
     void settingsAreKeptOnOk()
     {
         const Client client(m_directory);

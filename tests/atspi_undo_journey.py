@@ -13,13 +13,11 @@ import re
 import signal
 import subprocess
 import sys
-import time
 
 from support.journey import (Atspi, act, answer, choose_menu_entry, client_window, devices, dialogs, find, open_page,
-                             rows_of, set_state, start_on_own_display_and_bus, travel, wait_for)
+                             rows_of, set_state, start_on_own_display_and_bus, tick_all, travel, wait_for)
 
 DEVICES = 120
-MANY = 50  # more devices are asked about
 WANTED = {"bShowOSD": True, "bLargeOSD": True}
 # All of them are listed and would change. The silent one costs the time-out of 15 s, once.
 REFUSING = ["dev-0004", "dev-0011", "dev-0023"]
@@ -59,11 +57,16 @@ def expect(what, found, wanted):
         sys.exit(f"failed: {what}: {found} instead of {wanted}")
 
 
+def differing(held, other):
+    """By device: the groups of parameters of which the other one holds something else."""
+    return {dev_id: {name: group for name, group in groups.items() if other[dev_id].get(name) != group}
+            for dev_id, groups in held.items() if other[dev_id] != groups}
+
+
 def expect_held(fleet, wanted, when):
     """All that all devices hold, not only what was to change."""
     held = fleet.dump()
-    expect(f"what devices hold {when}", {dev_id: members for dev_id, members in held.items() if members != wanted[dev_id]},
-           {dev_id: members for dev_id, members in wanted.items() if members != held.get(dev_id)})
+    expect(f"what devices hold {when}", differing(held, wanted), differing(wanted, held))
 
 
 def fill_page(window):
@@ -73,21 +76,6 @@ def fill_page(window):
         set_state(find(page, "check box", f"Configure {parameter}"), "CHECKED", True)
         set_state(find(page, "check box", parameter), "CHECKED", True)
     return page
-
-
-def tick_all(window):
-    """The serial numbers of the devices that were ticked."""
-    table = find(window, "table", "Online Device List")
-    counts = []  # a look each second, until no more devices come
-
-    def are_all_there():
-        time.sleep(1)
-        counts.append(table.get_table_iface().get_n_rows())
-        return counts[-1] > MANY and counts[-2:-1] == counts[-1:]
-
-    wait_for(f"more than {MANY} devices", are_all_there)
-    set_state(find(window, "check box", "All devices"), "CHECKED", True)
-    return [row[2] for row in rows_of(table)]
 
 
 def cancel_question(client, page, count):
@@ -133,12 +121,12 @@ def preview_and_configure(client, plan):
 
 
 def look_at_runs(client, kind, counts):
-    """The window of the runs, as soon as the latest one is so."""
+    """The window of the runs, as soon as the latest one is so, and when that began."""
     choose_menu_entry(client, "Runs")
     runs = find(client, "frame", "Runs")
     table = find(runs, "table", "Runs, latest first")
     wait_for(f"run {kind} with {counts}", lambda: rows_of(table)[0][1:4] == ["OSD Parameters", kind, counts])
-    return runs
+    return runs, rows_of(table)[0][0]
 
 
 def undo(client, runs, plan):
@@ -156,16 +144,16 @@ def journey(client, fleet):
     window = client_window(client)
     before = fleet.dump()
     page = fill_page(window)
-    ticked = tick_all(window)
-    plan = Plan(before, [fleet.ids[serial_number] for serial_number in ticked])
+    ticked = [fleet.ids[row[2]] for row in tick_all(window)]
+    plan = Plan(before, ticked)
 
     cancel_question(client, page, len(ticked))
     expect_held(fleet, before, "after the question")
     preview_and_configure(client, plan)
     expect_held(fleet, plan.held, "after the run")
-    runs = look_at_runs(client, "Configured", f"Done: {plan.done}, Failed: {len(REFUSING)}, Unknown: 2")
+    runs, began = look_at_runs(client, "Configured", f"Done: {plan.done}, Failed: {len(REFUSING)}, Unknown: 2")
     undo(client, runs, plan)
-    look_at_runs(client, "Taken back", f"Done: {plan.done}, Unknown: 1")
+    look_at_runs(client, f"Undo of {began}", f"Done: {plan.done}, Unknown: 1")
     expect_held(fleet, before, "after the undo")  # all of it: a write of this page adds nothing to a device
     choose_menu_entry(client, "Quit")
 

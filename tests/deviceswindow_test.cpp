@@ -131,6 +131,21 @@ struct Site
             {"click", [&] { return QTest::mouseClick(child<QPushButton>(rest), Qt::LeftButton), true; }},
             {"online", [&] { return store.setDevStatus(rest, DevOnline), true; }},
             {"offline", [&] { return store.setDevStatus(rest, DevOffline), true; }},
+            {"add", [&] { return store.updateDevs({device(rest.mid(3).toInt())}), true; }},
+            {"replace",
+             [&] {
+                 DevInfo other = store.getDevInfoById(rest);
+                 other.serialNumber = "NEW";
+                 return store.updateDevs({other}), true;
+             }},
+            {"other", // client with the same settings, in a process of its own
+             [&] {
+                 QFile other(place.filePath("client.ini"));
+                 const QString json = QString("{'%1':[{'id':'dev3'}]}").arg(rest).replace("'", "\\\"");
+                 return other.open(QIODevice::WriteOnly)
+                     && other.write(QString("[General]\nselections=\"%1\"\n").arg(json).toUtf8()) > 0;
+             }},
+            {"readonly", [&] { return QDir().mkdir(place.filePath("client.ini")); }}, // for root, too
             {"delete", [&] { return store.deleteDevs({rest}), true; }},
             {"tick", [&] { return FormTicks::tickExactly(form.get(), rest.split(' ')).notListed.isEmpty(); }},
             {"run", [&] { return (new orda_base::DisabledWaitingWt(form.get(), {}))->show(), true; }},

@@ -8,15 +8,18 @@ missing.
 
 import json
 import os
+import re
 import subprocess
 import sys
 import time
 
-from support.journey import (LIMIT, Atspi, act, client_window, descendants, dialogs, find, has, name_of, open_page,
-                             set_state, start_on_own_display_and_bus, travel, wait_for)
+from support.journey import (LIMIT, act, answer, Atspi, children, client_window, descendants, devices, dialogs, find, has,
+                             name_of, open_page, start_on_own_display_and_bus, tick_all, travel, wait_for)
 
-DEVICES = 12
-SILENT = 2
+DEVICES = 80
+LATE = ["dev-0003", "dev-0005"]
+FAULTS = [{"devices": LATE, "methods": ["ai_get_param", "chnosd_set_param"], "fault": "late-answer", "delayMs": 7000}]
+TOOL_WINDOWS = {"F7": "Preview", "F8": "Devices", "F9": "Runs", "F6": "Compare with a standard", "F1": "Manual"}
 PAGES = ("Audio Parameters", "Video Parameters", "Image Parameters", "Cloud Service Parameters",
          "Platform 9100 Parameters", "Network Parameters", "OSD Parameters")
 WHEELED = {"combo box": 21, "spin button": 2, "slider": 2}  # that all pages have together
@@ -113,28 +116,75 @@ def search_works_after_a_menu(window):
     wait_for("focus in the search", lambda: has(search, "FOCUSED"))
 
 
-def question(client, ticked):
-    for dialog in dialogs(client):
-        for node in descendants(dialog):
-            if node.get_role_name() == "label" and node.get_name() == f"{SILENT} of {ticked} devices have not answered":
-                return dialog
-    return None
+def windows_leave_the_focus_where_it_was(client, window):
+    search = find(window, "text", "Search")
+    for key, title in TOOL_WINDOWS.items():
+        xdotool("key", key)
+        find(client, "frame", title, state="ACTIVE")
+        xdotool("key", "Escape")
+        wait_for(f"focus after {title}", lambda: has(search, "FOCUSED") and has(window, "ACTIVE") and len(children(client)) == 1)
 
 
-def closing_in_mid_run_asks(client, window, window_id):
-    open_page(window, "Audio Parameters")
-    table = find(window, "table", "Online Device List").get_table_iface()
-    wait_for("devices", lambda: table.get_n_rows() >= DEVICES // 2)
-    set_state(find(window, "check box", "All devices"), "CHECKED", True)
-    ticked = table.get_n_rows()
+def ask(client, window_id):
     xdotool("windowactivate", "--sync", window_id, "key", "ctrl+Return")
+    return find(client, "dialog", "Configure devices")
+
+
+def return_does_not_configure(client, window, window_id):
+    ask(client, window_id)
+    xdotool("keydown", "Return")
+    time.sleep(1)  # it is held, and so comes again and again
+    xdotool("keyup", "Return")
+    wait_for("answered question", lambda: not dialogs(client))
+    time.sleep(0.3)  # that nothing happens cannot be waited for
+    if any(node.get_name() in ("Stop", "Show run") and has(node, "SHOWING") for node in descendants(window)):
+        fail("Return on the question has configured devices")
+
+
+def configure(client, window, window_id):
+    find(ask(client, window_id), "push button", "Configure", state="ENABLED")
+    xdotool("key", "alt+o")
+    return find(window, "filler", "Configuring...", state="FOCUSED")
+
+
+def close_question(client, ticked):
+    question = find(client, "dialog", "A run is going on")
+    find(question, "label", re.compile(f"{len(LATE)} of {devices(ticked)} have not answered"))
+    return question
+
+
+def closing_in_mid_run_asks(client, window_id, ticked):
     for keys in ("alt+F4", "ctrl+q"):  # the window manager's, and the client's
         xdotool("windowactivate", "--sync", window_id, "key", keys)
-        wait_for(f"question after {keys}", lambda: question(client, ticked))
+        close_question(client, ticked)
         xdotool("key", "Escape")
-        wait_for("answered question", lambda: not question(client, ticked))
-    xdotool("key", "ctrl+q")
-    act(find(wait_for("question", lambda: question(client, ticked)), "push button", "Close anyway"), "Press")
+        wait_for("answered question", lambda: not dialogs(client))
+
+
+def key_stops_run(client, window, overlay, ticked):
+    if not has(overlay, "FOCUSED"):
+        fail("the form is not covered any more")
+    xdotool("key", "shift+Escape")
+    find(window, "label", re.compile(".*Stopped.*"))
+    find(client, "alert", "Audio Parameters Configuration Result")
+    find(window, "label", re.compile(f".*Written: {ticked - len(LATE)}, not written: {len(LATE)}.*"))
+    xdotool("key", "Escape")
+    wait_for("answered summary", lambda: not dialogs(client))
+
+
+def closing_in_undo_asks(client, window, window_id, ticked):
+    open_page(window, "OSD Parameters")
+    configure(client, window, window_id)
+    answer(client, "OSD Parameters Configuration Result",
+           f"A total of {ticked} devices have been configured, success:{ticked}, failure:0", "Cancel")
+    xdotool("windowactivate", "--sync", window_id, "key", "F9")
+    act(find(find(client, "frame", "Runs"), "push button", "Undo…", state="ENABLED"), "Press")
+    undo = find(client, "frame", re.compile("Undo: OSD Parameters, .*"))
+    act(find(undo, "push button", re.compile(f"Undo on {devices(ticked)}…"), state="ENABLED"), "Press")
+    act(find(find(client, "alert", "Undo"), "push button", "Take back"), "Press")
+    find(window, "push button", "Stop")
+    xdotool("windowactivate", "--sync", window_id, "key", "ctrl+q")
+    act(find(close_question(client, ticked), "push button", "Close anyway"), "Press")
 
 
 def journey(client):
@@ -142,17 +192,26 @@ def journey(client):
     window_id = wait_for("window", lambda: xdotool("search", "--onlyvisible", "--name", "– Batch Configuration$").split()[:1])[0]
     xdotool("windowactivate", "--sync", window_id)
     xdotool("windowsize", window_id, 1500, 1150)
+    xdotool("key", "ctrl+f")
+    find(window, "text", "Search", state="FOCUSED")  # the form's keys work before anything was clicked
+    windows_leave_the_focus_where_it_was(client, window)
     wheel_changes_nothing(window)
     wheel_works_after_a_click(window)
     page_scrolls_under_the_wheel(window, window_id)
     search_works_after_a_menu(window)
-    closing_in_mid_run_asks(client, window, window_id)
+    ticked = len(tick_all(window))
+    open_page(window, "Audio Parameters")
+    return_does_not_configure(client, window, window_id)
+    overlay = configure(client, window, window_id)
+    closing_in_mid_run_asks(client, window_id, ticked)
+    key_stops_run(client, window, overlay, ticked)
+    closing_in_undo_asks(client, window, window_id, ticked)
 
 
 def main(program):
     faults = os.path.join(os.environ["ORDA_JOURNEY_HOME"], "faults.json")
     with open(faults, "w", encoding="utf-8") as file:
-        json.dump({"faults": [{"devices": ["dev-0003", "dev-0005"], "methods": ["ai_get_param"], "fault": "no-answer"}]}, file)
+        json.dump({"faults": FAULTS}, file)
     with subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL) as manager:
         try:
             wait_for("window manager", lambda: "window id" in subprocess.run(

@@ -106,7 +106,7 @@ struct Site
         });
     }
 
-    void press(const QString &step, const QString &rest)
+    void press(const QString &step, const QString &rest) const
     {
         auto *okBt = page()->findChild<QPushButton *>("okBt");
         okBt->setFocus();
@@ -312,6 +312,21 @@ private slots:
         site.journal->end();
         QCOMPARE(site.said("runFailures").count("(refused)"), 3);
         QVERIFY(site.said("runCounts").contains("Written: 0, not written: 8"));
+    }
+
+    void writesOnlyWhereSomethingHasChanged()
+    {
+        Site site(2);
+        QVERIFY(site.take("tick 01, fill name nameParam=old, mouse")); // OSD Visible goes off
+        QCOMPARE(site.said("runCounts"), QString("Written: 2, not written: 0"));
+        dismissDialogs();
+        site.journal->end();
+        const RunStart undo{"id", "osd", "undo", "other", {}, {}, idsOf("01")};
+        QCOMPARE(site.journal->beginRun(undo, JournalTransport::Owner::Engine), QString());
+        site.journal->settle("dev0", "already back", 0);
+        site.journal->stop();
+        site.journal->end();
+        QCOMPARE(site.said("runCounts"), QString("Written: 0, unchanged: 1, not written: 1"));
     }
 
     void tellsTheTimeLeftFromThePace()

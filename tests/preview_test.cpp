@@ -235,6 +235,22 @@ private slots:
         QCOMPARE(ClientSettings(QDir::temp().filePath("preview_test.ini")).profiles("osd").value("Gate"), expected);
         click(window, "loadIntoPage");
         QCOMPARE(site.page().values, expected);
+
+        const auto text = [&](const char *label) { return window.findChild<QLabel *>(label)->text(); };
+        QVERIFY(text("summary").contains("do not"));
+        auto *standards = window.findChild<QComboBox *>("standards");
+        standards->setCurrentIndex(0); // the page, which is to send nothing
+        site.page().page->findChild<QCheckBox *>("allParams")->click();
+        if (!site.page().values.isEmpty())
+            site.page().page->findChild<QCheckBox *>("allParams")->click();
+        emit standards->activated(0);
+        QVERIFY(text("values").startsWith("Nothing is compared") && text("summary").isEmpty());
+        standards->setCurrentIndex(1);
+        emit standards->activated(1);
+        const auto *tick = window.findChild<QPushButton *>("tickDifferent");
+        QVERIFY(tick->isEnabled());
+        orda_data::DevsMgrData::instance().updateDevs(site.fleet.inventory()); // another one, for all that is known
+        QVERIFY(!tick->isEnabled() && text("empty").contains("inventory has changed"));
     }
 
     void loadsAnyStateOfAPage_data() { seeds(20); }

@@ -154,6 +154,61 @@ private slots:
         QCOMPARE(column(undo, "checked", 0), QStringList({"Goes back", "Another device"}));
     }
 
+    /// What was left out when the operator was asked stays out, whatever the inventory has become since.
+    void onlyWhatWasAskedAboutIsTriedAgain()
+    {
+        Site site;
+        const QString run = site.run("{'aiGain': 33}", site.devIds.mid(0, 2));
+        const vms_sdk::DevInfo own = orda_data::DevsMgrData::instance().getDevInfoById(site.devIds.at(0));
+        QVERIFY(site.open(run));
+        vms_sdk::DevInfo other = own;
+        other.serialNumber = "ANOTHER";
+        expectWarning("sign-on refused");
+        orda_data::DevsMgrData::instance().updateDevs({other});
+        child<QTableView>(site.window, "runDevices")->selectAll();
+        child(site.window, "tryAgain")->click();
+        orda_data::DevsMgrData::instance().updateDevs({own});
+        QTRY_VERIFY(orda_engine::reachOf(own.id).canBeWritten);
+        site.written.clear();
+        site.answer(site.window);
+        QVERIFY2(site.question.contains("configure 1 device(s)"), qPrintable(site.question));
+        QTRY_COMPARE(column(site.window, "runs", 0).size(), 2);
+        QTRY_VERIFY(!site.jobs.isWriting());
+        QCOMPARE(site.written, QSet<QString>{site.devIds.at(1)});
+    }
+
+    void undoIsNotOfferedByAnOldReading_data()
+    {
+        columns<QString>({"since"});
+        for (const char *since : {"run", "inventory", "run while it is asked"})
+            row(since, QString(since));
+    }
+
+    void undoIsNotOfferedByAnOldReading()
+    {
+        QFETCH(QString, since);
+        Site site;
+        site.run("{'aiGain': 20}", site.devIds);
+        const QString run = site.run("{'aiGain': 33}", site.devIds);
+        QVERIFY(site.open(run));
+        const QPointer<QWidget> undo = site.check("undo", "runUndo", 6);
+        QTRY_VERIFY(undo && child(undo, "takeBack")->isEnabled());
+        if (since.contains("asked"))
+            child(undo, "takeBack")->click();
+        if (since.startsWith("run"))
+            site.run("{'aiGain': 44}", {site.devIds.at(1)});
+        else
+            orda_data::DevsMgrData::instance().updateDevs(site.fleet.inventory());
+        site.written.clear();
+        if (since.contains("asked"))
+            site.answer(undo);
+        QTest::qWait(50);
+        QVERIFY(undo && !child(undo, "takeBack")->isEnabled() && site.written.isEmpty());
+        dismissDialogs();
+        child(undo, "readAgain")->click();
+        QTRY_VERIFY(child(undo, "takeBack")->isEnabled());
+    }
+
     void jobOutlivesTheWindow()
     {
         RunsSite site;
@@ -245,9 +300,9 @@ private slots:
         QTRY_VERIFY(site.client.findChild<RunsWindow *>());
         qputenv("PATH", path);
         QVERIFY(seen.open(QIODevice::ReadOnly));
-        QCOMPARE(seen.readAll(), QFile::encodeName(site.recordPath()) + '\n');
+        QCOMPARE(seen.readAll(), QFile::encodeName(Pressed::recordPath()) + '\n');
         QTRY_VERIFY(column(site.client.findChild<RunsWindow *>(), "runDevices", 0).contains("Failed"));
-        const RecordWindow record(site.recordPath(), &site.client, &site.settings, nullptr);
+        const RecordWindow record(Pressed::recordPath(), &site.client, &site.settings, nullptr);
         QVERIFY(!column(&record, "record", 2).contains("SN"));
         QCOMPARE(column(&record, "record", 0).filter("Unreadable").size(), 1); // one entry, but not one that is sure
     }
@@ -256,8 +311,8 @@ private slots:
     void runThatLostItsRecordIsShownAsSuch()
     {
         Pressed site;
-        QFile(site.recordPath()).remove();
-        QVERIFY(QFile::link(site.place.filePath("elsewhere"), site.recordPath()));
+        QFile(Pressed::recordPath()).remove();
+        QVERIFY(QFile::link(site.place.filePath("elsewhere"), Pressed::recordPath()));
         expectWarning("it is a symbolic link");
         site.press("okBt");
         auto *summary = child<QMessageBox>(&site.client, "eventConfirmDialog");
@@ -268,9 +323,9 @@ private slots:
         summary->reject();
         site.press("reportBt");
         QVERIFY(site.client.findChild<RunsWindow *>());
-        const RecordWindow record(site.recordPath(), &site.client, &site.settings, nullptr);
+        const RecordWindow record(Pressed::recordPath(), &site.client, &site.settings, nullptr);
         QVERIFY(child<QLabel>(&record, "recordEmpty")->text().contains("it is a symbolic link"));
-        QFile(site.recordPath()).remove();
+        QFile(Pressed::recordPath()).remove();
     }
 
     void runsAreCompared_data()

@@ -70,8 +70,8 @@ QStringList faultsOf(QWidget *window)
             continue;
         if (isCutOff(widget))
             faults.append("cut off: " + widget->property("text").toString());
-        const QRect rect = textRect(widget).intersected(widget->visibleRegion().boundingRect());
-        if (!rect.isEmpty() && widget->isEnabled()
+        const QRect rect = textRect(widget);
+        if (!rect.isEmpty() && widget->isEnabled() && (QRegion(rect) - widget->visibleRegion()).isEmpty()
             && contrastIn(picture, {widget->mapTo(window, rect.topLeft()), rect.size()}) < readableContrast)
             faults.append("hard to read: " + widget->property("text").toString());
     }
@@ -133,16 +133,17 @@ private slots:
             QCOMPARE(faultsOf(opened).join('\n'), QString());
             opened->close();
         }
-        orda_data::DevsMgrData::instance().deleteDevs(idsOf(orda_data::DevsMgrData::instance().getAllDevs(false)));
     }
 
-private:
-    static QStringList idsOf(const QList<vms_sdk::DevInfo> &devices)
+    void cleanup()
     {
+        auto &store = orda_data::DevsMgrData::instance();
         QStringList ids;
+        const QList<vms_sdk::DevInfo> devices = store.getAllDevs(false);
         for (const vms_sdk::DevInfo &dev : devices)
             ids.append(dev.id);
-        return ids;
+        store.deleteDevs(ids);
+        OrdaTest::cleanup();
     }
 };
 

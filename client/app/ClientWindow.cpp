@@ -13,6 +13,7 @@
 #include "client/inventory/InventoryImport.h"
 #include "client/press/PressGuard.h"
 #include "client/press/PressLine.h"
+#include "client/press/ValueChecks.h"
 #include "client/progress/RunProgress.h"
 #include "client/record/PageRecord.h"
 #include "client/session/ClientSession.h"
@@ -224,7 +225,9 @@ void ClientWindow::configure(const PressedRun &run)
     FormTicks::tickExactly(m_form, run.devIds);
     const FormPage page = FormPage::of(m_form, *family);
     page.open(m_form);
-    if (m_guard) // they are the same devices, in the order of the list
+    // They are the same devices, in the order of the list. The preview says nothing of values that look wrong: these
+    // are asked about all the same.
+    if (m_guard && ValueChecks::of(page).isEmpty())
         m_guard->allowOnce({run.family, run.values, FormTicks::of(m_form).devIds});
     page.press();
 }

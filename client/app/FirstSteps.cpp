@@ -1,5 +1,6 @@
 #include "client/app/FirstSteps.h"
 
+#include "client/common/Widgets.h"
 #include "client/settings/ClientSettings.h"
 
 #include <orda_base/ReturnPressesButton.h>
@@ -24,14 +25,6 @@ constexpr int spacing = 12;
 constexpr int recentWidth = 560; // of the text; paths may be longer than the window is wide
 constexpr int usualDemoDevices = 200;
 constexpr int mostDemoDevices = 10000;
-
-QPushButton *button(const QString &text, const char *name, const char *style)
-{
-    auto *button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setProperty(style, true);
-    return button;
-}
 
 QLabel *explanation(const QString &text)
 {
@@ -70,7 +63,7 @@ QHBoxLayout *rowOf(std::initializer_list<QWidget *> widgets)
 FirstSteps::FirstSteps(const ClientSettings *settings, QWidget *parent)
     : QScrollArea(parent)
     , m_settings(settings)
-    , m_open(button(tr("&Open inventory…"), "openInventoryBt", "common_bt_style1"))
+    , m_open(styledButton(tr("&Open inventory…"), "openInventoryBt", "common_bt_style1"))
     , m_recentCaption(new QLabel(tr("Opened last:")))
     , m_recent(new QVBoxLayout)
     , m_demoDevices(new QSpinBox)
@@ -122,7 +115,7 @@ QWidget *FirstSteps::buildImport() const
         tr("The client does not search the network for cameras. List them in a spreadsheet, each on a line of its own, "
            "with the columns id, ip and port, and where they are needed name, serialNumber, userName, password and "
            "others, which the manual names. Saved as CSV and imported here, the table becomes an inventory.")));
-    auto *import = button(tr("&Import devices from CSV…"), "importDevicesBt", "common_bt_style2");
+    auto *import = styledButton(tr("&Import devices from CSV…"), "importDevicesBt", "common_bt_style2");
     connect(import, &QPushButton::clicked, this, &FirstSteps::signalImport);
     layout->addLayout(rowOf({import}));
     return layout->parentWidget();
@@ -136,10 +129,9 @@ QWidget *FirstSteps::buildDemo()
     m_demoDevices->setObjectName(QStringLiteral("demoDevices"));
     m_demoDevices->setRange(1, mostDemoDevices);
     m_demoDevices->setValue(usualDemoDevices);
-    m_demoDevices->setButtonSymbols(QSpinBox::NoButtons);
     auto *caption = new QLabel(tr("&Number of devices"));
     caption->setBuddy(m_demoDevices);
-    auto *start = button(tr("&Start the demo"), "startDemoBt", "common_bt_style2");
+    auto *start = styledButton(tr("&Start the demo"), "startDemoBt", "common_bt_style2");
     connect(start, &QPushButton::clicked, this, [this] { emit signalStartDemo(m_demoDevices->value()); });
     layout->addLayout(rowOf({caption, m_demoDevices}));
     layout->addLayout(rowOf({start}));
@@ -159,7 +151,7 @@ void FirstSteps::listRecent()
     for (const QString &path : paths) {
         const QFileInfo file(path);
         const QString shown = vms_sdk::displayText(QStringLiteral("%1 – %2").arg(file.fileName(), file.path()));
-        auto *entry = button({}, "recentInventory", "recent");
+        auto *entry = styledButton({}, "recentInventory", "recent");
         entry->setStyleSheet(QStringLiteral("text-align: left;"));
         entry->ensurePolished(); // so that the font is the one that will be used
         entry->setText(entry->fontMetrics()

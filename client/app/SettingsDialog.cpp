@@ -6,6 +6,7 @@
 #include "programs/Translations.h"
 
 #include <orda_base/ReturnPressesButton.h>
+#include <orda_worker/SystemAssistant.h>
 #include <vms_client_sdk/ForeignText.h>
 
 #include <QCheckBox>
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -84,18 +86,30 @@ SettingsDialog::SettingsDialog(ClientSettings *settings, const orda_journal::His
     setObjectName(QStringLiteral("settingsDialog"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Settings"));
+    auto *cards = new QWidget;
+    auto *column = new QVBoxLayout(cards);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(spacing);
+    column->addWidget(buildWindow());
+    column->addWidget(buildRuns());
+    column->addWidget(buildHistory(history));
+    column->addStretch();
+    auto *area = new QScrollArea; // small screens with large letters do not show all of it at once
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(cards);
+    QWidget *buttons = buildButtons();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(spacing);
-    layout->addWidget(buildWindow());
-    layout->addWidget(buildRuns());
-    layout->addWidget(buildHistory(history));
-    layout->addWidget(buildButtons());
+    layout->addWidget(area);
+    layout->addWidget(buttons);
     new orda_base::ReturnPressesButton(this);
     m_language->setFocus();
-    // A dialog gives itself two thirds of the screen at most, which is too little on a small one.
-    const int width = sizeHint().width();
-    resize(openingSize(this, {width, layout->totalHeightForWidth(width)}));
+    ensurePolished();
+    const int width = cards->sizeHint().width();
+    const int height = column->totalHeightForWidth(width) + spacing + buttons->sizeHint().height();
+    resize(openingSize(this, {width + 2 * margin, height + 2 * margin}));
 }
 
 QWidget *SettingsDialog::buildWindow()
@@ -124,17 +138,17 @@ QWidget *SettingsDialog::buildRuns()
     m_askAbove->setObjectName(QStringLiteral("askAbove"));
     m_askAbove->setRange(0, mostAskAbove);
     m_askAbove->setValue(m_settings->askAbove());
-    m_askAbove->setButtonSymbols(QSpinBox::NoButtons);
     m_halts->setObjectName(QStringLiteral("halts"));
     m_halts->setChecked(m_settings->haltShare() > 0);
     m_haltShare->setObjectName(QStringLiteral("haltShare"));
     m_haltShare->setRange(1, 99);
-    m_haltShare->setButtonSymbols(QSpinBox::NoButtons);
     m_haltShare->setSuffix(tr(" %", "per cent"));
     m_haltShare->setValue(m_halts->isChecked() ? m_settings->haltShare() : usualHaltShare);
     m_haltShare->setEnabled(m_halts->isChecked());
     m_haltShare->setAccessibleName(tr("Share of failed devices that stops a run"));
     connect(m_halts, &QCheckBox::toggled, m_haltShare, &QWidget::setEnabled);
+    m_haltShare->ensurePolished();
+    m_halts->setMinimumHeight(m_haltShare->sizeHint().height()); // on one line with the number
     QVBoxLayout *layout = card(tr("Runs"));
     QFormLayout *form = formIn(layout);
     form->addRow(tr("&Ask before a run over more devices than"), m_askAbove);
@@ -185,7 +199,10 @@ void SettingsDialog::accept()
     m_settings->setTheme(m_theme->currentData().toString());
     m_settings->setAskAbove(m_askAbove->value());
     m_settings->setHaltShare(m_halts->isChecked() ? m_haltShare->value() : 0);
+    const QString problem = m_settings->writeProblem();
     QDialog::accept();
+    if (!problem.isEmpty())
+        orda_worker::SystemAssistant::instance().messageAlert(tr("Settings"), problem);
 }
 
 } // namespace orda_client

@@ -1,19 +1,23 @@
 #include "client/compare/CompareWindow.h"
 
+#include "client/common/Notice.h"
+#include "client/common/Widgets.h"
 #include "client/compare/CompareModel.h"
 #include "client/compare/FormChanges.h"
 #include "client/compare/StandardBar.h"
 #include "client/form/Families.h"
 #include "client/form/FormTicks.h"
-#include "client/preview/Notice.h"
 #include "client/preview/ReadingBar.h"
 #include "client/session/ClientSession.h"
+#include "client/settings/ClientSettings.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/TableFilter.h"
 #include "client/tables/TableView.h"
 
 #include <families/Families.h>
 #include <orda_base/SearchBox.h>
+#include <orda_data/DataSignals.h>
+#include <vms_client_sdk/ForeignText.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -39,15 +43,6 @@ constexpr auto watchInterval = 300ms;
 constexpr QSize windowSize(1280, 680);
 constexpr int emptyMargin = 12;
 constexpr int memberDigits = 16; // width of a member's column
-
-QLabel *plainLabel(const char *name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
@@ -78,11 +73,16 @@ CompareWindow::CompareWindow(ClientSession *session, QWidget *form, ClientSettin
     connect(m_standard, &StandardBar::signalChosen, this, &CompareWindow::useStandard);
     connect(m_standard, &StandardBar::signalTakeModel, this, &CompareWindow::takeModel);
     connect(m_standard, &StandardBar::signalLoad, this, &CompareWindow::load);
-    connect(m_standard, &StandardBar::signalSaved, this,
-            [this](const QString &name) { m_notice->say(tr("The profile “%1” was saved.").arg(name)); });
+    connect(m_standard, &StandardBar::signalSaved, this, [this](const QString &name) {
+        const QStringList told{tr("The profile “%1” was saved.").arg(name), this->settings()->writeProblem()};
+        m_notice->say(told.join(QLatin1Char(' ')).trimmed());
+    });
     connect(m_reading, &ReadingBar::signalRead, m_model, &CompareModel::take);
     connect(m_reading, &ReadingBar::signalFresh, this, &CompareWindow::refresh);
     connect(m_reading, &ReadingBar::signalFinished, this, &CompareWindow::finish);
+    const auto &devices = orda_data::DataSignals::instance();
+    connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, &CompareWindow::forgetDevices);
+    connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, &CompareWindow::forgetDevices);
     m_watch.setInterval(watchInterval);
     connect(&m_watch, &QTimer::timeout, this, &CompareWindow::watch);
     m_watch.start();
@@ -176,9 +176,7 @@ QWidget *CompareWindow::buildButtons()
     auto *layout = new QHBoxLayout(buttons);
     layout->setContentsMargins(0, 0, 0, 0);
     const auto add = [layout](const QString &text, const char *name, const char *style) {
-        auto *button = new QPushButton(text);
-        button->setObjectName(QLatin1String(name));
-        button->setProperty(style, true);
+        auto *button = styledButton(text, name, style);
         layout->addWidget(button);
         return button;
     };
@@ -250,6 +248,16 @@ void CompareWindow::tellNothing(const QString &why)
     m_complaint = why;
     m_model->clear();
     useStandard();
+}
+
+// Other devices may have the identifiers of those that were read.
+void CompareWindow::forgetDevices()
+{
+    if (m_model->rowCount() == 0)
+        return;
+    m_reading->forget();
+    m_standard->forgetModel();
+    tellNothing(tr("The inventory has changed since. Press “Read again”."));
 }
 
 void CompareWindow::finish(const QString &error)
@@ -326,10 +334,15 @@ void CompareWindow::updateSummary()
                                    "another standard.")
                               : tr("Nothing is compared: the standard has no value."));
     else
-        m_values->setText(ParameterTexts(m_form, *shown.family).list(values).join(QStringLiteral("; ")));
+        m_values->setText(
+            vms_sdk::displayText(ParameterTexts(m_form, *shown.family).list(values).join(QStringLiteral("; "))));
     const int different = m_model->differentCount();
     const int read = m_model->readCount();
     const QLocale locale;
+    if (values.isEmpty() && different == 0) { // it would say of all devices that they do not differ
+        m_summary->clear();
+        return;
+    }
     m_summary->setText(
         tr("As of %1: %2 differ from the standard, %3 do not, %4 were not read.", "time, three numbers of devices")
             .arg(m_time, locale.toString(different), locale.toString(read - different),

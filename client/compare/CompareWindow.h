@@ -53,6 +53,7 @@ private:
     void chooseFamily(int index);
     void read();
     void tellNothing(const QString &why);
+    void forgetDevices();
     void finish(const QString &error);
     void watch();
     void useStandard();

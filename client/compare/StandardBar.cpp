@@ -1,5 +1,6 @@
 #include "client/compare/StandardBar.h"
 
+#include "client/common/Widgets.h"
 #include "client/settings/ClientSettings.h"
 
 #include <vms_client_sdk/ForeignText.h>
@@ -40,9 +41,7 @@ StandardBar::StandardBar(ClientSettings *settings, QWidget *parent)
 
     auto *buttons = new QHBoxLayout;
     const auto add = [buttons](const QString &text, const char *name, const QString &toolTip) {
-        auto *button = new QPushButton(text);
-        button->setObjectName(QLatin1String(name));
-        button->setProperty("common_bt_style2", true);
+        auto *button = styledButton(text, name);
         button->setToolTip(toolTip);
         buttons->addWidget(button);
         return button;
@@ -77,6 +76,12 @@ void StandardBar::setModel(const QString &devId, const QString &shownName)
     m_modelId = devId;
     m_modelName = shownName;
     fill(Model);
+}
+
+void StandardBar::forgetModel()
+{
+    m_modelId.clear();
+    fill(source() == Model ? Page : source(), profile());
 }
 
 void StandardBar::fill(Source chosen, const QString &profile)

@@ -34,6 +34,9 @@ public:
     /// Offers a device in place of the one before, and chooses it.
     void setModel(const QString &devId, const QString &shownName);
 
+    /// Offers none any more, and chooses the page when one was chosen.
+    void forgetModel();
+
     Source source() const;
     QString modelId() const { return m_modelId; }
     /// Of the profile that is chosen; empty without one.

@@ -1,5 +1,6 @@
 #include "client/devices/DevicesWindow.h"
 
+#include "client/common/Widgets.h"
 #include "client/devices/DeviceStates.h"
 #include "client/devices/DevicesFilter.h"
 #include "client/devices/DevicesModel.h"
@@ -36,15 +37,6 @@ namespace {
 constexpr QSize windowSize(1320, 700);
 constexpr int statesWidth = 310;
 constexpr int margin = 12;
-
-QLabel *plainLabel(const char *name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
@@ -146,9 +138,7 @@ QWidget *DevicesWindow::buildBelow()
 
 QPushButton *DevicesWindow::addButton(QHBoxLayout *row, const QString &text, const char *name, const QString &toolTip)
 {
-    auto *button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setProperty("common_bt_style2", true);
+    auto *button = styledButton(text, name);
     button->setToolTip(toolTip);
     row->addWidget(button);
     return button;
@@ -341,7 +331,7 @@ void DevicesWindow::connectAgain()
 void DevicesWindow::tickThese()
 {
     auto *dialog = new TickTheseDialog(m_form, m_states, this);
-    connect(dialog, &TickTheseDialog::signalTick, m_note, &TickNote::tick);
+    connect(dialog, &TickTheseDialog::signalTick, m_note, [this](const QStringList &devIds) { m_note->tick(devIds); });
     dialog->open();
 }
 

@@ -1,6 +1,6 @@
 #include "client/devices/GroupsMenu.h"
 
-#include "client/settings/ClientSettings.h"
+#include "journal/HistoryRows.h"
 
 #include <orda_base/SortOrder.h>
 #include <orda_data/DevsMgrData.h>
@@ -74,7 +74,7 @@ void GroupsMenu::addGroups()
         const QStringList devIds = groups.value(name);
         addAction(
             tr("%1 (%2)", "a group, how many devices it has").arg(menuText(name), QLocale().toString(devIds.size())),
-            this, [this, devIds] { emit signalChosen(devIds); });
+            this, [this, devIds] { emit signalChosen(devIds, {}); });
     }
     if (groups.isEmpty())
         addHeading(tr("The inventory has no groups."));
@@ -84,13 +84,13 @@ void GroupsMenu::addSelections()
 {
     addSeparator();
     addHeading(tr("Tick a saved selection:"));
-    const QMap<QString, QStringList> selections = m_settings->selections();
+    const auto selections = m_settings->selections();
     const QStringList names = sorted(selections.keys());
     for (const QString &name : names) {
-        const QStringList devIds = selections.value(name);
+        const QVector<ClientSettings::SavedDevice> devices = selections.value(name);
         addAction(
-            tr("%1 (%2)", "a group, how many devices it has").arg(menuText(name), QLocale().toString(devIds.size())),
-            this, [this, devIds] { emit signalChosen(devIds); });
+            tr("%1 (%2)", "a group, how many devices it has").arg(menuText(name), QLocale().toString(devices.size())),
+            this, [this, devices] { choose(devices); });
     }
     if (names.isEmpty()) {
         addHeading(tr("Nothing is saved yet."));
@@ -100,6 +100,19 @@ void GroupsMenu::addSelections()
     forget->setObjectName(QStringLiteral("forgetMenu"));
     for (const QString &name : names)
         forget->addAction(menuText(name), this, [this, name] { askBeforeForgetting(name); });
+}
+
+/// Another site's inventory may count its devices alike.
+void GroupsMenu::choose(const QVector<ClientSettings::SavedDevice> &devices)
+{
+    const auto &store = orda_data::DevsMgrData::instance();
+    QStringList devIds, replaced;
+    for (const ClientSettings::SavedDevice &device : devices) {
+        orda_journal::DeviceRow saved;
+        saved.serialNumber = device.serialNumber;
+        (saved.isReplacedBy(store.getDevInfoById(device.devId).serialNumber) ? replaced : devIds).append(device.devId);
+    }
+    emit signalChosen(devIds, replaced);
 }
 
 void GroupsMenu::save(const QStringList &devIds)
@@ -124,8 +137,13 @@ void GroupsMenu::save(const QStringList &devIds)
                 tr("Not saved: there is a selection \"%1\" already. Forget it first, or take another name.").arg(name));
             return;
         }
-        m_settings->setSelection(name, devIds);
-        emit signalTold(tr("Saved as \"%1\": %Ln device(s).", nullptr, devIds.size()).arg(name));
+        QVector<ClientSettings::SavedDevice> devices;
+        for (const QString &devId : devIds)
+            devices.append({devId, orda_data::DevsMgrData::instance().getDevInfoById(devId).serialNumber});
+        m_settings->setSelection(name, devices);
+        const QStringList told{tr("Saved as \"%1\": %Ln device(s).", nullptr, devIds.size()).arg(name),
+                               m_settings->writeProblem()};
+        emit signalTold(told.join(QLatin1Char(' ')).trimmed());
     });
     dialog->open();
 }

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "client/settings/ClientSettings.h"
+
 #include <QMenu>
 #include <QStringList>
 
 namespace orda_client {
-
-class ClientSettings;
 
 /// The groups of the inventory, and the selections that the user has given names: one click chooses the devices of one.
 /// Made anew each time it opens.
@@ -22,7 +22,8 @@ public:
 
 signals:
     /// @param devIds of a saved selection also those that the inventory does not have any more
-    void signalChosen(const QStringList &devIds);
+    /// @param replaced further devices of a saved selection, in whose place the inventory has others now
+    void signalChosen(const QStringList &devIds, const QStringList &replaced);
     void signalSaveTicks();
     void signalSaveRows();
     /// What became of a wish, for the user.
@@ -33,6 +34,7 @@ private:
     void addHeading(const QString &text);
     void addGroups();
     void addSelections();
+    void choose(const QVector<ClientSettings::SavedDevice> &devices);
     void askBeforeForgetting(const QString &name);
 
     ClientSettings *m_settings;

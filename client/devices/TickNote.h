@@ -1,19 +1,15 @@
 #pragma once
 
+#include "client/common/Notice.h"
+
 #include <QPointer>
 #include <QStringList>
-#include <QWidget>
-
-QT_BEGIN_NAMESPACE
-class QLabel;
-class QPlainTextEdit;
-QT_END_NAMESPACE
 
 namespace orda_client {
 
 /// Ticks devices in the form's list, and tells how many it has ticked, and which not and why. Hidden until it has
 /// something to tell.
-class TickNote : public QWidget
+class TickNote : public Notice
 {
     Q_OBJECT
 
@@ -22,18 +18,15 @@ public:
     explicit TickNote(QWidget *form, QWidget *parent = nullptr);
 
     /// Ticks exactly these in the form's list. While a run goes on, nothing is ticked.
-    void tick(const QStringList &devIds);
-    void tell(const QString &text);
+    /// @param replaced further ids of devices that were meant and that are others now: these are named
+    void tick(const QStringList &devIds, const QStringList &replaced = {});
+    void tell(const QString &text) { say(text); }
 
     /// Of a device that the form's list does not have: its name and why, a line for the user.
     static QString whyNotListed(const QString &devId);
 
 private:
-    void setText(const QString &text, const QStringList &lines);
-
     QPointer<QWidget> m_form;
-    QLabel *m_text;
-    QPlainTextEdit *m_lines;
 };
 
 } // namespace orda_client

@@ -1,6 +1,7 @@
 #include "client/devices/TickTheseDialog.h"
 
 #include "client/common/OpeningSize.h"
+#include "client/common/Widgets.h"
 #include "client/devices/DeviceStates.h"
 #include "client/devices/TickNote.h"
 #include "client/form/FormTicks.h"
@@ -93,9 +94,7 @@ QWidget *TickTheseDialog::buildInput()
         tr("&Serial numbers, names or addresses, one on a line or with commas, semicolons or tabs between them:"));
     caption->setWordWrap(true);
     caption->setBuddy(m_list);
-    auto *load = new QPushButton(tr("&Load a file…"));
-    load->setObjectName(QStringLiteral("loadList"));
-    load->setProperty("common_bt_style2", true);
+    auto *load = styledButton(tr("&Load a file…"), "loadList");
     load->setAutoDefault(false);
     connect(load, &QPushButton::clicked, this, &TickTheseDialog::askForFile);
     m_firstColumnOnly = new QCheckBox(tr("It is a t&able: only the first column names devices"));
@@ -135,17 +134,17 @@ QWidget *TickTheseDialog::buildReport()
 
 QWidget *TickTheseDialog::buildButtons()
 {
-    m_tick = new QPushButton;
-    m_tick->setObjectName(QStringLiteral("tickFound"));
-    m_tick->setProperty("common_bt_style1", true);
+    m_tick = styledButton({}, "tickFound", "common_bt_style1");
     m_tick->setAutoDefault(false);
     connect(m_tick, &QPushButton::clicked, this, [this] {
-        const QStringList devIds = m_devIds;
+        const QStringList shown = m_devIds;
+        lookUp();
+        if (m_devIds != shown)
+            return; // the list was changed just now: the button says what it would tick instead
         accept();
-        emit signalTick(devIds);
+        emit signalTick(shown);
     });
-    auto *cancel = new QPushButton(tr("&Cancel"));
-    cancel->setProperty("common_bt_style2", true);
+    auto *cancel = styledButton(tr("&Cancel"), "cancelTicking");
     cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto *buttons = new QWidget;

@@ -23,7 +23,8 @@ struct FormPage
     {
         QString name; ///< as CfgExchange::askedBy() calls it, such as "stream0.bitRate"
         QString title; ///< as the page calls it
-        QVector<QPointer<QAbstractButton>> boxes; ///< all ticked when it is meant, its own first; none: goes with others
+        QVector<QPointer<QAbstractButton>>
+            boxes; ///< all ticked when it is meant, its own first; none: goes with others
         QPointer<QWidget> editor; ///< null where no single one has the value
 
         bool isMeant() const; ///< its boxes are all ticked; of one without boxes false

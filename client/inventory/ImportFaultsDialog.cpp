@@ -1,6 +1,7 @@
 #include "client/inventory/ImportFaultsDialog.h"
 
 #include "client/common/OpeningSize.h"
+#include "client/common/Widgets.h"
 #include "client/settings/ClientSettings.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/TableFilter.h"
@@ -72,15 +73,6 @@ private:
     const QVector<InventoryCsv::Fault> m_faults;
 };
 
-QPushButton *button(const QString &text, const char *name, const char *style)
-{
-    auto *button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setProperty(style, true);
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
 ImportFaultsDialog::ImportFaultsDialog(const QString &file, const QVector<InventoryCsv::Fault> &faults,
@@ -99,10 +91,10 @@ ImportFaultsDialog::ImportFaultsDialog(const QString &file, const QVector<Invent
     summary->setWordWrap(true);
     summary->setProperty("dialog_caption", true);
     auto *table = new TableView(filter, {6, 8, 16, 0}, tr("What is wrong, line by line"));
-    auto *save = button(tr("Export &CSV…"), "exportFaults", "common_bt_style2");
+    auto *save = styledButton(tr("Export &CSV…"), "exportFaults", "common_bt_style2");
     connect(save, &QPushButton::clicked, this,
             [this, filter] { CsvFile::saveAs(this, *filter, QStringLiteral("import-errors")); });
-    auto *close = button(tr("C&lose"), "closeFaults", "common_bt_style1");
+    auto *close = styledButton(tr("C&lose"), "closeFaults", "common_bt_style1");
     connect(close, &QPushButton::clicked, this, &QDialog::close);
 
     auto *row = new QHBoxLayout;

@@ -1,5 +1,6 @@
 #include "client/press/PressQuestion.h"
 
+#include "client/common/Widgets.h"
 #include "client/form/FormTicks.h"
 #include "client/form/ParameterTexts.h"
 #include "client/press/PressTexts.h"
@@ -97,10 +98,8 @@ void PressQuestion::addValues(const QWidget *form, const PressedRun &run)
 
 QPushButton *PressQuestion::makeButton(const QString &text, const char *objectName, const char *style)
 {
-    auto *button = new QPushButton(text, this);
-    button->setObjectName(QLatin1String(objectName));
-    button->setProperty(style, true);
-    button->setAutoDefault(false); // Return must not configure
+    auto *button = styledButton(text, objectName, style); // Return must not configure
+    button->setParent(this); // so that it can have the focus already
     new orda_base::ReturnPressesButton(button); // a key that is still held from the press before is no answer
     return button;
 }

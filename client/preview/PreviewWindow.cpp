@@ -1,9 +1,10 @@
 #include "client/preview/PreviewWindow.h"
 
+#include "client/common/Notice.h"
+#include "client/common/Widgets.h"
 #include "client/form/Families.h"
 #include "client/form/FormPage.h"
 #include "client/form/FormTicks.h"
-#include "client/preview/Notice.h"
 #include "client/preview/PlanGroupList.h"
 #include "client/preview/ReadingBar.h"
 #include "client/session/ClientSession.h"
@@ -37,15 +38,6 @@ constexpr auto watchInterval = 300ms;
 constexpr QSize windowSize(1180, 640);
 constexpr int groupsWidth = 230;
 constexpr int emptyMargin = 12;
-
-QLabel *plainLabel(const char *name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
@@ -137,23 +129,17 @@ QWidget *PreviewWindow::buildTable()
 
 QWidget *PreviewWindow::buildButtons()
 {
-    const auto button = [](const QString &text, const char *name, const char *style) {
-        auto *made = new QPushButton(text);
-        made->setObjectName(QLatin1String(name));
-        made->setProperty(style, true);
-        return made;
-    };
-    m_configure = button(tr("Configure the ones that &change"), "configureChanging", "common_bt_style1");
+    m_configure = styledButton(tr("Configure the ones that &change"), "configureChanging", "common_bt_style1");
     m_configure->setToolTip(tr("Ticks exactly the devices that would change, and presses Configure"));
     connect(m_configure, &QPushButton::clicked, this, &PreviewWindow::configure);
-    auto *again = button(tr("Preview &again"), "previewAgain", "common_bt_style2");
+    auto *again = styledButton(tr("Preview &again"), "previewAgain", "common_bt_style2");
     again->setToolTip(tr("Plans anew, with the page that is shown and the devices that are ticked now"));
     connect(again, &QPushButton::clicked, this, &PreviewWindow::preview);
-    m_export = button(tr("&Export CSV…"), "exportCsv", "common_bt_style2");
+    m_export = styledButton(tr("&Export CSV…"), "exportCsv", "common_bt_style2");
     m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     connect(m_export, &QPushButton::clicked, this,
             [this] { CsvFile::saveAs(this, *m_filter, QStringLiteral("preview-") + m_plan.family); });
-    auto *close = button(tr("C&lose"), "closePreview", "common_bt_style2");
+    auto *close = styledButton(tr("C&lose"), "closePreview", "common_bt_style2");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
 
     auto *buttons = new QWidget;

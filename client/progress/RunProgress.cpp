@@ -1,6 +1,7 @@
 #include "client/progress/RunProgress.h"
 
 #include "client/common/ElidedLabel.h"
+#include "client/common/Widgets.h"
 #include "client/settings/ClientSettings.h"
 #include "journal/JournalTransport.h"
 
@@ -121,10 +122,7 @@ QWidget *RunProgress::buildButtons()
     auto *layout = new QHBoxLayout(buttons);
     layout->setContentsMargins(0, 0, 0, 0);
     const auto add = [layout](const QString &text, const char *objectName) {
-        auto *button = new QPushButton(text);
-        button->setObjectName(QLatin1String(objectName));
-        button->setProperty("common_bt_style2", true);
-        button->setAutoDefault(false);
+        auto *button = styledButton(text, objectName);
         button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus with what covers the form
         new orda_base::ReturnPressesButton(button); // as in the form
         layout->addWidget(button);
@@ -209,8 +207,9 @@ void RunProgress::refresh()
     showText(m_failures, failuresText(m_latestFailures));
     QString stopped;
     if (!m_whyStopped.isEmpty() && isGoingOn())
-        stopped = tr("%1. What has not left yet is not sent; what has been written stays written: %2", "why, devices")
-                      .arg(m_whyStopped, tr("%Ln device(s)", "that were written to", m_tally.done()));
+        stopped =
+            tr("%1. What has not left yet is not sent; what has been written stays written: %2", "why, devices")
+                .arg(m_whyStopped, tr("%Ln device(s)", "that were written to", m_tally.done() - m_tally.unchanged()));
     showText(m_stopped, stopped);
     m_announceSoon->request();
 }
@@ -256,7 +255,9 @@ QString RunProgress::countsText() const
 QString RunProgress::resultText() const
 {
     const QLocale locale;
-    QStringList parts{tr("Written: %1", "devices").arg(locale.toString(m_tally.done()))};
+    QStringList parts{tr("Written: %1", "devices").arg(locale.toString(m_tally.done() - m_tally.unchanged()))};
+    if (m_tally.unchanged() > 0) // of an undo nothing was even sent
+        parts.append(tr("unchanged: %1", "devices").arg(locale.toString(m_tally.unchanged())));
     if (m_tally.partlyWritten() > 0)
         parts.append(tr("partly written: %1", "devices").arg(locale.toString(m_tally.partlyWritten())));
     if (m_tally.inDoubt() > 0)

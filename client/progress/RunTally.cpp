@@ -26,7 +26,7 @@ int RunTally::settled() const
 
 int RunTally::done() const
 {
-    return m_counts.value(Outcome::Done) + m_counts.value(Outcome::Unchanged);
+    return m_counts.value(Outcome::Done) + unchanged();
 }
 
 int RunTally::failed() const

@@ -30,6 +30,8 @@ public:
     int notReached() const { return m_counts.value(Outcome::NotReached); }
     /// The device took everything, or had it already.
     int done() const;
+    /// It had it already: nothing of it is another than before.
+    int unchanged() const { return m_counts.value(Outcome::Unchanged); }
     /// Something was sent to it and went wrong. A device that was not reached is no failure.
     int failed() const;
     /// A write has left, and nobody knows what became of it.

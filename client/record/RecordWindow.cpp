@@ -1,5 +1,7 @@
 #include "client/record/RecordWindow.h"
 
+#include "client/common/Notice.h"
+#include "client/common/Widgets.h"
 #include "client/form/Families.h"
 #include "client/form/FormTicks.h"
 #include "client/record/FailedDevices.h"
@@ -7,7 +9,6 @@
 #include "client/record/RecordFile.h"
 #include "client/record/RunRecordModel.h"
 #include "client/record/RunSummary.h"
-#include "client/record/TickReport.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/GroupList.h"
 #include "client/tables/SearchedTable.h"
@@ -20,6 +21,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -69,7 +71,7 @@ RecordWindow::RecordWindow(const QString &path, QWidget *form, ClientSettings *s
     , m_model(new RunRecordModel(this))
     , m_summary(new QLabel)
     , m_groups(new GroupList(tr("Failures by message")))
-    , m_report(new TickReport)
+    , m_report(new Notice(tr("Failed devices that are not ticked"), "tickReport"))
 {
     setWindowTitle(tr("Record: %1", "file name").arg(QFileInfo(path).fileName()));
     m_summary->setObjectName(QStringLiteral("summary"));
@@ -82,7 +84,6 @@ RecordWindow::RecordWindow(const QString &path, QWidget *form, ClientSettings *s
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
     splitter->setSizes({groupsWidth, windowSize.width() - groupsWidth});
-    m_report->hide();
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -98,10 +99,10 @@ void RecordWindow::buildTable()
 {
     m_table = new SearchedTable(m_model, {14, 19, 17, 16, 20}, QStringLiteral("record"), tr("Devices of the run"),
                                 tr("Searches names, serial numbers, addresses and messages"));
-    m_table->setChoices(tr("S&how:"), {{tr("All"), nullptr},
-                                       {tr("Failed only"), [this](int row) {
-                                            return m_model->entries().at(row).outcome != RunEntry::Succeeded;
-                                        }}});
+    m_table->setChoices(tr("S&how:"), {{tr("All"), nullptr}, {tr("Failed only"), [this](int row) {
+                                                                  return m_model->entries().at(row).outcome
+                                                                      != RunEntry::Succeeded;
+                                                              }}});
     connect(m_table, &SearchedTable::signalShownChanged, this, &RecordWindow::updateView);
 }
 
@@ -121,19 +122,15 @@ QWidget *RecordWindow::buildGroups()
 
 QWidget *RecordWindow::buildButtons()
 {
-    m_tickAgain = new QPushButton(tr("&Tick failed again"));
-    m_tickAgain->setObjectName(QStringLiteral("tickFailedAgain"));
-    m_tickAgain->setProperty("common_bt_style1", true);
+    m_tickAgain = styledButton(tr("&Tick failed again"), "tickFailedAgain", "common_bt_style1");
     m_tickAgain->setToolTip(tr("Ticks exactly the failed devices of this run in the device list, and opens the page"));
     connect(m_tickAgain, &QPushButton::clicked, this, &RecordWindow::tickFailedAgain);
-    m_export = new QPushButton(tr("&Export CSV…"));
-    m_export->setObjectName(QStringLiteral("exportCsv"));
-    m_export->setProperty("common_bt_style2", true);
+    m_export = styledButton(tr("&Export CSV…"), "exportCsv");
     m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
-    connect(m_export, &QPushButton::clicked, this,
-            [this] { CsvFile::saveAs(this, *m_table->filter(), m_family ? m_family->name : QStringLiteral("record")); });
-    auto *close = new QPushButton(tr("&Close"));
-    close->setProperty("common_bt_style2", true);
+    connect(m_export, &QPushButton::clicked, this, [this] {
+        CsvFile::saveAs(this, *m_table->filter(), m_family ? m_family->name : QStringLiteral("record"));
+    });
+    auto *close = styledButton(tr("&Close"), "closeRecord");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     auto *buttons = new QWidget;
     auto *layout = new QHBoxLayout(buttons);
@@ -191,9 +188,8 @@ void RecordWindow::updateView()
     m_summary->setText(m_complaint.isEmpty() ? summary : summary + QLatin1Char('\n') + m_complaint);
     m_summary->setVisible(!entries.isEmpty());
     m_export->setEnabled(m_table->filter()->rowCount() > 0);
-    m_tickAgain->setEnabled(std::any_of(entries.begin(), entries.end(), [](const RunEntry &entry) {
-        return entry.outcome != RunEntry::Succeeded;
-    }));
+    m_tickAgain->setEnabled(std::any_of(entries.begin(), entries.end(),
+                                        [](const RunEntry &entry) { return entry.outcome != RunEntry::Succeeded; }));
 }
 
 void RecordWindow::tickFailedAgain()
@@ -205,8 +201,15 @@ void RecordWindow::tickFailedAgain()
             tr("Tick failed again"), tr("A run is going on over the ticked devices. Tick others when it has ended."));
         return;
     }
-    m_report->setTicked(FailedDevices::tickAgain(m_form, m_model->entries()));
-    m_report->show();
+    const FailedDevices::Ticked ticked = FailedDevices::tickAgain(m_form, m_model->entries());
+    QString text =
+        tr("Ticked %1 of %Ln failed device(s) in the device list.", nullptr, ticked.count + ticked.notTicked.size())
+            .arg(QLocale().toString(ticked.count));
+    if (ticked.isSearchCleared)
+        text += QLatin1Char(' ') + tr("The list's search was cleared: it hid some of them.");
+    if (!ticked.notTicked.isEmpty())
+        text += QLatin1Char(' ') + tr("Not ticked:");
+    m_report->say(text, ticked.notTicked);
     if (m_family)
         m_form->findChild<QAbstractButton *>(m_family->navigationKey)->click();
 }

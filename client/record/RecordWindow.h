@@ -15,7 +15,7 @@ namespace orda_client {
 class GroupList;
 class RunRecordModel;
 class SearchedTable;
-class TickReport;
+class Notice;
 struct Family;
 
 /// One record file of a run, device by device: sorted, searched, grouped by failure, saved as a table, and the failed
@@ -51,7 +51,7 @@ private:
     QLabel *m_summary;
     GroupList *m_groups;
     SearchedTable *m_table = nullptr;
-    TickReport *m_report;
+    Notice *m_report;
     QPushButton *m_tickAgain = nullptr;
     QPushButton *m_export = nullptr;
 };

@@ -24,9 +24,9 @@ QString RunRecordModel::text(int row, int column) const
     const RunEntry &entry = m_entries.at(row);
     switch (column) {
     case Outcome:
-        return entry.outcome == RunEntry::Failed       ? tr("Failed")
-               : entry.outcome == RunEntry::Unreadable ? tr("Unreadable")
-                                                       : tr("Succeeded");
+        return entry.outcome == RunEntry::Failed     ? tr("Failed")
+             : entry.outcome == RunEntry::Unreadable ? tr("Unreadable")
+                                                     : tr("Succeeded");
     case Name:
         return entry.name;
     case SerialNumber:

@@ -1,5 +1,6 @@
 #include "client/runs/RunCheckWindow.h"
 
+#include "client/common/Widgets.h"
 #include "client/runs/RunCheckModel.h"
 #include "client/runs/RunJobs.h"
 #include "client/runs/RunQuestion.h"
@@ -11,6 +12,8 @@
 #include "journal/JournalTransport.h"
 
 #include <orda_base/DelayedCall.h>
+#include <orda_data/DataSignals.h>
+#include <orda_worker/SystemAssistant.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -36,14 +39,6 @@ using namespace std::chrono_literals;
 
 constexpr QSize windowSize(1180, 560);
 constexpr auto progressDelay = 100ms; // thousands of devices may be read in a second
-
-QPushButton *button(const QString &text, const char *name, const char *style = "common_bt_style2")
-{
-    auto *made = new QPushButton(text);
-    made->setObjectName(QLatin1String(name));
-    made->setProperty(style, true);
-    return made;
-}
 
 } // namespace
 
@@ -81,9 +76,16 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
             m_isRunGoingOn = isGoingOn;
             updateView();
         };
-        connect(journal, &JournalTransport::signalRunBegan, this, [follow] { follow(true); });
+        connect(journal, &JournalTransport::signalRunBegan, this, [this, follow] {
+            outdate(tr("A run has begun since, and devices may have changed. Press “Read again”."));
+            follow(true);
+        });
         connect(journal, &JournalTransport::signalRunEnded, this, [follow] { follow(false); });
     }
+    const auto &devices = orda_data::DataSignals::instance();
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Read again”.")); };
+    connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
+    connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     read();
 }
 
@@ -121,13 +123,13 @@ QWidget *RunCheckWindow::buildLine()
     m_line->setObjectName(QStringLiteral("checkLine"));
     m_line->setTextFormat(Qt::PlainText);
     m_line->setWordWrap(true);
-    m_stop = button(tr("S&top"), "stopReading");
+    m_stop = styledButton(tr("S&top"), "stopReading");
     m_stop->setToolTip(tr("Ends the reading; nothing is written"));
     connect(m_stop, &QPushButton::clicked, this, [this] {
         if (m_job)
             m_job->cancel();
     });
-    m_again = button(tr("&Read again"), "readAgain");
+    m_again = styledButton(tr("&Read again"), "readAgain");
     connect(m_again, &QPushButton::clicked, this, &RunCheckWindow::read);
     auto *line = new QWidget;
     auto *layout = new QHBoxLayout(line);
@@ -145,7 +147,7 @@ QWidget *RunCheckWindow::buildButtons()
     rows->setContentsMargins(0, 0, 0, 0);
     auto *layout = new QHBoxLayout;
     if (m_check.kind == RunCheck::Undo) {
-        m_undo = button({}, "takeBack", "common_bt_style1");
+        m_undo = styledButton({}, "takeBack", "common_bt_style1");
         m_undo->setToolTip(tr("Takes the run back on the selected devices, or on all, where something goes back"));
         connect(m_undo, &QPushButton::clicked, this, &RunCheckWindow::askToTakeBack);
         m_force = new QCheckBox;
@@ -158,13 +160,13 @@ QWidget *RunCheckWindow::buildButtons()
         layout->addWidget(m_undo);
     }
     rows->addLayout(layout);
-    m_export = button(tr("&Export CSV…"), "exportCsv");
+    m_export = styledButton(tr("&Export CSV…"), "exportCsv");
     m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     connect(m_export, &QPushButton::clicked, this, [this] {
         CsvFile::saveAs(this, *m_table->filter(),
                         m_check.kind == RunCheck::Verify ? QStringLiteral("verify") : QStringLiteral("undo"));
     });
-    auto *close = button(tr("&Close"), "close");
+    auto *close = styledButton(tr("&Close"), "close");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     layout->addWidget(m_export);
     layout->addStretch();
@@ -179,6 +181,7 @@ void RunCheckWindow::read()
     m_toRead = selection.devIds.size();
     m_readings.clear();
     m_error.clear();
+    m_outdated.clear();
     m_model->setDevices({});
     if (m_force) { // what it writes over is another thing each time
         const QSignalBlocker blocker(m_force);
@@ -219,6 +222,12 @@ void RunCheckWindow::workOut()
     updateView();
 }
 
+void RunCheckWindow::outdate(const QString &why)
+{
+    m_outdated = why;
+    updateView();
+}
+
 QString RunCheckWindow::resultText() const
 {
     if (!m_error.isEmpty())
@@ -233,6 +242,8 @@ QString RunCheckWindow::resultText() const
     for (auto count = counts.cbegin(); count != counts.cend(); ++count)
         parts.append(tr("%1: %2", "state, number of devices")
                          .arg(CheckedDevice::stateText(count.key()), locale.toString(count.value())));
+    if (!m_outdated.isEmpty())
+        parts.append(m_outdated);
     return parts.join(QStringLiteral("   "));
 }
 
@@ -240,7 +251,7 @@ void RunCheckWindow::updateView()
 {
     if (!m_export)
         return; // still being built
-    const bool isReady = !m_job && !m_worker.isRunning() && m_error.isEmpty();
+    const bool isReady = !m_job && !m_worker.isRunning() && m_error.isEmpty() && m_outdated.isEmpty();
     const bool isFree = m_session->journal() && !m_isRunGoingOn;
     m_line->setText(resultText());
     m_table->setEmptyText(m_error.isEmpty() ? tr("What the devices hold is being read.") : m_error);
@@ -289,6 +300,10 @@ void RunCheckWindow::askToTakeBack()
         lines.append(tr("What was changed since the run is written over, too."));
     askBeforeRun(this, tr("Undo"), tr("Take the run back on %Ln device(s)?", nullptr, devIds.size()), lines,
                  tr("Take back"), [this, devIds, force = m_check.force] {
+                     if (!m_outdated.isEmpty()) { // while the question was open
+                         orda_worker::SystemAssistant::instance().messageAlert(tr("Undo"), m_outdated);
+                         return;
+                     }
                      const QString runId = m_jobs->takeBack(*m_check.run, devIds, force);
                      if (runId.isEmpty())
                          return;

@@ -25,7 +25,9 @@ class RunJobs;
 class SearchedTable;
 
 /// Reads devices that a run has written to and shows, device by device, whether they are still as it has left them, or
-/// what taking the run back would write; and takes it back, on exactly the devices for which it shows that.
+/// what taking the run back would write; and takes it back, on exactly the devices for which it shows that. What it
+/// shows is of a moment: once another run has begun or the inventory has changed, nothing is taken back before the
+/// devices were read again.
 class RunCheckWindow : public ToolWindow
 {
     Q_OBJECT
@@ -49,6 +51,7 @@ private:
     void take(const orda_engine::DeviceReading &reading);
     void endReading(const QString &error);
     void workOut();
+    void outdate(const QString &why);
     void updateView();
     QString resultText() const;
     QStringList devicesToTakeBack() const;
@@ -63,6 +66,7 @@ private:
     int m_toRead = 0;
     bool m_isRunGoingOn; // in this program
     QString m_error; // why nothing was read
+    QString m_outdated; // what has happened since the devices were read; empty: nothing
     QFutureWatcher<QVector<CheckedDevice>> m_worker;
     orda_base::DelayedCall *m_progress;
     RunCheckModel *m_model;

@@ -1,5 +1,6 @@
 #include "client/runs/RunComparisonWindow.h"
 
+#include "client/common/Widgets.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/SearchedTable.h"
 #include "client/tables/TableView.h"
@@ -121,13 +122,10 @@ RunComparisonWindow::RunComparisonWindow(const RunLine &first, const RunLine &se
         new QLabel(tr("First: %1").arg(runText(first)) + QLatin1Char('\n') + tr("Second: %1").arg(runText(second)));
     about->setTextFormat(Qt::PlainText);
     about->setWordWrap(true);
-    auto *exported = new QPushButton(tr("&Export CSV…"));
-    exported->setObjectName(QStringLiteral("exportCsv"));
-    exported->setProperty("common_bt_style2", true);
+    auto *exported = styledButton(tr("&Export CSV…"), "exportCsv");
     connect(exported, &QPushButton::clicked, this,
             [this] { CsvFile::saveAs(this, *m_table->filter(), QStringLiteral("runs-compared")); });
-    auto *close = new QPushButton(tr("&Close"));
-    close->setProperty("common_bt_style2", true);
+    auto *close = styledButton(tr("&Close"), "closeComparison");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);

@@ -1,5 +1,6 @@
 #include "client/runs/RunsWindow.h"
 
+#include "client/common/Widgets.h"
 #include "client/form/Families.h"
 #include "client/form/FormTicks.h"
 #include "client/record/RecordWindow.h"
@@ -44,14 +45,6 @@ constexpr int runsHeight = 250;
 constexpr int paneHeight = 440;
 constexpr auto historyDelay = 300ms;
 constexpr auto progressDelay = 100ms; // thousands of devices may have their outcome in a second
-
-QPushButton *button(const QString &text, const char *name, const char *style = "common_bt_style2")
-{
-    auto *made = new QPushButton(text);
-    made->setObjectName(QLatin1String(name));
-    made->setProperty(style, true);
-    return made;
-}
 
 /// Whether a list of runs reads the same, so that it need not be filled again.
 bool isSame(const RunListModel &model, const QVector<RunLine> &lines)
@@ -122,10 +115,10 @@ QWidget *RunsWindow::buildRuns()
                         {tr("Undo"), [this](int row) { return !m_model->line(row).run.undoes.isEmpty(); }}});
     m_runs->view()->sortByColumn(RunListModel::Began, Qt::DescendingOrder);
     m_runs->setEmptyText(tr("The history is being read."));
-    m_compare = button(tr("Com&pare two runs"), "compareRuns");
+    m_compare = styledButton(tr("Com&pare two runs"), "compareRuns");
     m_compare->setToolTip(tr("Select two runs of the same parameters, the second one with Ctrl"));
     connect(m_compare, &QPushButton::clicked, this, &RunsWindow::compare);
-    auto *record = button(tr("Open record &file…"), "openRecordFile");
+    auto *record = styledButton(tr("Open record &file…"), "openRecordFile");
     record->setToolTip(tr("Shows the record file of a run, as older versions wrote it too"));
     connect(record, &QPushButton::clicked, this, &RunsWindow::openRecord);
     m_runs->addBefore(m_compare);
@@ -145,20 +138,20 @@ QWidget *RunsWindow::buildLine()
 
 QWidget *RunsWindow::buildButtons()
 {
-    m_tryAgain = button({}, "tryAgain", "common_bt_style1");
+    m_tryAgain = styledButton({}, "tryAgain", "common_bt_style1");
     m_tryAgain->setToolTip(
         tr("Configures the selected devices, or those of the chosen group of failures, with the values of this run"));
     connect(m_tryAgain, &QPushButton::clicked, this, &RunsWindow::askToTryAgain);
-    m_verify = button(tr("&Verify"), "verify");
+    m_verify = styledButton(tr("&Verify"), "verify");
     m_verify->setToolTip(tr("Reads the selected devices, or all, and shows what is not as the run has left it"));
     connect(m_verify, &QPushButton::clicked, this, [this] { check(RunCheck::Verify); });
-    m_undo = button(tr("&Undo…"), "undo");
+    m_undo = styledButton(tr("&Undo…"), "undo");
     m_undo->setToolTip(tr("Shows what taking the run back would write, on the selected devices or on all"));
     connect(m_undo, &QPushButton::clicked, this, [this] { check(RunCheck::Undo); });
-    m_export = button(tr("&Export CSV…"), "exportCsv");
+    m_export = styledButton(tr("&Export CSV…"), "exportCsv");
     m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     connect(m_export, &QPushButton::clicked, m_pane, &ChosenRunPane::exportCsv);
-    auto *close = button(tr("&Close"), "close");
+    auto *close = styledButton(tr("&Close"), "close");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     auto *buttons = new QWidget;
     auto *layout = new QHBoxLayout(buttons);
@@ -352,8 +345,8 @@ void RunsWindow::askToTryAgain()
     askBeforeRun(
         this, tr("Try again"),
         tr("%1: configure %Ln device(s) again with the values of this run?", "parameters", count).arg(run->line.family),
-        lines, tr("Configure"), [this, run, devIds] {
-            const QString runId = m_jobs->tryAgain(*run, devIds);
+        lines, tr("Configure"), [this, run, asked = targets.selection.devIds] { // and none that was left out
+            const QString runId = m_jobs->tryAgain(*run, asked);
             if (!runId.isEmpty())
                 m_wanted = runId;
         });

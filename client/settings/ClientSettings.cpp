@@ -67,6 +67,22 @@ QJsonObject ClientSettings::object(const QString &key) const
 void ClientSettings::setObject(const QString &key, const QJsonObject &object)
 {
     setValue(key, QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+    takeOthers(); // and gives the others this
+}
+
+/// What another client has written since the file was read last.
+void ClientSettings::takeOthers() const
+{
+    if (m_file)
+        m_file->sync();
+}
+
+QString ClientSettings::writeProblem()
+{
+    takeOthers();
+    return !m_file || m_file->status() == QSettings::NoError
+             ? QString()
+             : tr("It is kept until the client ends, and no longer: the file of the settings cannot be written.");
 }
 
 int ClientSettings::askAbove() const
@@ -127,6 +143,7 @@ QStringList ClientSettings::recentInventories() const
 
 void ClientSettings::addRecentInventory(const QString &path)
 {
+    takeOthers();
     QStringList recent = recentInventories();
     recent.removeAll(path);
     recent.prepend(path);
@@ -135,34 +152,41 @@ void ClientSettings::addRecentInventory(const QString &path)
 
 void ClientSettings::removeRecentInventory(const QString &path)
 {
+    takeOthers();
     QStringList recent = recentInventories();
     recent.removeAll(path);
     setValue(QStringLiteral("recentInventories"), recent);
 }
 
-QMap<QString, QStringList> ClientSettings::selections() const
+QMap<QString, QVector<ClientSettings::SavedDevice>> ClientSettings::selections() const
 {
-    QMap<QString, QStringList> selections;
+    takeOthers();
+    QMap<QString, QVector<SavedDevice>> selections;
     const QJsonObject stored = object(QStringLiteral("selections"));
     for (auto name = stored.begin(); name != stored.end(); ++name) {
-        QStringList devIds;
-        const QJsonArray ids = name.value().toArray();
-        for (const QJsonValue &id : ids)
-            devIds.append(id.toString());
-        devIds.removeAll({});
-        if (!devIds.isEmpty())
-            selections.insert(name.key(), devIds);
+        QVector<SavedDevice> devices;
+        const QJsonArray saved = name.value().toArray();
+        for (const QJsonValue &device : saved)
+            if (const QString devId = device[QLatin1String("id")].toString(); !devId.isEmpty())
+                devices.append({devId, device[QLatin1String("serialNumber")].toString()});
+        if (!devices.isEmpty())
+            selections.insert(name.key(), devices);
     }
     return selections;
 }
 
-void ClientSettings::setSelection(const QString &name, const QStringList &devIds)
+void ClientSettings::setSelection(const QString &name, const QVector<SavedDevice> &devices)
 {
+    takeOthers();
     QJsonObject stored = object(QStringLiteral("selections"));
-    if (devIds.isEmpty())
+    QJsonArray saved;
+    for (const SavedDevice &device : devices)
+        saved.append(
+            QJsonObject{{QStringLiteral("id"), device.devId}, {QStringLiteral("serialNumber"), device.serialNumber}});
+    if (saved.isEmpty())
         stored.remove(name);
     else
-        stored.insert(name, QJsonArray::fromStringList(devIds));
+        stored.insert(name, saved);
     setObject(QStringLiteral("selections"), stored);
 }
 
@@ -178,6 +202,7 @@ QMap<QString, QJsonObject> ClientSettings::profiles(const QString &family) const
 
 void ClientSettings::setProfile(const QString &family, const QString &name, const QJsonObject &values)
 {
+    takeOthers();
     QJsonObject stored = object(profilesKey(family));
     if (values.isEmpty())
         stored.remove(name);

@@ -96,9 +96,8 @@ void SearchedTable::applyAccepts()
 {
     const TableFilter::Accepts chosen =
         m_choice->currentIndex() > 0 ? m_choices.at(m_choice->currentIndex()).accepts : nullptr;
-    m_filter->setAccepts([chosen, further = m_accepts](int row) {
-        return (!chosen || chosen(row)) && (!further || further(row));
-    });
+    m_filter->setAccepts(
+        [chosen, further = m_accepts](int row) { return (!chosen || chosen(row)) && (!further || further(row)); });
     update();
 }
 

@@ -132,7 +132,8 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
         return {};
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignLeft | Qt::AlignVCenter);
-    return role == Qt::DisplayRole ? titles().value(section) : QVariant();
+    return role == Qt::DisplayRole ? vms_sdk::displayText(titles().value(section))
+                                   : QVariant(); // names of members, too
 }
 
 } // namespace orda_client

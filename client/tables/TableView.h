@@ -4,7 +4,8 @@
 
 namespace orda_client {
 
-/// The look and the keys of all tables of the client: whole rows, sorted by a click on a title, one stop of the Tab key.
+/// The look and the keys of all tables of the client: whole rows, sorted by a click on a title, one stop of the Tab
+/// key.
 class TableView : public QTableView
 {
     Q_OBJECT

@@ -80,7 +80,7 @@ struct RunsSite : QObject
         return options;
     }
     /// A run of the engine, recorded. @return its id
-    QString run(const QString &values, const QStringList &on)
+    QString run(const QString &values, const QStringList &on) const
     {
         QSignalSpy recorded(session.journal(), &orda_journal::JournalTransport::signalRunRecorded);
         orda_engine::ApplyJob job(session.journal(), {orda_batchCfg::Families::find("audio"), on, parsed(values)});

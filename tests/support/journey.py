@@ -11,6 +11,7 @@ import warnings
 
 LIMIT = 30  # seconds for any single step; a device that does not answer takes 15
 SKIPPED = 77
+MANY = 50  # more devices are asked about
 WINDOWS = ("alert", "dialog", "frame")  # roles of what an application has at the top
 
 
@@ -137,6 +138,21 @@ def rows_of(table):
     table = table.get_table_iface()
     return [[table.get_accessible_at(row, column).get_name() for column in range(table.get_n_columns())]
             for row in range(table.get_n_rows())]
+
+
+def tick_all(window):
+    """Ticks all devices, when no more of them come, and returns the rows of the list."""
+    table = find(window, "table", "Online Device List")
+    counts = []  # a look each second
+
+    def are_all_there():
+        time.sleep(1)
+        counts.append(table.get_table_iface().get_n_rows())
+        return counts[-1] > MANY and counts[-2:-1] == counts[-1:]
+
+    wait_for(f"more than {MANY} devices", are_all_there)
+    set_state(find(window, "check box", "All devices"), "CHECKED", True)
+    return rows_of(table)
 
 
 def answer(client, title, text, button):

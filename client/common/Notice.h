@@ -17,7 +17,8 @@ class Notice : public QWidget
 
 public:
     /// @param listName accessible name of the list
-    explicit Notice(const QString &listName, QWidget *parent = nullptr);
+    /// @param name object name of the sentence; that of the list is this and "List"
+    explicit Notice(const QString &listName, const char *name = "notice", QWidget *parent = nullptr);
 
     /// @param lines may be texts of devices; none: there is no list
     void say(const QString &text, const QStringList &lines = {});

@@ -1,8 +1,8 @@
-#include "client/preview/Notice.h"
+#include "client/common/Notice.h"
 
+#include "client/common/Widgets.h"
 #include <vms_client_sdk/ForeignText.h>
 
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
@@ -15,15 +15,12 @@ constexpr int edge = 24; // of the list's frame and margins, above and below
 
 } // namespace
 
-Notice::Notice(const QString &listName, QWidget *parent)
+Notice::Notice(const QString &listName, const char *name, QWidget *parent)
     : QWidget(parent)
-    , m_text(new QLabel(this))
+    , m_text(plainLabel(name))
     , m_lines(new QPlainTextEdit(this))
 {
-    m_text->setObjectName(QStringLiteral("notice"));
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
-    m_lines->setObjectName(QStringLiteral("noticeList"));
+    m_lines->setObjectName(QLatin1String(name) + QStringLiteral("List"));
     m_lines->setAccessibleName(listName);
     m_lines->setReadOnly(true);
     m_lines->setTabChangesFocus(true);
@@ -37,7 +34,7 @@ Notice::Notice(const QString &listName, QWidget *parent)
 
 void Notice::say(const QString &text, const QStringList &lines)
 {
-    m_text->setText(text);
+    m_text->setText(vms_sdk::displayText(text));
     m_lines->setPlainText(vms_sdk::displayText(lines.join(QLatin1Char('\n')), QStringLiteral("\n")));
     m_lines->setVisible(!lines.isEmpty());
     setVisible(!text.isEmpty());
