@@ -284,6 +284,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSettings</name>
+    <message>
+        <source>It is kept until the client ends, and no longer: the file of the settings cannot be written.</source>
+        <translation>Das gilt nur, bis das Programm endet: Die Datei der Einstellungen kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientStatusBar</name>
     <message>
         <source>Runs</source>
@@ -476,6 +483,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>As of %1: %2 differ from the standard, %3 do not, %4 were not read.</source>
         <comment>time, three numbers of devices</comment>
         <translation>Stand %1: vom Standard abweichend %2, nicht abweichend %3, nicht gelesen %4.</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press “Read again”.</source>
+        <translation>Der Bestand hat sich seither geändert. Drücken Sie „Erneut lesen“.</translation>
     </message>
 </context>
 <context>
@@ -1712,6 +1723,25 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>A run is going on over the ticked devices. Tick others when it has ended.</source>
         <translation>Ein Lauf über die angehakten Geräte ist im Gange. Haken Sie andere an, wenn er zu Ende ist.</translation>
     </message>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>Fehlgeschlagene Geräte, die nicht angehakt sind</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste angehakt.</numerusform>
+            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste angehakt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>Nicht angehakt:</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::RemoteConfigDialog</name>
@@ -1978,6 +2008,14 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Take back</source>
         <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>A run has begun since, and devices may have changed. Press “Read again”.</source>
+        <translation>Seither hat ein Lauf begonnen, und Geräte können sich geändert haben. Drücken Sie „Erneut lesen“.</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press “Read again”.</source>
+        <translation>Der Bestand hat sich seither geändert. Drücken Sie „Erneut lesen“.</translation>
     </message>
 </context>
 <context>
@@ -2360,6 +2398,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>%1. %2</source>
         <comment>why it has stopped, counts</comment>
         <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>unchanged: %1</source>
+        <comment>devices</comment>
+        <translation>unverändert: %1</translation>
     </message>
 </context>
 <context>
@@ -2899,27 +2942,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <comment>device, why it is not ticked</comment>
         <translation>%1: %2</translation>
     </message>
-</context>
-<context>
-    <name>orda_client::TickReport</name>
     <message>
-        <source>Failed devices that are not ticked</source>
-        <translation>Fehlgeschlagene Geräte, die nicht angehakt sind</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste angehakt.</numerusform>
-            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste angehakt.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
-    </message>
-    <message>
-        <source>Not ticked:</source>
-        <translation>Nicht angehakt:</translation>
+        <source>%1: it is another device than was saved</source>
+        <comment>device</comment>
+        <translation>%1: ist ein anderes Gerät als das gespeicherte</translation>
     </message>
 </context>
 <context>

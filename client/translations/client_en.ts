@@ -220,6 +220,16 @@
     </message>
 </context>
 <context>
+    <name>orda_client::RecordWindow</name>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>Ticked %1 of %Ln failed device in the device list.</numerusform>
+            <numerusform>Ticked %1 of %Ln failed devices in the device list.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>orda_client::RunCheckWindow</name>
     <message numerus="yes">
         <source>Reading: %1 of %Ln device(s).</source>
@@ -428,16 +438,6 @@
         <translation>
             <numerusform>Ticked %1 of %Ln device in the device list, and no others.</numerusform>
             <numerusform>Ticked %1 of %Ln devices in the device list, and no others.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>orda_client::TickReport</name>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>Ticked %1 of %Ln failed device in the device list.</numerusform>
-            <numerusform>Ticked %1 of %Ln failed devices in the device list.</numerusform>
         </translation>
     </message>
 </context>

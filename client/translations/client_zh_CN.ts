@@ -284,6 +284,13 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSettings</name>
+    <message>
+        <source>It is kept until the client ends, and no longer: the file of the settings cannot be written.</source>
+        <translation>仅在程序结束前有效：无法写入设置文件。</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientStatusBar</name>
     <message>
         <source>Runs</source>
@@ -472,6 +479,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>As of %1: %2 differ from the standard, %3 do not, %4 were not read.</source>
         <comment>time, three numbers of devices</comment>
         <translation>截至 %1：与标准有差异 %2 台，无差异 %3 台，未读取 %4 台。</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press “Read again”.</source>
+        <translation>清单之后有变化。请按“重新读取”。</translation>
     </message>
 </context>
 <context>
@@ -1687,6 +1698,24 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>A run is going on over the ticked devices. Tick others when it has ended.</source>
         <translation>正在对勾选的设备运行配置。请在运行结束后再勾选其他设备。</translation>
     </message>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>未勾选的失败设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>未勾选：</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::RemoteConfigDialog</name>
@@ -1948,6 +1977,14 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Take back</source>
         <translation>撤销</translation>
+    </message>
+    <message>
+        <source>A run has begun since, and devices may have changed. Press “Read again”.</source>
+        <translation>之后已开始一次运行，设备可能已更改。请按“重新读取”。</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press “Read again”.</source>
+        <translation>清单之后有变化。请按“重新读取”。</translation>
     </message>
 </context>
 <context>
@@ -2318,6 +2355,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>%1. %2</source>
         <comment>why it has stopped, counts</comment>
         <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>unchanged: %1</source>
+        <comment>devices</comment>
+        <translation>未更改：%1</translation>
     </message>
 </context>
 <context>
@@ -2848,26 +2890,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <comment>device, why it is not ticked</comment>
         <translation>%1：%2</translation>
     </message>
-</context>
-<context>
-    <name>orda_client::TickReport</name>
     <message>
-        <source>Failed devices that are not ticked</source>
-        <translation>未勾选的失败设备</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
-    </message>
-    <message>
-        <source>Not ticked:</source>
-        <translation>未勾选：</translation>
+        <source>%1: it is another device than was saved</source>
+        <comment>device</comment>
+        <translation>%1：与保存时不是同一台设备</translation>
     </message>
 </context>
 <context>
