@@ -396,7 +396,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Mit einem Standard vergleichen</translation>
     </message>
     <message>
-        <source>The profile “%1” was saved.</source>
+        <source>The profile &quot;%1&quot; was saved.</source>
         <translation>Das Profil „%1“ wurde gespeichert.</translation>
     </message>
     <message>
@@ -460,11 +460,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Das Formular ist geschlossen.</translation>
     </message>
     <message>
-        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press “Read again”.</source>
+        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press &quot;Read again&quot;.</source>
         <translation>In der Liste ist kein Gerät angehakt, oder die Suche der Liste blendet alle angehakten aus. Haken Sie die zu vergleichenden Geräte an, und drücken Sie dann „Erneut lesen“.</translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Read again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Read again&quot; afterwards.</source>
         <translation>Die Geräte wurden nicht gelesen: %1 Drücken Sie danach „Erneut lesen“.</translation>
     </message>
     <message>
@@ -485,7 +485,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Stand %1: vom Standard abweichend %2, nicht abweichend %3, nicht gelesen %4.</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Read again”.</source>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
         <translation>Der Bestand hat sich seither geändert. Drücken Sie „Erneut lesen“.</translation>
     </message>
 </context>
@@ -560,10 +560,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
 <context>
     <name>orda_client::DeviceTexts</name>
     <message>
-        <source>offline</source>
-        <translation>offline</translation>
-    </message>
-    <message>
         <source>online</source>
         <translation>online</translation>
     </message>
@@ -582,6 +578,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>online, locked</source>
         <translation>online, gesperrt</translation>
+    </message>
+    <message>
+        <source>off line</source>
+        <translation>offline</translation>
     </message>
 </context>
 <context>
@@ -811,10 +811,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>mehrere Geräte des Laufs haben seine Seriennummer</translation>
     </message>
     <message>
-        <source>it is not in the list now: offline, or not to be configured</source>
-        <translation>es steht jetzt nicht in der Liste: offline oder nicht konfigurierbar</translation>
-    </message>
-    <message>
         <source>several devices in the list have its serial number</source>
         <translation>mehrere Geräte der Liste haben seine Seriennummer</translation>
     </message>
@@ -825,6 +821,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>a device without a name</source>
         <translation>ein Gerät ohne Namen</translation>
+    </message>
+    <message>
+        <source>it is not in the list now: off line, or not to be configured</source>
+        <translation>es steht jetzt nicht in der Liste: offline oder nicht konfigurierbar</translation>
     </message>
 </context>
 <context>
@@ -1511,15 +1511,15 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Das Formular zeigt keine Seite, die sich konfigurieren lässt.</translation>
     </message>
     <message>
-        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press “Preview again”.</source>
+        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press &quot;Preview again&quot;.</source>
         <translation>Konfigurieren würde nichts senden: Auf der Seite ist kein Parameter oder kein Stream angehakt. Haken Sie an, was gesetzt werden soll, und drücken Sie dann „Vorschau erneuern“.</translation>
     </message>
     <message>
-        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press “Preview again”.</source>
+        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press &quot;Preview again&quot;.</source>
         <translation>Alle angehakten Geräte sind von der Suche der Liste ausgeblendet, und Konfigurieren lässt ausgeblendete Geräte aus. Leeren Sie die Suche, und drücken Sie dann „Vorschau erneuern“.</translation>
     </message>
     <message>
-        <source>No device is ticked in the list. Tick the devices, then press “Preview again”.</source>
+        <source>No device is ticked in the list. Tick the devices, then press &quot;Preview again&quot;.</source>
         <translation>In der Liste ist kein Gerät angehakt. Haken Sie die Geräte an, und drücken Sie dann „Vorschau erneuern“.</translation>
     </message>
     <message>
@@ -1550,7 +1550,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         </translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Preview again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Preview again&quot; afterwards.</source>
         <translation>Die Geräte wurden nicht gelesen: %1 Drücken Sie danach „Vorschau erneuern“.</translation>
     </message>
     <message>
@@ -1562,15 +1562,15 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Es gibt noch keine Vorschau.</translation>
     </message>
     <message>
-        <source>A run has begun since, and devices may have changed. Press “Preview again”.</source>
+        <source>A run has begun since, and devices may have changed. Press &quot;Preview again&quot;.</source>
         <translation>Seither hat ein Lauf begonnen, und Geräte können sich geändert haben. Drücken Sie „Vorschau erneuern“.</translation>
     </message>
     <message>
-        <source>The page has changed since: it would send something else. Press “Preview again”.</source>
+        <source>The page has changed since: it would send something else. Press &quot;Preview again&quot;.</source>
         <translation>Die Seite hat sich seither geändert: Sie würde etwas anderes senden. Drücken Sie „Vorschau erneuern“.</translation>
     </message>
     <message numerus="yes">
-        <source>The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.</source>
+        <source>The preview was stopped, and %Ln device(s) were not read. Press &quot;Preview again&quot; to read all.</source>
         <translation>
             <numerusform>Die Vorschau wurde gestoppt, und %Ln Gerät wurde nicht gelesen. „Vorschau erneuern“ liest alle.</numerusform>
             <numerusform>Die Vorschau wurde gestoppt, und %Ln Geräte wurden nicht gelesen. „Vorschau erneuern“ liest alle.</numerusform>
@@ -1585,7 +1585,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Kein Gerät würde sich ändern: Es gibt nichts zu konfigurieren.</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Preview again”.</source>
+        <source>The inventory has changed since. Press &quot;Preview again&quot;.</source>
         <translation>Der Bestand hat sich seither geändert. Drücken Sie „Vorschau erneuern“.</translation>
     </message>
 </context>
@@ -2010,11 +2010,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Zurücknehmen</translation>
     </message>
     <message>
-        <source>A run has begun since, and devices may have changed. Press “Read again”.</source>
+        <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
         <translation>Seither hat ein Lauf begonnen, und Geräte können sich geändert haben. Drücken Sie „Erneut lesen“.</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Read again”.</source>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
         <translation>Der Bestand hat sich seither geändert. Drücken Sie „Erneut lesen“.</translation>
     </message>
 </context>
@@ -2190,13 +2190,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is offline or may not be configured</source>
-        <translation>
-            <numerusform>%n der angegebenen Geräte ist offline oder darf nicht konfiguriert werden</numerusform>
-            <numerusform>%n der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n device(s) not reached</source>
         <translation>
             <numerusform>%n Gerät nicht erreicht</numerusform>
@@ -2206,6 +2199,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>--run is for demos and pictures: it writes the form&apos;s default values. orda_batch(1) sets values of your own.</source>
         <translation>--run ist für Vorführungen und Bilder: Es schreibt die Vorgabewerte des Formulars. Eigene Werte setzt orda_batch(1).</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>%n der angegebenen Geräte ist offline oder darf nicht konfiguriert werden</numerusform>
+            <numerusform>%n der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2874,7 +2874,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Das Gerät %1</translation>
     </message>
     <message>
-        <source>The profile “%1”</source>
+        <source>The profile &quot;%1&quot;</source>
         <translation>Das Profil „%1“</translation>
     </message>
     <message>
@@ -2890,7 +2890,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Profil löschen</translation>
     </message>
     <message>
-        <source>Forget the profile “%1”?</source>
+        <source>Forget the profile &quot;%1&quot;?</source>
         <translation>Das Profil „%1“ löschen?</translation>
     </message>
     <message>
@@ -2934,10 +2934,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>%1: nicht im Bestand</translation>
     </message>
     <message>
-        <source>came on line just now, and is not in the list yet</source>
-        <translation>kam gerade erst online und steht noch nicht in der Liste</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <comment>device, why it is not ticked</comment>
         <translation>%1: %2</translation>
@@ -2946,6 +2942,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>%1: it is another device than was saved</source>
         <comment>device</comment>
         <translation>%1: ist ein anderes Gerät als das gespeicherte</translation>
+    </message>
+    <message>
+        <source>came online just now, and is not in the list yet</source>
+        <translation>kam gerade erst online und steht noch nicht in der Liste</translation>
     </message>
 </context>
 <context>

@@ -212,10 +212,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.</source>
+        <source>The preview was stopped, and %Ln device(s) were not read. Press &quot;Preview again&quot; to read all.</source>
         <translation>
-            <numerusform>The preview was stopped, and %Ln device was not read. Press “Preview again” to read all.</numerusform>
-            <numerusform>The preview was stopped, and %Ln devices were not read. Press “Preview again” to read all.</numerusform>
+            <numerusform>The preview was stopped, and %Ln device was not read. Press &quot;Preview again&quot; to read all.</numerusform>
+            <numerusform>The preview was stopped, and %Ln devices were not read. Press &quot;Preview again&quot; to read all.</numerusform>
         </translation>
     </message>
 </context>
@@ -284,17 +284,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is offline or may not be configured</source>
-        <translation>
-            <numerusform>%n of the given devices is off line or may not be configured</numerusform>
-            <numerusform>%n of the given devices are off line or may not be configured</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n device(s) not reached</source>
         <translation>
             <numerusform>%n device not reached</numerusform>
             <numerusform>%n devices not reached</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>%n of the given devices is off line or may not be configured</numerusform>
+            <numerusform>%n of the given devices are off line or may not be configured</numerusform>
         </translation>
     </message>
 </context>

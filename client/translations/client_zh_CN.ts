@@ -392,7 +392,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>与标准比较</translation>
     </message>
     <message>
-        <source>The profile “%1” was saved.</source>
+        <source>The profile &quot;%1&quot; was saved.</source>
         <translation>方案“%1”已保存。</translation>
     </message>
     <message>
@@ -456,11 +456,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>表单已关闭。</translation>
     </message>
     <message>
-        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press “Read again”.</source>
+        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press &quot;Read again&quot;.</source>
         <translation>列表中没有勾选设备，或勾选的设备都被列表的搜索隐藏。请勾选要比较的设备，然后按“重新读取”。</translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Read again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Read again&quot; afterwards.</source>
         <translation>未读取设备：%1 之后请按“重新读取”。</translation>
     </message>
     <message>
@@ -481,7 +481,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>截至 %1：与标准有差异 %2 台，无差异 %3 台，未读取 %4 台。</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Read again”.</source>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
         <translation>清单之后有变化。请按“重新读取”。</translation>
     </message>
 </context>
@@ -556,10 +556,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
 <context>
     <name>orda_client::DeviceTexts</name>
     <message>
-        <source>offline</source>
-        <translation>离线</translation>
-    </message>
-    <message>
         <source>online</source>
         <translation>在线</translation>
     </message>
@@ -578,6 +574,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>online, locked</source>
         <translation>在线，已锁定</translation>
+    </message>
+    <message>
+        <source>off line</source>
+        <translation>离线</translation>
     </message>
 </context>
 <context>
@@ -802,10 +802,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>本次运行中有多台设备使用其序列号</translation>
     </message>
     <message>
-        <source>it is not in the list now: offline, or not to be configured</source>
-        <translation>它现在不在列表中：离线或不可配置</translation>
-    </message>
-    <message>
         <source>several devices in the list have its serial number</source>
         <translation>列表中有多台设备使用其序列号</translation>
     </message>
@@ -816,6 +812,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>a device without a name</source>
         <translation>无名称的设备</translation>
+    </message>
+    <message>
+        <source>it is not in the list now: off line, or not to be configured</source>
+        <translation>它现在不在列表中：离线或不可配置</translation>
     </message>
 </context>
 <context>
@@ -1490,15 +1490,15 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>表单当前显示的页面无法配置。</translation>
     </message>
     <message>
-        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press “Preview again”.</source>
+        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press &quot;Preview again&quot;.</source>
         <translation>“配置”不会发送任何内容：页面上没有勾选参数或码流。请勾选要设置的内容，然后按“重新预览”。</translation>
     </message>
     <message>
-        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press “Preview again”.</source>
+        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press &quot;Preview again&quot;.</source>
         <translation>勾选的设备都被列表的搜索隐藏，“配置”会略过隐藏的设备。请清除搜索，然后按“重新预览”。</translation>
     </message>
     <message>
-        <source>No device is ticked in the list. Tick the devices, then press “Preview again”.</source>
+        <source>No device is ticked in the list. Tick the devices, then press &quot;Preview again&quot;.</source>
         <translation>列表中没有勾选设备。请勾选设备，然后按“重新预览”。</translation>
     </message>
     <message>
@@ -1526,7 +1526,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         </translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Preview again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Preview again&quot; afterwards.</source>
         <translation>未读取设备：%1 之后请按“重新预览”。</translation>
     </message>
     <message>
@@ -1538,15 +1538,15 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>尚无预览。</translation>
     </message>
     <message>
-        <source>A run has begun since, and devices may have changed. Press “Preview again”.</source>
+        <source>A run has begun since, and devices may have changed. Press &quot;Preview again&quot;.</source>
         <translation>之后已开始一次运行，设备可能已更改。请按“重新预览”。</translation>
     </message>
     <message>
-        <source>The page has changed since: it would send something else. Press “Preview again”.</source>
+        <source>The page has changed since: it would send something else. Press &quot;Preview again&quot;.</source>
         <translation>页面之后有变化，将发送不同的内容。请按“重新预览”。</translation>
     </message>
     <message numerus="yes">
-        <source>The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.</source>
+        <source>The preview was stopped, and %Ln device(s) were not read. Press &quot;Preview again&quot; to read all.</source>
         <translation>
             <numerusform>预览已停止，有 %Ln 台设备未读取。按“重新预览”可读取全部。</numerusform>
         </translation>
@@ -1560,7 +1560,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>没有设备会更改：无需配置。</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Preview again”.</source>
+        <source>The inventory has changed since. Press &quot;Preview again&quot;.</source>
         <translation>清单之后有变化。请按“重新预览”。</translation>
     </message>
 </context>
@@ -1979,11 +1979,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>撤销</translation>
     </message>
     <message>
-        <source>A run has begun since, and devices may have changed. Press “Read again”.</source>
+        <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
         <translation>之后已开始一次运行，设备可能已更改。请按“重新读取”。</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Read again”.</source>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
         <translation>清单之后有变化。请按“重新读取”。</translation>
     </message>
 </context>
@@ -2157,12 +2157,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is offline or may not be configured</source>
-        <translation>
-            <numerusform>指定的设备中有 %n 台离线或不允许配置</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n device(s) not reached</source>
         <translation>
             <numerusform>%n 台设备未连上</numerusform>
@@ -2171,6 +2165,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>--run is for demos and pictures: it writes the form&apos;s default values. orda_batch(1) sets values of your own.</source>
         <translation>--run 用于演示和截图：它写入表单的默认值。要设置自己的值，请使用 orda_batch(1)。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>指定的设备中有 %n 台离线或不允许配置</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2823,7 +2823,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>设备 %1</translation>
     </message>
     <message>
-        <source>The profile “%1”</source>
+        <source>The profile &quot;%1&quot;</source>
         <translation>方案“%1”</translation>
     </message>
     <message>
@@ -2839,7 +2839,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>删除方案</translation>
     </message>
     <message>
-        <source>Forget the profile “%1”?</source>
+        <source>Forget the profile &quot;%1&quot;?</source>
         <translation>要删除方案“%1”吗？</translation>
     </message>
     <message>
@@ -2882,10 +2882,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>%1：不在清单中</translation>
     </message>
     <message>
-        <source>came on line just now, and is not in the list yet</source>
-        <translation>刚刚上线，尚未出现在列表中</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <comment>device, why it is not ticked</comment>
         <translation>%1：%2</translation>
@@ -2894,6 +2890,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>%1: it is another device than was saved</source>
         <comment>device</comment>
         <translation>%1：与保存时不是同一台设备</translation>
+    </message>
+    <message>
+        <source>came online just now, and is not in the list yet</source>
+        <translation>刚刚上线，尚未出现在列表中</translation>
     </message>
 </context>
 <context>
