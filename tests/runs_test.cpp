@@ -157,7 +157,7 @@ private slots:
     /// What was left out when the operator was asked stays out, whatever the inventory has become since.
     void onlyWhatWasAskedAboutIsTriedAgain()
     {
-        Site site;
+        RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds.mid(0, 2));
         const vms_sdk::DevInfo own = orda_data::DevsMgrData::instance().getDevInfoById(site.devIds.at(0));
         QVERIFY(site.open(run));
@@ -187,7 +187,7 @@ private slots:
     void undoIsNotOfferedByAnOldReading()
     {
         QFETCH(QString, since);
-        Site site;
+        RunsSite site;
         site.run("{'aiGain': 20}", site.devIds);
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));
