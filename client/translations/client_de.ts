@@ -1183,11 +1183,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <name>orda_client::ParameterTexts</name>
     <message>
         <source>on</source>
-        <translation>ein</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>

@@ -1034,11 +1034,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <name>orda_client::InventoryCsv</name>
     <message>
         <source>is not UTF-8; save the file as CSV in UTF-8</source>
-        <translation>不是 UTF-8；请将文件保存为 UTF-8 编码的 CSV</translation>
+        <translation>不是 UTF-8；请将文件另存为 UTF-8 编码的 CSV</translation>
     </message>
     <message>
         <source>wrong quotation marks: they stand around a whole cell, and one within it is written twice</source>
-        <translation>引号有误：引号须括住整个单元格，其中的引号要写两次</translation>
+        <translation>引号有误：引号应括住整个单元格，其中的引号须写两次</translation>
     </message>
     <message>
         <source>is empty; a line with the names of the columns is expected, such as id, ip and port</source>
@@ -1046,7 +1046,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
     <message>
         <source>ends after its head; a line for each device is expected</source>
-        <translation>只有标题行；应为每台设备写一行</translation>
+        <translation>在表头之后结束；应为每台设备给出一行</translation>
     </message>
     <message>
         <source>the column is there already, as number %1</source>
@@ -1058,7 +1058,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
     <message>
         <source>the number of cells is %1; it must be %2, as in the head</source>
-        <translation>单元格数为 %1；应与标题行相同，为 %2</translation>
+        <translation>单元格数为 %1；应与表头一致，为 %2</translation>
     </message>
     <message>
         <source>line %1</source>
@@ -1168,11 +1168,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <name>orda_client::ParameterTexts</name>
     <message>
         <source>on</source>
-        <translation>开</translation>
+        <translation>开启</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>关</translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
