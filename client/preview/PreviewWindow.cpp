@@ -68,12 +68,12 @@ PreviewWindow::PreviewWindow(ClientSession *session, QWidget *form, ClientSettin
     connect(m_reading, &ReadingBar::signalFinished, this, &PreviewWindow::finish);
     if (auto *journal = session->journal())
         connect(journal, &orda_journal::JournalTransport::signalRunBegan, this, [this] {
-            outdate(tr("A run has begun since, and devices may have changed. Press “Preview again”."));
+            outdate(tr("A run has begun since, and devices may have changed. Press \"Preview again\"."));
             if (m_isConfiguring)
                 close(); // it would cover what the main window tells of the run, and its Stop
         });
     const auto &devices = orda_data::DataSignals::instance();
-    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Preview again”.")); };
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press \"Preview again\".")); };
     connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
     connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     m_watch.setInterval(watchInterval);
@@ -187,12 +187,12 @@ void PreviewWindow::preview()
         tellNoPlan(tr("The form shows no page that can be configured."));
     else if (page.values.isEmpty())
         tellNoPlan(tr("Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to "
-                      "be set, then press “Preview again”."));
+                      "be set, then press \"Preview again\"."));
     else if (ticks.devIds.isEmpty() && ticks.hidden > 0)
         tellNoPlan(tr("All ticked devices are hidden by the search of the list, and Configure leaves hidden devices "
-                      "out. Clear the search, then press “Preview again”."));
+                      "out. Clear the search, then press \"Preview again\"."));
     else if (ticks.devIds.isEmpty())
-        tellNoPlan(tr("No device is ticked in the list. Tick the devices, then press “Preview again”."));
+        tellNoPlan(tr("No device is ticked in the list. Tick the devices, then press \"Preview again\"."));
     else
         plan(page, ticks);
 }
@@ -239,7 +239,7 @@ void PreviewWindow::tellNoPlan(const QString &why)
 void PreviewWindow::finish(const QString &error)
 {
     if (!error.isEmpty())
-        tellNoPlan(tr("The devices were not read: %1 Press “Preview again” afterwards.").arg(error));
+        tellNoPlan(tr("The devices were not read: %1 Press \"Preview again\" afterwards.").arg(error));
     else
         refresh();
 }
@@ -284,9 +284,9 @@ QString PreviewWindow::whyNotConfigurable() const
     if (!m_outdated.isEmpty())
         return m_outdated;
     if (FormPage::of(m_form, *family).values != m_plan.values)
-        return tr("The page has changed since: it would send something else. Press “Preview again”.");
+        return tr("The page has changed since: it would send something else. Press \"Preview again\".");
     if (m_model->count(PreviewModel::NotRead) > 0)
-        return tr("The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.",
+        return tr("The preview was stopped, and %Ln device(s) were not read. Press \"Preview again\" to read all.",
                   nullptr, m_model->count(PreviewModel::NotRead));
     if (FormTicks::runOverlay(m_form))
         return tr("A run is going on.");
