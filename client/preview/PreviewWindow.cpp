@@ -90,6 +90,7 @@ QWidget *PreviewWindow::buildTop()
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
         updateTable();
+        updateState();
     });
     auto *top = new QWidget;
     auto *layout = new QVBoxLayout(top);
@@ -268,6 +269,9 @@ QString PreviewWindow::whyNotConfigurable() const
                   nullptr, m_model->count(PreviewModel::NotRead));
     if (FormTicks::runOverlay(m_form))
         return tr("A run is going on.");
+    if (!m_search->text().isEmpty()) // somebody who sees three devices means these
+        return tr("The search is on. All devices that change would be configured, and not only those that are shown: "
+                  "clear the search first.");
     return m_model->count(PreviewModel::WouldChange) > 0 ? QString()
                                                          : tr("No device would change: there is nothing to configure.");
 }
