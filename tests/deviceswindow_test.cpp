@@ -131,7 +131,7 @@ struct Site
             {"click", [&] { return QTest::mouseClick(child<QPushButton>(rest), Qt::LeftButton), true; }},
             {"online", [&] { return store.setDevStatus(rest, DevOnline), true; }},
             {"offline", [&] { return store.setDevStatus(rest, DevOffline), true; }},
-            {"add", [&] { return store.updateDevs({device(rest.mid(3).toInt())}), true; }},
+            {"add", [&] { return store.updateDevs({device(rest.midRef(3).toInt())}), true; }},
             {"replace",
              [&] {
                  DevInfo other = store.getDevInfoById(rest);
