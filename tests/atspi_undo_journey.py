@@ -117,15 +117,14 @@ def preview_and_configure(client, plan):
     act(configure, "Press")
     answer(client, "OSD Parameters Configuration Result", f"A total of {len(plan.changing)} devices have been configured, "
            f"success:{plan.done}, failure:{len(plan.changing) - plan.done}", "Cancel")
-    act(find(preview, "push button", "Close"), "Press")
 
 
-def look_at_runs(client, kind, counts):
-    """The window of the runs, as soon as the latest one is so, and when that began."""
+def look_at_runs(client, *wanted):
+    """The window of the runs, as soon as these are all, latest first, and when the latest one began."""
     choose_menu_entry(client, "Runs")
     runs = find(client, "frame", "Runs")
     table = find(runs, "table", "Runs, latest first")
-    wait_for(f"run {kind} with {counts}", lambda: rows_of(table)[0][1:4] == ["OSD Parameters", kind, counts])
+    wait_for(f"runs {wanted}", lambda: [tuple(row[1:4]) for row in rows_of(table)] == [("OSD Parameters", *run) for run in wanted])
     return runs, rows_of(table)[0][0]
 
 
@@ -151,9 +150,10 @@ def journey(client, fleet):
     expect_held(fleet, before, "after the question")
     preview_and_configure(client, plan)
     expect_held(fleet, plan.held, "after the run")
-    runs, began = look_at_runs(client, "Configured", f"Done: {plan.done}, Failed: {len(REFUSING)}, Unknown: 2")
+    configured = ("Configured", f"Done: {plan.done}, Failed: {len(REFUSING)}, Unknown: 2")
+    runs, began = look_at_runs(client, configured)
     undo(client, runs, plan)
-    look_at_runs(client, f"Undo of {began}", f"Done: {plan.done}, Unknown: 1")
+    look_at_runs(client, (f"Undo of {began}", f"Done: {plan.done}, Unknown: 1"), configured)
     expect_held(fleet, before, "after the undo")  # all of it: a write of this page adds nothing to a device
     choose_menu_entry(client, "Quit")
 

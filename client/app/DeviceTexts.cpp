@@ -8,7 +8,7 @@ QString DeviceTexts::status(vms_sdk::DevStatus status)
 {
     switch (status) {
     case vms_sdk::DevOffline:
-        return tr("offline");
+        return tr("off line");
     case vms_sdk::DevOnline:
         return tr("online");
     case vms_sdk::DevConnecting:

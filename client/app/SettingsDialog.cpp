@@ -17,6 +17,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -109,7 +110,10 @@ SettingsDialog::SettingsDialog(ClientSettings *settings, const orda_journal::His
     ensurePolished();
     const int width = cards->sizeHint().width();
     const int height = column->totalHeightForWidth(width) + spacing + buttons->sizeHint().height();
-    resize(openingSize(this, {width + 2 * margin, height + 2 * margin}));
+    const QSize wanted(width + 2 * margin, height + 2 * margin);
+    const bool scrolls = openingSize(this, wanted).height() < wanted.height();
+    const QSize scrollBar(scrolls ? area->verticalScrollBar()->sizeHint().width() : 0, 0);
+    resize(openingSize(this, wanted + scrollBar));
 }
 
 QWidget *SettingsDialog::buildWindow()

@@ -97,7 +97,7 @@ void StandardBar::fill(Source chosen, const QString &profile)
         add(tr("The device %1").arg(vms_sdk::displayText(m_modelName)), Model);
     const QStringList names = m_settings->profiles(m_family).keys();
     for (const QString &name : names)
-        add(tr("The profile “%1”").arg(vms_sdk::displayText(name)), Profile, name);
+        add(tr("The profile \"%1\"").arg(vms_sdk::displayText(name)), Profile, name);
     for (int index = 0; index < m_sources->count(); ++index)
         if (m_sources->itemData(index, sourceRole) == chosen && m_sources->itemData(index, profileRole) == profile)
             m_sources->setCurrentIndex(index);
@@ -153,9 +153,9 @@ void StandardBar::askForName()
 
 void StandardBar::askToForget()
 {
-    auto *question =
-        new QMessageBox(QMessageBox::Question, tr("Forget profile"),
-                        tr("Forget the profile “%1”?").arg(vms_sdk::displayText(profile())), QMessageBox::Cancel, this);
+    auto *question = new QMessageBox(QMessageBox::Question, tr("Forget profile"),
+                                     tr("Forget the profile \"%1\"?").arg(vms_sdk::displayText(profile())),
+                                     QMessageBox::Cancel, this);
     question->setObjectName(QStringLiteral("forgetQuestion"));
     question->setTextFormat(Qt::PlainText);
     question->setAttribute(Qt::WA_DeleteOnClose);

@@ -34,8 +34,8 @@ namespace orda_client {
 
 namespace {
 
-constexpr QSize windowSize(1320, 700);
-constexpr int statesWidth = 310;
+constexpr QSize windowSize(1480, 760); // or the screen's
+constexpr int statesWidth = 340;
 constexpr int margin = 12;
 
 } // namespace
@@ -82,6 +82,7 @@ QWidget *DevicesWindow::buildStates()
 {
     m_stateList = new GroupList(tr("States"));
     m_stateList->setObjectName(QStringLiteral("states"));
+    m_stateList->setTextElideMode(Qt::ElideRight); // no reason has a code at its end
     auto *caption = new QLabel(tr("Sho&w"));
     caption->setBuddy(m_stateList);
     auto *states = new QWidget;
@@ -110,8 +111,9 @@ QWidget *DevicesWindow::buildTop()
 QWidget *DevicesWindow::buildTable()
 {
     // By column, in digits.
-    m_table = new TableView(m_filter, {22, 30, 20, 16, 14, 11, 13, 30, 20}, tr("Devices"));
+    m_table = new TableView(m_filter, {22, 34, 20, 16, 14, 11, 13, 30, 20}, tr("Devices"));
     m_table->setObjectName(QStringLiteral("devices"));
+    m_table->elideAtEnd({DevicesModel::State});
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_empty = plainLabel("empty");
     m_empty->setAlignment(Qt::AlignCenter);

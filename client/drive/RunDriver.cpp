@@ -138,7 +138,7 @@ void RunDriver::tickAndConfigure()
     out() << tr("%n device(s) ticked", nullptr, m_ticked) << Qt::endl;
     const int missing = m_options.deviceIds.size() - m_ticked;
     if (missing > 0)
-        complain(tr("%n of the given devices is offline or may not be configured", nullptr, missing));
+        complain(tr("%n of the given devices is off line or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, [this] {
         saveWindowScreenshot("showDevices", "devicesWindow");
         saveWindowScreenshot("showPreview", "previewWindow");

@@ -12,7 +12,7 @@ DeviceCells DeviceCells::of(const QString &devId)
 
 QStringList DeviceCells::titles()
 {
-    return {tr("Device name"), tr("Serial number"), tr("IP address"), tr("Group")};
+    return {tr("Name"), tr("Serial number"), tr("IP address"), tr("Group")};
 }
 
 QString DeviceCells::text(int column) const

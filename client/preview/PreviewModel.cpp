@@ -9,13 +9,6 @@ using orda_engine::DeviceReading;
 
 namespace {
 
-enum Column
-{
-    OutcomeColumn,
-    DeviceColumn,
-    ChangesColumn = DeviceColumn + DeviceCells::Count
-};
-
 constexpr int sortedBy = 60; // characters of the changes
 
 } // namespace
@@ -136,21 +129,21 @@ QString PreviewModel::outcomeText(Group group)
 {
     switch (group) {
     case WouldChange:
-        return tr("would change");
+        return tr("Would change");
     case HasAlready:
-        return tr("has it already");
+        return tr("Has it already");
     case Lacks:
-        return tr("cannot be set", "the device lacks the parameters");
+        return tr("Cannot be set", "the device lacks the parameters");
     case NotReached:
-        return tr("not reached");
+        return tr("Not reached");
     case Failed:
-        return tr("could not be read");
+        return tr("Could not be read");
     case All:
     case NotRead:
     case GroupCount:
         break;
     }
-    return tr("not read");
+    return tr("Not read");
 }
 
 QString PreviewModel::text(int row, int column) const

@@ -32,6 +32,13 @@ public:
         GroupCount
     };
 
+    enum Column
+    {
+        OutcomeColumn,
+        DeviceColumn,
+        ChangesColumn = DeviceColumn + DeviceCells::Count
+    };
+
     explicit PreviewModel(QObject *parent = nullptr);
 
     /// Begins anew: none of these devices was read.

@@ -67,41 +67,35 @@ PreviewWindow::PreviewWindow(ClientSession *session, QWidget *form, ClientSettin
     connect(m_reading, &ReadingBar::signalFresh, this, &PreviewWindow::refresh);
     connect(m_reading, &ReadingBar::signalFinished, this, &PreviewWindow::finish);
     if (auto *journal = session->journal())
-        connect(journal, &orda_journal::JournalTransport::signalRunBegan, this,
-                [this] { outdate(tr("A run has begun since, and devices may have changed. Press “Preview again”.")); });
+        connect(journal, &orda_journal::JournalTransport::signalRunBegan, this, [this] {
+            outdate(tr("A run has begun since, and devices may have changed. Press \"Preview again\"."));
+            if (m_isConfiguring)
+                close(); // it would cover what the main window tells of the run, and its Stop
+        });
     const auto &devices = orda_data::DataSignals::instance();
-    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Preview again”.")); };
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press \"Preview again\".")); };
     connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
     connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     m_watch.setInterval(watchInterval);
     connect(&m_watch, &QTimer::timeout, this, &PreviewWindow::updateState);
     m_watch.start();
     tellNoPlan(tr("Nothing was looked at yet."));
+    m_groups->setFocus();
 }
 
 QWidget *PreviewWindow::buildTop()
 {
     m_headline = plainLabel("headline");
     m_values = plainLabel("values");
-    m_search = new orda_base::SearchBox;
-    m_search->setObjectName(QStringLiteral("previewSearch"));
-    m_search->setToolTip(
-        tr("Searches all columns (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
-    connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
-        m_filter->setKeyword(keyword);
-        updateTable();
-        updateState();
-    });
     auto *top = new QWidget;
     auto *layout = new QVBoxLayout(top);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_headline);
     layout->addWidget(m_values);
-    layout->addWidget(m_search, 0, Qt::AlignRight);
     return top;
 }
 
-QWidget *PreviewWindow::buildTable()
+QWidget *PreviewWindow::buildGroups()
 {
     m_groups = new PlanGroupList;
     m_groups->setObjectName(QStringLiteral("planGroups"));
@@ -111,17 +105,45 @@ QWidget *PreviewWindow::buildTable()
         updateTable();
         m_table->scrollToTop();
     });
+    auto *caption = new QLabel(tr("Sho&w"));
+    caption->setBuddy(m_groups);
+    auto *groups = new QWidget;
+    auto *layout = new QVBoxLayout(groups);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(caption);
+    layout->addWidget(m_groups);
+    return groups;
+}
+
+QWidget *PreviewWindow::buildTable()
+{
+    QWidget *groups = buildGroups(); // first, for the Tab key
+    m_search = new orda_base::SearchBox;
+    m_search->setObjectName(QStringLiteral("previewSearch"));
+    m_search->setToolTip(
+        tr("Searches all columns (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+    connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
+        m_filter->setKeyword(keyword);
+        updateTable();
+        updateState();
+    });
     m_table = new TableView(m_filter, {18, 20, 16, 15, 12, 0}, tr("Devices and what would change on them"));
     m_table->setObjectName(QStringLiteral("plan"));
+    m_table->elideAtEnd({PreviewModel::ChangesColumn});
     m_empty = plainLabel("empty");
     m_empty->setAlignment(Qt::AlignCenter);
     m_empty->setMargin(emptyMargin);
     m_stack = new QStackedWidget;
     m_stack->addWidget(m_table);
     m_stack->addWidget(m_empty);
+    auto *right = new QWidget;
+    auto *layout = new QVBoxLayout(right);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_search, 0, Qt::AlignRight);
+    layout->addWidget(m_stack, 1);
     auto *splitter = new QSplitter;
-    splitter->addWidget(m_groups);
-    splitter->addWidget(m_stack);
+    splitter->addWidget(groups);
+    splitter->addWidget(right);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
     splitter->setSizes({groupsWidth, windowSize.width() - groupsWidth});
@@ -166,12 +188,12 @@ void PreviewWindow::preview()
         tellNoPlan(tr("The form shows no page that can be configured."));
     else if (page.values.isEmpty())
         tellNoPlan(tr("Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to "
-                      "be set, then press “Preview again”."));
+                      "be set, then press \"Preview again\"."));
     else if (ticks.devIds.isEmpty() && ticks.hidden > 0)
         tellNoPlan(tr("All ticked devices are hidden by the search of the list, and Configure leaves hidden devices "
-                      "out. Clear the search, then press “Preview again”."));
+                      "out. Clear the search, then press \"Preview again\"."));
     else if (ticks.devIds.isEmpty())
-        tellNoPlan(tr("No device is ticked in the list. Tick the devices, then press “Preview again”."));
+        tellNoPlan(tr("No device is ticked in the list. Tick the devices, then press \"Preview again\"."));
     else
         plan(page, ticks);
 }
@@ -218,7 +240,7 @@ void PreviewWindow::tellNoPlan(const QString &why)
 void PreviewWindow::finish(const QString &error)
 {
     if (!error.isEmpty())
-        tellNoPlan(tr("The devices were not read: %1 Press “Preview again” afterwards.").arg(error));
+        tellNoPlan(tr("The devices were not read: %1 Press \"Preview again\" afterwards.").arg(error));
     else
         refresh();
 }
@@ -263,9 +285,9 @@ QString PreviewWindow::whyNotConfigurable() const
     if (!m_outdated.isEmpty())
         return m_outdated;
     if (FormPage::of(m_form, *family).values != m_plan.values)
-        return tr("The page has changed since: it would send something else. Press “Preview again”.");
+        return tr("The page has changed since: it would send something else. Press \"Preview again\".");
     if (m_model->count(PreviewModel::NotRead) > 0)
-        return tr("The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.",
+        return tr("The preview was stopped, and %Ln device(s) were not read. Press \"Preview again\" to read all.",
                   nullptr, m_model->count(PreviewModel::NotRead));
     if (FormTicks::runOverlay(m_form))
         return tr("A run is going on.");
@@ -279,9 +301,13 @@ QString PreviewWindow::whyNotConfigurable() const
 void PreviewWindow::configure()
 {
     updateState(); // the page may have changed since the last look
-    if (m_configure->isEnabled())
-        emit signalConfigure({m_plan.family, m_plan.values, m_model->changing()});
-    // Nothing may follow: in the run the window may have been closed.
+    if (!m_configure->isEnabled())
+        return;
+    const QPointer<PreviewWindow> self(this);
+    m_isConfiguring = true;
+    emit signalConfigure({m_plan.family, m_plan.values, m_model->changing()});
+    if (self) // in the run the window closes
+        m_isConfiguring = false;
 }
 
 } // namespace orda_client

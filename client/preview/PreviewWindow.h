@@ -50,6 +50,7 @@ signals:
 
 private:
     QWidget *buildTop();
+    QWidget *buildGroups();
     QWidget *buildTable();
     QWidget *buildButtons();
 
@@ -70,6 +71,7 @@ private:
     TableFilter *m_filter;
     PressedRun m_plan; ///< its devices are all that were ticked; no family: there is no plan
     QString m_complaint; ///< why there is no plan
+    bool m_isConfiguring = false; ///< the run that begins is the one that was asked for here
     QString m_outdated; ///< what has happened since that makes the plan worth nothing; empty: nothing
     QTimer m_watch;
 

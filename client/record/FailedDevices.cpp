@@ -55,7 +55,7 @@ FailedDevices::Ticked FailedDevices::tickAgain(QWidget *form, const QVector<RunE
             return tr("several devices of the run have its serial number");
         const int inList = listed.value(entry.serialNumber).size();
         if (inList == 0)
-            return tr("it is not in the list now: offline, or not to be configured");
+            return tr("it is not in the list now: off line, or not to be configured");
         return inList > 1 ? tr("several devices in the list have its serial number") : QString();
     };
 

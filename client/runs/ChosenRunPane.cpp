@@ -4,6 +4,7 @@
 #include "client/tables/CsvFile.h"
 #include "client/tables/GroupList.h"
 #include "client/tables/SearchedTable.h"
+#include "client/tables/TableView.h"
 
 #include <vms_client_sdk/ForeignText.h>
 
@@ -27,9 +28,10 @@ ChosenRunPane::ChosenRunPane(QWidget *parent)
     , m_model(new RunDeviceModel(this))
     , m_summary(new QLabel)
     , m_groups(new GroupList(tr("Failures by message")))
-    , m_devices(new SearchedTable(m_model, {14, 19, 16, 15, 28}, QStringLiteral("runDevices"), tr("Devices of the run"),
+    , m_devices(new SearchedTable(m_model, {14, 19, 16, 15, 26}, QStringLiteral("runDevices"), tr("Devices of the run"),
                                   tr("Searches names, serial numbers, addresses, messages and values")))
 {
+    m_devices->view()->elideAtEnd({RunDeviceModel::Changes});
     m_summary->setObjectName(QStringLiteral("runSummary"));
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);

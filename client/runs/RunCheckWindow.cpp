@@ -76,13 +76,13 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
             updateView();
         };
         connect(journal, &JournalTransport::signalRunBegan, this, [this, follow] {
-            outdate(tr("A run has begun since, and devices may have changed. Press “Read again”."));
+            outdate(tr("A run has begun since, and devices may have changed. Press \"Read again\"."));
             follow(true);
         });
         connect(journal, &JournalTransport::signalRunEnded, this, [follow] { follow(false); });
     }
     const auto &devices = orda_data::DataSignals::instance();
-    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Read again”.")); };
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press \"Read again\".")); };
     connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
     connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     read();
@@ -90,8 +90,9 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
 
 void RunCheckWindow::buildTable()
 {
-    m_table = new SearchedTable(m_model, {17, 19, 17, 16, 46}, QStringLiteral("checked"), tr("Devices of the run"),
+    m_table = new SearchedTable(m_model, {20, 19, 17, 16, 46}, QStringLiteral("checked"), tr("Devices of the run"),
                                 tr("Searches names, serial numbers, addresses, changes and notes"));
+    m_table->view()->elideAtEnd({RunCheckModel::Changes, RunCheckModel::Note});
     const auto withState = [this](const QVector<CheckedDevice::State> &states) {
         return [this, states](int row) { return states.contains(m_model->devices().at(row).state); };
     };

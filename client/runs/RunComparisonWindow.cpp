@@ -105,6 +105,7 @@ RunComparisonWindow::RunComparisonWindow(const RunLine &first, const RunLine &se
                                 tr("Devices of both runs"),
                                 tr("Searches names, serial numbers, addresses, outcomes and values")))
 {
+    m_table->view()->elideAtEnd({RunComparisonModel::Read, RunComparisonModel::Written});
     setWindowTitle(tr("Compare runs: %1").arg(first.family));
     QVector<SearchedTable::Choice> choices{{tr("All devices"), nullptr}};
     for (const auto state : {ComparedDevice::OutcomesDiffer, ComparedDevice::ValuesDiffer, ComparedDevice::OnlyInFirst,

@@ -68,7 +68,28 @@ QString RunDeviceModel::text(int row, int column) const
         return recorded.late.isEmpty() ? recorded.message
                                        : tr("%1 (it answered later)", "message").arg(recorded.message);
     default:
-        return m_run->devices.at(row).changes;
+        return changesText(row);
+    }
+}
+
+// "50 → 60" alone would say that the device has 60 now.
+QString RunDeviceModel::changesText(int row) const
+{
+    const QString &changes = m_run->devices.at(row).changes;
+    const auto &outcome = device(row).outcome;
+    if (changes.isEmpty() || !outcome)
+        return changes;
+    switch (*outcome) {
+    case orda_journal::Outcome::Failed:
+    case orda_journal::Outcome::Stopped:
+    case orda_journal::Outcome::NotReached:
+        return tr("not written: %1", "parameters with before → after").arg(changes);
+    case orda_journal::Outcome::Unknown:
+        return tr("perhaps written: %1", "parameters with before → after").arg(changes);
+    case orda_journal::Outcome::PartlyWritten:
+        return tr("partly written: %1", "parameters with before → after").arg(changes);
+    default:
+        return changes;
     }
 }
 

@@ -45,6 +45,8 @@ protected:
     bool isEmphasized(int row, int column) const override;
 
 private:
+    QString changesText(int row) const;
+
     ChosenRunPtr m_run;
 };
 

@@ -40,7 +40,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr QSize windowSize(1320, 760);
+constexpr QSize windowSize(1480, 800); // or the screen's
 constexpr int runsHeight = 250;
 constexpr int paneHeight = 440;
 constexpr auto historyDelay = 300ms;
@@ -100,7 +100,7 @@ RunsWindow::RunsWindow(ClientSession *session, RunJobs *jobs, QWidget *form, Cli
 
 QWidget *RunsWindow::buildRuns()
 {
-    m_runs = new SearchedTable(m_model, {20, 17, 26, 26, 34, 9}, QStringLiteral("runs"), tr("Runs, latest first"),
+    m_runs = new SearchedTable(m_model, {20, 17, 26, 32, 28, 9}, QStringLiteral("runs"), tr("Runs, latest first"),
                                tr("Searches times, parameters, outcomes, programs and values"));
     m_runs->setChoices(tr("&Runs:"),
                        {{tr("All runs"), nullptr},
@@ -113,6 +113,7 @@ QWidget *RunsWindow::buildRuns()
                          }},
                         {tr("Configured"), [this](int row) { return m_model->line(row).run.undoes.isEmpty(); }},
                         {tr("Undo"), [this](int row) { return !m_model->line(row).run.undoes.isEmpty(); }}});
+    m_runs->view()->elideAtEnd({RunListModel::Counts, RunListModel::Values});
     m_runs->view()->sortByColumn(RunListModel::Began, Qt::DescendingOrder);
     m_runs->setEmptyText(tr("The history is being read."));
     m_compare = styledButton(tr("Com&pare two runs"), "compareRuns");
@@ -224,6 +225,8 @@ void RunsWindow::takeRuns(const RunLines &runs)
         return;
     }
     select(row);
+    if (!std::exchange(m_isFocused, true))
+        m_runs->view()->setFocus(); // the arrow keys go through the runs
     const orda_journal::RunRow &now = m_model->line(row).run;
     const bool hasChanged = now.id != shown.run.id || now.ended != shown.run.ended
                          || now.isUnderWay != shown.run.isUnderWay || now.counts != shown.run.counts;

@@ -3,6 +3,8 @@
 #include <orda_base/TableAccess.h>
 
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -12,6 +14,19 @@ namespace {
 
 constexpr int rowPixels = 28;
 constexpr int cellPadding = 16;
+
+class EndElidingDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideRight;
+    }
+};
 
 } // namespace
 
@@ -48,6 +63,24 @@ void TableView::setWidths(const QVector<int> &digits)
     for (int column = 0; column < digits.size(); ++column)
         horizontalHeader()->resizeSection(
             column, std::max(digits.at(column) * digit, horizontalHeader()->sectionSizeHint(column) + cellPadding));
+}
+
+void TableView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isUp = event->key() == Qt::Key_Up;
+    if ((event->modifiers() & Qt::AltModifier) == 0 || (!isUp && event->key() != Qt::Key_Down)) {
+        QTableView::keyPressEvent(event);
+        return;
+    }
+    if (currentIndex().isValid())
+        sortByColumn(currentIndex().column(), isUp ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+void TableView::elideAtEnd(const QVector<int> &columns)
+{
+    auto *delegate = new EndElidingDelegate(this);
+    for (const int column : columns)
+        setItemDelegateForColumn(column, delegate);
 }
 
 } // namespace orda_client
