@@ -207,7 +207,7 @@ void PreviewWindow::plan(const FormPage &page, const FormTicks &ticks)
     const ParameterTexts texts(m_form, *page.family);
     m_model->setSelection(selection, texts);
     const Family *family = findFamily(page.family->name);
-    QString text = tr("%1: %2 to %3, as of %4. Nothing was written.", "page, parameters, devices, time")
+    QString text = tr("%1: %2 to %3, as of %4. A preview writes nothing.", "page, parameters, devices, time")
                        .arg(family ? familyTitle(m_form, *family) : page.family->name,
                             tr("%Ln parameter(s)", nullptr, page.parameters()),
                             tr("%Ln device(s)", "to which parameters are sent", ticks.devIds.size()),
