@@ -173,6 +173,11 @@ private slots:
             return isRead(window) && says("empty", text);
         };
         QTRY_VERIFY(configure->isEnabled());
+        auto *search = window.findChild<QWidget *>("previewSearch")->findChild<QLineEdit *>();
+        search->setText("dev-0004");
+        QVERIFY(says("notice", "not only those that are shown"));
+        search->clear();
+        QVERIFY(configure->isEnabled());
         site.page().page->findChild<QLineEdit *>("nameParam")->setText("Another");
         const QSignalSpy wanted(&window, &PreviewWindow::signalConfigure);
         click(window, "configureChanging"); // at once

@@ -98,6 +98,10 @@ private slots:
         QVERIFY(column(undo, "checked", 4).constLast().endsWith(": 33 → 20"));
         QVERIFY(!child<QCheckBox>(undo, "force")->isChecked());
         QVERIFY(site.written.isEmpty()); // a preview
+        auto *search = child<QWidget>(undo, "checkedSearch")->findChild<QLineEdit *>();
+        search->setText(site.recorded(run).devices.constLast().serialNumber);
+        QCOMPARE(child(undo, "takeBack")->text(), QString("&Undo on 1 device(s)…")); // what is hidden is left out
+        search->clear();
         child(undo, "takeBack")->click();
         site.answer(undo);
         QVERIFY2(site.question.startsWith("Take the run back on 5 device(s)?"), qPrintable(site.question));

@@ -125,6 +125,7 @@ QWidget *PreviewWindow::buildTable()
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
         updateTable();
+        updateState();
     });
     m_table = new TableView(m_filter, {18, 20, 16, 15, 12, 0}, tr("Devices and what would change on them"));
     m_table->setObjectName(QStringLiteral("plan"));
@@ -206,7 +207,7 @@ void PreviewWindow::plan(const FormPage &page, const FormTicks &ticks)
     const ParameterTexts texts(m_form, *page.family);
     m_model->setSelection(selection, texts);
     const Family *family = findFamily(page.family->name);
-    QString text = tr("%1: %2 to %3, as of %4. Nothing was written.", "page, parameters, devices, time")
+    QString text = tr("%1: %2 to %3, as of %4. A preview writes nothing.", "page, parameters, devices, time")
                        .arg(family ? familyTitle(m_form, *family) : page.family->name,
                             tr("%Ln parameter(s)", nullptr, page.parameters()),
                             tr("%Ln device(s)", "to which parameters are sent", ticks.devIds.size()),
@@ -290,6 +291,9 @@ QString PreviewWindow::whyNotConfigurable() const
                   nullptr, m_model->count(PreviewModel::NotRead));
     if (FormTicks::runOverlay(m_form))
         return tr("A run is going on.");
+    if (!m_search->text().isEmpty()) // somebody who sees three devices means these
+        return tr("The search is on. All devices that change would be configured, and not only those that are shown: "
+                  "clear the search first.");
     return m_model->count(PreviewModel::WouldChange) > 0 ? QString()
                                                          : tr("No device would change: there is nothing to configure.");
 }

@@ -25,7 +25,6 @@
 #include <QtConcurrentRun>
 
 #include <chrono>
-#include <numeric>
 
 namespace orda_client {
 
@@ -149,7 +148,8 @@ QWidget *RunCheckWindow::buildButtons()
     auto *layout = new QHBoxLayout;
     if (m_check.kind == RunCheck::Undo) {
         m_undo = styledButton({}, "takeBack", "common_bt_style1");
-        m_undo->setToolTip(tr("Takes the run back on the selected devices, or on all, where something goes back"));
+        m_undo->setToolTip(
+            tr("Takes the run back on the selected devices, or on all that are shown, where something goes back"));
         connect(m_undo, &QPushButton::clicked, this, &RunCheckWindow::askToTakeBack);
         m_force = new QCheckBox;
         m_force->setObjectName(QStringLiteral("force"));
@@ -276,10 +276,8 @@ void RunCheckWindow::updateView()
 QStringList RunCheckWindow::devicesToTakeBack() const
 {
     QVector<int> rows = m_table->selectedRows();
-    if (rows.isEmpty()) {
-        rows.resize(m_model->rowCount());
-        std::iota(rows.begin(), rows.end(), 0);
-    }
+    if (rows.isEmpty())
+        rows = m_table->filter()->shownRows(); // what is hidden is left out, as in the form
     QStringList devIds;
     for (const int row : qAsConst(rows))
         if (m_model->devices().at(row).isWritten())
