@@ -507,10 +507,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
 <context>
     <name>orda_client::DeviceCells</name>
     <message>
-        <source>Device name</source>
-        <translation>Gerätename</translation>
-    </message>
-    <message>
         <source>Serial number</source>
         <translation>Seriennummer</translation>
     </message>
@@ -521,6 +517,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Group</source>
         <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
     </message>
 </context>
 <context>
@@ -1199,6 +1199,22 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <comment>parameter, value</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>online service set by hand</source>
+        <translation>Online-Dienst von Hand eingestellt</translation>
+    </message>
+    <message>
+        <source>business service set by hand</source>
+        <translation>Geschäftsdienst von Hand eingestellt</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::PlanGroupList</name>
@@ -1423,29 +1439,29 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>dem Gerät fehlt: %1</translation>
     </message>
     <message>
-        <source>would change</source>
-        <translation>würde sich ändern</translation>
+        <source>Would change</source>
+        <translation>Würde sich ändern</translation>
     </message>
     <message>
-        <source>has it already</source>
-        <translation>hat es schon</translation>
+        <source>Has it already</source>
+        <translation>Hat es schon</translation>
     </message>
     <message>
-        <source>cannot be set</source>
+        <source>Cannot be set</source>
         <comment>the device lacks the parameters</comment>
-        <translation>nicht setzbar</translation>
+        <translation>Nicht setzbar</translation>
     </message>
     <message>
-        <source>not reached</source>
-        <translation>nicht erreicht</translation>
+        <source>Not reached</source>
+        <translation>Nicht erreicht</translation>
     </message>
     <message>
-        <source>could not be read</source>
+        <source>Could not be read</source>
         <translation>Lesen fehlgeschlagen</translation>
     </message>
     <message>
-        <source>not read</source>
-        <translation>nicht gelesen</translation>
+        <source>Not read</source>
+        <translation>Nicht gelesen</translation>
     </message>
 </context>
 <context>
@@ -1587,6 +1603,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>The inventory has changed since. Press &quot;Preview again&quot;.</source>
         <translation>Der Bestand hat sich seither geändert. Drücken Sie „Vorschau erneuern“.</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>&amp;Anzeigen</translation>
     </message>
 </context>
 <context>
@@ -2155,6 +2175,21 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>%1 (it answered later)</source>
         <comment>message</comment>
         <translation>%1 (es hat später geantwortet)</translation>
+    </message>
+    <message>
+        <source>not written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>nicht geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>perhaps written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>vielleicht geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>partly written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>teilweise geschrieben: %1</translation>
     </message>
 </context>
 <context>

@@ -503,10 +503,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
 <context>
     <name>orda_client::DeviceCells</name>
     <message>
-        <source>Device name</source>
-        <translation>设备名称</translation>
-    </message>
-    <message>
         <source>Serial number</source>
         <translation>序列号</translation>
     </message>
@@ -517,6 +513,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Group</source>
         <translation>组</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
     </message>
 </context>
 <context>
@@ -1184,6 +1184,22 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <comment>parameter, value</comment>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>online service set by hand</source>
+        <translation>手动设置在线服务</translation>
+    </message>
+    <message>
+        <source>business service set by hand</source>
+        <translation>手动设置业务服务</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::PlanGroupList</name>
@@ -1402,28 +1418,28 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>设备缺少：%1</translation>
     </message>
     <message>
-        <source>would change</source>
+        <source>Would change</source>
         <translation>将更改</translation>
     </message>
     <message>
-        <source>has it already</source>
+        <source>Has it already</source>
         <translation>无需更改</translation>
     </message>
     <message>
-        <source>cannot be set</source>
+        <source>Cannot be set</source>
         <comment>the device lacks the parameters</comment>
         <translation>无法设置</translation>
     </message>
     <message>
-        <source>not reached</source>
+        <source>Not reached</source>
         <translation>未连上</translation>
     </message>
     <message>
-        <source>could not be read</source>
+        <source>Could not be read</source>
         <translation>读取失败</translation>
     </message>
     <message>
-        <source>not read</source>
+        <source>Not read</source>
         <translation>未读取</translation>
     </message>
 </context>
@@ -1562,6 +1578,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>The inventory has changed since. Press &quot;Preview again&quot;.</source>
         <translation>清单之后有变化。请按“重新预览”。</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>显示(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -2124,6 +2144,21 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>%1 (it answered later)</source>
         <comment>message</comment>
         <translation>%1（之后有应答）</translation>
+    </message>
+    <message>
+        <source>not written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>未写入：%1</translation>
+    </message>
+    <message>
+        <source>perhaps written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>可能已写入：%1</translation>
+    </message>
+    <message>
+        <source>partly written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>部分写入：%1</translation>
     </message>
 </context>
 <context>
