@@ -106,7 +106,7 @@ def preview_and_configure(client, plan):
     choose_menu_entry(client, "Preview")
     preview = find(client, "frame", "Preview")
     configure = find(preview, "push button", "Configure the ones that change", state="ENABLED")
-    groups = find(preview, "table", "Devices by outcome")
+    groups = find(preview, "table", "Show")
     counts = {"All devices": plan.ticked, "Would change": len(plan.changing), "Lack a parameter": len(plan.lacking),
               "Have it already": plan.ticked - 1 - len(plan.changing | plan.lacking), "Not reached": 0,
               "Could not be read": 1, "Not read": 0}
