@@ -136,7 +136,7 @@ def undo(client, runs, plan):
     act(find(window, "push button", re.compile(f"Undo on {going_back}…"), state="ENABLED"), "Press")
     question = find(client, "alert", "Undo")
     find(question, "label", re.compile(rf"Take the run back on {going_back}\?.*", re.DOTALL))
-    act(find(question, "push button", "Take back"), "Press")
+    act(find(question, "push button", "Undo"), "Press")
 
 
 def journey(client, fleet):

@@ -100,7 +100,7 @@ private slots:
         QVERIFY(site.written.isEmpty()); // a preview
         child(undo, "takeBack")->click();
         site.answer(undo);
-        QVERIFY2(site.question.startsWith("Take the run back on 5 device(s)?"), qPrintable(site.question));
+        QVERIFY2(site.question.startsWith("Undo the run on 5 device(s)?"), qPrintable(site.question));
         QTRY_COMPARE(column(site.window, "runs", 3).constFirst(), "Done: 5");
         QVERIFY(column(site.window, "runs", 2).constFirst().startsWith("Undo of 20"));
         for (const QString &devId : qAsConst(site.devIds))

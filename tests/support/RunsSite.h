@@ -122,9 +122,9 @@ struct RunsSite : QObject
     void answer(const QWidget *asker, const char *with = "write")
     {
         auto *box = child<QMessageBox>(asker, "runQuestion");
-        question = box ? box->text() : QString("(none)");
+        question = box ? box->text() + '\n' + box->informativeText() : QString("(none)");
         if (box && QByteArray(with) == "write")
-            child(box, "write")->click();
+            child(box, "confirm")->click();
         else if (box)
             box->reject();
     }
