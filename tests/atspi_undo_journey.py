@@ -106,7 +106,7 @@ def preview_and_configure(client, plan):
     choose_menu_entry(client, "Preview")
     preview = find(client, "frame", "Preview")
     configure = find(preview, "push button", "Configure the ones that change", state="ENABLED")
-    groups = find(preview, "table", "Devices by outcome")
+    groups = find(preview, "table", "Show")
     counts = {"All devices": plan.ticked, "Would change": len(plan.changing), "Lack a parameter": len(plan.lacking),
               "Have it already": plan.ticked - 1 - len(plan.changing | plan.lacking), "Not reached": 0,
               "Could not be read": 1, "Not read": 0}
@@ -119,12 +119,12 @@ def preview_and_configure(client, plan):
            f"success:{plan.done}, failure:{len(plan.changing) - plan.done}", "Cancel")
 
 
-def look_at_runs(client, kind, counts):
-    """The window of the runs, as soon as the latest one is so, and when that began."""
+def look_at_runs(client, *wanted):
+    """The window of the runs, as soon as these are all, latest first, and when the latest one began."""
     choose_menu_entry(client, "Runs")
     runs = find(client, "frame", "Runs")
     table = find(runs, "table", "Runs, latest first")
-    wait_for(f"run {kind} with {counts}", lambda: rows_of(table)[0][1:4] == ["OSD Parameters", kind, counts])
+    wait_for(f"runs {wanted}", lambda: [tuple(row[1:4]) for row in rows_of(table)] == [("OSD Parameters", *run) for run in wanted])
     return runs, rows_of(table)[0][0]
 
 
@@ -135,8 +135,8 @@ def undo(client, runs, plan):
     going_back = devices(plan.done + 1)
     act(find(window, "push button", re.compile(f"Undo on {going_back}…"), state="ENABLED"), "Press")
     question = find(client, "alert", "Undo")
-    find(question, "label", re.compile(rf"Take the run back on {going_back}\?.*", re.DOTALL))
-    act(find(question, "push button", "Undo"), "Press")
+    find(question, "label", re.compile(rf"Undo the run on {going_back}\?))
+    act(find(question, "push button", "Undo", state="ENABLED"), "Press")
 
 
 def journey(client, fleet):
@@ -150,9 +150,10 @@ def journey(client, fleet):
     expect_held(fleet, before, "after the question")
     preview_and_configure(client, plan)
     expect_held(fleet, plan.held, "after the run")
-    runs, began = look_at_runs(client, "Configured", f"Done: {plan.done}, Failed: {len(REFUSING)}, Unknown: 2")
+    configured = ("Configured", f"Done: {plan.done}, Failed: {len(REFUSING)}, Unknown: 2")
+    runs, began = look_at_runs(client, configured)
     undo(client, runs, plan)
-    look_at_runs(client, f"Undo of {began}", f"Done: {plan.done}, Unknown: 1")
+    look_at_runs(client, (f"Undo of {began}", f"Done: {plan.done}, Unknown: 1"), configured)
     expect_held(fleet, before, "after the undo")  # all of it: a write of this page adds nothing to a device
     choose_menu_entry(client, "Quit")
 

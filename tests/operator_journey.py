@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """What an operator does by accident, with real events under a window manager: the wheel over a page, a menu left by
-Esc, the window closed in mid-run. Events that a program sends to a widget pass where these fail.
+Esc, Return on a question, the window closed in mid-run; and the keys of windows and of Stop. Events that a program
+sends to a widget pass where these fail.
 
 operator_journey.py ORDA_CLIENT; starts itself again on a display and a session bus of its own. Exit code 77: a tool is
 missing.
@@ -13,7 +14,7 @@ import subprocess
 import sys
 import time
 
-from support.journey import (LIMIT, act, answer, Atspi, children, client_window, descendants, devices, dialogs, find, has,
+from support.journey import (LIMIT, Atspi, act, answer, children, client_window, descendants, devices, dialogs, find, has,
                              name_of, open_page, start_on_own_display_and_bus, tick_all, travel, wait_for)
 
 DEVICES = 80
@@ -181,7 +182,7 @@ def closing_in_undo_asks(client, window, window_id, ticked):
     act(find(find(client, "frame", "Runs"), "push button", "Undo…", state="ENABLED"), "Press")
     undo = find(client, "frame", re.compile("Undo: OSD Parameters, .*"))
     act(find(undo, "push button", re.compile(f"Undo on {devices(ticked)}…"), state="ENABLED"), "Press")
-    act(find(find(client, "alert", "Undo"), "push button", "Undo"), "Press")
+    act(find(find(client, "alert", "Undo"), "push button", "Undo", state="ENABLED"), "Press")
     find(window, "push button", "Stop")
     xdotool("windowactivate", "--sync", window_id, "key", "ctrl+q")
     act(find(close_question(client, ticked), "push button", "Close anyway"), "Press")

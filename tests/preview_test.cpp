@@ -173,6 +173,11 @@ private slots:
             return isRead(window) && says("empty", text);
         };
         QTRY_VERIFY(configure->isEnabled());
+        auto *search = window.findChild<QWidget *>("previewSearch")->findChild<QLineEdit *>();
+        search->setText("dev-0004");
+        QVERIFY(says("notice", "not only those that are shown"));
+        search->clear();
+        QVERIFY(configure->isEnabled());
         site.page().page->findChild<QLineEdit *>("nameParam")->setText("Another");
         const QSignalSpy wanted(&window, &PreviewWindow::signalConfigure);
         click(window, "configureChanging"); // at once
@@ -251,6 +256,23 @@ private slots:
         QVERIFY(tick->isEnabled());
         orda_data::DevsMgrData::instance().updateDevs(site.fleet.inventory()); // another one, for all that is known
         QVERIFY(!tick->isEnabled() && text("empty").contains("inventory has changed"));
+    }
+
+    void formGoesWhileTheWindowsAreOpen()
+    {
+        Site site;
+        QWidget room;
+        site.form->setParent(&room);
+        PreviewWindow preview(&site.session, &room, &site.settings, nullptr);
+        CompareWindow compare(&site.session, &room, &site.settings, nullptr);
+        preview.preview(); // it is in the middle of reading when the form goes
+        site.form.reset();
+        QVERIFY(isRead(preview) && !preview.findChild<QPushButton *>("configureChanging")->isEnabled());
+        preview.preview();
+        compare.compare();
+        QVERIFY(preview.findChild<QLabel *>("empty")->text().startsWith("The form shows no page"));
+        QCOMPARE(compare.findChild<QLabel *>("empty")->text(), QString("The form is closed."));
+        QCOMPARE(FormTicks::tickExactly(&room, site.all).notListed, site.all);
     }
 
     void loadsAnyStateOfAPage_data() { seeds(20); }

@@ -61,7 +61,8 @@ QStringList faultsOf(QWidget *window)
     for (QWidget *control : qAsConst(unreached))
         if (spokenName(control).trimmed().isEmpty() && !control->parent()->inherits("QLineEdit"))
             faults.append("has no name: " + control->objectName() + ' ' + control->metaObject()->className());
-    for (const QString &key : clashingMnemonics(window))
+    const QStringList clashes = clashingMnemonics(window);
+    for (const QString &key : clashes)
         faults.append("twice: " + key);
     const QImage picture = pictureOf(window);
     const auto widgets = window->findChildren<QWidget *>();

@@ -5,8 +5,9 @@
 #include <orda_base/ReturnPressesButton.h>
 #include <vms_client_sdk/ForeignText.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMessageBox>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -48,6 +49,9 @@ void Question::ask(QWidget *parent, const std::function<void()> &accepted) const
     box->setDefaultButton(cancel);
     box->setEscapeButton(cancel);
     QObject::connect(confirm, &QPushButton::clicked, parent, accepted);
+    // The second click of a double click on the window's button may land here.
+    confirm->setEnabled(false);
+    QTimer::singleShot(QApplication::doubleClickInterval(), confirm, [confirm] { confirm->setEnabled(true); });
     box->open();
 }
 

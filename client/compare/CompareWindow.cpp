@@ -74,7 +74,7 @@ CompareWindow::CompareWindow(ClientSession *session, QWidget *form, ClientSettin
     connect(m_standard, &StandardBar::signalTakeModel, this, &CompareWindow::takeModel);
     connect(m_standard, &StandardBar::signalLoad, this, &CompareWindow::load);
     connect(m_standard, &StandardBar::signalSaved, this, [this](const QString &name) {
-        const QStringList told{tr("The profile “%1” was saved.").arg(name), this->settings()->writeProblem()};
+        const QStringList told{tr("The profile \"%1\" was saved.").arg(name), this->settings()->writeProblem()};
         m_notice->say(told.join(QLatin1Char(' ')).trimmed());
     });
     connect(m_reading, &ReadingBar::signalRead, m_model, &CompareModel::take);
@@ -230,7 +230,7 @@ void CompareWindow::read()
     if (devIds.isEmpty()) {
         tellNothing(
             tr("No device is ticked in the list, or the list's search hides all that are. Tick the devices that "
-               "are to be compared, then press “Read again”."));
+               "are to be compared, then press \"Read again\"."));
         return;
     }
     m_complaint.clear();
@@ -257,13 +257,13 @@ void CompareWindow::forgetDevices()
         return;
     m_reading->forget();
     m_standard->forgetModel();
-    tellNothing(tr("The inventory has changed since. Press “Read again”."));
+    tellNothing(tr("The inventory has changed since. Press \"Read again\"."));
 }
 
 void CompareWindow::finish(const QString &error)
 {
     if (!error.isEmpty())
-        tellNothing(tr("The devices were not read: %1 Press “Read again” afterwards.").arg(error));
+        tellNothing(tr("The devices were not read: %1 Press \"Read again\" afterwards.").arg(error));
     else
         refresh();
 }

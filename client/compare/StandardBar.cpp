@@ -97,7 +97,7 @@ void StandardBar::fill(Source chosen, const QString &profile)
         add(tr("The device %1").arg(vms_sdk::displayText(m_modelName)), Model);
     const QStringList names = m_settings->profiles(m_family).keys();
     for (const QString &name : names)
-        add(tr("The profile “%1”").arg(vms_sdk::displayText(name)), Profile, name);
+        add(tr("The profile \"%1\"").arg(vms_sdk::displayText(name)), Profile, name);
     for (int index = 0; index < m_sources->count(); ++index)
         if (m_sources->itemData(index, sourceRole) == chosen && m_sources->itemData(index, profileRole) == profile)
             m_sources->setCurrentIndex(index);
@@ -155,7 +155,7 @@ void StandardBar::askToForget()
 {
     const Question question{"forgetQuestion",
                             tr("Forget profile"),
-                            tr("Forget the profile “%1”?").arg(vms_sdk::displayText(profile())),
+                            tr("Forget the profile \"%1\"?").arg(vms_sdk::displayText(profile())),
                             {},
                             tr("Forget", "a profile")};
     question.ask(this, [this, family = m_family, name = profile()] {

@@ -47,7 +47,7 @@ QString TickNote::whyNotListed(const QString &devId)
     if (device.id.isEmpty())
         return tr("%1: not in the inventory", "id of a device").arg(vms_sdk::displayText(devId));
     const orda_engine::Reach reach = orda_engine::reachOf(devId);
-    const QString why = reach.canBeWritten ? tr("came on line just now, and is not in the list yet") : reach.text;
+    const QString why = reach.canBeWritten ? tr("came online just now, and is not in the list yet") : reach.text;
     return tr("%1: %2", "device, why it is not ticked")
         .arg(vms_sdk::displayText(DeviceState::deviceName(device)), vms_sdk::displayText(why));
 }

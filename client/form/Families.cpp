@@ -39,8 +39,8 @@ QStringList familyNames()
 
 const Family *shownFamily(const QWidget *form)
 {
-    const QString page =
-        form->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"))->currentWidget()->objectName();
+    const auto *pages = form->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+    const QString page = pages ? pages->currentWidget()->objectName() : QString();
     const auto found = std::find_if(families().begin(), families().end(),
                                     [&page](const Family &candidate) { return candidate.pageName == page; });
     return found == families().end() ? nullptr : &*found;

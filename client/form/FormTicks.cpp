@@ -35,7 +35,7 @@ QStringList FormTicks::listedIn(const QWidget *form)
 {
     const QTableWidget *list = listOf(form);
     QStringList devIds;
-    for (int row = 0; row < list->rowCount(); ++row)
+    for (int row = 0; list && row < list->rowCount(); ++row)
         devIds.append(list->item(row, checkColumn)->data(deviceIdRole).toString());
     return devIds;
 }
@@ -44,6 +44,8 @@ FormTicks FormTicks::of(const QWidget *form)
 {
     const QTableWidget *list = listOf(form);
     FormTicks ticks;
+    if (!list)
+        return ticks;
     ticks.listed = list->rowCount();
     for (int row = 0; row < list->rowCount(); ++row) {
         const QTableWidgetItem *item = list->item(row, checkColumn);
@@ -62,6 +64,10 @@ FormTicks::Ticked FormTicks::tickExactly(QWidget *form, const QStringList &devId
     QTableWidget *list = listOf(form);
     QSet<QString> missing(devIds.begin(), devIds.end());
     Ticked result;
+    if (!list) {
+        result.notListed = devIds;
+        return result;
+    }
     const QTableWidgetItem *first = nullptr;
     bool isOneHidden = false;
     {

@@ -10,7 +10,7 @@ QT_END_NAMESPACE
 namespace orda_client {
 
 /// The ticks of the form's device list, which decide what a run writes to. Everywhere @p form is the
-/// batch-configuration form, or a window that has it. GUI thread.
+/// batch-configuration form, or a window that has it; once it is gone from there, nothing is listed. GUI thread.
 struct FormTicks
 {
     QStringList devIds; ///< what Configure would write to: ticked and not hidden, in the order of the list

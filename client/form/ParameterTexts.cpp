@@ -13,6 +13,24 @@ using orda_batchCfg::CfgChoice;
 using orda_batchCfg::CfgExchange;
 using orda_batchCfg::CfgKey;
 
+namespace {
+
+/// A member among those that have one title, in words where there are some.
+QString partOf(const QString &key)
+{
+    if (key == QLatin1String("width"))
+        return ParameterTexts::tr("width");
+    if (key == QLatin1String("height"))
+        return ParameterTexts::tr("height");
+    if (key == QLatin1String("bManualcfgonline"))
+        return ParameterTexts::tr("online service set by hand");
+    if (key == QLatin1String("bManualcfgbussiness"))
+        return ParameterTexts::tr("business service set by hand");
+    return key;
+}
+
+} // namespace
+
 ParameterTexts::ParameterTexts(const QWidget *form, const orda_batchCfg::CfgFamily &family)
     : m_family(family)
 {
@@ -27,7 +45,8 @@ ParameterTexts::ParameterTexts(const QWidget *form, const orda_batchCfg::CfgFami
         ++times[title];
     for (auto member = m_titles.begin(); member != m_titles.end(); ++member)
         if (times.value(member.value()) > 1)
-            member.value() = QStringLiteral("%1 (%2)").arg(member.value(), member.key().section(QLatin1Char('.'), -1));
+            member.value() =
+                QStringLiteral("%1 (%2)").arg(member.value(), partOf(member.key().section(QLatin1Char('.'), -1)));
 }
 
 QString ParameterTexts::title(const QString &member) const

@@ -77,6 +77,7 @@ void PressLine::buildWidgets()
     m_preview->setObjectName(QStringLiteral("previewBt"));
     m_preview->setProperty("common_bt_style2", true);
     m_preview->setAutoDefault(false);
+    m_preview->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the form, whose keys go on working
     m_preview->setToolTip(tr("Shows what Configure would change on each ticked device. Nothing is written."));
     new orda_base::ReturnPressesButton(m_preview); // as in the form
     connect(m_preview, &QPushButton::clicked, this, &PressLine::signalPreview);

@@ -68,12 +68,12 @@ PreviewWindow::PreviewWindow(ClientSession *session, QWidget *form, ClientSettin
     connect(m_reading, &ReadingBar::signalFinished, this, &PreviewWindow::finish);
     if (auto *journal = session->journal())
         connect(journal, &orda_journal::JournalTransport::signalRunBegan, this, [this] {
-            outdate(tr("A run has begun since, and devices may have changed. Press “Preview again”."));
+            outdate(tr("A run has begun since, and devices may have changed. Press \"Preview again\"."));
             if (m_isConfiguring)
                 close(); // it would cover what the main window tells of the run, and its Stop
         });
     const auto &devices = orda_data::DataSignals::instance();
-    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Preview again”.")); };
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press \"Preview again\".")); };
     connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
     connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     m_watch.setInterval(watchInterval);
@@ -125,6 +125,7 @@ QWidget *PreviewWindow::buildTable()
     connect(m_search, &orda_base::SearchBox::signalSearchByKeyword, this, [this](const QString &keyword) {
         m_filter->setKeyword(keyword);
         updateTable();
+        updateState();
     });
     m_table = new TableView(m_filter, {18, 20, 16, 15, 12, 0}, tr("Devices and what would change on them"));
     m_table->setObjectName(QStringLiteral("plan"));
@@ -187,12 +188,12 @@ void PreviewWindow::preview()
         tellNoPlan(tr("The form shows no page that can be configured."));
     else if (page.values.isEmpty())
         tellNoPlan(tr("Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to "
-                      "be set, then press “Preview again”."));
+                      "be set, then press \"Preview again\"."));
     else if (ticks.devIds.isEmpty() && ticks.hidden > 0)
         tellNoPlan(tr("All ticked devices are hidden by the search of the list, and Configure leaves hidden devices "
-                      "out. Clear the search, then press “Preview again”."));
+                      "out. Clear the search, then press \"Preview again\"."));
     else if (ticks.devIds.isEmpty())
-        tellNoPlan(tr("No device is ticked in the list. Tick the devices, then press “Preview again”."));
+        tellNoPlan(tr("No device is ticked in the list. Tick the devices, then press \"Preview again\"."));
     else
         plan(page, ticks);
 }
@@ -206,7 +207,7 @@ void PreviewWindow::plan(const FormPage &page, const FormTicks &ticks)
     const ParameterTexts texts(m_form, *page.family);
     m_model->setSelection(selection, texts);
     const Family *family = findFamily(page.family->name);
-    QString text = tr("%1: %2 to %3, as of %4. Nothing was written.", "page, parameters, devices, time")
+    QString text = tr("%1: %2 to %3, as of %4. A preview writes nothing.", "page, parameters, devices, time")
                        .arg(family ? familyTitle(m_form, *family) : page.family->name,
                             tr("%Ln parameter(s)", nullptr, page.parameters()),
                             tr("%Ln device(s)", "to which parameters are sent", ticks.devIds.size()),
@@ -239,7 +240,7 @@ void PreviewWindow::tellNoPlan(const QString &why)
 void PreviewWindow::finish(const QString &error)
 {
     if (!error.isEmpty())
-        tellNoPlan(tr("The devices were not read: %1 Press “Preview again” afterwards.").arg(error));
+        tellNoPlan(tr("The devices were not read: %1 Press \"Preview again\" afterwards.").arg(error));
     else
         refresh();
 }
@@ -284,12 +285,15 @@ QString PreviewWindow::whyNotConfigurable() const
     if (!m_outdated.isEmpty())
         return m_outdated;
     if (FormPage::of(m_form, *family).values != m_plan.values)
-        return tr("The page has changed since: it would send something else. Press “Preview again”.");
+        return tr("The page has changed since: it would send something else. Press \"Preview again\".");
     if (m_model->count(PreviewModel::NotRead) > 0)
-        return tr("The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.",
+        return tr("The preview was stopped, and %Ln device(s) were not read. Press \"Preview again\" to read all.",
                   nullptr, m_model->count(PreviewModel::NotRead));
     if (FormTicks::runOverlay(m_form))
         return tr("A run is going on.");
+    if (!m_search->text().isEmpty()) // somebody who sees three devices means these
+        return tr("The search is on. All devices that change would be configured, and not only those that are shown: "
+                  "clear the search first.");
     return m_model->count(PreviewModel::WouldChange) > 0 ? QString()
                                                          : tr("No device would change: there is nothing to configure.");
 }

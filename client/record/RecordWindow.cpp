@@ -97,7 +97,7 @@ RecordWindow::RecordWindow(const QString &path, QWidget *form, ClientSettings *s
 
 void RecordWindow::buildTable()
 {
-    m_table = new SearchedTable(m_model, {14, 19, 17, 16, 20}, QStringLiteral("record"), tr("Devices of the run"),
+    m_table = new SearchedTable(m_model, {19, 19, 17, 16, 20}, QStringLiteral("record"), tr("Devices of the run"),
                                 tr("Searches names, serial numbers, addresses and messages"));
     m_table->setChoices(tr("S&how:"), {{tr("All"), nullptr}, {tr("Failed only"), [this](int row) {
                                                                   return m_model->entries().at(row).outcome

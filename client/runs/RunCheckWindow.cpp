@@ -25,7 +25,6 @@
 #include <QtConcurrentRun>
 
 #include <chrono>
-#include <numeric>
 
 namespace orda_client {
 
@@ -77,13 +76,13 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
             updateView();
         };
         connect(journal, &JournalTransport::signalRunBegan, this, [this, follow] {
-            outdate(tr("A run has begun since, and devices may have changed. Press “Read again”."));
+            outdate(tr("A run has begun since, and devices may have changed. Press \"Read again\"."));
             follow(true);
         });
         connect(journal, &JournalTransport::signalRunEnded, this, [follow] { follow(false); });
     }
     const auto &devices = orda_data::DataSignals::instance();
-    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press “Read again”.")); };
+    const auto inventoryChanged = [this] { outdate(tr("The inventory has changed since. Press \"Read again\".")); };
     connect(&devices, &orda_data::DataSignals::signalUpdateDevs, this, inventoryChanged);
     connect(&devices, &orda_data::DataSignals::signalDeleteDevs, this, inventoryChanged);
     read();
@@ -91,7 +90,7 @@ RunCheckWindow::RunCheckWindow(const RunCheck &check, const QStringList &devIds,
 
 void RunCheckWindow::buildTable()
 {
-    m_table = new SearchedTable(m_model, {17, 19, 17, 16, 46}, QStringLiteral("checked"), tr("Devices of the run"),
+    m_table = new SearchedTable(m_model, {20, 19, 17, 16, 46}, QStringLiteral("checked"), tr("Devices of the run"),
                                 tr("Searches names, serial numbers, addresses, changes and notes"));
     m_table->view()->elideAtEnd({RunCheckModel::Changes, RunCheckModel::Note});
     const auto withState = [this](const QVector<CheckedDevice::State> &states) {
@@ -149,7 +148,8 @@ QWidget *RunCheckWindow::buildButtons()
     auto *layout = new QHBoxLayout;
     if (m_check.kind == RunCheck::Undo) {
         m_undo = styledButton({}, "takeBack", "common_bt_style1");
-        m_undo->setToolTip(tr("Takes the run back on the selected devices, or on all, where something goes back"));
+        m_undo->setToolTip(
+            tr("Takes the run back on the selected devices, or on all that are shown, where something goes back"));
         connect(m_undo, &QPushButton::clicked, this, &RunCheckWindow::askToTakeBack);
         m_force = new QCheckBox;
         m_force->setObjectName(QStringLiteral("force"));
@@ -276,10 +276,8 @@ void RunCheckWindow::updateView()
 QStringList RunCheckWindow::devicesToTakeBack() const
 {
     QVector<int> rows = m_table->selectedRows();
-    if (rows.isEmpty()) {
-        rows.resize(m_model->rowCount());
-        std::iota(rows.begin(), rows.end(), 0);
-    }
+    if (rows.isEmpty())
+        rows = m_table->filter()->shownRows(); // what is hidden is left out, as in the form
     QStringList devIds;
     for (const int row : qAsConst(rows))
         if (m_model->devices().at(row).isWritten())

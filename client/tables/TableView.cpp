@@ -3,6 +3,7 @@
 #include <orda_base/TableAccess.h>
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -62,6 +63,17 @@ void TableView::setWidths(const QVector<int> &digits)
     for (int column = 0; column < digits.size(); ++column)
         horizontalHeader()->resizeSection(
             column, std::max(digits.at(column) * digit, horizontalHeader()->sectionSizeHint(column) + cellPadding));
+}
+
+void TableView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isUp = event->key() == Qt::Key_Up;
+    if ((event->modifiers() & Qt::AltModifier) == 0 || (!isUp && event->key() != Qt::Key_Down)) {
+        QTableView::keyPressEvent(event);
+        return;
+    }
+    if (currentIndex().isValid())
+        sortByColumn(currentIndex().column(), isUp ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
 void TableView::elideAtEnd(const QVector<int> &columns)

@@ -4,8 +4,8 @@
 
 namespace orda_client {
 
-/// The look and the keys of all tables of the client: whole rows, sorted by a click on a title, one stop of the Tab
-/// key.
+/// The look and the keys of all tables of the client: whole rows, sorted by a click on a title, or by Alt+Up and
+/// Alt+Down for the column of the present cell; one stop of the Tab key.
 class TableView : public QTableView
 {
     Q_OBJECT
@@ -21,6 +21,9 @@ public:
     /// Shortens the texts of these columns at their end, for lists: without its middle "a: 1 → 2; b: 3 → 4" would be
     /// taken for "a: 3 → 4". Other columns lose their middle, because a message has its error code at the end.
     void elideAtEnd(const QVector<int> &columns);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 };
 
 } // namespace orda_client

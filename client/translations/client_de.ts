@@ -284,6 +284,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSettings</name>
+    <message>
+        <source>It is kept until the client ends, and no longer: the file of the settings cannot be written.</source>
+        <translation>Das gilt nur, bis das Programm endet: Die Datei der Einstellungen kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientStatusBar</name>
     <message>
         <source>Runs</source>
@@ -389,7 +396,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Mit einem Standard vergleichen</translation>
     </message>
     <message>
-        <source>The profile “%1” was saved.</source>
+        <source>The profile &quot;%1&quot; was saved.</source>
         <translation>Das Profil „%1“ wurde gespeichert.</translation>
     </message>
     <message>
@@ -453,11 +460,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Das Formular ist geschlossen.</translation>
     </message>
     <message>
-        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press “Read again”.</source>
+        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press &quot;Read again&quot;.</source>
         <translation>In der Liste ist kein Gerät angehakt, oder die Suche der Liste blendet alle angehakten aus. Haken Sie die zu vergleichenden Geräte an, und drücken Sie dann „Erneut lesen“.</translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Read again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Read again&quot; afterwards.</source>
         <translation>Die Geräte wurden nicht gelesen: %1 Drücken Sie danach „Erneut lesen“.</translation>
     </message>
     <message>
@@ -476,6 +483,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>As of %1: %2 differ from the standard, %3 do not, %4 were not read.</source>
         <comment>time, three numbers of devices</comment>
         <translation>Stand %1: vom Standard abweichend %2, nicht abweichend %3, nicht gelesen %4.</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
+        <translation>Der Bestand hat sich seither geändert. Drücken Sie „Erneut lesen“.</translation>
     </message>
 </context>
 <context>
@@ -496,10 +507,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
 <context>
     <name>orda_client::DeviceCells</name>
     <message>
-        <source>Device name</source>
-        <translation>Gerätename</translation>
-    </message>
-    <message>
         <source>Serial number</source>
         <translation>Seriennummer</translation>
     </message>
@@ -510,6 +517,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Group</source>
         <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
     </message>
 </context>
 <context>
@@ -549,10 +560,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
 <context>
     <name>orda_client::DeviceTexts</name>
     <message>
-        <source>offline</source>
-        <translation>offline</translation>
-    </message>
-    <message>
         <source>online</source>
         <translation>online</translation>
     </message>
@@ -571,6 +578,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>online, locked</source>
         <translation>online, gesperrt</translation>
+    </message>
+    <message>
+        <source>off line</source>
+        <translation>offline</translation>
     </message>
 </context>
 <context>
@@ -800,10 +811,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>mehrere Geräte des Laufs haben seine Seriennummer</translation>
     </message>
     <message>
-        <source>it is not in the list now: offline, or not to be configured</source>
-        <translation>es steht jetzt nicht in der Liste: offline oder nicht konfigurierbar</translation>
-    </message>
-    <message>
         <source>several devices in the list have its serial number</source>
         <translation>mehrere Geräte der Liste haben seine Seriennummer</translation>
     </message>
@@ -814,6 +821,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>a device without a name</source>
         <translation>ein Gerät ohne Namen</translation>
+    </message>
+    <message>
+        <source>it is not in the list now: off line, or not to be configured</source>
+        <translation>es steht jetzt nicht in der Liste: offline oder nicht konfigurierbar</translation>
     </message>
 </context>
 <context>
@@ -1172,11 +1183,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <name>orda_client::ParameterTexts</name>
     <message>
         <source>on</source>
-        <translation>ein</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
@@ -1187,6 +1198,22 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>%1: %2</source>
         <comment>parameter, value</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>online service set by hand</source>
+        <translation>Online-Dienst von Hand eingestellt</translation>
+    </message>
+    <message>
+        <source>business service set by hand</source>
+        <translation>Geschäftsdienst von Hand eingestellt</translation>
     </message>
 </context>
 <context>
@@ -1412,29 +1439,29 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>dem Gerät fehlt: %1</translation>
     </message>
     <message>
-        <source>would change</source>
-        <translation>würde sich ändern</translation>
+        <source>Would change</source>
+        <translation>Würde sich ändern</translation>
     </message>
     <message>
-        <source>has it already</source>
-        <translation>hat es schon</translation>
+        <source>Has it already</source>
+        <translation>Hat es schon</translation>
     </message>
     <message>
-        <source>cannot be set</source>
+        <source>Cannot be set</source>
         <comment>the device lacks the parameters</comment>
-        <translation>nicht setzbar</translation>
+        <translation>Nicht setzbar</translation>
     </message>
     <message>
-        <source>not reached</source>
-        <translation>nicht erreicht</translation>
+        <source>Not reached</source>
+        <translation>Nicht erreicht</translation>
     </message>
     <message>
-        <source>could not be read</source>
+        <source>Could not be read</source>
         <translation>Lesen fehlgeschlagen</translation>
     </message>
     <message>
-        <source>not read</source>
-        <translation>nicht gelesen</translation>
+        <source>Not read</source>
+        <translation>Nicht gelesen</translation>
     </message>
 </context>
 <context>
@@ -1500,15 +1527,15 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Das Formular zeigt keine Seite, die sich konfigurieren lässt.</translation>
     </message>
     <message>
-        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press “Preview again”.</source>
+        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press &quot;Preview again&quot;.</source>
         <translation>Konfigurieren würde nichts senden: Auf der Seite ist kein Parameter oder kein Stream angehakt. Haken Sie an, was gesetzt werden soll, und drücken Sie dann „Vorschau erneuern“.</translation>
     </message>
     <message>
-        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press “Preview again”.</source>
+        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press &quot;Preview again&quot;.</source>
         <translation>Alle angehakten Geräte sind von der Suche der Liste ausgeblendet, und Konfigurieren lässt ausgeblendete Geräte aus. Leeren Sie die Suche, und drücken Sie dann „Vorschau erneuern“.</translation>
     </message>
     <message>
-        <source>No device is ticked in the list. Tick the devices, then press “Preview again”.</source>
+        <source>No device is ticked in the list. Tick the devices, then press &quot;Preview again&quot;.</source>
         <translation>In der Liste ist kein Gerät angehakt. Haken Sie die Geräte an, und drücken Sie dann „Vorschau erneuern“.</translation>
     </message>
     <message>
@@ -1539,7 +1566,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         </translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Preview again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Preview again&quot; afterwards.</source>
         <translation>Die Geräte wurden nicht gelesen: %1 Drücken Sie danach „Vorschau erneuern“.</translation>
     </message>
     <message>
@@ -1551,15 +1578,15 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Es gibt noch keine Vorschau.</translation>
     </message>
     <message>
-        <source>A run has begun since, and devices may have changed. Press “Preview again”.</source>
+        <source>A run has begun since, and devices may have changed. Press &quot;Preview again&quot;.</source>
         <translation>Seither hat ein Lauf begonnen, und Geräte können sich geändert haben. Drücken Sie „Vorschau erneuern“.</translation>
     </message>
     <message>
-        <source>The page has changed since: it would send something else. Press “Preview again”.</source>
+        <source>The page has changed since: it would send something else. Press &quot;Preview again&quot;.</source>
         <translation>Die Seite hat sich seither geändert: Sie würde etwas anderes senden. Drücken Sie „Vorschau erneuern“.</translation>
     </message>
     <message numerus="yes">
-        <source>The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.</source>
+        <source>The preview was stopped, and %Ln device(s) were not read. Press &quot;Preview again&quot; to read all.</source>
         <translation>
             <numerusform>Die Vorschau wurde gestoppt, und %Ln Gerät wurde nicht gelesen. „Vorschau erneuern“ liest alle.</numerusform>
             <numerusform>Die Vorschau wurde gestoppt, und %Ln Geräte wurden nicht gelesen. „Vorschau erneuern“ liest alle.</numerusform>
@@ -1574,8 +1601,12 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Kein Gerät würde sich ändern: Es gibt nichts zu konfigurieren.</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Preview again”.</source>
+        <source>The inventory has changed since. Press &quot;Preview again&quot;.</source>
         <translation>Der Bestand hat sich seither geändert. Drücken Sie „Vorschau erneuern“.</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>&amp;Anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1711,6 +1742,25 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>A run is going on over the ticked devices. Tick others when it has ended.</source>
         <translation>Ein Lauf über die angehakten Geräte ist im Gange. Haken Sie andere an, wenn er zu Ende ist.</translation>
+    </message>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>Fehlgeschlagene Geräte, die nicht angehakt sind</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste angehakt.</numerusform>
+            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste angehakt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>Nicht angehakt:</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2029,14 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>Take back</source>
         <translation>Zurücknehmen</translation>
     </message>
+    <message>
+        <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
+        <translation>Seither hat ein Lauf begonnen, und Geräte können sich geändert haben. Drücken Sie „Erneut lesen“.</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
+        <translation>Der Bestand hat sich seither geändert. Drücken Sie „Erneut lesen“.</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::RunComparisonModel</name>
@@ -2118,6 +2176,21 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <comment>message</comment>
         <translation>%1 (es hat später geantwortet)</translation>
     </message>
+    <message>
+        <source>not written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>nicht geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>perhaps written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>vielleicht geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>partly written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>teilweise geschrieben: %1</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::RunDriver</name>
@@ -2152,13 +2225,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is offline or may not be configured</source>
-        <translation>
-            <numerusform>%n der angegebenen Geräte ist offline oder darf nicht konfiguriert werden</numerusform>
-            <numerusform>%n der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n device(s) not reached</source>
         <translation>
             <numerusform>%n Gerät nicht erreicht</numerusform>
@@ -2168,6 +2234,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>--run is for demos and pictures: it writes the form&apos;s default values. orda_batch(1) sets values of your own.</source>
         <translation>--run ist für Vorführungen und Bilder: Es schreibt die Vorgabewerte des Formulars. Eigene Werte setzt orda_batch(1).</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>%n der angegebenen Geräte ist offline oder darf nicht konfiguriert werden</numerusform>
+            <numerusform>%n der angegebenen Geräte sind offline oder dürfen nicht konfiguriert werden</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2360,6 +2433,11 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>%1. %2</source>
         <comment>why it has stopped, counts</comment>
         <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>unchanged: %1</source>
+        <comment>devices</comment>
+        <translation>unverändert: %1</translation>
     </message>
 </context>
 <context>
@@ -2831,7 +2909,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Das Gerät %1</translation>
     </message>
     <message>
-        <source>The profile “%1”</source>
+        <source>The profile &quot;%1&quot;</source>
         <translation>Das Profil „%1“</translation>
     </message>
     <message>
@@ -2847,7 +2925,7 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Profil löschen</translation>
     </message>
     <message>
-        <source>Forget the profile “%1”?</source>
+        <source>Forget the profile &quot;%1&quot;?</source>
         <translation>Das Profil „%1“ löschen?</translation>
     </message>
     <message>
@@ -2891,35 +2969,18 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>%1: nicht im Bestand</translation>
     </message>
     <message>
-        <source>came on line just now, and is not in the list yet</source>
-        <translation>kam gerade erst online und steht noch nicht in der Liste</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <comment>device, why it is not ticked</comment>
         <translation>%1: %2</translation>
     </message>
-</context>
-<context>
-    <name>orda_client::TickReport</name>
     <message>
-        <source>Failed devices that are not ticked</source>
-        <translation>Fehlgeschlagene Geräte, die nicht angehakt sind</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>%1 von %Ln fehlgeschlagenen Gerät in der Geräteliste angehakt.</numerusform>
-            <numerusform>%1 von %Ln fehlgeschlagenen Geräten in der Geräteliste angehakt.</numerusform>
-        </translation>
+        <source>%1: it is another device than was saved</source>
+        <comment>device</comment>
+        <translation>%1: ist ein anderes Gerät als das gespeicherte</translation>
     </message>
     <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>Die Suche der Liste wurde geleert: Sie verbarg einige davon.</translation>
-    </message>
-    <message>
-        <source>Not ticked:</source>
-        <translation>Nicht angehakt:</translation>
+        <source>came online just now, and is not in the list yet</source>
+        <translation>kam gerade erst online und steht noch nicht in der Liste</translation>
     </message>
 </context>
 <context>

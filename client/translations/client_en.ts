@@ -212,10 +212,20 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.</source>
+        <source>The preview was stopped, and %Ln device(s) were not read. Press &quot;Preview again&quot; to read all.</source>
         <translation>
-            <numerusform>The preview was stopped, and %Ln device was not read. Press “Preview again” to read all.</numerusform>
-            <numerusform>The preview was stopped, and %Ln devices were not read. Press “Preview again” to read all.</numerusform>
+            <numerusform>The preview was stopped, and %Ln device was not read. Press &quot;Preview again&quot; to read all.</numerusform>
+            <numerusform>The preview was stopped, and %Ln devices were not read. Press &quot;Preview again&quot; to read all.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::RecordWindow</name>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>Ticked %1 of %Ln failed device in the device list.</numerusform>
+            <numerusform>Ticked %1 of %Ln failed devices in the device list.</numerusform>
         </translation>
     </message>
 </context>
@@ -274,17 +284,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is offline or may not be configured</source>
-        <translation>
-            <numerusform>%n of the given devices is off line or may not be configured</numerusform>
-            <numerusform>%n of the given devices are off line or may not be configured</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n device(s) not reached</source>
         <translation>
             <numerusform>%n device not reached</numerusform>
             <numerusform>%n devices not reached</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>%n of the given devices is off line or may not be configured</numerusform>
+            <numerusform>%n of the given devices are off line or may not be configured</numerusform>
         </translation>
     </message>
 </context>
@@ -428,16 +438,6 @@
         <translation>
             <numerusform>Ticked %1 of %Ln device in the device list, and no others.</numerusform>
             <numerusform>Ticked %1 of %Ln devices in the device list, and no others.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>orda_client::TickReport</name>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>Ticked %1 of %Ln failed device in the device list.</numerusform>
-            <numerusform>Ticked %1 of %Ln failed devices in the device list.</numerusform>
         </translation>
     </message>
 </context>

@@ -284,6 +284,13 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
+    <name>orda_client::ClientSettings</name>
+    <message>
+        <source>It is kept until the client ends, and no longer: the file of the settings cannot be written.</source>
+        <translation>仅在程序结束前有效：无法写入设置文件。</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ClientStatusBar</name>
     <message>
         <source>Runs</source>
@@ -385,7 +392,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>与标准比较</translation>
     </message>
     <message>
-        <source>The profile “%1” was saved.</source>
+        <source>The profile &quot;%1&quot; was saved.</source>
         <translation>方案“%1”已保存。</translation>
     </message>
     <message>
@@ -449,11 +456,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>表单已关闭。</translation>
     </message>
     <message>
-        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press “Read again”.</source>
+        <source>No device is ticked in the list, or the list&apos;s search hides all that are. Tick the devices that are to be compared, then press &quot;Read again&quot;.</source>
         <translation>列表中没有勾选设备，或勾选的设备都被列表的搜索隐藏。请勾选要比较的设备，然后按“重新读取”。</translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Read again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Read again&quot; afterwards.</source>
         <translation>未读取设备：%1 之后请按“重新读取”。</translation>
     </message>
     <message>
@@ -472,6 +479,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>As of %1: %2 differ from the standard, %3 do not, %4 were not read.</source>
         <comment>time, three numbers of devices</comment>
         <translation>截至 %1：与标准有差异 %2 台，无差异 %3 台，未读取 %4 台。</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
+        <translation>清单之后有变化。请按“重新读取”。</translation>
     </message>
 </context>
 <context>
@@ -492,10 +503,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
 <context>
     <name>orda_client::DeviceCells</name>
     <message>
-        <source>Device name</source>
-        <translation>设备名称</translation>
-    </message>
-    <message>
         <source>Serial number</source>
         <translation>序列号</translation>
     </message>
@@ -506,6 +513,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Group</source>
         <translation>组</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
     </message>
 </context>
 <context>
@@ -545,10 +556,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
 <context>
     <name>orda_client::DeviceTexts</name>
     <message>
-        <source>offline</source>
-        <translation>离线</translation>
-    </message>
-    <message>
         <source>online</source>
         <translation>在线</translation>
     </message>
@@ -567,6 +574,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>online, locked</source>
         <translation>在线，已锁定</translation>
+    </message>
+    <message>
+        <source>off line</source>
+        <translation>离线</translation>
     </message>
 </context>
 <context>
@@ -791,10 +802,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>本次运行中有多台设备使用其序列号</translation>
     </message>
     <message>
-        <source>it is not in the list now: offline, or not to be configured</source>
-        <translation>它现在不在列表中：离线或不可配置</translation>
-    </message>
-    <message>
         <source>several devices in the list have its serial number</source>
         <translation>列表中有多台设备使用其序列号</translation>
     </message>
@@ -805,6 +812,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>a device without a name</source>
         <translation>无名称的设备</translation>
+    </message>
+    <message>
+        <source>it is not in the list now: off line, or not to be configured</source>
+        <translation>它现在不在列表中：离线或不可配置</translation>
     </message>
 </context>
 <context>
@@ -1023,11 +1034,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <name>orda_client::InventoryCsv</name>
     <message>
         <source>is not UTF-8; save the file as CSV in UTF-8</source>
-        <translation>不是 UTF-8；请将文件保存为 UTF-8 编码的 CSV</translation>
+        <translation>不是 UTF-8；请将文件另存为 UTF-8 编码的 CSV</translation>
     </message>
     <message>
         <source>wrong quotation marks: they stand around a whole cell, and one within it is written twice</source>
-        <translation>引号有误：引号须括住整个单元格，其中的引号要写两次</translation>
+        <translation>引号有误：引号应括住整个单元格，其中的引号须写两次</translation>
     </message>
     <message>
         <source>is empty; a line with the names of the columns is expected, such as id, ip and port</source>
@@ -1035,7 +1046,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
     <message>
         <source>ends after its head; a line for each device is expected</source>
-        <translation>只有标题行；应为每台设备写一行</translation>
+        <translation>在表头之后结束；应为每台设备给出一行</translation>
     </message>
     <message>
         <source>the column is there already, as number %1</source>
@@ -1047,7 +1058,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
     <message>
         <source>the number of cells is %1; it must be %2, as in the head</source>
-        <translation>单元格数为 %1；应与标题行相同，为 %2</translation>
+        <translation>单元格数为 %1；应与表头一致，为 %2</translation>
     </message>
     <message>
         <source>line %1</source>
@@ -1157,11 +1168,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <name>orda_client::ParameterTexts</name>
     <message>
         <source>on</source>
-        <translation>开</translation>
+        <translation>开启</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>关</translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
@@ -1172,6 +1183,22 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>%1: %2</source>
         <comment>parameter, value</comment>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>online service set by hand</source>
+        <translation>手动设置在线服务</translation>
+    </message>
+    <message>
+        <source>business service set by hand</source>
+        <translation>手动设置业务服务</translation>
     </message>
 </context>
 <context>
@@ -1391,28 +1418,28 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>设备缺少：%1</translation>
     </message>
     <message>
-        <source>would change</source>
+        <source>Would change</source>
         <translation>将更改</translation>
     </message>
     <message>
-        <source>has it already</source>
+        <source>Has it already</source>
         <translation>无需更改</translation>
     </message>
     <message>
-        <source>cannot be set</source>
+        <source>Cannot be set</source>
         <comment>the device lacks the parameters</comment>
         <translation>无法设置</translation>
     </message>
     <message>
-        <source>not reached</source>
+        <source>Not reached</source>
         <translation>未连上</translation>
     </message>
     <message>
-        <source>could not be read</source>
+        <source>Could not be read</source>
         <translation>读取失败</translation>
     </message>
     <message>
-        <source>not read</source>
+        <source>Not read</source>
         <translation>未读取</translation>
     </message>
 </context>
@@ -1479,15 +1506,15 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>表单当前显示的页面无法配置。</translation>
     </message>
     <message>
-        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press “Preview again”.</source>
+        <source>Configure would send nothing: no parameter is ticked on the page, or no stream. Tick what is to be set, then press &quot;Preview again&quot;.</source>
         <translation>“配置”不会发送任何内容：页面上没有勾选参数或码流。请勾选要设置的内容，然后按“重新预览”。</translation>
     </message>
     <message>
-        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press “Preview again”.</source>
+        <source>All ticked devices are hidden by the search of the list, and Configure leaves hidden devices out. Clear the search, then press &quot;Preview again&quot;.</source>
         <translation>勾选的设备都被列表的搜索隐藏，“配置”会略过隐藏的设备。请清除搜索，然后按“重新预览”。</translation>
     </message>
     <message>
-        <source>No device is ticked in the list. Tick the devices, then press “Preview again”.</source>
+        <source>No device is ticked in the list. Tick the devices, then press &quot;Preview again&quot;.</source>
         <translation>列表中没有勾选设备。请勾选设备，然后按“重新预览”。</translation>
     </message>
     <message>
@@ -1515,7 +1542,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         </translation>
     </message>
     <message>
-        <source>The devices were not read: %1 Press “Preview again” afterwards.</source>
+        <source>The devices were not read: %1 Press &quot;Preview again&quot; afterwards.</source>
         <translation>未读取设备：%1 之后请按“重新预览”。</translation>
     </message>
     <message>
@@ -1527,15 +1554,15 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>尚无预览。</translation>
     </message>
     <message>
-        <source>A run has begun since, and devices may have changed. Press “Preview again”.</source>
+        <source>A run has begun since, and devices may have changed. Press &quot;Preview again&quot;.</source>
         <translation>之后已开始一次运行，设备可能已更改。请按“重新预览”。</translation>
     </message>
     <message>
-        <source>The page has changed since: it would send something else. Press “Preview again”.</source>
+        <source>The page has changed since: it would send something else. Press &quot;Preview again&quot;.</source>
         <translation>页面之后有变化，将发送不同的内容。请按“重新预览”。</translation>
     </message>
     <message numerus="yes">
-        <source>The preview was stopped, and %Ln device(s) were not read. Press “Preview again” to read all.</source>
+        <source>The preview was stopped, and %Ln device(s) were not read. Press &quot;Preview again&quot; to read all.</source>
         <translation>
             <numerusform>预览已停止，有 %Ln 台设备未读取。按“重新预览”可读取全部。</numerusform>
         </translation>
@@ -1549,8 +1576,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>没有设备会更改：无需配置。</translation>
     </message>
     <message>
-        <source>The inventory has changed since. Press “Preview again”.</source>
+        <source>The inventory has changed since. Press &quot;Preview again&quot;.</source>
         <translation>清单之后有变化。请按“重新预览”。</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>显示(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -1686,6 +1717,24 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>A run is going on over the ticked devices. Tick others when it has ended.</source>
         <translation>正在对勾选的设备运行配置。请在运行结束后再勾选其他设备。</translation>
+    </message>
+    <message>
+        <source>Failed devices that are not ticked</source>
+        <translation>未勾选的失败设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
+        <translation>
+            <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list&apos;s search was cleared: it hid some of them.</source>
+        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
+    </message>
+    <message>
+        <source>Not ticked:</source>
+        <translation>未勾选：</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +1998,14 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>Take back</source>
         <translation>撤销</translation>
     </message>
+    <message>
+        <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
+        <translation>之后已开始一次运行，设备可能已更改。请按“重新读取”。</translation>
+    </message>
+    <message>
+        <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
+        <translation>清单之后有变化。请按“重新读取”。</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::RunComparisonModel</name>
@@ -2088,6 +2145,21 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <comment>message</comment>
         <translation>%1（之后有应答）</translation>
     </message>
+    <message>
+        <source>not written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>未写入：%1</translation>
+    </message>
+    <message>
+        <source>perhaps written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>可能已写入：%1</translation>
+    </message>
+    <message>
+        <source>partly written: %1</source>
+        <comment>parameters with before → after</comment>
+        <translation>部分写入：%1</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::RunDriver</name>
@@ -2120,12 +2192,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of the given devices is offline or may not be configured</source>
-        <translation>
-            <numerusform>指定的设备中有 %n 台离线或不允许配置</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n device(s) not reached</source>
         <translation>
             <numerusform>%n 台设备未连上</numerusform>
@@ -2134,6 +2200,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>--run is for demos and pictures: it writes the form&apos;s default values. orda_batch(1) sets values of your own.</source>
         <translation>--run 用于演示和截图：它写入表单的默认值。要设置自己的值，请使用 orda_batch(1)。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the given devices is off line or may not be configured</source>
+        <translation>
+            <numerusform>指定的设备中有 %n 台离线或不允许配置</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2318,6 +2390,11 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>%1. %2</source>
         <comment>why it has stopped, counts</comment>
         <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>unchanged: %1</source>
+        <comment>devices</comment>
+        <translation>未更改：%1</translation>
     </message>
 </context>
 <context>
@@ -2781,7 +2858,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>设备 %1</translation>
     </message>
     <message>
-        <source>The profile “%1”</source>
+        <source>The profile &quot;%1&quot;</source>
         <translation>方案“%1”</translation>
     </message>
     <message>
@@ -2797,7 +2874,7 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>删除方案</translation>
     </message>
     <message>
-        <source>Forget the profile “%1”?</source>
+        <source>Forget the profile &quot;%1&quot;?</source>
         <translation>要删除方案“%1”吗？</translation>
     </message>
     <message>
@@ -2840,34 +2917,18 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>%1：不在清单中</translation>
     </message>
     <message>
-        <source>came on line just now, and is not in the list yet</source>
-        <translation>刚刚上线，尚未出现在列表中</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <comment>device, why it is not ticked</comment>
         <translation>%1：%2</translation>
     </message>
-</context>
-<context>
-    <name>orda_client::TickReport</name>
     <message>
-        <source>Failed devices that are not ticked</source>
-        <translation>未勾选的失败设备</translation>
-    </message>
-    <message numerus="yes">
-        <source>Ticked %1 of %Ln failed device(s) in the device list.</source>
-        <translation>
-            <numerusform>已在设备列表中勾选 %Ln 台失败设备中的 %1 台。</numerusform>
-        </translation>
+        <source>%1: it is another device than was saved</source>
+        <comment>device</comment>
+        <translation>%1：与保存时不是同一台设备</translation>
     </message>
     <message>
-        <source>The list&apos;s search was cleared: it hid some of them.</source>
-        <translation>已清除列表的搜索：它隐藏了其中一些设备。</translation>
-    </message>
-    <message>
-        <source>Not ticked:</source>
-        <translation>未勾选：</translation>
+        <source>came online just now, and is not in the list yet</source>
+        <translation>刚刚上线，尚未出现在列表中</translation>
     </message>
 </context>
 <context>

@@ -151,6 +151,10 @@
         <source>the run ended before this device had its result</source>
         <translation>der Lauf endete, bevor dieses Gerät ein Ergebnis hatte</translation>
     </message>
+    <message>
+        <source>Devices are being read. Please wait until that has ended, or stop it.</source>
+        <translation>Geräte werden gelesen. Bitte warten Sie, bis das beendet ist, oder stoppen Sie es.</translation>
+    </message>
 </context>
 <context>
     <name>orda_journal::PrivateFile</name>

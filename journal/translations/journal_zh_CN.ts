@@ -151,6 +151,10 @@
         <source>the run ended before this device had its result</source>
         <translation>运行在此设备得到结果之前已结束</translation>
     </message>
+    <message>
+        <source>Devices are being read. Please wait until that has ended, or stop it.</source>
+        <translation>正在读取设备。请等待其结束，或将其停止。</translation>
+    </message>
 </context>
 <context>
     <name>orda_journal::PrivateFile</name>

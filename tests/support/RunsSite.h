@@ -53,6 +53,7 @@ struct RunsSite : QObject
 {
     RunsSite()
     {
+        QApplication::setDoubleClickInterval(100); // for which questions wait
         vms_sdk::ClientSdk::instance().setRequestTimeout(std::chrono::seconds(2));
         fleet.start();
         orda_data::DevsMgrData::instance().updateDevs(fleet.inventory());
@@ -121,12 +122,17 @@ struct RunsSite : QObject
     }
     void answer(const QWidget *asker, const char *with = "write")
     {
-        auto *box = child<QMessageBox>(asker, "runQuestion");
+        const auto boxes = asker->findChildren<QMessageBox *>("runQuestion"); // earlier ones may still be going
+        auto *box = boxes.isEmpty() ? nullptr : boxes.last();
         question = box ? box->text() + '\n' + box->informativeText() : QString("(none)");
-        if (box && QByteArray(with) == "write")
+        if (box && QByteArray(with) == "write") {
+            child(box, "confirm")->click(); // at once, as the second click of a double click
+            if (!QTest::qWaitFor([&] { return child(box, "confirm")->isEnabled(); }) || !box->isVisible())
+                question = "(answered before it could be read)";
             child(box, "confirm")->click();
-        else if (box)
+        } else if (box) {
             box->reject();
+        }
     }
 
     QTemporaryDir place;

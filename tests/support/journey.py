@@ -83,10 +83,12 @@ def descendants(node):
 
 def find(root, role, name, shown=True, state=None):
     """The control of that name, or of a name that a compiled pattern fits, as soon as it is there and as wanted."""
+    fits = name.fullmatch if isinstance(name, re.Pattern) else name.__eq__
+
     def look():
         for node in children(root) if role in WINDOWS else descendants(root):
-            fits = node.get_role_name() == role and (name.fullmatch if isinstance(name, re.Pattern) else name.__eq__)(name_of(node))
-            if fits and (not shown or has(node, "SHOWING")) and (not state or has(node, state)):
+            is_it = node.get_role_name() == role and fits(name_of(node))
+            if is_it and (not shown or has(node, "SHOWING")) and (not state or has(node, state)):
                 return node
         return None
 
