@@ -45,6 +45,18 @@ class RunsTest : public OrdaTest
     Q_OBJECT
 
 private slots:
+    void whatWasRefusedIsNotShownAsWritten()
+    {
+        RunsSite site;
+        site.fleet.setFault(site.devIds.at(0), "ai_set_param", {Fault::ErrorCode, -5});
+        QVERIFY(site.open(site.run("{'aiGain': 33}", site.devIds.mid(0, 2))));
+        const QStringList changes = column(site.window, "runDevices", 5); // failures first
+        QCOMPARE(changes.size(), 2);
+        QVERIFY2(changes.at(0).startsWith("not written: ") && changes.at(0).endsWith(" → 33"),
+                 qPrintable(changes.at(0)));
+        QVERIFY2(!changes.at(1).contains("not written"), qPrintable(changes.at(1)));
+    }
+
     void failuresAreTriedAgain()
     {
         RunsSite site;
