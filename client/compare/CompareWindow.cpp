@@ -12,6 +12,7 @@
 #include "client/settings/ClientSettings.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/TableFilter.h"
+#include "client/tables/TableOrText.h"
 #include "client/tables/TableView.h"
 
 #include <families/Families.h>
@@ -25,7 +26,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
-#include <QStackedWidget>
 #include <QTime>
 #include <QVBoxLayout>
 
@@ -41,7 +41,6 @@ using namespace std::chrono_literals;
 // The page does not tell when its values change.
 constexpr auto watchInterval = 300ms;
 constexpr QSize windowSize(1280, 680);
-constexpr int emptyMargin = 12;
 constexpr int memberDigits = 16; // width of a member's column
 
 } // namespace
@@ -161,13 +160,8 @@ QWidget *CompareWindow::buildTable()
         m_table->setWidths(widths);
     });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &CompareWindow::updateButtons);
-    m_empty = plainLabel("empty");
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setMargin(emptyMargin);
-    m_stack = new QStackedWidget;
-    m_stack->addWidget(m_table);
-    m_stack->addWidget(m_empty);
-    return m_stack;
+    m_shown = new TableOrText(m_table, QStringLiteral("empty"));
+    return m_shown;
 }
 
 QWidget *CompareWindow::buildButtons()
@@ -175,24 +169,22 @@ QWidget *CompareWindow::buildButtons()
     auto *buttons = new QWidget;
     auto *layout = new QHBoxLayout(buttons);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto add = [layout](const QString &text, const char *name, const char *style) {
-        auto *button = styledButton(text, name, style);
-        layout->addWidget(button);
-        return button;
-    };
-    m_tick = add(tr("&Tick the ones that differ"), "tickDifferent", "common_bt_style1");
+    m_tick = styledButton(tr("&Tick the ones that differ"), "tickDifferent", "common_bt_style1");
     m_tick->setToolTip(tr("Ticks exactly the devices that differ from the standard in the device list"));
     connect(m_tick, &QPushButton::clicked, this, &CompareWindow::tickDifferent);
-    auto *again = add(tr("&Read again"), "readAgain", "common_bt_style2");
+    auto *again = styledButton(tr("&Read again"), "readAgain");
     again->setToolTip(tr("Reads the devices that are ticked now"));
     connect(again, &QPushButton::clicked, this, &CompareWindow::read);
-    m_export = add(tr("&Export CSV…"), "exportCsv", "common_bt_style2");
+    m_export = styledButton(tr("&Export CSV…"), "exportCsv");
     m_export->setToolTip(tr("Saves the rows that are shown, in their order, for a spreadsheet"));
     connect(m_export, &QPushButton::clicked, this,
             [this] { CsvFile::saveAs(this, *m_filter, QStringLiteral("settings-") + m_family->name); });
-    layout->addStretch();
-    auto *close = add(tr("&Close"), "closeCompare", "common_bt_style2");
+    auto *close = styledButton(tr("&Close"), "closeCompare");
     connect(close, &QPushButton::clicked, this, &QWidget::close);
+    for (QWidget *button : {m_tick, again, m_export})
+        layout->addWidget(button);
+    layout->addStretch();
+    layout->addWidget(close);
     return buttons;
 }
 
@@ -314,8 +306,7 @@ void CompareWindow::refresh()
 
 void CompareWindow::updateTable()
 {
-    m_empty->setText(m_complaint.isEmpty() ? tr("No device fits the search and the choice beside it.") : m_complaint);
-    m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
+    m_shown->update(m_complaint.isEmpty() ? tr("No device fits the search and the choice beside it.") : m_complaint);
     m_export->setEnabled(m_filter->rowCount() > 0);
 }
 

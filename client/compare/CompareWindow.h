@@ -11,7 +11,6 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QStackedWidget;
 QT_END_NAMESPACE
 
 namespace orda_base {
@@ -26,6 +25,7 @@ class Notice;
 class ReadingBar;
 class StandardBar;
 class TableFilter;
+class TableOrText;
 class TableView;
 struct Family;
 
@@ -84,9 +84,8 @@ private:
     QCheckBox *m_onlyDifferent;
     QCheckBox *m_showOthers;
     orda_base::SearchBox *m_search;
-    QStackedWidget *m_stack;
+    TableOrText *m_shown;
     TableView *m_table;
-    QLabel *m_empty;
     ReadingBar *m_reading;
     Notice *m_notice;
     QPushButton *m_tick;

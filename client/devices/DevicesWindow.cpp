@@ -12,6 +12,7 @@
 #include "client/session/ClientSession.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/GroupList.h"
+#include "client/tables/TableOrText.h"
 #include "client/tables/TableView.h"
 #include "journal/JournalTransport.h"
 
@@ -25,7 +26,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -36,7 +36,6 @@ namespace {
 
 constexpr QSize windowSize(1480, 760); // or the screen's
 constexpr int statesWidth = 340;
-constexpr int margin = 12;
 
 } // namespace
 
@@ -115,13 +114,8 @@ QWidget *DevicesWindow::buildTable()
     m_table->setObjectName(QStringLiteral("devices"));
     m_table->elideAtEnd({DevicesModel::State});
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_empty = plainLabel("empty");
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setMargin(margin);
-    m_stack = new QStackedWidget;
-    m_stack->addWidget(m_table);
-    m_stack->addWidget(m_empty);
-    return m_stack;
+    m_shown = new TableOrText(m_table, QStringLiteral("empty"));
+    return m_shown;
 }
 
 // What is about the table has a row of its own: all buttons in one would be too wide for small screens.
@@ -249,8 +243,7 @@ void DevicesWindow::refresh()
 
 void DevicesWindow::updateTexts()
 {
-    m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
-    m_empty->setText(emptyText());
+    m_shown->update(emptyText());
     m_export->setEnabled(m_filter->rowCount() > 0);
     updateSelection();
 }

@@ -9,7 +9,6 @@ QT_BEGIN_NAMESPACE
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
-class QStackedWidget;
 QT_END_NAMESPACE
 
 namespace orda_base {
@@ -25,6 +24,7 @@ class DevicesModel;
 class GroupList;
 class GroupsMenu;
 class LastOutcomes;
+class TableOrText;
 class TableView;
 class TickNote;
 
@@ -84,9 +84,8 @@ private:
 
     GroupList *m_stateList = nullptr;
     orda_base::SearchBox *m_search = nullptr;
-    QStackedWidget *m_stack = nullptr;
+    TableOrText *m_shown = nullptr;
     TableView *m_table = nullptr;
-    QLabel *m_empty = nullptr;
     QLabel *m_counts = nullptr;
     QPushButton *m_refresh = nullptr;
     TickNote *m_note = nullptr;

@@ -10,6 +10,7 @@
 #include "client/session/ClientSession.h"
 #include "client/tables/CsvFile.h"
 #include "client/tables/TableFilter.h"
+#include "client/tables/TableOrText.h"
 #include "client/tables/TableView.h"
 #include "journal/JournalTransport.h"
 
@@ -21,7 +22,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QTime>
 #include <QVBoxLayout>
 
@@ -37,7 +37,6 @@ using namespace std::chrono_literals;
 constexpr auto watchInterval = 300ms;
 constexpr QSize windowSize(1180, 640);
 constexpr int groupsWidth = 230;
-constexpr int emptyMargin = 12;
 
 } // namespace
 
@@ -130,17 +129,12 @@ QWidget *PreviewWindow::buildTable()
     m_table = new TableView(m_filter, {18, 20, 16, 15, 12, 0}, tr("Devices and what would change on them"));
     m_table->setObjectName(QStringLiteral("plan"));
     m_table->elideAtEnd({PreviewModel::ChangesColumn});
-    m_empty = plainLabel("empty");
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setMargin(emptyMargin);
-    m_stack = new QStackedWidget;
-    m_stack->addWidget(m_table);
-    m_stack->addWidget(m_empty);
+    m_shown = new TableOrText(m_table, QStringLiteral("empty"));
     auto *right = new QWidget;
     auto *layout = new QVBoxLayout(right);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_search, 0, Qt::AlignRight);
-    layout->addWidget(m_stack, 1);
+    layout->addWidget(m_shown, 1);
     auto *splitter = new QSplitter;
     splitter->addWidget(groups);
     splitter->addWidget(right);
@@ -261,9 +255,8 @@ void PreviewWindow::showPlan()
 
 void PreviewWindow::updateTable()
 {
-    m_empty->setText(m_complaint.isEmpty() ? tr("No device of the preview fits the search and the choice beside it.")
-                                           : m_complaint);
-    m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_table) : m_empty);
+    m_shown->update(m_complaint.isEmpty() ? tr("No device of the preview fits the search and the choice beside it.")
+                                          : m_complaint);
     m_export->setEnabled(m_filter->rowCount() > 0);
 }
 

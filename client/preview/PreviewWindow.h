@@ -10,7 +10,6 @@
 QT_BEGIN_NAMESPACE
 class QLabel;
 class QPushButton;
-class QStackedWidget;
 QT_END_NAMESPACE
 
 namespace orda_base {
@@ -24,6 +23,7 @@ class Notice;
 class PlanGroupList;
 class ReadingBar;
 class TableFilter;
+class TableOrText;
 class TableView;
 struct FormPage;
 struct FormTicks;
@@ -79,9 +79,8 @@ private:
     QLabel *m_values;
     orda_base::SearchBox *m_search;
     PlanGroupList *m_groups;
-    QStackedWidget *m_stack;
+    TableOrText *m_shown;
     TableView *m_table;
-    QLabel *m_empty;
     ReadingBar *m_reading;
     Notice *m_notice;
     QPushButton *m_configure;

@@ -1,28 +1,20 @@
 #include "client/tables/SearchedTable.h"
 
 #include "client/tables/TableModel.h"
+#include "client/tables/TableOrText.h"
 #include "client/tables/TableView.h"
-
-#include <orda_base/SearchBox.h>
-#include <vms_client_sdk/ForeignText.h>
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStackedWidget>
 #include <QVBoxLayout>
+#include <orda_base/SearchBox.h>
 
 #include <algorithm>
 #include <utility>
 
 namespace orda_client {
-
-namespace {
-
-constexpr int margin = 12;
-
-} // namespace
 
 SearchedTable::SearchedTable(TableModel *model, const QVector<int> &digits, const QString &objectName,
                              const QString &name, const QString &what, QWidget *parent)
@@ -33,9 +25,8 @@ SearchedTable::SearchedTable(TableModel *model, const QVector<int> &digits, cons
     , m_caption(new QLabel)
     , m_choice(new QComboBox)
     , m_search(new orda_base::SearchBox)
-    , m_stack(new QStackedWidget)
     , m_view(new TableView(m_filter, digits, name))
-    , m_empty(new QLabel)
+    , m_shown(new TableOrText(m_view, objectName + QLatin1String("Empty")))
 {
     m_choice->setObjectName(objectName + QLatin1String("Choice"));
     m_choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -45,13 +36,6 @@ SearchedTable::SearchedTable(TableModel *model, const QVector<int> &digits, cons
     m_search->setObjectName(objectName + QLatin1String("Search"));
     m_search->setToolTip(what);
     m_view->setObjectName(objectName);
-    m_empty->setObjectName(objectName + QLatin1String("Empty"));
-    m_empty->setTextFormat(Qt::PlainText);
-    m_empty->setWordWrap(true);
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setMargin(margin);
-    m_stack->addWidget(m_view);
-    m_stack->addWidget(m_empty);
 
     m_top->addStretch(1);
     m_top->addWidget(m_caption);
@@ -60,7 +44,7 @@ SearchedTable::SearchedTable(TableModel *model, const QVector<int> &digits, cons
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(m_top);
-    layout->addWidget(m_stack, 1);
+    layout->addWidget(m_shown, 1);
 
     connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
         applyAccepts();
@@ -131,9 +115,7 @@ void SearchedTable::selectRow(int row)
 
 void SearchedTable::showTableOrText()
 {
-    m_empty->setText(m_model->rowCount() > 0 ? tr("Nothing here fits the search and the choice above.")
-                                             : vms_sdk::displayText(m_emptyText, QStringLiteral("\n")));
-    m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_view) : m_empty);
+    m_shown->update(m_model->rowCount() > 0 ? tr("Nothing here fits the search and the choice above.") : m_emptyText);
     if (m_filter->rowCount() == 0 || std::exchange(m_hasHadRows, true))
         return;
     // A window opens before its rows are read, and so with the focus on what is there already.

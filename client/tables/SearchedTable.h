@@ -9,7 +9,6 @@ QT_BEGIN_NAMESPACE
 class QComboBox;
 class QHBoxLayout;
 class QLabel;
-class QStackedWidget;
 QT_END_NAMESPACE
 
 namespace orda_base {
@@ -18,6 +17,7 @@ class SearchBox;
 
 namespace orda_client {
 
+class TableOrText;
 class TableView;
 
 /// A table with a choice of its rows and a search above it, and a text in its place while it has no rows to show.
@@ -76,9 +76,8 @@ private:
     QLabel *m_caption;
     QComboBox *m_choice;
     orda_base::SearchBox *m_search;
-    QStackedWidget *m_stack;
     TableView *m_view;
-    QLabel *m_empty;
+    TableOrText *m_shown;
     QString m_emptyText;
     bool m_hasHadRows = false;
 };
