@@ -42,8 +42,8 @@ private:
     QHash<QString, RecordedDevice> m_devices;
 };
 
-/// By device what a run changed, or was to change where the device did not take it. Nothing of devices that no write has
-/// left for, and nothing where the family is not known.
+/// By device what a run changed, or was to change where the device did not take it. Nothing of devices that no write
+/// has left for, and nothing where the family is not known.
 QHash<QString, QVector<MemberChange>> changesOf(const orda_journal::RunDetails &details);
 
 } // namespace orda_engine

@@ -56,7 +56,7 @@ QString decoded(const QByteArray &content, bool *isText)
 {
     QTextCodec::ConverterState state;
     const QTextCodec *codec = QTextCodec::codecForUtfText(content, QTextCodec::codecForMib(utf8Mib));
-    const QString text = codec->toUnicode(content.constData(), content.size(), &state);
+    QString text = codec->toUnicode(content.constData(), content.size(), &state);
     *isText = state.invalidChars == 0 && !text.contains(QChar::Null);
     return text;
 }
