@@ -297,8 +297,8 @@ void RunCheckWindow::askToTakeBack()
                nullptr, m_devIds.size() - devIds.size()));
     if (m_check.force)
         lines.append(tr("What was changed since the run is written over, too."));
-    const Question question{"runQuestion", tr("Undo"),
-                            tr("Undo the run on %Ln device(s)?", nullptr, devIds.size()), lines, tr("Undo")};
+    const Question question{"runQuestion", tr("Undo"), tr("Undo the run on %Ln device(s)?", nullptr, devIds.size()),
+                            lines, tr("Undo")};
     question.ask(this, [this, devIds, force = m_check.force] {
         if (!m_outdated.isEmpty()) { // while the question was open
             orda_worker::SystemAssistant::instance().messageAlert(tr("Undo"), m_outdated);
