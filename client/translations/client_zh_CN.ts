@@ -1517,11 +1517,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>No device is ticked in the list. Tick the devices, then press &quot;Preview again&quot;.</source>
         <translation>列表中没有勾选设备。请勾选设备，然后按“重新预览”。</translation>
     </message>
-    <message>
-        <source>%1: %2 to %3, as of %4. Nothing was written.</source>
-        <comment>page, parameters, devices, time</comment>
-        <translation>%1：%2，%3，截至 %4。未写入任何内容。</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln parameter(s)</source>
         <translation>
@@ -1582,6 +1577,15 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Sho&amp;w</source>
         <translation>显示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3, as of %4. A preview writes nothing.</source>
+        <comment>page, parameters, devices, time</comment>
+        <translation>%1：%2，%3，截至 %4。预览不写入任何内容。</translation>
+    </message>
+    <message>
+        <source>The search is on. All devices that change would be configured, and not only those that are shown: clear the search first.</source>
+        <translation>搜索正在使用中。将配置所有会更改的设备，而不只是显示的设备：请先清除搜索。</translation>
     </message>
 </context>
 <context>
@@ -1915,10 +1919,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>重新读取(&amp;R)</translation>
     </message>
     <message>
-        <source>Takes the run back on the selected devices, or on all, where something goes back</source>
-        <translation>在所选设备（或所有有内容可撤销的设备）上撤销此运行</translation>
-    </message>
-    <message>
         <source>&amp;Export CSV…</source>
         <translation>导出 CSV(&amp;E)…</translation>
     </message>
@@ -2005,6 +2005,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
         <translation>清单之后有变化。请按“重新读取”。</translation>
+    </message>
+    <message>
+        <source>Takes the run back on the selected devices, or on all that are shown, where something goes back</source>
+        <translation>在所选设备（或显示的、有内容可撤销的所有设备）上撤销此运行</translation>
     </message>
 </context>
 <context>
