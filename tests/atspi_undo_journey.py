@@ -135,8 +135,8 @@ def undo(client, runs, plan):
     going_back = devices(plan.done + 1)
     act(find(window, "push button", re.compile(f"Undo on {going_back}…"), state="ENABLED"), "Press")
     question = find(client, "alert", "Undo")
-    find(question, "label", re.compile(rf"Take the run back on {going_back}\?.*", re.DOTALL))
-    act(find(question, "push button", "Take back", state="ENABLED"), "Press")
+    find(question, "label", re.compile(rf"Undo the run on {going_back}\?))
+    act(find(question, "push button", "Undo", state="ENABLED"), "Press")
 
 
 def journey(client, fleet):

@@ -151,7 +151,11 @@ struct Site
             {"run", [&] { return (new orda_base::DisabledWaitingWt(form.get(), {}))->show(), true; }},
             {"menu", [&] { return clickMenu("groupsMenu", rest); }},
             {"forget",
-             [&] { return clickMenu("forgetMenu", rest) && (child<QMessageBox>()->buttons().last()->click(), true); }},
+             [&] {
+                 return clickMenu("forgetMenu", rest)
+                     && QTest::qWaitFor([&] { return child<QPushButton>("confirm")->isEnabled(); })
+                     && (child<QPushButton>("confirm")->click(), true);
+             }},
             {"name", [&] { return child<QInputDialog>()->setTextValue(rest), child<QInputDialog>()->accept(), true; }},
             {"paste", [&] { return child<QPlainTextEdit>("list")->setPlainText(rest), true; }},
             {"write", [&] { return file.open(QIODevice::WriteOnly) && file.write(rest.toLatin1()) == rest.size(); }},

@@ -182,7 +182,7 @@ def closing_in_undo_asks(client, window, window_id, ticked):
     act(find(find(client, "frame", "Runs"), "push button", "Undo…", state="ENABLED"), "Press")
     undo = find(client, "frame", re.compile("Undo: OSD Parameters, .*"))
     act(find(undo, "push button", re.compile(f"Undo on {devices(ticked)}…"), state="ENABLED"), "Press")
-    act(find(find(client, "alert", "Undo"), "push button", "Take back", state="ENABLED"), "Press")
+    act(find(find(client, "alert", "Undo"), "push button", "Undo", state="ENABLED"), "Press")
     find(window, "push button", "Stop")
     xdotool("windowactivate", "--sync", window_id, "key", "ctrl+q")
     act(find(close_question(client, ticked), "push button", "Close anyway"), "Press")

@@ -45,6 +45,18 @@ class RunsTest : public OrdaTest
     Q_OBJECT
 
 private slots:
+    void whatWasRefusedIsNotShownAsWritten()
+    {
+        RunsSite site;
+        site.fleet.setFault(site.devIds.at(0), "ai_set_param", {Fault::ErrorCode, -5});
+        QVERIFY(site.open(site.run("{'aiGain': 33}", site.devIds.mid(0, 2))));
+        const QStringList changes = column(site.window, "runDevices", 5); // failures first
+        QCOMPARE(changes.size(), 2);
+        QVERIFY2(changes.at(0).startsWith("not written: ") && changes.at(0).endsWith(" → 33"),
+                 qPrintable(changes.at(0)));
+        QVERIFY2(!changes.at(1).contains("not written"), qPrintable(changes.at(1)));
+    }
+
     void failuresAreTriedAgain()
     {
         RunsSite site;
@@ -104,7 +116,7 @@ private slots:
         search->clear();
         child(undo, "takeBack")->click();
         site.answer(undo);
-        QVERIFY2(site.question.startsWith("Take the run back on 5 device(s)?"), qPrintable(site.question));
+        QVERIFY2(site.question.startsWith("Undo the run on 5 device(s)?"), qPrintable(site.question));
         QTRY_COMPARE(column(site.window, "runs", 3).constFirst(), "Done: 5");
         QVERIFY(column(site.window, "runs", 2).constFirst().startsWith("Undo of 20"));
         for (const QString &devId : qAsConst(site.devIds))

@@ -1,5 +1,6 @@
 #include "client/compare/StandardBar.h"
 
+#include "client/common/Question.h"
 #include "client/common/Widgets.h"
 #include "client/settings/ClientSettings.h"
 
@@ -9,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -153,22 +153,18 @@ void StandardBar::askForName()
 
 void StandardBar::askToForget()
 {
-    auto *question = new QMessageBox(QMessageBox::Question, tr("Forget profile"),
-                                     tr("Forget the profile \"%1\"?").arg(vms_sdk::displayText(profile())),
-                                     QMessageBox::Cancel, this);
-    question->setObjectName(QStringLiteral("forgetQuestion"));
-    question->setTextFormat(Qt::PlainText);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    const auto *forget = question->addButton(tr("Forget", "a profile"), QMessageBox::AcceptRole);
-    question->setDefaultButton(QMessageBox::Cancel);
-    connect(forget, &QAbstractButton::clicked, this, [this, family = m_family, name = profile()] {
+    const Question question{"forgetQuestion",
+                            tr("Forget profile"),
+                            tr("Forget the profile \"%1\"?").arg(vms_sdk::displayText(profile())),
+                            {},
+                            tr("Forget", "a profile")};
+    question.ask(this, [this, family = m_family, name = profile()] {
         m_settings->setProfile(family, name, {});
         if (family == m_family && source() == Profile && profile() == name) {
             fill(Page);
             emit signalChosen();
         }
     });
-    question->open();
 }
 
 } // namespace orda_client

@@ -207,8 +207,19 @@ void DevicesWindow::follow()
 void DevicesWindow::takeChanges(bool isListChanged)
 {
     if (isListChanged) {
-        const Selected selected = this->selected();
+        Selected selected = this->selected();
+        const auto serialNumber = [this](const QString &devId) {
+            return m_model->index(m_model->rowOf(devId), DevicesModel::SerialNumber).data(Qt::EditRole).toString();
+        };
+        QHash<QString, QString> before;
+        for (const QString &devId : qAsConst(selected.devIds))
+            before.insert(devId, serialNumber(devId));
         m_model->loadDevices();
+        // Nobody has selected what another inventory has under the same identifier.
+        selected.devIds.erase(
+            std::remove_if(selected.devIds.begin(), selected.devIds.end(),
+                           [&](const QString &devId) { return serialNumber(devId) != before.value(devId); }),
+            selected.devIds.end());
         m_filter->refresh();
         select(selected);
         m_outdated = 0;

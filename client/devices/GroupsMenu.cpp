@@ -1,5 +1,6 @@
 #include "client/devices/GroupsMenu.h"
 
+#include "client/common/Question.h"
 #include "journal/HistoryRows.h"
 
 #include <orda_base/SortOrder.h>
@@ -9,8 +10,6 @@
 #include <QInputDialog>
 #include <QLocale>
 #include <QMap>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include <algorithm>
 
@@ -150,19 +149,16 @@ void GroupsMenu::save(const QStringList &devIds)
 
 void GroupsMenu::askBeforeForgetting(const QString &name)
 {
-    auto *question =
-        new QMessageBox(QMessageBox::Question, tr("Forget selection"), {}, QMessageBox::Cancel, parentWidget());
-    question->setObjectName(QStringLiteral("forgetQuestion"));
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    question->setTextFormat(Qt::PlainText);
-    question->setText(
-        tr("Forget the saved selection \"%1\"? Its devices stay as they are.").arg(vms_sdk::displayText(name)));
-    const QPushButton *forget = question->addButton(tr("&Forget"), QMessageBox::DestructiveRole);
-    connect(forget, &QPushButton::clicked, this, [this, name] {
+    const Question question{
+        "forgetQuestion",
+        tr("Forget selection"),
+        tr("Forget the saved selection \"%1\"? Its devices stay as they are.").arg(vms_sdk::displayText(name)),
+        {},
+        tr("&Forget")};
+    question.ask(parentWidget(), [this, name] {
         m_settings->setSelection(name, {});
         emit signalTold(tr("Forgot \"%1\".").arg(name));
     });
-    question->open();
 }
 
 } // namespace orda_client

@@ -18,8 +18,8 @@ using orda_journal::Outcome;
 
 namespace {
 
-constexpr int groupsWidth = 240;
-constexpr int devicesWidth = 900;
+constexpr int groupsWidth = 290;
+constexpr int devicesWidth = 1000;
 
 } // namespace
 
@@ -28,7 +28,7 @@ ChosenRunPane::ChosenRunPane(QWidget *parent)
     , m_model(new RunDeviceModel(this))
     , m_summary(new QLabel)
     , m_groups(new GroupList(tr("Failures by message")))
-    , m_devices(new SearchedTable(m_model, {19, 19, 16, 15, 26}, QStringLiteral("runDevices"), tr("Devices of the run"),
+    , m_devices(new SearchedTable(m_model, {16, 18, 15, 13, 18}, QStringLiteral("runDevices"), tr("Devices of the run"),
                                   tr("Searches names, serial numbers, addresses, messages and values")))
 {
     m_devices->view()->elideAtEnd({RunDeviceModel::Changes});

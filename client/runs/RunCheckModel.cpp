@@ -26,7 +26,7 @@ QStringList RunCheckModel::titles() const
             tr("Name"),
             tr("Serial number"),
             tr("IP address"),
-            m_kind == RunCheck::Verify ? tr("Written → now") : tr("Now → taken back"),
+            m_kind == RunCheck::Verify ? tr("Written → now") : tr("Now → after the undo"),
             tr("Note")};
 }
 

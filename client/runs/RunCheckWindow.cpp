@@ -1,9 +1,9 @@
 #include "client/runs/RunCheckWindow.h"
 
+#include "client/common/Question.h"
 #include "client/common/Widgets.h"
 #include "client/runs/RunCheckModel.h"
 #include "client/runs/RunJobs.h"
-#include "client/runs/RunQuestion.h"
 #include "client/runs/RunTargets.h"
 #include "client/session/ClientSession.h"
 #include "client/tables/CsvFile.h"
@@ -297,18 +297,19 @@ void RunCheckWindow::askToTakeBack()
                nullptr, m_devIds.size() - devIds.size()));
     if (m_check.force)
         lines.append(tr("What was changed since the run is written over, too."));
-    askBeforeRun(this, tr("Undo"), tr("Take the run back on %Ln device(s)?", nullptr, devIds.size()), lines,
-                 tr("Take back"), [this, devIds, force = m_check.force] {
-                     if (!m_outdated.isEmpty()) { // while the question was open
-                         orda_worker::SystemAssistant::instance().messageAlert(tr("Undo"), m_outdated);
-                         return;
-                     }
-                     const QString runId = m_jobs->takeBack(*m_check.run, devIds, force);
-                     if (runId.isEmpty())
-                         return;
-                     emit signalRunStarted(runId);
-                     close();
-                 });
+    const Question question{"runQuestion", tr("Undo"),
+                            tr("Undo the run on %Ln device(s)?", nullptr, devIds.size()), lines, tr("Undo")};
+    question.ask(this, [this, devIds, force = m_check.force] {
+        if (!m_outdated.isEmpty()) { // while the question was open
+            orda_worker::SystemAssistant::instance().messageAlert(tr("Undo"), m_outdated);
+            return;
+        }
+        const QString runId = m_jobs->takeBack(*m_check.run, devIds, force);
+        if (runId.isEmpty())
+            return;
+        emit signalRunStarted(runId);
+        close();
+    });
 }
 
 } // namespace orda_client

@@ -1,5 +1,6 @@
 #include "client/runs/RunsWindow.h"
 
+#include "client/common/Question.h"
 #include "client/common/Widgets.h"
 #include "client/form/Families.h"
 #include "client/form/FormTicks.h"
@@ -9,7 +10,6 @@
 #include "client/runs/RunComparisonWindow.h"
 #include "client/runs/RunJobs.h"
 #include "client/runs/RunListModel.h"
-#include "client/runs/RunQuestion.h"
 #include "client/runs/RunTargets.h"
 #include "client/session/ClientSession.h"
 #include "client/tables/SearchedTable.h"
@@ -225,8 +225,6 @@ void RunsWindow::takeRuns(const RunLines &runs)
         return;
     }
     select(row);
-    if (!std::exchange(m_isFocused, true))
-        m_runs->view()->setFocus(); // the arrow keys go through the runs
     const orda_journal::RunRow &now = m_model->line(row).run;
     const bool hasChanged = now.id != shown.run.id || now.ended != shown.run.ended
                          || now.isUnderWay != shown.run.isUnderWay || now.counts != shown.run.counts;
@@ -345,14 +343,15 @@ void RunsWindow::askToTryAgain()
             tr("Try again"), targets.refusal.isEmpty() ? lines.join(QLatin1Char('\n')) : targets.refusal);
         return;
     }
-    askBeforeRun(
-        this, tr("Try again"),
+    const Question question{
+        "runQuestion", tr("Try again"),
         tr("%1: configure %Ln device(s) again with the values of this run?", "parameters", count).arg(run->line.family),
-        lines, tr("Configure"), [this, run, asked = targets.selection.devIds] { // and none that was left out
-            const QString runId = m_jobs->tryAgain(*run, asked);
-            if (!runId.isEmpty())
-                m_wanted = runId;
-        });
+        lines, tr("Configure")};
+    question.ask(this, [this, run, asked = targets.selection.devIds] { // and none that was left out
+        const QString runId = m_jobs->tryAgain(*run, asked);
+        if (!runId.isEmpty())
+            m_wanted = runId;
+    });
 }
 
 void RunsWindow::check(RunCheck::Kind kind)

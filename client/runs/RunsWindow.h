@@ -71,7 +71,6 @@ private:
     orda_base::DelayedCall *m_progress;
     QString m_wanted; // the run to turn to; empty with m_wantsLatest: the latest
     bool m_wantsLatest = true;
-    bool m_isFocused = false; // once there are runs to go through
     bool m_isListing = false; // the list is being filled: what is selected meanwhile is not the user's choice
     QString m_chosen; // id of the run that is shown, or is being read
     bool m_isRunGoingOn; // in this program; a reading that keeps a run from beginning is told by the engine

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace orda_client {
 
@@ -133,6 +134,12 @@ void SearchedTable::showTableOrText()
     m_empty->setText(m_model->rowCount() > 0 ? tr("Nothing here fits the search and the choice above.")
                                              : vms_sdk::displayText(m_emptyText, QStringLiteral("\n")));
     m_stack->setCurrentWidget(m_filter->rowCount() > 0 ? static_cast<QWidget *>(m_view) : m_empty);
+    if (m_filter->rowCount() == 0 || std::exchange(m_hasHadRows, true))
+        return;
+    // A window opens before its rows are read, and so with the focus on what is there already.
+    const QWidget *focused = window()->focusWidget();
+    if (!focused || focused == m_choice)
+        m_view->setFocus();
 }
 
 void SearchedTable::update()

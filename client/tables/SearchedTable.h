@@ -80,6 +80,7 @@ private:
     TableView *m_view;
     QLabel *m_empty;
     QString m_emptyText;
+    bool m_hasHadRows = false;
 };
 
 } // namespace orda_client

@@ -124,12 +124,12 @@ struct RunsSite : QObject
     {
         const auto boxes = asker->findChildren<QMessageBox *>("runQuestion"); // earlier ones may still be going
         auto *box = boxes.isEmpty() ? nullptr : boxes.last();
-        question = box ? box->text() : QString("(none)");
+        question = box ? box->text() + '\n' + box->informativeText() : QString("(none)");
         if (box && QByteArray(with) == "write") {
-            child(box, "write")->click(); // at once, as the second click of a double click
-            if (!QTest::qWaitFor([&] { return child(box, "write")->isEnabled(); }) || !box->isVisible())
+            child(box, "confirm")->click(); // at once, as the second click of a double click
+            if (!QTest::qWaitFor([&] { return child(box, "confirm")->isEnabled(); }) || !box->isVisible())
                 question = "(answered before it could be read)";
-            child(box, "write")->click();
+            child(box, "confirm")->click();
         } else if (box) {
             box->reject();
         }
