@@ -1614,6 +1614,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
+    <name>orda_client::Question</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ReadingBar</name>
     <message>
         <source>&amp;Stop</source>
@@ -1872,12 +1879,12 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Geschrieben → jetzt</translation>
     </message>
     <message>
-        <source>Now → taken back</source>
-        <translation>Jetzt → zurückgenommen</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>Anmerkung</translation>
+    </message>
+    <message>
+        <source>Now → after the undo</source>
+        <translation>Jetzt → danach</translation>
     </message>
 </context>
 <context>
@@ -2018,17 +2025,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>Undo</source>
         <translation>Zurücknehmen</translation>
     </message>
-    <message numerus="yes">
-        <source>Take the run back on %Ln device(s)?</source>
-        <translation>
-            <numerusform>Den Lauf auf %Ln Gerät zurücknehmen?</numerusform>
-            <numerusform>Den Lauf auf %Ln Geräten zurücknehmen?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Take back</source>
-        <translation>Zurücknehmen</translation>
-    </message>
     <message>
         <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
         <translation>Seither hat ein Lauf begonnen, und Geräte können sich geändert haben. Drücken Sie „Erneut lesen“.</translation>
@@ -2040,6 +2036,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Takes the run back on the selected devices, or on all that are shown, where something goes back</source>
         <translation>Nimmt den Lauf auf den ausgewählten oder auf allen angezeigten Geräten zurück, wo etwas zurückgeht</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo the run on %Ln device(s)?</source>
+        <translation>
+            <numerusform>Den Lauf auf %Ln Gerät zurücknehmen?</numerusform>
+            <numerusform>Den Lauf auf %Ln Geräten zurücknehmen?</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1589,6 +1589,13 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
+    <name>orda_client::Question</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::ReadingBar</name>
     <message>
         <source>&amp;Stop</source>
@@ -1846,12 +1853,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>写入 → 现在</translation>
     </message>
     <message>
-        <source>Now → taken back</source>
-        <translation>现在 → 撤销后</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>备注</translation>
+    </message>
+    <message>
+        <source>Now → after the undo</source>
+        <translation>现在 → 撤销后</translation>
     </message>
 </context>
 <context>
@@ -1988,16 +1995,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>Undo</source>
         <translation>撤销</translation>
     </message>
-    <message numerus="yes">
-        <source>Take the run back on %Ln device(s)?</source>
-        <translation>
-            <numerusform>要在 %Ln 台设备上撤销此运行吗？</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Take back</source>
-        <translation>撤销</translation>
-    </message>
     <message>
         <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
         <translation>之后已开始一次运行，设备可能已更改。请按“重新读取”。</translation>
@@ -2009,6 +2006,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Takes the run back on the selected devices, or on all that are shown, where something goes back</source>
         <translation>在所选设备（或显示的、有内容可撤销的所有设备）上撤销此运行</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo the run on %Ln device(s)?</source>
+        <translation>
+            <numerusform>要在 %Ln 台设备上撤销此运行吗？</numerusform>
+        </translation>
     </message>
 </context>
 <context>
