@@ -135,7 +135,7 @@ def undo(client, runs, plan):
     going_back = devices(plan.done + 1)
     act(find(window, "push button", re.compile(f"Undo on {going_back}…"), state="ENABLED"), "Press")
     question = find(client, "alert", "Undo")
-    find(question, "label", re.compile(rf"Undo the run on {going_back}\?))
+    find(question, "label", re.compile(rf"Undo the run on {going_back}\?"))
     act(find(question, "push button", "Undo", state="ENABLED"), "Press")
 
 
