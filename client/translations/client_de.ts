@@ -1538,11 +1538,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>No device is ticked in the list. Tick the devices, then press &quot;Preview again&quot;.</source>
         <translation>In der Liste ist kein Gerät angehakt. Haken Sie die Geräte an, und drücken Sie dann „Vorschau erneuern“.</translation>
     </message>
-    <message>
-        <source>%1: %2 to %3, as of %4. Nothing was written.</source>
-        <comment>page, parameters, devices, time</comment>
-        <translation>%1: %2 auf %3, Stand %4. Es wurde nichts geschrieben.</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln parameter(s)</source>
         <translation>
@@ -1607,6 +1602,22 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>Sho&amp;w</source>
         <translation>&amp;Anzeigen</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3, as of %4. A preview writes nothing.</source>
+        <comment>page, parameters, devices, time</comment>
+        <translation>%1: %2 auf %3, Stand %4. Eine Vorschau schreibt nichts.</translation>
+    </message>
+    <message>
+        <source>The search is on. All devices that change would be configured, and not only those that are shown: clear the search first.</source>
+        <translation>Die Suche ist an. Alle Geräte, die sich ändern, würden konfiguriert, nicht nur die angezeigten: Leeren Sie zuerst die Suche.</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::Question</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1868,12 +1879,12 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Geschrieben → jetzt</translation>
     </message>
     <message>
-        <source>Now → taken back</source>
-        <translation>Jetzt → zurückgenommen</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>Anmerkung</translation>
+    </message>
+    <message>
+        <source>Now → after the undo</source>
+        <translation>Jetzt → danach</translation>
     </message>
 </context>
 <context>
@@ -1939,10 +1950,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>&amp;Read again</source>
         <translation>Erneut &amp;lesen</translation>
-    </message>
-    <message>
-        <source>Takes the run back on the selected devices, or on all, where something goes back</source>
-        <translation>Nimmt den Lauf auf den ausgewählten oder auf allen Geräten zurück, wo etwas zurückgeht</translation>
     </message>
     <message>
         <source>&amp;Export CSV…</source>
@@ -2018,17 +2025,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>Undo</source>
         <translation>Zurücknehmen</translation>
     </message>
-    <message numerus="yes">
-        <source>Take the run back on %Ln device(s)?</source>
-        <translation>
-            <numerusform>Den Lauf auf %Ln Gerät zurücknehmen?</numerusform>
-            <numerusform>Den Lauf auf %Ln Geräten zurücknehmen?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Take back</source>
-        <translation>Zurücknehmen</translation>
-    </message>
     <message>
         <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
         <translation>Seither hat ein Lauf begonnen, und Geräte können sich geändert haben. Drücken Sie „Erneut lesen“.</translation>
@@ -2036,6 +2032,17 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
         <translation>Der Bestand hat sich seither geändert. Drücken Sie „Erneut lesen“.</translation>
+    </message>
+    <message>
+        <source>Takes the run back on the selected devices, or on all that are shown, where something goes back</source>
+        <translation>Nimmt den Lauf auf den ausgewählten oder auf allen angezeigten Geräten zurück, wo etwas zurückgeht</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo the run on %Ln device(s)?</source>
+        <translation>
+            <numerusform>Den Lauf auf %Ln Gerät zurücknehmen?</numerusform>
+            <numerusform>Den Lauf auf %Ln Geräten zurücknehmen?</numerusform>
+        </translation>
     </message>
 </context>
 <context>

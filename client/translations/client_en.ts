@@ -260,10 +260,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Take the run back on %Ln device(s)?</source>
+        <source>Undo the run on %Ln device(s)?</source>
         <translation>
-            <numerusform>Take the run back on %Ln device?</numerusform>
-            <numerusform>Take the run back on %Ln devices?</numerusform>
+            <numerusform>Undo the run on %Ln device?</numerusform>
+            <numerusform>Undo the run on %Ln devices?</numerusform>
         </translation>
     </message>
 </context>

@@ -1517,11 +1517,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>No device is ticked in the list. Tick the devices, then press &quot;Preview again&quot;.</source>
         <translation>列表中没有勾选设备。请勾选设备，然后按“重新预览”。</translation>
     </message>
-    <message>
-        <source>%1: %2 to %3, as of %4. Nothing was written.</source>
-        <comment>page, parameters, devices, time</comment>
-        <translation>%1：%2，%3，截至 %4。未写入任何内容。</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln parameter(s)</source>
         <translation>
@@ -1582,6 +1577,22 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>Sho&amp;w</source>
         <translation>显示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3, as of %4. A preview writes nothing.</source>
+        <comment>page, parameters, devices, time</comment>
+        <translation>%1：%2，%3，截至 %4。预览不写入任何内容。</translation>
+    </message>
+    <message>
+        <source>The search is on. All devices that change would be configured, and not only those that are shown: clear the search first.</source>
+        <translation>搜索正在使用中。将配置所有会更改的设备，而不只是显示的设备：请先清除搜索。</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::Question</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -1842,12 +1853,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>写入 → 现在</translation>
     </message>
     <message>
-        <source>Now → taken back</source>
-        <translation>现在 → 撤销后</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>备注</translation>
+    </message>
+    <message>
+        <source>Now → after the undo</source>
+        <translation>现在 → 撤销后</translation>
     </message>
 </context>
 <context>
@@ -1913,10 +1924,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>&amp;Read again</source>
         <translation>重新读取(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Takes the run back on the selected devices, or on all, where something goes back</source>
-        <translation>在所选设备（或所有有内容可撤销的设备）上撤销此运行</translation>
     </message>
     <message>
         <source>&amp;Export CSV…</source>
@@ -1988,16 +1995,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>Undo</source>
         <translation>撤销</translation>
     </message>
-    <message numerus="yes">
-        <source>Take the run back on %Ln device(s)?</source>
-        <translation>
-            <numerusform>要在 %Ln 台设备上撤销此运行吗？</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Take back</source>
-        <translation>撤销</translation>
-    </message>
     <message>
         <source>A run has begun since, and devices may have changed. Press &quot;Read again&quot;.</source>
         <translation>之后已开始一次运行，设备可能已更改。请按“重新读取”。</translation>
@@ -2005,6 +2002,16 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>The inventory has changed since. Press &quot;Read again&quot;.</source>
         <translation>清单之后有变化。请按“重新读取”。</translation>
+    </message>
+    <message>
+        <source>Takes the run back on the selected devices, or on all that are shown, where something goes back</source>
+        <translation>在所选设备（或显示的、有内容可撤销的所有设备）上撤销此运行</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo the run on %Ln device(s)?</source>
+        <translation>
+            <numerusform>要在 %Ln 台设备上撤销此运行吗？</numerusform>
+        </translation>
     </message>
 </context>
 <context>
