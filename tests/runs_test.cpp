@@ -226,8 +226,16 @@ private slots:
         QTRY_VERIFY(child(undo, "takeBack")->isEnabled());
     }
 
+    void jobOutlivesTheWindow_data()
+    {
+        columns<bool>({"isStopped"});
+        row("closed meanwhile", false);
+        row("stopped from here", true);
+    }
+
     void jobOutlivesTheWindow()
     {
+        QFETCH(bool, isStopped);
         RunsSite site;
         const QString run = site.run("{'aiGain': 33}", site.devIds);
         QVERIFY(site.open(run));
@@ -239,9 +247,12 @@ private slots:
         site.answer(site.window);
         QTRY_VERIFY(site.session.journal()->isBusy());
         QVERIFY(!child(site.window, "undo")->isEnabled()); // a run is going on
-        site.window->close();
+        if (isStopped)
+            child(site.window, "stopRunUnderWay")->click();
+        else
+            site.window->close();
         QVERIFY(recorded.wait());
-        QCOMPARE(site.runs().constFirst().counts.value(Outcome::Unchanged), 6);
+        QCOMPARE(site.runs().constFirst().counts.value(isStopped ? Outcome::Stopped : Outcome::Unchanged), 6);
     }
 
     void whatTheEngineRefusesIsSaid()

@@ -95,6 +95,9 @@ QAction *ClientMenus::add(QMenu *menu, const char *name, const QString &text, co
     QAction *action = menu->addAction(text);
     action->setObjectName(QLatin1String(name));
     action->setShortcut(shortcut);
+    // F1 to F9 open a window from any other; the rest is for the window with the menus.
+    if (shortcut.count() == 1 && shortcut[0] >= Qt::Key_F1 && shortcut[0] <= Qt::Key_F35)
+        action->setShortcutContext(Qt::ApplicationShortcut);
     return action;
 }
 

@@ -134,7 +134,18 @@ QWidget *RunsWindow::buildLine()
     m_line->setObjectName(QStringLiteral("runsLine"));
     m_line->setTextFormat(Qt::PlainText);
     m_line->setWordWrap(true);
-    return m_line;
+    m_stop = styledButton(tr("&Stop the run"), "stopRunUnderWay");
+    m_stop->setToolTip(tr("What has not left yet is not sent; what has been written stays written"));
+    connect(m_stop, &QPushButton::clicked, this, [this] {
+        if (auto *journal = m_session->journal())
+            journal->stop();
+    });
+    auto *line = new QWidget;
+    auto *layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_line, 1);
+    layout->addWidget(m_stop);
+    return line;
 }
 
 QWidget *RunsWindow::buildButtons()
@@ -314,6 +325,7 @@ void RunsWindow::updateView()
     const bool isWritten = isFree && !writtenDevices().isEmpty();
     m_line->setText(lineText());
     m_line->setVisible(!m_line->text().isEmpty());
+    m_stop->setVisible(m_isRunGoingOn);
     m_tryAgain->setText(again > 0 ? tr("&Try again on %Ln device(s)…", nullptr, again) : tr("&Try again…"));
     m_tryAgain->setEnabled(isFree && again > 0);
     m_verify->setEnabled(isWritten);

@@ -79,6 +79,7 @@ private:
     SearchedTable *m_runs = nullptr;
     ChosenRunPane *m_pane = nullptr;
     QLabel *m_line = nullptr;
+    QPushButton *m_stop = nullptr; // this window may cover what the main window has for it
     QPushButton *m_tryAgain = nullptr;
     QPushButton *m_verify = nullptr;
     QPushButton *m_undo = nullptr;

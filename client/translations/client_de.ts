@@ -2755,6 +2755,14 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <source>A run is going on.</source>
         <translation>Ein Lauf ist im Gange.</translation>
     </message>
+    <message>
+        <source>&amp;Stop the run</source>
+        <translation>Lau&amp;f stoppen</translation>
+    </message>
+    <message>
+        <source>What has not left yet is not sent; what has been written stays written</source>
+        <translation>Was noch nicht unterwegs ist, wird nicht gesendet; was geschrieben ist, bleibt</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::SearchedTable</name>

@@ -2706,6 +2706,14 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <source>A run is going on.</source>
         <translation>运行正在进行。</translation>
     </message>
+    <message>
+        <source>&amp;Stop the run</source>
+        <translation>停止运行(&amp;B)</translation>
+    </message>
+    <message>
+        <source>What has not left yet is not sent; what has been written stays written</source>
+        <translation>尚未发出的不再发送；已写入的保持不变</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::SearchedTable</name>
