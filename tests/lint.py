@@ -77,13 +77,13 @@ def key(build, source):
 
 
 def flags(build, source):
-    """How the file is compiled, without the compiler and what names it and its result."""
+    """How the file is compiled, without the compiler, its plug-ins, and what names it and its result."""
     arguments = iter(shlex.split(build.commands[str(source)][0]["command"]))
     kept = []
     for argument in arguments:
-        if argument == "-o":
+        if argument in ("-o", "-Xclang", "-MT", "-MF"):
             next(arguments)
-        elif argument not in ("-c", str(source)):
+        elif argument not in ("-c", "-MD", str(source)) and not argument.startswith("-fsanitize"):
             kept.append(argument)
     return tuple(kept[next(place for place, argument in enumerate(kept) if argument.startswith("-")):])
 
@@ -100,7 +100,7 @@ def lint(build, how, sources):
     """Those of the files that have findings; prints these."""
     before = [key(build, source) for source in sources]
     if len(sources) == 1:
-        command = [*TOOL, "-p", build.directory, sources[0]]
+        command = [*TOOL, sources[0], "--", *how]
     else:
         # In the tree, so that .clang-tidy is found.
         with tempfile.NamedTemporaryFile("w", dir=build.directory, prefix="together.", suffix=".cpp", delete=False) as together:
