@@ -187,7 +187,7 @@ private slots:
         orda_data::DevsMgrData::instance().updateDevs({own});
         QTRY_VERIFY(orda_engine::reachOf(own.id).canBeWritten);
         site.written.clear();
-        site.answer(site.window);
+        site.answer(site.window, "write later");
         QVERIFY2(site.question.contains("configure 1 device(s)"), qPrintable(site.question));
         QTRY_COMPARE(column(site.window, "runs", 0).size(), 2);
         QTRY_VERIFY(!site.jobs.isWriting());

@@ -125,8 +125,9 @@ struct RunsSite : QObject
         const auto boxes = asker->findChildren<QMessageBox *>("runQuestion"); // earlier ones may still be going
         auto *box = boxes.isEmpty() ? nullptr : boxes.last();
         question = box ? box->text() + '\n' + box->informativeText() : QString("(none)");
-        if (box && QByteArray(with) == "write") {
-            child(box, "confirm")->click(); // at once, as the second click of a double click
+        if (box && QByteArray(with).startsWith("write")) {
+            if (QByteArray(with) == "write")
+                child(box, "confirm")->click(); // at once, as the second click of a double click
             if (!QTest::qWaitFor([&] { return child(box, "confirm")->isEnabled(); }) || !box->isVisible())
                 question = "(answered before it could be read)";
             child(box, "confirm")->click();
