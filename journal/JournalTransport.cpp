@@ -25,6 +25,7 @@ JournalTransport::JournalTransport(std::unique_ptr<vms_sdk::DeviceTransport> tra
             Qt::DirectConnection);
     connect(m_transport.get(), &DeviceTransport::linkTroubled, this, &DeviceTransport::linkTroubled,
             Qt::DirectConnection);
+    connect(m_transport.get(), &DeviceTransport::identified, this, &DeviceTransport::identified, Qt::DirectConnection);
     connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalRequestTimeout, this,
             &JournalTransport::handleTimeout);
     if (m_history) {
@@ -39,6 +40,11 @@ JournalTransport::~JournalTransport()
     m_transport.reset(); // nothing is answered any more
     end();
     m_history.reset(); // now, as it may still tell that it cannot be written
+}
+
+void JournalTransport::setRequestTimeout(std::chrono::milliseconds timeout)
+{
+    m_transport->setRequestTimeout(timeout);
 }
 
 QString JournalTransport::takeTurn(Turn turn, Owner owner)

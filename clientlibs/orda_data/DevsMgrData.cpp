@@ -21,6 +21,8 @@ DevsMgrData::DevsMgrData()
             &DevsMgrData::setDevStatus);
     connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalDevTroubled, this,
             &DevsMgrData::setDevTrouble);
+    connect(&vms_sdk::ClientSignals::instance(), &vms_sdk::ClientSignals::signalDevIdentified, this,
+            &DevsMgrData::setSerialNumber);
 }
 
 QList<DevInfo> DevsMgrData::getAllDevs(bool onlineOnly) const
@@ -101,6 +103,13 @@ void DevsMgrData::setDevTrouble(const QString &devId, const vms_sdk::LinkTrouble
     const auto known = m_index.constFind(devId);
     if (known != m_index.constEnd())
         m_entries[*known].trouble = trouble;
+}
+
+void DevsMgrData::setSerialNumber(const QString &devId, const QString &serialNumber)
+{
+    const auto known = m_index.constFind(devId);
+    if (known != m_index.constEnd() && m_entries.at(*known).info.serialNumber.isEmpty())
+        m_entries[*known].info.serialNumber = serialNumber;
 }
 
 const DevsMgrData::Entry *DevsMgrData::find(const QString &devId) const

@@ -45,6 +45,9 @@ public:
     void setDevStatus(const QString &devId, vms_sdk::DevStatus status);
     /// Ignores unknown ids. A device that comes online loses it.
     void setDevTrouble(const QString &devId, const vms_sdk::LinkTrouble &trouble);
+    /// Of a record that has none; others are left alone, as are unknown ids. Raises nothing: the device comes online
+    /// next.
+    void setSerialNumber(const QString &devId, const QString &serialNumber);
 
 private:
     DevsMgrData();

@@ -63,6 +63,8 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
             raise([=](ClientSignals &sdk) { emit sdk.signalDevStatusChanged(change->devId, change->status); });
         else if (const auto *news = std::get_if<Inbox::Trouble>(&item))
             raise([=](ClientSignals &sdk) { emit sdk.signalDevTroubled(news->devId, news->trouble); });
+        else if (const auto *identity = std::get_if<Inbox::Identity>(&item))
+            raise([=](ClientSignals &sdk) { emit sdk.signalDevIdentified(identity->devId, identity->serialNumber); });
     });
     // Direct, on the thread that raises them: the inbox carries them to this thread.
     QObject::connect(
@@ -83,12 +85,21 @@ void ClientSdk::setTransport(std::unique_ptr<DeviceTransport> transport)
             inbox->put(Inbox::Trouble{devId, trouble});
         },
         Qt::DirectConnection);
+    QObject::connect(
+        m_transport.get(), &DeviceTransport::identified, m_inbox.get(),
+        [inbox = m_inbox.get()](const QString &devId, const QString &serialNumber) {
+            inbox->put(Inbox::Identity{devId, serialNumber});
+        },
+        Qt::DirectConnection);
+    m_transport->setRequestTimeout(m_pending->timeout());
 }
 
 void ClientSdk::setRequestTimeout(std::chrono::milliseconds timeout)
 {
     m_pending->advanceTo(m_clock.elapsed());
     m_pending->setTimeout(timeout);
+    if (m_transport)
+        m_transport->setRequestTimeout(m_pending->timeout());
     if (m_timer.isActive())
         startTimer(); // the ticks are of another length now
 }

@@ -27,6 +27,8 @@ Q_SIGNALS:
     /// Why the device is not connected, right before its change to a state that is not online. Not every transport
     /// tells it. It holds until the next one, or until the device is online.
     void signalDevTroubled(const QString &devId, const vms_sdk::LinkTrouble &trouble);
+    /// A device whose record has no serial number has said its own; it is online next.
+    void signalDevIdentified(const QString &devId, const QString &serialNumber);
 
 private:
     ClientSignals();

@@ -14,7 +14,7 @@ namespace {
 auto fields(const DevInfo &d)
 {
     return std::tie(d.id, d.name, d.serialNumber, d.ip, d.ipNumber, d.port, d.userName, d.password, d.accessCode,
-                    d.kindCode, d.group, d.path, d.tls, d.url, d.fingerprint);
+                    d.kindCode, d.group, d.protocol, d.path, d.tls, d.url, d.fingerprint);
 }
 
 } // namespace

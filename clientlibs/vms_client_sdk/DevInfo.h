@@ -23,12 +23,20 @@ enum DevStatus
 /// True for the three online states.
 VMS_CLIENT_SDK_EXPORT bool isOnlineStatus(DevStatus status);
 
+/// How a device is spoken to.
+enum class DevProtocol
+{
+    Vms, ///< our own: docs/device-protocol.md
+    Onvif ///< docs/onvif.md
+};
+
 /// One device of the site. Plain data; an unknown device is the record with an empty id.
 struct DevInfo
 {
     QString id; ///< key of everything, never empty for a real device
     QString name; ///< as the operator calls it, may be empty
     QString serialNumber; ///< what the device must say at sign-on; empty: any is taken
+                          ///< (an ONVIF device's own is filled in when it has signed on)
     QString ip; ///< IPv4 text; empty for devices that are reached through a relay only
     quint32 ipNumber = 0; ///< the same address as a number in host byte order, for sorting; 0 without one
     quint16 port = 0;
@@ -37,8 +45,9 @@ struct DevInfo
     int accessCode = 0; ///< 1: reached directly by this SDK
     int kindCode = 0; ///< 1: camera, 6: recorder
     QString group; ///< such as its place at the site, to select devices by; may be empty
-    QString path = QStringLiteral("/"); ///< of the WebSocket address
-    bool tls = false; ///< wss:// instead of ws://
+    DevProtocol protocol = DevProtocol::Vms;
+    QString path = QStringLiteral("/"); ///< of the WebSocket address, or of the device service of ONVIF
+    bool tls = false; ///< wss:// instead of ws://, https:// instead of http://
     QString url; ///< dialled instead of ip, port, path and tls where it is given
     QString
         fingerprint; ///< SHA-256 of the device's certificate, hexadecimal with or without colons; empty: the CAs decide

@@ -11,4 +11,6 @@ DeviceTransport::~DeviceTransport() = default;
 
 void DeviceTransport::passedOn(const QString &, const QString &) { }
 
+void DeviceTransport::setRequestTimeout(std::chrono::milliseconds) { }
+
 } // namespace vms_sdk

@@ -35,7 +35,11 @@ public:
         QString devId;
         LinkTrouble trouble;
     };
-    using Item = std::variant<Answer, StatusChange, Trouble>;
+    struct Identity
+    {
+        QString devId, serialNumber;
+    };
+    using Item = std::variant<Answer, StatusChange, Trouble, Identity>;
 
     /// @param consumer called on the thread of this object, from its event loop. It may delete this object, and may
     /// wait in an event loop of its own: the items after it are then passed on from there.

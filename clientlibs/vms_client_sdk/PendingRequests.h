@@ -19,6 +19,7 @@ class PendingRequests
 public:
     /// For requests and renewals from now on; at least 1 ms.
     void setTimeout(std::chrono::milliseconds timeout);
+    std::chrono::milliseconds timeout() const { return std::chrono::milliseconds(m_timeout); }
 
     /// The time that add(), renew() and takeDue() go by, until the next call.
     void advanceTo(qint64 now);

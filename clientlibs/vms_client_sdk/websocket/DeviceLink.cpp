@@ -1,6 +1,7 @@
 #include <vms_client_sdk/websocket/DeviceLink.h>
 
 #include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/DeviceTls.h>
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Logging.h>
 #include <vms_client_sdk/websocket/AnswerCheck.h>
@@ -10,13 +11,7 @@
 #include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRandomGenerator>
-#include <QSslCipher>
-#include <QSslConfiguration>
-#include <QSslEllipticCurve>
 #include <QSslSocket>
-
-#include <algorithm>
 
 namespace vms_sdk {
 
@@ -29,36 +24,6 @@ constexpr int maxRequestIds = 64;
 // When a device that sent too much has kept its limits for so long, the pause before it is dialled again is short
 // again.
 constexpr std::chrono::minutes goodBehaviour{1};
-
-/// A random pause, the longest possible one growing with the losses: devices that were lost together are not dialled
-/// again at the same time.
-std::chrono::milliseconds backOff(const WebSocketOptions &options, int losses)
-{
-    const qint64 first = options.firstBackOff.count();
-    const qint64 longest = qMin<qint64>(options.lastBackOff.count(), first << qMin(losses, 20));
-    return std::chrono::milliseconds(first
-                                     + qint64(double(longest - first) * QRandomGenerator::global()->generateDouble()));
-}
-
-/// TLS 1.2 or newer, with keys exchanged over elliptic curves. With plain Diffie-Hellman the device would choose the
-/// numbers before it has shown who it is, and large ones block the thread that all devices share for a second.
-QSslConfiguration deviceTls()
-{
-    static const QList<QSslCipher> ciphers = [] {
-        QList<QSslCipher> list = QSslConfiguration::supportedCiphers();
-        const auto isPlain = [](const QSslCipher &c) { return c.keyExchangeMethod().startsWith(QLatin1String("DH")); };
-        list.erase(std::remove_if(list.begin(), list.end(), isPlain), list.end());
-        return list;
-    }();
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    tls.setProtocol(QSsl::TlsV1_2OrLater);
-    tls.setCiphers(ciphers);
-    // Naming the curves leaves out the other groups of TLS 1.3, among which are such numbers too.
-    tls.setEllipticCurves({QSslEllipticCurve::fromShortName(QStringLiteral("prime256v1")),
-                           QSslEllipticCurve::fromShortName(QStringLiteral("secp384r1")),
-                           QSslEllipticCurve::fromShortName(QStringLiteral("secp521r1"))});
-    return tls;
-}
 
 } // namespace
 
@@ -358,7 +323,7 @@ void DeviceLink::lost(TroubleReason reason, const QString &why)
     ++m_losses;
     setTrouble(reason, why);
     rest(DevOffline, goingAwayCloseCode);
-    m_host.setDeadline(this, backOff(m_host.options(), m_losses + m_cuts));
+    m_host.setDeadline(this, randomBackOff(m_host.options().firstBackOff, m_host.options().lastBackOff, m_losses + m_cuts));
 }
 
 void DeviceLink::cut(const QString &why)

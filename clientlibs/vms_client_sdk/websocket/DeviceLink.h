@@ -3,7 +3,7 @@
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/LinkTrouble.h>
 #include <vms_client_sdk/websocket/ClientSignOn.h>
-#include <vms_client_sdk/websocket/PinnedCertificate.h>
+#include <vms_client_sdk/PinnedCertificate.h>
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <vms_client_sdk/WebSocketOptions.h>
-#include <vms_client_sdk/websocket/Backlog.h>
+#include <vms_client_sdk/Backlog.h>
 
 #include <QElapsedTimer>
 #include <QHash>

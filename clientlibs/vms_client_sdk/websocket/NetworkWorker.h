@@ -2,7 +2,7 @@
 
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/WebSocketOptions.h>
-#include <vms_client_sdk/websocket/StatusChanges.h>
+#include <vms_client_sdk/StatusChanges.h>
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include <vms_client_sdk/websocket/Backlog.h>
+#include <vms_client_sdk/Backlog.h>
 
 namespace vms_sdk {
 

@@ -1,4 +1,4 @@
-#include <vms_client_sdk/websocket/StatusChanges.h>
+#include <vms_client_sdk/StatusChanges.h>
 
 namespace vms_sdk {
 

@@ -1,4 +1,4 @@
-#include <vms_client_sdk/websocket/PinnedCertificate.h>
+#include <vms_client_sdk/PinnedCertificate.h>
 
 #include <vms_client_sdk/DeviceProtocol.h>
 

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <vms_client_sdk/onvif/CameraCalls.h>
+
+#include <QJsonObject>
+#include <QObject>
+
+namespace vms_sdk {
+
+/// One request of a task, carried out at one camera: a read asks for what the family's keys need; a write asks for it
+/// anew, sets what differs, one configuration after the other, and stops at the first that is refused. Lives in the
+/// network thread; finished() is its last act, and its owner deletes it.
+///
+/// Answers have the shape of the device protocol: "method", "error" with "errorcode" (0, or an OnvifCode), and
+///  - after a read "result": what the device holds, in the family's keys;
+///  - after a write "result": the members that were written, as the device holds them now, those included that changed
+///    with others, such as the text of a screen text that was deleted; in the shape of a read's result, lists with the
+///    entries concerned;
+///  - after a write "dropped", where there are any: names of members that the device has no counterpart for;
+///  - in "error", with a code: "message", a printable line in English that says what the device or the network said;
+///  - in "error", "unanswered": true where a write has left and nobody knows whether the device took it.
+class OnvifRequest : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param calls of the camera; must outlive this
+    /// @param request as a task sends it: "method" and, depending on the method, "param"
+    OnvifRequest(CameraCalls &calls, const QJsonObject &request, QObject *parent = nullptr);
+    ~OnvifRequest() override;
+
+    void start(); ///< to be called once; may finish at once
+    /// Time is up: nothing more is sent, and it finishes at once with what it has.
+    void endNow();
+
+signals:
+    void finished(const QJsonObject &answer); ///< once
+};
+
+} // namespace vms_sdk
