@@ -76,8 +76,12 @@ struct XmlRead
 
 /// How deeply elements may be nested: answers of cameras stay under 20.
 inline constexpr int maxXmlDepth = 64;
+/// The largest answers, the profiles of a recorder with 64 channels, have about 10,000.
+inline constexpr int maxXmlElements = 50'000;
+/// Of one element. Qt compares each with all others: ten thousands of them would hold up all devices for minutes.
+inline constexpr int maxXmlAttributes = 1'000;
 
-/// Reads a whole document. Document types and entities of its own are refused, as are more levels than maxXmlDepth.
+/// Reads a whole document. Document types and entities of its own are refused, and what is beyond the limits above.
 XmlRead readXml(const QByteArray &document);
 
 /// A part of a document with all declarations that are in force where it stands, so that it keeps its meaning, names in
@@ -85,7 +89,11 @@ XmlRead readXml(const QByteArray &document);
 /// @param path from the root to the part: each a child of the one before
 XmlElement detached(const std::vector<const XmlElement *> &path);
 
-/// Writes a document, in UTF-8.
+/// Whether XML can carry the text: it has no control characters and no half characters.
+bool isXmlText(const QString &text);
+
+/// Writes a document, in UTF-8. Where an element's own prefix does not stand for its namespace, a declaration is made.
+/// All texts in it must be isXmlText().
 QByteArray writeXml(const XmlElement &root);
 
 } // namespace vms_sdk
