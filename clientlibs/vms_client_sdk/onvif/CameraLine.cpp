@@ -51,6 +51,14 @@ CameraLine::Reply replyFrom(const HttpAnswer &http)
     return reply;
 }
 
+/// As the request line has them.
+QByteArray pathAndQuery(const QUrl &url)
+{
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    const QByteArray query = url.hasQuery() ? '?' + url.query(QUrl::FullyEncoded).toLatin1() : QByteArray();
+    return (path.isEmpty() ? QByteArray("/") : path) + query;
+}
+
 /// Invalid unless the camera says the whole time in UTC: what its other times mean depends on settings of its own.
 QDateTime clockFrom(const XmlElement &answer)
 {
@@ -149,8 +157,7 @@ void CameraLine::send(Request request)
         token = makeUsernameToken(m_userName, m_password, QDateTime::currentDateTimeUtc().addMSecs(m_clockOffset));
     } else if (request.scheme == Scheme::Digest) {
         request.isNonceFresh = std::exchange(m_isNonceFresh, false);
-        const QUrl uri = http.url.adjusted(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
-        http.authorization = m_digest->authorization(m_userName, m_password, uri.toEncoded());
+        http.authorization = m_digest->authorization(m_userName, m_password, pathAndQuery(http.url));
     }
     http.body = soapRequest(request.operation, token);
     m_exchanges.post(http, request.owner, [this, request](const HttpAnswer &answer) { onAnswer(request, answer); });
