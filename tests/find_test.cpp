@@ -2,6 +2,7 @@
 #include "support/Store.h"
 
 #include "client/app/ClientWindow.h"
+#include "client/find/FoundModel.h"
 #include "client/session/ClientSession.h"
 #include "client/settings/ClientSettings.h"
 
@@ -101,9 +102,9 @@ private slots:
                      camera("10.0.0.3", "https://10.0.0.3:8443/onvif/a%20b"), camera("10.0.0.4", "http://cam.example/"),
                      camera("10.0.0.5", "http://10.9.9.9/"), camera("10.0.0.6", "http://gate.example:81/onvif")});
         QCOMPARE(finder.cell(0, 0), QString("Gate\uFFFD\u21B5<b>"));
-        QCOMPARE(finder.cell(4, 4), QString("says that it is at http://10.9.9.9/"));
+        QCOMPARE(finder.cell(4, FoundModel::Address), QString("says that it is at http://10.9.9.9/"));
         for (const int known : {1, 5}) {
-            QCOMPARE(finder.cell(known, 5), QString("in the inventory already"));
+            QCOMPARE(finder.cell(known, FoundModel::State), QString("in the inventory already"));
             QVERIFY(!finder.tick(known).isValid());
         }
         QVERIFY(!finder.child("addFound")->isEnabled() && finder.child("certificates")->isVisible());
@@ -118,7 +119,7 @@ private slots:
         finder.press("addFound");
         QCOMPARE(readInventory(finder.site).devices.size(), 2);
         const QString asked = finder.confirm();
-        QVERIFY2(asked.startsWith("Add 4 camera(s)") && asked.contains("10.0.0.5 answered, and says that it is at"),
+        QVERIFY2(asked.startsWith("Add 4 camera(s)") && asked.contains("10.0.0.5 answered and says that it is at"),
                  qPrintable(asked));
 
         QVERIFY2(finder.alert().isEmpty(), qPrintable(finder.alert()));
@@ -140,7 +141,7 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
         QVERIFY2(text.contains("\"floor\"") && text.contains("\"north\""), text); // nobody here knows them
-        QVERIFY(!finder.tick(0).isValid() && finder.cell(0, 5) == "in the inventory already");
+        QVERIFY(!finder.tick(0).isValid() && finder.cell(0, FoundModel::State) == "in the inventory already");
     }
 
     void whatCannotBeAddedIsTold_data()
@@ -195,7 +196,7 @@ private slots:
         finder.press("addFound");
         finder.confirm();
         const QString fresh = finder.place.filePath("fresh.json");
-        auto *dialog = finder.child<QFileDialog>("");
+        auto *dialog = finder.window.findChild<QFileDialog *>();
         dialog->findChild<QLineEdit *>("fileNameEdit")->setText(fresh);
         static_cast<QDialog *>(dialog)->accept();
         QCOMPARE(readInventory(fresh).devices.value(0).name, QString("Hall"));

@@ -76,7 +76,7 @@ FindWindow::FindWindow(ClientSession *session, ClientSettings *settings, QWidget
 void FindWindow::buildTable()
 {
     m_table = new SearchedTable(
-        m_model, {30, 22, 26, 16, 48, 20}, QStringLiteral("found"), tr("Cameras"),
+        m_model, {26, 22, 44, 16, 20, 20}, QStringLiteral("found"), tr("Cameras"),
         tr("Searches all columns (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     m_table->view()->sortByColumn(-1, Qt::AscendingOrder); // as they come, so that no row moves while they do
     m_table->view()->elideAtEnd({FoundModel::Name, FoundModel::Address});
@@ -88,7 +88,7 @@ void FindWindow::buildTable()
     m_interface->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     auto *caption = new QLabel(tr("&Network interface"));
     caption->setBuddy(m_interface);
-    m_search = styledButton(tr("&Search"), "startSearch");
+    m_search = styledButton(tr("&Find"), "startSearch");
     m_search->setToolTip(tr("Asks all ONVIF cameras of the local network to answer; nothing is sent before"));
     m_table->addBefore(caption);
     m_table->addBefore(m_interface);
@@ -225,7 +225,7 @@ QVector<int> FindWindow::tickedRows() const
 
 void FindWindow::updateTexts()
 {
-    m_search->setText(m_isSearching ? tr("&Stop") : tr("&Search"));
+    m_search->setText(m_isSearching ? tr("&Stop") : tr("&Find"));
     m_interface->setEnabled(!m_isSearching);
     if (m_isSearching)
         m_table->setEmptyText(tr("Searching…"));
@@ -233,7 +233,7 @@ void FindWindow::updateTexts()
         m_table->setEmptyText(tr("No camera has answered. Cameras answer only within the same network, and only while "
                                  "their discovery (WS-Discovery) is switched on."));
     else
-        m_table->setEmptyText(tr("\"Search\" asks all ONVIF cameras of the local network to answer."));
+        m_table->setEmptyText(tr("\"Find\" asks all ONVIF cameras of the local network to answer."));
     const int shownTicks = tickedRows().size();
     int allTicks = 0;
     bool isAnyTls = false;
@@ -246,7 +246,7 @@ void FindWindow::updateTexts()
         parts.prepend(tr("Searching…"));
     if (allTicks > shownTicks)
         parts.append(tr("%Ln ticked but hidden by the search, and left out", "cameras", allTicks - shownTicks));
-    m_counts->setText(parts.join(QStringLiteral(", ")));
+    m_counts->setText(m_hasSearched || m_model->rowCount() > 0 ? parts.join(QStringLiteral(", ")) : QString());
     m_certificates->setVisible(isAnyTls);
     m_add->setEnabled(shownTicks > 0);
     m_tickNew->setEnabled(m_model->rowCount() > 0);
@@ -320,17 +320,20 @@ QStringList FindWindow::linesAbout(const QVector<int> &rows) const
         if (camera.isAtSender())
             others.append(name.isEmpty() ? address : tr("%1: %2", "a name and an address").arg(name, address));
         else
-            elsewhere.append(tr("%1 answered, and says that it is at %2").arg(camera.sender, address));
+            elsewhere.append(tr("%1 answered and says that it is at %2").arg(camera.sender, address));
     }
-    QStringList lines = elsewhere + others;
-    if (lines.size() > linesAsked) {
-        const int left = lines.size() - linesAsked;
-        lines = lines.mid(0, linesAsked);
-        lines.append(tr("and %Ln more", "cameras", left));
+    const auto beginningOf = [](const QStringList &all) {
+        const int left = all.size() - linesAsked;
+        return left > 0 ? QStringList(all.mid(0, linesAsked)) << tr("and %Ln more", "cameras", left) : all;
+    };
+    QStringList lines;
+    if (!elsewhere.isEmpty()) {
+        lines.append(tr("Whoever is at these addresses will be signed on to:"));
+        lines += beginningOf(elsewhere);
+        lines.append(QString());
     }
-    if (!elsewhere.isEmpty())
-        lines.prepend(tr("The account is shown to these addresses, whoever is there:"));
-    lines.append(QString());
+    if (!others.isEmpty())
+        lines += beginningOf(others) << QString();
     if (m_userName->text().isEmpty())
         lines.append(tr("Without a user name hardly any camera lets itself be configured."));
     const QString file = m_session->source().inventoryFile;

@@ -80,7 +80,7 @@ Qt::ItemFlags FoundModel::flags(const QModelIndex &index) const
 
 QStringList FoundModel::titles() const
 {
-    return {tr("Name"), tr("Hardware"), tr("Location"), tr("Answered from"), tr("Address"), tr("State")};
+    return {tr("Name"), tr("State"), tr("Address"), tr("Answered from"), tr("Hardware"), tr("Location")};
 }
 
 QString FoundModel::text(int row, int column) const

@@ -18,11 +18,11 @@ public:
     enum Column
     {
         Name,
+        State,
+        Address,
+        Sender,
         Hardware,
         Location,
-        Sender,
-        Address,
-        State,
         ColumnCount
     };
 
