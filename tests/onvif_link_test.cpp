@@ -252,7 +252,7 @@ private slots:
 
     void whatAnAccountMayNotDoIsItsCallersBusiness()
     {
-        for (const QString &scheme : {"MD5", "Token"}) {
+        for (const QString scheme : {"MD5", "Token"}) {
             ScriptedCamera camera(scheme);
             camera.schemes = QStringList(scheme);
             camera.forbidden.insert("SetDiscoveryMode");
