@@ -1,4 +1,4 @@
-#include "support/OrdaTest.h"
+#include "support/TextTable.h"
 
 #include <vms_client_sdk/onvif/DigestAuth.h>
 #include <vms_client_sdk/onvif/HttpExchanges.h>
@@ -10,16 +10,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QByteArray good = "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\ngood";
+constexpr char good[] = "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\ngood";
 
 /// A camera at the level of sockets: it counts what arrives, and sends what the test has it send.
 class Camera : public QTcpServer
 {
 public:
     QByteArray answer = good; ///< to each request
-    QByteArray endless; ///< sent again and again after it
-    bool closes = false; ///< after the answer, without having said so
-    bool drips = false; ///< a byte now and then follows the answer
+    QByteArray then = "stays"; ///< what follows: nothing, or as in the table
     QSslConfiguration tls;
     QByteArrayList requests;
     QVector<QTcpSocket *> connections;
@@ -40,19 +38,18 @@ protected:
         connections.append(socket);
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
             m_received[socket] += socket->readAll();
-            const bool isHandshake = m_received[socket].startsWith('\x16');
-            if (!isHandshake && !m_received[socket].endsWith("<body/>"))
-                return;
+            if (!m_received[socket].startsWith('\x16') && !m_received[socket].endsWith("<body/>"))
+                return; // neither a handshake nor a whole request
             requests.append(m_received.take(socket));
             socket->write(answer);
-            if (closes)
+            if (then.isEmpty())
                 socket->disconnectFromHost();
         });
         connect(socket, &QTcpSocket::bytesWritten, this, [this, socket] {
-            if (!endless.isEmpty() && socket->bytesToWrite() == 0)
-                socket->write(endless.repeated(1 + 30'000 / endless.size()));
-            if (drips)
+            if (then == "drips")
                 QTimer::singleShot(20, socket, [socket] { socket->write("x"); });
+            else if (then != "stays" && !then.isEmpty() && socket->bytesToWrite() == 0)
+                socket->write(then.repeated(1 + 30'000 / then.size()));
         });
         socket->setSocketDescriptor(descriptor);
         if (!tls.isNull()) {
@@ -64,41 +61,6 @@ protected:
 private:
     QHash<QTcpSocket *, QByteArray> m_received;
 };
-
-/// A text of a table: "~" is the end of a line, "{3*x}" is "xxx".
-QByteArray bytesFrom(QString text)
-{
-    static const QRegularExpression repeated("\\{(\\d+)\\*(.*?)\\}");
-    for (auto match = repeated.match(text); match.hasMatch(); match = repeated.match(text))
-        text.replace(match.captured(0), match.captured(2).repeated(match.captured(1).toInt()));
-    return text.replace("~", "\r\n").toLatin1();
-}
-
-QString valueOf(const char *column)
-{
-    return *static_cast<QString *>(QTest::qData(column, QMetaType::QString));
-}
-
-/// The names of TroubleReason in the tables.
-const QStringList reasons{"",        "",        "",           "no HTTP", "certificate", "tls",
-                          "refused", "silence", "no address", "lost",    "limits"};
-
-/// All columns are texts.
-void readTable(const char *file, const QList<const char *> &names)
-{
-    for (const char *name : names)
-        QTest::addColumn<QString>(name);
-    rowsFrom(file);
-}
-
-HttpLimits quick()
-{
-    HttpLimits limits;
-    limits.connectLimit = 300ms;
-    limits.answerLimit = 600ms;
-    limits.maxAnswerBytes = 50'000;
-    return limits;
-}
 
 } // namespace
 
@@ -113,17 +75,18 @@ class OnvifHttpTest : public OrdaTest
     {
         m_exchanges->post(request, this, [this](const HttpAnswer &answer) { m_answers.append(answer); });
     }
-    void use(const HttpLimits &limits)
+    void exchange(const HttpRequest &request)
     {
-        delete m_exchanges;
-        m_exchanges = new HttpExchanges(limits, this);
+        const int before = m_answers.size();
+        post(request);
+        QTRY_COMPARE(m_answers.size(), before + 1);
     }
 
 private slots:
     void init()
     {
         OrdaTest::init();
-        use(quick());
+        delete std::exchange(m_exchanges, new HttpExchanges({300ms, 600ms, 50'000}, this));
         m_answers.clear();
     }
 
@@ -134,26 +97,26 @@ private slots:
 
     void answersAreReadOrRefused()
     {
-        const QString outcome = valueOf("outcome"), error = valueOf("error"), then = valueOf("then");
+        static const QStringList reasons{"",        "",        "",           "no HTTP", "certificate", "tls",
+                                         "refused", "silence", "no address", "lost",    "limits"};
         Camera camera;
-        camera.answer = bytesFrom(valueOf("answer"));
-        camera.closes = then.isEmpty();
-        camera.drips = then == "drips";
-        camera.endless = then == "stays" || camera.drips ? QByteArray() : bytesFrom(then);
+        camera.answer = valueOf("answer").toLatin1();
+        camera.then = valueOf("then").toLatin1();
         HttpRequest request = camera.request();
-        const QString url = QString(bytesFrom(valueOf("url"))).replace("%1", QString::number(camera.serverPort()));
-        request.url = url.isEmpty() ? request.url : QUrl(url);
-        request.fingerprint = bytesFrom(valueOf("pin"));
+        if (const QString url = valueOf("url"); !url.isEmpty())
+            request.url = QUrl(QString(url).replace("%1", QString::number(camera.serverPort())));
+        request.fingerprint = valueOf("pin");
         QElapsedTimer timer;
         timer.start();
-        post(request);
-        QTRY_COMPARE(m_answers.size(), 1);
+        exchange(request);
         QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
         const HttpAnswer &read = m_answers.constFirst();
         const QByteArray content = read.status == 401 ? read.challenges.join('|') : read.body;
-        QCOMPARE((QByteArray::number(read.status) + ' ' + content).trimmed(), read.status ? bytesFrom(outcome) : "0");
-        if (read.status == 0)
-            QCOMPARE(reasons.at(int(read.reason)) + (read.hasLeft ? "" : " -"), outcome);
+        const QString reason = reasons.at(int(read.reason)) + (read.hasLeft ? "" : " -");
+        QCOMPARE(read.status ? QString("%1 %2").arg(read.status).arg(QString(content)).trimmed() : reason,
+                 valueOf("outcome"));
+        QCOMPARE(read.status ? QByteArray() : read.body, QByteArray());
+        const QString error = valueOf("error");
         QVERIFY2(error.isEmpty() ? read.error.isEmpty() : read.error.contains(error), qPrintable(read.error));
         QVERIFY(camera.requests.size() <= 1); // never sent again
     }
@@ -166,11 +129,6 @@ private slots:
         request.action = "urn:a";
         request.authorization = "Digest x";
         once.isRepeatable = false;
-        const auto exchange = [&](const HttpRequest &each) {
-            const int before = m_answers.size();
-            post(each);
-            QTRY_COMPARE(m_answers.size(), before + 1);
-        };
         exchange(request);
         exchange(request);
         QCOMPARE(camera.connections.size(), 1);
@@ -181,7 +139,7 @@ private slots:
                        "Digest x\r\n\r\n<body/>");
 
         camera.answer.clear();
-        camera.closes = true; // a kept connection is closed when the request has arrived, and so is the next one
+        camera.then.clear(); // a kept connection is closed when the request has arrived, and so is the next one
         exchange(request);
         QCOMPARE(m_answers.constLast().reason, TroubleReason::ConnectionLost);
         QCOMPARE(camera.requests.size(), 4);
@@ -191,17 +149,17 @@ private slots:
             QCOMPARE(m_answers.constLast().body, QByteArray("good"));
         }
         QCOMPARE(camera.requests.size(), 9);
-        camera.closes = false;
+        camera.then = "stays";
         exchange(request); // leaves a connection
         camera.answer.clear();
-        camera.closes = true;
+        camera.then.clear();
         exchange(once);
         QCOMPARE(m_answers.constLast().reason, TroubleReason::ConnectionLost);
         QCOMPARE(camera.requests.size(), 11);
 
         // What follows an answer is not taken for the next one.
-        camera.answer = good + "HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nforged";
-        camera.closes = false;
+        camera.answer = good + QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nforged");
+        camera.then = "stays";
         exchange(request);
         exchange(request);
         QCOMPARE(m_answers.constLast().body, QByteArray("good"));
@@ -223,7 +181,7 @@ private slots:
         camera.tls.setPrivateKey(QSslKey(&file, QSsl::Ec));
         camera.tls.setLocalCertificateChain(QSslCertificate::fromPath(file.fileName()));
         camera.answer = "HTTP/1.1 200 to the end\r\n\r\n" + QByteArray(49'000, 'x');
-        camera.closes = true;
+        camera.then.clear();
         const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
         QSslConfiguration trusting = before;
         if (!valueOf("trusted").isEmpty())
@@ -233,16 +191,13 @@ private slots:
         const QByteArray own = camera.tls.localCertificate().digest(QCryptographicHash::Sha256).toHex(':');
         request.fingerprint = valueOf("pin") == "own" ? QString::fromLatin1(own) : valueOf("pin");
         other.fingerprint = QString(64, '0');
-        post(request);
-        QTRY_COMPARE(m_answers.size(), 1);
+        exchange(request);
         QCOMPARE(m_answers.constFirst().body.size(), isTaken ? 49'000 : 0);
         if (isTaken) { // a connection that is kept does not serve who asks for another certificate
             camera.answer = good;
-            camera.closes = false;
-            post(request);
-            QTRY_COMPARE(m_answers.size(), 2);
-            post(other);
-            QTRY_COMPARE(m_answers.size(), 3);
+            camera.then = "stays";
+            exchange(request);
+            exchange(other);
         }
         QSslConfiguration::setDefaultConfiguration(before);
         QCOMPARE(m_answers.constLast().reason, isOld ? TroubleReason::Tls : TroubleReason::Certificate);
@@ -252,14 +207,11 @@ private slots:
 
     void oneCameraTakesOnlyItsShare()
     {
-        HttpLimits limits = quick();
-        limits.maxAtOnce = 6;
-        limits.answerLimit = 10s;
-        use(limits);
+        delete std::exchange(m_exchanges, new HttpExchanges({300ms, 10s, 50'000, 4, 6}, this));
         Camera silent, answering, flooding;
         silent.answer.clear();
         flooding.answer = "HTTP/1.1 200 OK\r\n";
-        flooding.endless = "A: b\r\n";
+        flooding.then = "A: b\r\n";
         for (int i = 0; i < 20; ++i)
             post(silent.request());
         for (int i = 0; i < 20; ++i) {
@@ -268,8 +220,8 @@ private slots:
         }
         QTRY_COMPARE(m_answers.size(), 40);
         QCOMPARE(std::count_if(m_answers.begin(), m_answers.end(), [](auto &each) { return each.body == "good"; }), 20);
-        QCOMPARE(silent.requests.size(), limits.maxToAddress);
-        QVERIFY(answering.connections.size() <= limits.maxToAddress);
+        QCOMPARE(silent.requests.size(), 4);
+        QVERIFY(answering.connections.size() <= 4);
     }
 
     void whoHasGoneIsToldNothing()
@@ -297,8 +249,8 @@ private slots:
 
     void accountsAreShownAsTheStandardHasIt()
     {
-        const QByteArray response = bytesFrom(valueOf("response"));
-        QByteArray challenges = bytesFrom(valueOf("challenges"));
+        const QByteArray response = valueOf("response").toLatin1();
+        QByteArray challenges = valueOf("challenges").toLatin1();
         challenges.replace("RFC", R"(Digest realm="http-auth@example.org", qop="auth, auth-int", )"
                                   R"(nonce="7ypf/xlj9XXwfDPEoM4URrv/xwf94BcCAzFZH4GiTo0v", )"
                                   R"(opaque="FQhe/qaU925kfnzjCev0ciny7QMkPqMAFRtzCUYo5tdS")");
