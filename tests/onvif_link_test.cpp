@@ -208,7 +208,7 @@ private slots:
 
         expectWarning("\"SN-2\", not \"SN-1\"");
         camera.isAway = true;
-        QTRY_COMPARE(m_states[m_id].value(2), DevOffline);
+        QTRY_VERIFY(m_states[m_id].contains(DevOffline));
         camera.serial = "SN-2"; // another camera at its address
         camera.isAway = false;
         QTRY_COMPARE(m_states[m_id].constLast(), DevRefused);
@@ -252,7 +252,7 @@ private slots:
 
     void whatAnAccountMayNotDoIsItsCallersBusiness()
     {
-        for (const QString &scheme : {"MD5", "Token"}) {
+        for (const QString &scheme : {QString("MD5"), QString("Token")}) {
             ScriptedCamera camera(scheme);
             camera.schemes = QStringList(scheme);
             camera.forbidden.insert("SetDiscoveryMode");
@@ -307,7 +307,7 @@ private slots:
         QTRY_COMPARE(camera.log, QStringList("GetSystemDateAndTime none"));
         camera.isAway = true; // three looks, and the rest of the minute is not waited for
         common_req("s", m_id, readMode);
-        QTRY_COMPARE(m_states[m_id].value(2), DevOffline);
+        QTRY_VERIFY(m_states[m_id].contains(DevOffline));
     }
 
     void aRecordMayChangeAtAnyMoment_data()
@@ -325,9 +325,10 @@ private slots:
         camera.silent.insert(operation);
         const auto hang = [&](const QString &requestId) {
             camera.log.clear();
+            m_states.clear();
             m_transport->setDevices({camera.info});
             if (operation == "GetDiscoveryMode") {
-                QTRY_COMPARE(m_states[m_id].value(m_states[m_id].size() - 1), DevOnline);
+                QTRY_VERIFY(m_states[m_id].contains(DevOnline));
                 common_req(requestId, m_id, readMode);
             }
             QTRY_VERIFY(!camera.shownFor(operation).isEmpty());
@@ -335,9 +336,9 @@ private slots:
         hang("r");
         camera.info.name = "changed";
         hang("s");
-        QCOMPARE(m_states[m_id].count(DevOffline), 1);
+        QCOMPARE(m_states[m_id].constFirst(), DevOffline);
         m_transport->setDevices({});
-        QTRY_COMPARE(m_states[m_id].count(DevOffline), 2);
+        QTRY_COMPARE(m_states[m_id].constLast(), DevOffline);
         camera.info.name.clear();
         hang("t");
         QElapsedTimer clock;
