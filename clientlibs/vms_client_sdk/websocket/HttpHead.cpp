@@ -11,13 +11,17 @@ namespace vms_sdk {
 namespace {
 
 // Other fields are not kept: thousands of short ones would take many times the memory of their text.
-constexpr std::array handshakeFields{"connection",
-                                     "sec-websocket-accept",
-                                     "sec-websocket-extensions",
-                                     "sec-websocket-key",
-                                     "sec-websocket-protocol",
-                                     "sec-websocket-version",
-                                     "upgrade"};
+constexpr std::array keptFields{"authorization",
+                                "connection",
+                                "content-length",
+                                "expect",
+                                "sec-websocket-accept",
+                                "sec-websocket-extensions",
+                                "sec-websocket-key",
+                                "sec-websocket-protocol",
+                                "sec-websocket-version",
+                                "transfer-encoding",
+                                "upgrade"};
 
 } // namespace
 
@@ -46,7 +50,7 @@ void HttpHead::takeLine(const QByteArray &line)
     if (colon <= 0)
         return;
     const QByteArray name = line.left(colon).toLower();
-    if (std::none_of(handshakeFields.begin(), handshakeFields.end(), [&](const char *field) { return name == field; }))
+    if (std::none_of(keptFields.begin(), keptFields.end(), [&](const char *field) { return name == field; }))
         return;
     QByteArray &value = m_fields[name];
     if (!value.isEmpty())
