@@ -7,6 +7,7 @@
 #include "fleet/SimulatedDevice.h"
 #include "fleet/Site.h"
 #include "fleet/onvif/OnvifSite.h"
+#include "fleet/onvif/ProbeResponder.h"
 
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
@@ -73,9 +74,10 @@ DeviceFleet::~DeviceFleet() = default;
 QString DeviceFleet::start()
 {
     const QString error = m_listener->start(m_options);
-    if (error.isEmpty())
-        m_onvif->setServer(m_listener->serverPort(), m_listener->fingerprint());
-    return error;
+    if (!error.isEmpty())
+        return error;
+    m_onvif->setServer(m_listener->serverPort(), m_listener->fingerprint());
+    return m_options.answersProbes ? (new ProbeResponder(*m_onvif, this))->start() : QString();
 }
 
 QString DeviceFleet::address() const

@@ -13,6 +13,7 @@ struct FleetOptions
 {
     int devices = 0; ///< of the device protocol
     int onvifDevices = 0;
+    bool answersProbes = false; ///< ONVIF cameras can be found by multicast
     quint32 seed = 1;
     quint16 port = 0; ///< 0: the system picks a free one
     std::chrono::milliseconds latency{0}; ///< before every answer

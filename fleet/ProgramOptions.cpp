@@ -77,8 +77,9 @@ ProgramOptions parseOptions(const QStringList &arguments)
 {
     const QCommandLineOption devices(QStringLiteral("devices"), tr("How many devices of the device protocol."),
                                      QStringLiteral("N"));
-    const QCommandLineOption onvif(QStringLiteral("onvif"), tr("How many ONVIF cameras."), QStringLiteral("N"),
-                                   QStringLiteral("0"));
+    const QCommandLineOption onvif(QStringLiteral("onvif"), tr("How many ONVIF cameras."), QStringLiteral("N"));
+    const QCommandLineOption answerProbes(QStringLiteral("answer-probes"),
+                                          tr("Let the ONVIF cameras be found in the local network (WS-Discovery)."));
     const QCommandLineOption seed(QStringLiteral("seed"), tr("The same seed gives the same devices (default 1)."),
                                   QStringLiteral("S"), QStringLiteral("1"));
     const QCommandLineOption port(QStringLiteral("port"), tr("TCP port; 0, the default, takes a free one."),
@@ -104,7 +105,7 @@ ProgramOptions parseOptions(const QStringList &arguments)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
-    parser.addOptions({devices, onvif, seed, port, latency, faults, tls, listen, inventory, dump});
+    parser.addOptions({devices, onvif, answerProbes, seed, port, latency, faults, tls, listen, inventory, dump});
 
     ProgramOptions options;
     options.error = orda_programs::parseCommandLine(parser, arguments);
@@ -115,6 +116,7 @@ ProgramOptions parseOptions(const QStringList &arguments)
     const int keyFiles = parser.isSet(tls) ? 1 : 0;
     options.fleet.devices = numberOfDevices(parser, devices, &options.error);
     options.fleet.onvifDevices = numberOfDevices(parser, onvif, &options.error);
+    options.fleet.answersProbes = parser.isSet(answerProbes);
     options.fleet.seed = quint32(number(parser, seed, 0, std::numeric_limits<quint32>::max(), &options.error));
     options.fleet.port = quint16(number(parser, port, 0, std::numeric_limits<quint16>::max(), &options.error));
     options.fleet.latency = std::chrono::milliseconds(number(parser, latency, 0, 3600'000, &options.error));
@@ -127,6 +129,8 @@ ProgramOptions parseOptions(const QStringList &arguments)
 
     if (!parser.isSet(devices) && !parser.isSet(onvif) && options.error.isEmpty())
         options.error = tr("devices are missing: --devices N, --onvif N or both");
+    if (parser.isSet(answerProbes) && !parser.isSet(onvif) && options.error.isEmpty())
+        options.error = tr("--answer-probes needs --onvif: only ONVIF cameras are searched for");
     if (parser.isSet(listen) && options.error.isEmpty())
         options.error = checkAddress(options.fleet.listenAddress, parser.value(listen));
     if (leftOver.size() < keyFiles)

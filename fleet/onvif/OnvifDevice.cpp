@@ -49,6 +49,11 @@ QDateTime OnvifDevice::now() const
     return QDateTime::currentDateTimeUtc().addSecs(m_state.traits.clockOffset.count());
 }
 
+QString OnvifDevice::url() const
+{
+    return m_address + m_state.paths.value(QLatin1String(tds));
+}
+
 bool OnvifDevice::hasPath(const QString &path) const
 {
     return std::find(m_state.paths.begin(), m_state.paths.end(), path) != m_state.paths.end();

@@ -20,6 +20,7 @@ public:
 
     /// @param address where the camera is reached, such as "http://127.20.0.1:8000": services are below it
     void setAddress(const QString &address) { m_address = address; }
+    QString url() const; ///< of the device service
     bool hasPath(const QString &path) const; ///< of one of its services, query included
 
     /// @param operation such as GetOSDs, with all declarations that it needs
