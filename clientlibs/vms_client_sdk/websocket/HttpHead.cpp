@@ -11,17 +11,19 @@ namespace vms_sdk {
 namespace {
 
 // Other fields are not kept: thousands of short ones would take many times the memory of their text.
-constexpr std::array keptFields{"authorization",
+constexpr std::array usedFields{"authorization",
                                 "connection",
                                 "content-length",
                                 "expect",
+                                "location",
                                 "sec-websocket-accept",
                                 "sec-websocket-extensions",
                                 "sec-websocket-key",
                                 "sec-websocket-protocol",
                                 "sec-websocket-version",
                                 "transfer-encoding",
-                                "upgrade"};
+                                "upgrade",
+                                "www-authenticate"};
 
 } // namespace
 
@@ -50,7 +52,7 @@ void HttpHead::takeLine(const QByteArray &line)
     if (colon <= 0)
         return;
     const QByteArray name = line.left(colon).toLower();
-    if (std::none_of(keptFields.begin(), keptFields.end(), [&](const char *field) { return name == field; }))
+    if (std::none_of(usedFields.begin(), usedFields.end(), [&](const char *field) { return name == field; }))
         return;
     QByteArray &value = m_fields[name];
     if (!value.isEmpty())

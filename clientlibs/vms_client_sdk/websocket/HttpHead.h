@@ -9,8 +9,8 @@ QT_END_NAMESPACE
 
 namespace vms_sdk {
 
-/// The first line of an HTTP message and those header fields that a WebSocket handshake or a simulated camera needs, read
-/// as they arrive. Limited in size: a peer that has not signed on yet may send header lines without end.
+/// The first line of an HTTP message and those of its header fields that are used here, read as they arrive. Limited in
+/// size: a peer that has not signed on yet may send header lines without end.
 class HttpHead
 {
 public:
@@ -28,7 +28,7 @@ public:
     State read(QIODevice &device);
     /// For example "GET /dev-0001 HTTP/1.1"; without the line's end.
     QByteArray startLine() const { return m_startLine; }
-    /// The value of one of these fields, without blanks around it; empty where there is none. Values of a repeated
+    /// The value of a field, without blanks around it; empty where there is none. Values of a repeated
     /// field are joined by commas, as HTTP has it.
     QByteArray field(const QByteArray &lowerCaseName) const { return m_fields.value(lowerCaseName); }
     /// True when the field is a list that has this word, whatever its case.
