@@ -1,9 +1,11 @@
 #pragma once
 
-#include <vms_client_sdk/onvif/CameraCalls.h>
+#include <vms_client_sdk/onvif/OnvifFamily.h>
 
 #include <QJsonObject>
 #include <QObject>
+
+#include <memory>
 
 namespace vms_sdk {
 
@@ -35,6 +37,30 @@ public:
 
 signals:
     void finished(const QJsonObject &answer); ///< once
+
+private:
+    void readOn();
+    void takeRead(size_t place, const CallResult &result);
+    void beginWriting();
+    void writeOn();
+    void takeWritten(const CallResult &result);
+    bool hasFailed(const XmlElement &operation, const CallResult &result, bool isWrite);
+    void fail(int code, const QString &message, bool isUnanswered = false);
+    void finish(QJsonObject error);
+
+    CameraCalls &m_calls;
+    const QString m_method;
+    const QJsonObject m_param;
+    bool m_isWrite = false;
+    bool m_isFinished = false;
+    std::unique_ptr<OnvifFamily> m_family;
+    std::vector<OnvifOperation> m_reads; // side by side, at the moment
+    std::vector<XmlElement> m_answers; // to these
+    size_t m_unanswered = 0; // of them
+    QJsonObject m_before; // what the device held before the first write
+    OnvifPlan m_plan;
+    size_t m_written = 0; // of its writes
+    bool m_isWriting = false; // one is under way
 };
 
 } // namespace vms_sdk
