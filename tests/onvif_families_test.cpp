@@ -1,5 +1,5 @@
 #include "support/OrdaTest.h"
-#include "support/ScriptedCamera.h"
+#include "support/CameraInMemory.h"
 
 #include <vms_client_sdk/OnvifCode.h>
 #include <vms_client_sdk/onvif/OnvifRequest.h>
@@ -118,19 +118,19 @@ CallResult troubleResult(bool mayBeDone)
 }
 
 /// What the camera holds. Screen texts that were made anew have other tokens and come last.
-QString tokenless(ScriptedCamera *camera)
+QString tokenless(CameraInMemory *camera)
 {
     QStringList texts;
     for (XmlElement osd : camera->answers.value("GetOSDs").children) {
         osd.setAttribute("token", {});
-        texts.append(ScriptedCamera::dump(osd));
+        texts.append(CameraInMemory::dump(osd));
     }
     texts.sort();
-    return texts.join('\n') + ScriptedCamera::dump(camera->answers.value("GetVideoEncoderConfigurations"));
+    return texts.join('\n') + CameraInMemory::dump(camera->answers.value("GetVideoEncoderConfigurations"));
 }
 
 /// A way from one state of the camera to another and back: what was changed, as the answer names it, is written back.
-void goThereAndBack(ScriptedCamera *camera, const Methods &methods, const QJsonObject &changes)
+void goThereAndBack(CameraInMemory *camera, const Methods &methods, const QJsonObject &changes)
 {
     const QJsonObject before = ask(camera, methods.read, {}).value("result").toObject();
     const QString dump = tokenless(camera);
@@ -174,19 +174,19 @@ private slots:
         QFETCH(QString, sent);
         QFETCH(QString, answer);
         QFETCH(QString, changes);
-        ScriptedCamera camera(setup);
+        CameraInMemory camera(setup);
         const QString before = camera.dump();
         QCOMPARE(text(ask(&camera, method, object(param))), text(object(answer)));
         QStringList operations;
         for (const XmlElement &each : qAsConst(camera.sent))
             operations.append(each.name);
         QCOMPARE(operations.join(' '), sent);
-        QCOMPARE(camera.dump(), ScriptedCamera::replaced(before, changes.split("; ")));
+        QCOMPARE(camera.dump(), CameraInMemory::replaced(before, changes.split("; ")));
     }
 
     void readsGoSideBySideAndWritesDoNot()
     {
-        ScriptedCamera camera("onvif_media2.xml");
+        CameraInMemory camera("onvif_media2.xml");
         ask(&camera, "stream_get_params", {});
         QCOMPARE(camera.mostWaiting, 2);
         QCOMPARE(codeOf(write(&camera, osdMethods, {{"bShowOSD", false}})), 0);
@@ -233,7 +233,7 @@ private slots:
         QFETCH(QString, silentAt);
         QFETCH(CallResult, failure);
         QFETCH(QString, answer);
-        ScriptedCamera camera("onvif_media2.xml");
+        CameraInMemory camera("onvif_media2.xml");
         camera.silentAt = silentAt;
         if (!operation.isEmpty())
             camera.failures[operation] = failure;
@@ -262,7 +262,7 @@ private slots:
         QFETCH(int, seed);
         QRandomGenerator random{quint32(seed)};
         const auto one = [&random](const QStringList &of) { return of.at(random.bounded(of.size())); };
-        ScriptedCamera camera("onvif_media2.xml; <FontSize>32</FontSize><Extension><v:Week>true</v:Week></Extension> => ; "
+        CameraInMemory camera("onvif_media2.xml; <FontSize>32</FontSize><Extension><v:Week>true</v:Week></Extension> => ; "
                               " v:layer=\"2\" => ; Total=\"4\" => Total=\"" + one({"3", "4", "5"}) + "\"; yyyy-MM-dd</DateFormat><Time => "
                               + one({"yyyy-MM-dd", "M/d/yyyy"}) + "</DateFormat><Time; DateAndTime=\"1\" => " + one({"", "DateAndTime=\"2\""}));
         std::vector<XmlElement> &osds = camera.answers["GetOSDs"].children;
@@ -299,7 +299,7 @@ private slots:
         QFETCH(int, seed);
         QRandomGenerator random{quint32(seed)};
         const bool isMedia2 = seed % 2;
-        ScriptedCamera camera(isMedia2 ? "onvif_media2.xml; 25.0 => 25; \"1\"> => \"true\">; >7000< => >3000<; =\"250\" => =\"100\"; "
+        CameraInMemory camera(isMedia2 ? "onvif_media2.xml; 25.0 => 25; \"1\"> => \"true\">; >7000< => >3000<; =\"250\" => =\"100\"; "
                                          "<RateControl><FrameRateLimit>12 => <RateControl ConstantBitRate=\"false\"><FrameRateLimit>12"
                                        : "onvif_media.xml; <s:Encoding>JPEG => <s:Encoding>H264; <s:Multicast> => "
                                          "<s:H264><s:GovLength>20</s:GovLength><s:H264Profile>High</s:H264Profile></s:H264><s:Multicast>");
