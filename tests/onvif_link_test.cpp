@@ -264,7 +264,7 @@ private slots:
         ScriptedCamera camera(m_id);
         camera.schemes = QStringList("MD5");
         camera.silent.insert(silent);
-        for (const QString &name : {"first", "changed", "added again"}) {
+        for (const QString name : {"first", "changed", "added again"}) {
             camera.log.clear(), m_states.clear();
             camera.info.name = name;
             m_transport->setDevices({camera.info});
@@ -312,7 +312,7 @@ private slots:
         site->setDevices({device.info});
         QTRY_COMPARE(m_states[m_id], States({DevConnecting, DevDefaultPassword}));
         QCOMPARE(threads(), before + 1); // none for ONVIF yet
-        for (const QString &request : {"r", "s", "t"}) {
+        for (const QString request : {"r", "s", "t"}) {
             m_states.clear();
             site->setDevices({camera.info, other.info});
             QTRY_COMPARE(m_states[m_id], States{DevOffline} + online);
