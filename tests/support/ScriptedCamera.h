@@ -14,22 +14,21 @@ public:
     QString schemes; ///< that it asks for: "MD5", "SHA-256", "Token", "Basic"; none: it asks for no account
     QString broken; ///< of these one that it takes from nobody
     QSet<QString> open{"GetSystemDateAndTime", "GetServices", "GetCapabilities"}; ///< operations for everybody
-    QSet<QString> unknown, forbidden, silent, dropped; ///< operations
+    QString forbidden, silent, dropped; ///< an operation each; dropped may be "all"
     QString serial = "SN-1", password = "Gr\u00fcn-7", mediaAddress = "http://192.0.2.1/media";
     bool isNonceTakenOnce = false;
     int stales = 0; ///< so many requests come with a nonce that is too old
     int clockOffset = 0; ///< seconds
-    bool isAway = false; ///< hangs up on everybody
     QStringList log; ///< "GetServices none", "SetDiscoveryMode MD5 refused", "GetProfiles@/media Token"
+    QHash<QString, QString> texts; ///< of answers, by operation: it knows no others
     vms_sdk::DevInfo info;
 
     explicit ScriptedCamera(const QString &id)
     {
-        QFile texts(QFINDTESTDATA("../cases/onvif_camera.txt"));
-        for (texts.open(QIODevice::ReadOnly); !texts.atEnd();) {
-            const QString line = texts.readLine().trimmed();
-            m_texts[line.section(' ', 0, 0)] = line.section(' ', 1);
-        }
+        QFile file(QFINDTESTDATA("../cases/onvif_camera.txt"));
+        file.open(QIODevice::ReadOnly);
+        for (QString line = file.readLine(); !line.isEmpty(); line = file.readLine())
+            texts[line.section(' ', 0, 0)] = line.section(' ', 1).trimmed();
         m_server.listen(QHostAddress::LocalHost);
         connect(&m_server, &QTcpServer::newConnection, this, [this] {
             QTcpSocket *socket = m_server.nextPendingConnection();
@@ -65,23 +64,23 @@ private:
     void take(QTcpSocket *socket, const QString &head, const QByteArray &body)
     {
         const QString operation = vms_sdk::readSoapAnswer(body).body.name, path = head.section(' ', 1, 1);
-        if (isAway || dropped.contains(operation))
+        if (dropped == operation || dropped == "all")
             return socket->abort();
         const QString header = found("\r\n(?i)authorization: ([^\r]*)", head);
         QString shown = "none";
         m_isStale = false;
         const bool isRight = header.isEmpty() ? isTokenRight(body, &shown) : isDigestRight(header, path, &shown);
         const bool isKnown = schemes.isEmpty() || open.contains(operation) || (isRight && shown != broken);
-        const bool isAllowed = isKnown && !forbidden.contains(operation);
+        const bool isAllowed = isKnown && forbidden != operation;
         log.append(operation + (path == info.path ? "" : '@' + path) + ' ' + shown + (isAllowed ? "" : " refused"));
-        const QHash<QString, QString> values{{"GetSystemDateAndTime", now().toString(m_texts["clock"])},
+        const QHash<QString, QString> values{{"GetSystemDateAndTime", now().toString(texts["clock"])},
                                              {"GetDeviceInformation", serial}};
         if (!isAllowed)
             refuse(socket);
-        else if (unknown.contains(operation))
-            send(socket, "500 Fault", m_texts["fault"].arg("ActionNotSupported"));
-        else if (!silent.contains(operation))
-            send(socket, "200 OK", QString(m_texts[operation]).replace("%1", values.value(operation, mediaAddress)));
+        else if (!texts.contains(operation))
+            send(socket, "500 Fault", texts["fault"].arg("ActionNotSupported"));
+        else if (silent != operation)
+            send(socket, "200 OK", QString(texts[operation]).replace("%1", values.value(operation, mediaAddress)));
     }
 
     bool isTokenRight(const QString &body, QString *shown)
@@ -123,12 +122,12 @@ private:
                 headers += "WWW-Authenticate: " + (scheme == "Basic" ? "Basic realm=\"camera\"" : digest) + "\r\n";
         }
         send(socket, (headers.isEmpty() ? "400 Fault\r\n" : "401 Unauthorized\r\n") + headers.trimmed(),
-             schemes.contains("Token") ? m_texts["fault"].arg("NotAuthorized") : QString());
+             schemes.contains("Token") ? texts["fault"].arg("NotAuthorized") : QString());
     }
 
     void send(QTcpSocket *socket, const QByteArray &head, const QString &content)
     {
-        const QByteArray body = content.isEmpty() ? QByteArray() : m_texts["envelope"].arg(content).toUtf8();
+        const QByteArray body = content.isEmpty() ? QByteArray() : texts["envelope"].arg(content).toUtf8();
         socket->write("HTTP/1.1 " + head.trimmed() + "\r\nContent-Length: " + QByteArray::number(body.size())
                       + "\r\n\r\n" + body);
     }
@@ -140,7 +139,6 @@ private:
     QDateTime now() const { return QDateTime::currentDateTimeUtc().addSecs(clockOffset); }
 
     QTcpServer m_server;
-    QHash<QString, QString> m_texts;
     QHash<QTcpSocket *, QByteArray> m_received;
     QHash<QByteArray, vms_sdk::DigestAuth> m_digests; ///< by nonce
     QSet<QByteArray> m_used; ///< nonces
