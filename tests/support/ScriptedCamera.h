@@ -1,13 +1,15 @@
 #pragma once
 
+#include "fleet/onvif/OnvifSignOn.h"
+
 #include <vms_client_sdk/DevInfo.h>
-#include <vms_client_sdk/onvif/DigestAuth.h>
+#include <vms_client_sdk/onvif/OnvifNames.h>
 #include <vms_client_sdk/onvif/SoapMessage.h>
 
 #include <QtNetwork>
 #include <QtTest>
 
-/// An ONVIF camera behind a real socket. Checks accounts, and keeps a log of what it was asked.
+/// An ONVIF camera behind a real socket. Judges accounts as those of the fleet do, and logs what it was asked.
 class ScriptedCamera : public QObject
 {
 public:
@@ -63,65 +65,44 @@ private:
 
     void take(QTcpSocket *socket, const QString &head, const QByteArray &body)
     {
+        const vms_sdk::XmlElement root = *vms_sdk::readXml(body).root;
         const QString operation = vms_sdk::readSoapAnswer(body).body.name, path = head.section(' ', 1, 1);
         if (dropped == operation || dropped == "all")
             return socket->abort();
-        const QString header = found("\r\n(?i)authorization: ([^\r]*)", head);
-        QString shown = "none";
-        m_isStale = false;
-        const bool isRight = header.isEmpty() ? isTokenRight(body, &shown) : isDigestRight(header, path, &shown);
-        const bool isKnown = schemes.isEmpty() || open.contains(operation) || (isRight && shown != broken);
+        const QByteArray account = found("\r\n(?i)authorization: ([^\r]*)", head).toUtf8();
+        const vms_sdk::XmlElement *token = root.child(vms_sdk::onvif::soapEnvelope, "Header");
+        const QString shown = token ? "Token" : account.isEmpty() ? "none" : found("algorithm=([^, ]*)", account);
+        const bool isTooOld = !account.isEmpty() && stales > 0 && stales-- > 0;
+        const bool isRight = judge().check({account, path.toUtf8(), token}, now()) == device_fleet::SignOn::Good;
+        const bool isKnown = schemes.isEmpty() || open.contains(operation) || (isRight && shown != broken && !isTooOld);
         const bool isAllowed = isKnown && forbidden != operation;
         log.append(operation + (path == info.path ? "" : '@' + path) + ' ' + shown + (isAllowed ? "" : " refused"));
         const QHash<QString, QString> values{{"GetSystemDateAndTime", now().toString(texts["clock"])},
                                              {"GetDeviceInformation", serial}};
         if (!isAllowed)
-            refuse(socket);
+            refuse(socket, judge().challenges(isTooOld));
         else if (!texts.contains(operation))
             send(socket, "500 Fault", texts["fault"].arg("ActionNotSupported"));
         else if (silent != operation)
             send(socket, "200 OK", QString(texts[operation]).replace("%1", values.value(operation, mediaAddress)));
     }
 
-    bool isTokenRight(const QString &body, QString *shown)
+    device_fleet::OnvifSignOn &judge()
     {
-        const auto field = [&](const char *name) {
-            return found(QString("[<:]%1(?: [^>]*)?>([^<]*)<").arg(name), body).toUtf8();
-        };
-        *shown = field("Nonce").isEmpty() ? "none" : "Token";
-        const QByteArray nonce = QByteArray::fromBase64(field("Nonce")), created = field("Created");
-        const auto hash = QCryptographicHash::hash(nonce + created + password.toUtf8(), QCryptographicHash::Sha1);
-        return qAbs(QDateTime::fromString(created, Qt::ISODateWithMs).secsTo(now())) < 60 && !m_used.contains(nonce)
-            && m_used.insert(nonce) != m_used.end() && hash.toBase64() == field("Password");
+        device_fleet::CameraTraits traits;
+        traits.takesSha256 = schemes.contains("SHA-256");
+        traits.takesDigest = traits.takesSha256 || schemes.contains("MD5");
+        traits.takesUsernameToken = schemes.contains("Token");
+        traits.isNonceTakenOnce = isNonceTakenOnce;
+        if (!m_judge || std::exchange(m_judgedPassword, password) != password)
+            m_judge.emplace("operator", password, traits);
+        return *m_judge;
     }
 
-    bool isDigestRight(const QString &header, const QString &path, QString *shown)
+    void refuse(QTcpSocket *socket, QByteArray headers)
     {
-        const auto field = [&](const char *name) { return found(QString("[ ,]%1=\"?([^\", ]*)").arg(name), header); };
-        *shown = field("algorithm");
-        const QByteArray nonce = field("nonce").toUtf8();
-        m_isStale = stales > 0 && stales-- > 0;
-        const bool isUsed = m_used.contains(nonce) && isNonceTakenOnce;
-        m_used.insert(nonce);
-        const auto digest = m_digests.find(nonce);
-        return digest != m_digests.end() && !m_isStale && !isUsed
-            && header == digest->authorization("operator", password, path.toUtf8(), "POST", field("cnonce").toUtf8());
-    }
-
-    void refuse(QTcpSocket *socket)
-    {
-        QByteArray headers;
-        const QStringList asked = schemes.split(' ', Qt::SkipEmptyParts);
-        for (const QString &scheme : asked) {
-            const QByteArray nonce = QByteArray::number(QRandomGenerator::global()->generate64());
-            const QByteArray digest = "Digest realm=\"camera\", qop=\"auth\", algorithm=" + scheme.toUtf8()
-                                    + ", nonce=\"" + nonce + (m_isStale ? "\", stale=true" : "\"");
-            if (const auto made = vms_sdk::DigestAuth::fromChallenges({digest}))
-                m_digests.insert(nonce, *made);
-            if (scheme != "Token")
-                headers += "WWW-Authenticate: " + (scheme == "Basic" ? "Basic realm=\"camera\"" : digest) + "\r\n";
-        }
-        send(socket, (headers.isEmpty() ? "400 Fault\r\n" : "401 Unauthorized\r\n") + headers.trimmed(),
+        headers += schemes.contains("Basic") ? "WWW-Authenticate: Basic realm=\"camera\"" : "";
+        send(socket, (headers.isEmpty() ? "400 Fault" : "401 Unauthorized\r\n") + headers,
              schemes.contains("Token") ? texts["fault"].arg("NotAuthorized") : QString());
     }
 
@@ -140,7 +121,6 @@ private:
 
     QTcpServer m_server;
     QHash<QTcpSocket *, QByteArray> m_received;
-    QHash<QByteArray, vms_sdk::DigestAuth> m_digests; ///< by nonce
-    QSet<QByteArray> m_used; ///< nonces
-    bool m_isStale = false;
+    std::optional<device_fleet::OnvifSignOn> m_judge;
+    QString m_judgedPassword;
 };
