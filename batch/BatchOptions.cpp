@@ -15,6 +15,7 @@ namespace {
 // There are more addresses in 127.0.0.0/8, but not more open files for one process.
 constexpr int maxDemoDevices = 100000;
 constexpr int maxSeconds = 24 * 60 * 60;
+constexpr int maxSearch = 60; // seconds; what has not answered by then does not
 constexpr int maxShards = 100000;
 constexpr int maxRetries = 100;
 
@@ -39,7 +40,8 @@ QString description()
         "  undo RUN                    takes back what a run has written and nobody has changed since\n"
         "  history [RUN]               the recorded runs; what one of them did\n"
         "  history prune               removes old runs, as the history's settings say\n"
-        "  history export RUN          writes a run to standard output; \"import FILE…\" takes it in elsewhere\n\n"
+        "  history export RUN          writes a run to standard output; \"import FILE…\" takes it in elsewhere\n"
+        "  discover                    ONVIF cameras that answer a search of the local network\n\n"
         "VALUES: --set KEY=VALUE …, or --values FILE. RUN: an id, its beginning, or \"last\".\n"
         "SELECTION, with commas: all, offered, an id, a serial number, name=GLOB, ip=10.1.0.0/16, kind=camera, "
         "kind=recorder, group=NAME, @FILE, failed:RUN, and not: before any of them.\n\n"
@@ -57,7 +59,7 @@ public:
     KnownOptions();
 
     QCommandLineOption set, values, unchecked, inventory, demo, faults, devices, shard, format, language, timeout,
-        connectTimeout, noJournal, serial, maxFailPercentage, retries, verify, requireAll, force, yes;
+        connectTimeout, interface, noJournal, serial, maxFailPercentage, retries, verify, requireAll, force, yes;
 
     void addTo(QCommandLineParser *parser) const;
     /// Which option was given that the command does not have; empty when none was.
@@ -90,8 +92,12 @@ KnownOptions::KnownOptions()
     , shard(option("shard", tr("Only the K-th of N shares of them."), "K/N"))
     , format(option("format", tr(R"("table" (default), "csv" or "json" (an object a line).)"), "FORMAT"))
     , language(option("language", tr("Language of messages, such as \"en\"; the system's when not given."), "CODE"))
-    , timeout(option("timeout", tr("How long a device may take for an answer, in seconds (default 15)."), "S"))
+    , timeout(option("timeout",
+                     tr("How long a device may take for an answer, in seconds (default 15); "
+                        "of discover: how long to search (default 5)."),
+                     "S"))
     , connectTimeout(option("connect-timeout", tr("How long to wait for connections, in seconds (default 60)."), "S"))
+    , interface(option("interface", tr("Searches by this network interface; all when not given."), "NAME"))
     , noJournal(option("no-journal", tr("Keeps no history of the run: it cannot be taken back.")))
     , serial(option("serial", tr("In waves of so many devices, such as 1,10,25%; the last size goes on."), "SIZES"))
     , maxFailPercentage(
@@ -104,16 +110,30 @@ KnownOptions::KnownOptions()
 {
     using C = Command;
     const QVector<Command> withDevices{C::Read, C::Plan, C::Apply, C::Verify, C::Undo};
+    const QVector<Command> withTimeout = withDevices + QVector<Command>{C::Discover};
     const QVector<Command> withValues{C::Plan, C::Apply, C::Verify};
     const QVector<Command> writing{C::Apply, C::Undo};
-    m_placed = {
-        {&set, withValues},        {&values, withValues},   {&unchecked, {C::Read, C::Plan, C::Apply, C::Verify}},
-        {&inventory, withDevices}, {&demo, withDevices},    {&faults, withDevices},
-        {&devices, withDevices},   {&shard, withDevices},   {&format, {}},
-        {&language, {}},           {&timeout, withDevices}, {&connectTimeout, withDevices},
-        {&noJournal, withDevices}, {&serial, writing},      {&maxFailPercentage, writing},
-        {&retries, writing},       {&verify, writing},      {&requireAll, writing},
-        {&force, {C::Undo}},       {&yes, writing}};
+    m_placed = {{&set, withValues},
+                {&values, withValues},
+                {&unchecked, {C::Read, C::Plan, C::Apply, C::Verify}},
+                {&inventory, withDevices},
+                {&demo, withDevices},
+                {&faults, withDevices},
+                {&devices, withDevices},
+                {&shard, withDevices},
+                {&format, {}},
+                {&language, {}},
+                {&timeout, withTimeout},
+                {&connectTimeout, withDevices},
+                {&noJournal, withDevices},
+                {&serial, writing},
+                {&maxFailPercentage, writing},
+                {&retries, writing},
+                {&verify, writing},
+                {&requireAll, writing},
+                {&interface, {C::Discover}},
+                {&force, {C::Undo}},
+                {&yes, writing}};
 }
 
 void KnownOptions::addTo(QCommandLineParser *parser) const
@@ -195,10 +215,10 @@ void Reader::fail(const QString &error)
 void Reader::readCommand()
 {
     static const QMap<QString, Command> commands{
-        {QStringLiteral("families"), Command::Families},  {QStringLiteral("read"), Command::Read},
-        {QStringLiteral("plan"), Command::Plan},          {QStringLiteral("apply"), Command::Apply},
-        {QStringLiteral("verify"), Command::Verify},      {QStringLiteral("undo"), Command::Undo},
-        {QStringLiteral("history"), Command::HistoryList}};
+        {QStringLiteral("families"), Command::Families},   {QStringLiteral("read"), Command::Read},
+        {QStringLiteral("plan"), Command::Plan},           {QStringLiteral("apply"), Command::Apply},
+        {QStringLiteral("verify"), Command::Verify},       {QStringLiteral("undo"), Command::Undo},
+        {QStringLiteral("history"), Command::HistoryList}, {QStringLiteral("discover"), Command::Discover}};
     QStringList words = m_parser.positionalArguments();
     const QString word = words.value(0);
     if (!commands.contains(word)) {
@@ -209,6 +229,11 @@ void Reader::readCommand()
     options.command = commands.value(word);
     if (options.command == Command::HistoryList) {
         readHistoryCommand(words);
+        return;
+    }
+    if (options.command == Command::Discover) {
+        if (!words.isEmpty())
+            fail(tr("unexpected argument \"%1\"").arg(words.constFirst()));
         return;
     }
     const QString what = words.value(0);
@@ -286,8 +311,15 @@ void Reader::readDevices()
     options.devices = value(m_known.devices);
     options.hasHistory = !isSet(m_known.noJournal);
     readNumber(m_known.demo, 1, maxDemoDevices, [this](int number) { options.demoDevices = number; });
-    readNumber(m_known.timeout, 1, maxSeconds,
-               [this](int number) { options.requestTimeout = std::chrono::seconds(number); });
+    if (options.command == Command::Discover)
+        readNumber(m_known.timeout, 1, maxSearch,
+                   [this](int number) { options.searchTime = std::chrono::seconds(number); });
+    else
+        readNumber(m_known.timeout, 1, maxSeconds,
+                   [this](int number) { options.requestTimeout = std::chrono::seconds(number); });
+    options.interface = value(m_known.interface);
+    if (isSet(m_known.interface) && options.interface.isEmpty())
+        fail(tr("--interface takes the name of a network interface"));
     readNumber(m_known.connectTimeout, 1, maxSeconds,
                [this](int number) { options.connectTimeout = std::chrono::seconds(number); });
 

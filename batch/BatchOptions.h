@@ -23,7 +23,8 @@ enum class Command
     HistoryRun,
     HistoryPrune,
     HistoryExport,
-    HistoryImport
+    HistoryImport,
+    Discover
 };
 
 enum class Format
@@ -59,6 +60,9 @@ public:
     std::chrono::seconds requestTimeout{15};
     std::chrono::seconds connectTimeout = orda_engine::Connecting::usualLimit;
     bool hasHistory = true;
+
+    QString interface; ///< of Discover; empty: all
+    std::chrono::seconds searchTime{5}; ///< of Discover: cameras answer within a second or two
 
     orda_engine::WriteOptions write;
     bool needsAll = false; ///< writes nothing unless all devices are reached

@@ -78,6 +78,14 @@ void DeviceCommand::note(const QString &text)
     m_output->writeError(line.toUtf8() + '\n');
 }
 
+QString DeviceCommand::onvifGapText() const
+{
+    const orda_engine::OnvifGap gap = selection().onvifGap();
+    return gap.devices == 0 ? QString()
+                            : tr("%n device(s) speak ONVIF, which does not know this: %1", nullptr, gap.devices)
+                                  .arg(gap.keys.join(QLatin1String(", ")));
+}
+
 /// The input is wrong: nothing is done.
 void DeviceCommand::refuse()
 {

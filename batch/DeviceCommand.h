@@ -64,6 +64,8 @@ protected:
     /// Devices that are not reported yet are reported as stopped. @param error why it could not be done, for the user
     void finish(const QString &error = {});
     void note(const QString &text);
+    /// What cannot be set on those of the devices that speak ONVIF; empty when there is nothing of that.
+    QString onvifGapText() const;
     Summary &summary() { return m_summary; }
     const Summary &summary() const { return m_summary; }
 

@@ -127,8 +127,7 @@ DeviceResult planResult(const DevInfo &device, const DeviceReading &reading, con
     DeviceResult result = readingResult(device, reading);
     if (!reading.isRead())
         return result;
-    const orda_engine::DevicePlan plan = orda_engine::planOf(*selection.family, selection.flagsOf(device.id),
-                                                             selection.valuesOf(device.id), reading.held);
+    const orda_engine::DevicePlan plan = selection.planOf(device.id, reading.held);
     setChanges(&result, plan.changes + plan.added);
     result.lacking = plan.lacking;
     result.outcome = result.changes.isEmpty() ? Outcome::Unchanged : Outcome::Differs;
@@ -143,17 +142,13 @@ DeviceResult verifiedResult(const DevInfo &device, const DeviceReading &reading,
         return result;
     const Selection &selection = input.selection();
     const auto &details = input.runDetails();
-    const QVector<MemberDifference> differences =
-        details ? input.run().differences(device.id, reading.held)
-                : orda_engine::differencesOf(*selection.family, selection.flagsOf(device.id),
-                                             selection.valuesOf(device.id), {}, reading.held);
+    const QVector<MemberDifference> differences = details ? input.run().differences(device.id, reading.held)
+                                                          : selection.differencesOf(device.id, {}, reading.held);
     for (const MemberDifference &difference : differences)
         result.changes.append({difference.member, difference.found, difference.wanted});
     result.outcome = differences.isEmpty() ? Outcome::Done : Outcome::Differs;
     if (!details)
-        result.lacking = orda_engine::planOf(*selection.family, selection.flagsOf(device.id),
-                                             selection.valuesOf(device.id), reading.held)
-                             .lacking;
+        result.lacking = selection.planOf(device.id, reading.held).lacking;
     if (!differences.isEmpty())
         result.message = orda_engine::textOf(differences);
     else

@@ -18,6 +18,9 @@ void ReadingCommand::work()
     const bool isOfRun = options().command == Command::Verify && input().runDetails();
     if (options().command != Command::Read || options().format == Format::Json)
         beginResults(isOfRun ? input().run().id() : QString());
+    const QString gap = options().command == Command::Plan ? onvifGapText() : QString();
+    if (!gap.isEmpty())
+        note(gap);
     progress()->begin(tr("Reading"), selection().devIds.size());
     m_job = new ReadJob(journal(), selection(), this);
     connect(m_job, &ReadJob::signalRead, this, &ReadingCommand::take);

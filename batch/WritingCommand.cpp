@@ -39,7 +39,7 @@ void WritingCommand::work()
     if (options().needsAll && refusesMissing())
         finish();
     else if (options().isConfirmed)
-        write();
+        writeUnasked();
     else
         look();
 }
@@ -61,6 +61,14 @@ bool WritingCommand::refusesMissing()
     for (const DeviceResult &result : qAsConst(results))
         report(result);
     return true;
+}
+
+void WritingCommand::writeUnasked()
+{
+    const QString gap = options().command == Command::Apply ? onvifGapText() : QString();
+    if (!gap.isEmpty())
+        note(gap);
+    write();
 }
 
 void WritingCommand::look()
@@ -91,6 +99,9 @@ QString WritingCommand::question() const
 {
     const bool isUndo = options().command == Command::Undo;
     QStringList lines;
+    const QString gap = isUndo ? QString() : onvifGapText();
+    if (!gap.isEmpty())
+        lines.append(gap);
     lines.append(tr("%1: %n device(s) would change", nullptr, m_outlook.changing).arg(summary().family)
                  + tr(", in %n value(s)", nullptr, m_outlook.changes));
     if (m_outlook.unchanged > 0)

@@ -37,6 +37,7 @@ private:
     bool cancelWork() override;
     int exitCodeOf(const Summary &summary) const override;
     bool refusesMissing();
+    void writeUnasked();
     void look();
     void takeOutlook(const orda_engine::DeviceReading &reading);
     void ask(const QString &error);

@@ -1,5 +1,6 @@
 #include "batch/BatchExit.h"
 #include "batch/BatchOptions.h"
+#include "batch/DiscoverCommand.h"
 #include "batch/FamiliesCommand.h"
 #include "batch/HistoryCommand.h"
 #include "batch/OutputThread.h"
@@ -57,14 +58,17 @@ std::unique_ptr<DeviceCommand> makeCommand(const BatchOptions &options, const or
 }
 
 /// Lets the command run, and waits until everything that it says is written.
-int runOnDevices(const BatchOptions &options, const orda_journal::HistoryOptions &history)
+/// @param make makes it, of a class with start(), stop() and signalFinished()
+template <typename Make>
+int runToItsEnd(const Make &make)
 {
     const UnixSignals signalsOfProcess; // before any thread
     OutputThread output;
     int exitCode = 0;
     bool isEnding = false, isLost = false;
-    const std::unique_ptr<DeviceCommand> command = makeCommand(options, history, &output);
-    QObject::connect(command.get(), &DeviceCommand::signalFinished, &output, [&](int code) {
+    const auto command = make(&output);
+    using Kind = typename decltype(command)::element_type;
+    QObject::connect(command.get(), &Kind::signalFinished, &output, [&](int code) {
         exitCode = code;
         isEnding = true;
         output.drain();
@@ -124,9 +128,13 @@ int main(int argc, char *argv[])
 
     if (options.command == Command::Families)
         return showFamilies(options);
+    if (options.command == Command::Discover)
+        return runToItsEnd([&](OutputThread *output) { return std::make_unique<DiscoverCommand>(options, output); });
     QString warning;
     const auto history = orda_journal::HistoryOptions::configured(&warning);
     if (!warning.isEmpty())
         complain(warning);
-    return isOnDevices ? runOnDevices(options, history) : runHistoryCommand(options, history);
+    if (!isOnDevices)
+        return runHistoryCommand(options, history);
+    return runToItsEnd([&](OutputThread *output) { return makeCommand(options, history, output); });
 }

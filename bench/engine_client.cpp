@@ -104,8 +104,7 @@ private:
     {
         auto *job = new ReadJob(m_journal, m_selection, this);
         connect(job, &ReadJob::signalRead, this, [this](const orda_engine::DeviceReading &reading) {
-            const auto plan = orda_engine::planOf(*m_selection.family, m_selection.flagsOf(reading.devId),
-                                                  m_selection.values, reading.held);
+            const auto plan = m_selection.planOf(reading.devId, reading.held);
             m_good += reading.isRead() && plan.changes.size() + plan.alreadySo > 0 ? 1 : 0;
         });
         connect(job, &ReadJob::signalFinished, this, &Measurement::end);

@@ -28,9 +28,7 @@ QString ApplyJob::messageOf(const orda_batchCfg::ParamsCfgTask *, const QString 
 QVector<MemberDifference> ApplyJob::differences(const orda_journal::Settled &settled,
                                                 const ObjectsByExchange &held) const
 {
-    const QString &devId = settled.row.devId;
-    return differencesOf(*selection().family, selection().flagsOf(devId), selection().valuesOf(devId), settled.sent,
-                         held);
+    return selection().differencesOf(settled.row.devId, settled.sent, held);
 }
 
 } // namespace orda_engine

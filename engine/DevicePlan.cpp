@@ -7,7 +7,8 @@ namespace orda_engine {
 using orda_batchCfg::CfgExchange;
 using orda_batchCfg::CfgFamily;
 
-DevicePlan planOf(const CfgFamily &family, int flags, const QJsonObject &values, const ObjectsByExchange &held)
+DevicePlan planOf(const CfgFamily &family, int flags, const QJsonObject &values, const ObjectsByExchange &held,
+                  Unreported unreported)
 {
     DevicePlan plan;
     QSet<QString> lacking, written;
@@ -22,13 +23,16 @@ DevicePlan planOf(const CfgFamily &family, int flags, const QJsonObject &values,
         const QVector<MemberChange> changes = family.changesBy(place, *device, param);
         QSet<QString> changing;
         for (const MemberChange &change : changes) {
-            (change.before.isUndefined() ? plan.added : plan.changes).append(change);
             changing.insert(change.member);
+            if (change.before.isUndefined() && unreported == Unreported::Dropped)
+                continue;
+            (change.before.isUndefined() ? plan.added : plan.changes).append(change);
         }
+        const QJsonObject members = exchange.membersOf(*device);
         const QJsonObject settings = exchange.settings(param);
         for (auto it = settings.begin(); it != settings.end(); ++it) {
             const QString name = exchange.nameInValues(it.key());
-            if (!asked.contains(name))
+            if (!asked.contains(name) || (unreported == Unreported::Dropped && !members.contains(it.key())))
                 continue;
             written.insert(name);
             if (!changing.contains(it.key()))
@@ -53,7 +57,8 @@ void appendPlanned(QVector<MemberDifference> &differences, const QVector<MemberC
 } // namespace
 
 QVector<MemberDifference> differencesOf(const CfgFamily &family, int flags, const QJsonObject &values,
-                                        const ObjectsByExchange &sent, const ObjectsByExchange &held)
+                                        const ObjectsByExchange &sent, const ObjectsByExchange &held,
+                                        Unreported unreported)
 {
     QVector<MemberDifference> differences;
     ObjectsByExchange notSent;
@@ -73,7 +78,7 @@ QVector<MemberDifference> differencesOf(const CfgFamily &family, int flags, cons
                 differences.append({place, it.key(), it.value(), found});
         }
     }
-    const DevicePlan plan = planOf(family, flags, values, notSent);
+    const DevicePlan plan = planOf(family, flags, values, notSent, unreported);
     appendPlanned(differences, plan.changes);
     appendPlanned(differences, plan.added);
     return differences;

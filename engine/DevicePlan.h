@@ -34,15 +34,23 @@ struct DevicePlan
     int alreadySo = 0; ///< members that the values ask for and that the device holds already, each in each exchange
 };
 
+/// What becomes of members that are sent to a device and that it has not reported.
+enum class Unreported
+{
+    Sent, ///< it may take them
+    Dropped ///< they do not reach it, as it speaks ONVIF
+};
+
 /// @param flags the exchanges of the run: CfgFamily::exchangesOf()
 /// @param held what the device holds; an exchange that is not there counts as one that does not run
 DevicePlan planOf(const orda_batchCfg::CfgFamily &family, int flags, const QJsonObject &values,
-                  const ObjectsByExchange &held);
+                  const ObjectsByExchange &held, Unreported unreported = Unreported::Sent);
 
 /// The members that the values put into the writes, and that the device does not hold as they were written.
 /// @param sent "param" of the writes that were sent; an exchange without one is judged by what it would write now
 /// @param held what the device holds now; an exchange that is not there is not judged
 QVector<MemberDifference> differencesOf(const orda_batchCfg::CfgFamily &family, int flags, const QJsonObject &values,
-                                        const ObjectsByExchange &sent, const ObjectsByExchange &held);
+                                        const ObjectsByExchange &sent, const ObjectsByExchange &held,
+                                        Unreported unreported = Unreported::Sent);
 
 } // namespace orda_engine

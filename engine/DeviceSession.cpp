@@ -6,7 +6,7 @@
 #include <orda_data/DataSignals.h>
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSdk.h>
-#include <vms_client_sdk/WebSocketTransport.h>
+#include <vms_client_sdk/SiteTransport.h>
 
 #include <QSet>
 
@@ -20,7 +20,7 @@ using orda_data::DevsMgrData;
 DeviceSession::DeviceSession(std::unique_ptr<orda_journal::HistoryWriter> history, QObject *parent)
     : QObject(parent)
 {
-    auto transport = std::make_unique<vms_sdk::WebSocketTransport>();
+    auto transport = std::make_unique<vms_sdk::SiteTransport>();
     m_transport = transport.get();
     auto journal = std::make_unique<orda_journal::JournalTransport>(std::move(transport), std::move(history));
     m_journal = journal.get();

@@ -13,7 +13,7 @@ class JournalTransport;
 } // namespace orda_journal
 namespace vms_sdk {
 struct DevInfo;
-class WebSocketTransport;
+class SiteTransport;
 } // namespace vms_sdk
 
 namespace orda_engine {
@@ -44,7 +44,7 @@ private:
     void followStore();
 
     QPointer<orda_journal::JournalTransport> m_journal; // the SDK owns it
-    QPointer<vms_sdk::WebSocketTransport> m_transport; // the journal owns it
+    QPointer<vms_sdk::SiteTransport> m_transport; // the journal owns it
 };
 
 } // namespace orda_engine

@@ -2,6 +2,7 @@
 
 #include "engine/ReadTask.h"
 
+#include <vms_client_sdk/OnvifCode.h>
 #include <vms_client_sdk/Requests.h>
 
 namespace orda_engine {
@@ -41,7 +42,9 @@ void ReadBatch::take(ReadTask *task, const QString &message, int code)
     m_tasks.remove(task->devId());
     task->deleteLater();
     renewOthers();
-    emit signalRead(task->devId(), code, message, task->objects());
+    const QString meaning = vms_sdk::onvifCodeText(code);
+    emit signalRead(task->devId(), code, meaning.isEmpty() ? message : tr("%1: %2").arg(message, meaning),
+                    task->objects());
     if (m_tasks.isEmpty() && !m_isCancelled)
         QMetaObject::invokeMethod(this, &ReadBatch::finish, Qt::QueuedConnection);
 }

@@ -1,5 +1,7 @@
 #include "engine/RecordedRun.h"
 
+#include "journal/TrackedRun.h"
+
 #include <families/Families.h>
 
 #include <QJsonDocument>
@@ -36,9 +38,12 @@ QJsonObject objectOf(const QString &text)
     return QJsonDocument::fromJson(text.toUtf8()).object();
 }
 
-QJsonObject paramOf(const orda_journal::ExchangeRow &row)
+/// The "param" of the write; of a device that says what it took of it, only that.
+QJsonObject sentIn(const orda_journal::ExchangeRow &row, const CfgExchange &exchange)
 {
-    return objectOf(row.sent).value(QLatin1String("param")).toObject();
+    if (row.taken.isEmpty())
+        return objectOf(row.sent).value(QLatin1String("param")).toObject();
+    return orda_journal::paramOfTaken(exchange, exchange.heldIn(objectOf(row.before)), objectOf(row.taken));
 }
 
 /// Whether the row tells of a write to a device that had been read before.
@@ -81,16 +86,19 @@ void RecordedRun::take(const orda_journal::ExchangeRow &row)
         return; // nothing has left
     const CfgExchange &exchange = m_written.family->exchanges.at(row.exchange);
     const QJsonObject before = exchange.heldIn(objectOf(row.before));
-    const QJsonObject sent = paramOf(row);
+    const QJsonObject sent = sentIn(row, exchange);
+    RecordedDevice &device = m_devices[row.devId];
+    device.sent.insert(row.exchange, sent);
+    device.before.insert(row.exchange, before);
+    if (!row.taken.isEmpty())
+        return;
     // What the run did not ask for it only repeated. Where that differs, somebody else changed it between two tries of
     // the run, and an undo must not take it back.
     const QJsonObject asked = exchange.askedBy(m_written.valuesOf(row.devId));
     QJsonObject repeated = exchange.settings(sent);
     for (auto it = repeated.begin(); it != repeated.end();)
         it = asked.contains(exchange.nameInValues(it.key())) ? repeated.erase(it) : std::next(it);
-    RecordedDevice &device = m_devices[row.devId];
     device.before.insert(row.exchange, exchange.withMembers(before, repeated));
-    device.sent.insert(row.exchange, sent);
 }
 
 // An undo has no values of its own: what it has changed is what it wanted.
@@ -99,7 +107,7 @@ QVector<MemberDifference> RecordedRun::differences(const QString &devId, const O
     const orda_batchCfg::CfgFamily &family = *m_written.family;
     const RecordedDevice recorded = device(devId);
     if (!m_isUndo)
-        return differencesOf(family, m_written.flagsOf(devId), m_written.valuesOf(devId), recorded.sent, held);
+        return m_written.differencesOf(devId, recorded.sent, held);
     QVector<MemberDifference> differences;
     for (auto sent = recorded.sent.begin(); sent != recorded.sent.end(); ++sent) {
         if (!held.contains(sent.key()))
@@ -120,9 +128,11 @@ QHash<QString, QVector<MemberChange>> changesOf(const orda_journal::RunDetails &
     if (!family)
         return changes;
     for (const orda_journal::ExchangeRow &row : details.exchanges)
-        if (isWrite(row, *family))
-            changes[row.devId] += family->changesBy(
-                row.exchange, family->exchanges.at(row.exchange).heldIn(objectOf(row.before)), paramOf(row));
+        if (isWrite(row, *family)) {
+            const CfgExchange &exchange = family->exchanges.at(row.exchange);
+            changes[row.devId] +=
+                family->changesBy(row.exchange, exchange.heldIn(objectOf(row.before)), sentIn(row, exchange));
+        }
     // Their writes were recorded and then did not leave.
     for (const orda_journal::DeviceRow &device : details.devices)
         if (device.outcome == Outcome::Stopped || device.outcome == Outcome::NotReached)

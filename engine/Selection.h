@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/DevicePlan.h"
+
 #include <QHash>
 #include <QJsonObject>
 #include <QStringList>
@@ -9,6 +11,14 @@ struct CfgFamily;
 }
 
 namespace orda_engine {
+
+/// Parameters for which the ONVIF standard has no counterpart, and that devices would be asked for all the same: these
+/// answer with vms_sdk::OnvifNotKnown.
+struct OnvifGap
+{
+    int devices = 0; ///< that speak ONVIF
+    QStringList keys; ///< of the family
+};
 
 /// Which devices a job is about, and which parameters of theirs.
 struct Selection
@@ -28,6 +38,16 @@ struct Selection
     int flagsOf(const QString &devId) const { return flagsFor(valuesOf(devId)); }
     /// Values for read requests, of which some say by a value what is asked for: those that @p wanted lacks are added.
     QJsonObject readValuesFor(QJsonObject wanted) const;
+
+    // As the functions of DevicePlan.h, for one of the devices; GUI thread.
+    DevicePlan planOf(const QString &devId, const ObjectsByExchange &held) const;
+    QVector<MemberDifference> differencesOf(const QString &devId, const ObjectsByExchange &sent,
+                                            const ObjectsByExchange &held) const;
+    /// What of the values cannot be set by ONVIF.
+    OnvifGap onvifGap() const;
+
+private:
+    bool isKnownToOnvif(const QJsonObject &wanted, QStringList *unknownKeys) const;
 };
 
 } // namespace orda_engine

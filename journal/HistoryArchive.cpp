@@ -31,10 +31,13 @@ QString timeText(qint64 time)
 
 QJsonObject toJson(const ExchangeRow &row)
 {
-    return {{QStringLiteral("exchange"), row.exchange},
-            {QStringLiteral("before"), row.before},
-            {QStringLiteral("sent"), row.sent},
-            {QStringLiteral("after"), row.after}};
+    QJsonObject exchange{{QStringLiteral("exchange"), row.exchange},
+                         {QStringLiteral("before"), row.before},
+                         {QStringLiteral("sent"), row.sent},
+                         {QStringLiteral("after"), row.after}};
+    if (!row.taken.isEmpty()) // most devices do not say it
+        exchange.insert(QStringLiteral("taken"), row.taken);
+    return exchange;
 }
 
 QJsonObject toJson(const DeviceRow &row, const QJsonArray &exchanges)
@@ -144,6 +147,7 @@ ExchangeRow exchangeFrom(Entry &entry, const QString &devId, QSet<int> *known)
     row.before = entry.neededText(QStringLiteral("before"));
     row.sent = entry.neededText(QStringLiteral("sent"));
     row.after = entry.neededText(QStringLiteral("after"));
+    row.taken = entry.text(QStringLiteral("taken"));
     if (known->contains(row.exchange))
         entry.fail(QStringLiteral("exchange"), Entry::tr("must not be there twice for one device"));
     known->insert(row.exchange);

@@ -91,12 +91,12 @@ public:
     void readExchanges(RunDetails *details)
     {
         QSqlQuery query = file.prepare(QStringLiteral(
-            "SELECT devices.id, exchange, before, sent, after FROM devices JOIN exchanges ON device = number "
+            "SELECT devices.id, exchange, before, sent, after, taken FROM devices JOIN exchanges ON device = number "
             "WHERE run = (SELECT number FROM runs WHERE id = ?) ORDER BY number, exchange"));
         const auto text = [&query](int column) { return query.value(column).toString(); };
         if (file.run(query, details->run.id))
             while (file.next(query))
-                details->exchanges.append({text(0), query.value(1).toInt(), text(2), text(3), text(4)});
+                details->exchanges.append({text(0), query.value(1).toInt(), text(2), text(3), text(4), text(5)});
     }
 
     HistoryFile file;

@@ -36,6 +36,9 @@ struct ExchangeRow
     QString before; ///< the answer to the last read before the first write
     QString sent; ///< the latest write request
     QString after; ///< the answer to the latest read since that write
+    /// Where the device says itself what it took, as those do that speak ONVIF: the members that are not as before, by
+    /// name, a JSON object. Then nothing else was changed, whatever was sent.
+    QString taken = {};
 };
 
 /// What became of a device.

@@ -5,7 +5,7 @@ namespace orda_journal {
 const QVector<QStringList> &historySteps()
 {
     // Comments within a statement stay in the file, for those who look at it with other programs.
-    static const QVector<QStringList> steps{{
+    static const QStringList first{
         QStringLiteral(R"(
 CREATE TABLE runs (
   number     INTEGER PRIMARY KEY AUTOINCREMENT, -- in the order in which they began; below 0 those of other histories
@@ -44,7 +44,10 @@ CREATE TABLE exchanges (
   after    TEXT NOT NULL,
   UNIQUE (device, exchange)
 ))"),
-    }};
+    };
+    // The members, as JSON, where the device says itself what it took. SQLite takes no comment here.
+    static const QStringList second{QStringLiteral("ALTER TABLE exchanges ADD COLUMN taken TEXT NOT NULL DEFAULT ''")};
+    static const QVector<QStringList> steps{first, second};
     return steps;
 }
 

@@ -5,6 +5,7 @@
 #include "journal/Logging.h"
 #include "run/CfgRun.h"
 
+#include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSignals.h>
 
 #include <QJsonDocument>
@@ -75,7 +76,11 @@ QString JournalTransport::beginRun(const RunStart &run, Owner owner)
     if (!refusal.isEmpty())
         return refusal;
     m_hasFailed = false;
-    m_run = std::make_unique<TrackedRun>(run, *family);
+    QSet<QString> telling;
+    for (const QString &devId : run.devIds)
+        if (orda_data::DevsMgrData::instance().getDevInfoById(devId).protocol == vms_sdk::DevProtocol::Onvif)
+            telling.insert(devId);
+    m_run = std::make_unique<TrackedRun>(run, *family, telling);
     if (m_history)
         m_history->beginRun(run);
     qCDebug(logJournal) << run.id << run.kind << run.family << "begins:" << run.devIds.size() << "devices";
@@ -197,6 +202,8 @@ void JournalTransport::passedOn(const QString &requestId, const QString &text)
     }
     if (m_history && answer.isAfter)
         m_history->putExchange(m_run->start().id, {devId, answer.exchange, {}, {}, text});
+    if (m_history && !answer.taken.isEmpty())
+        m_history->putExchange(m_run->start().id, {devId, answer.exchange, {}, {}, {}, answer.taken});
     if (answer.result && m_owner == Owner::Page && !m_run->isSettled(answer.device))
         record(m_run->settle(answer.device, *answer.result));
 }

@@ -19,12 +19,13 @@ QString textOf(const QJsonObject &object)
 
 RunRows::RunRows(HistoryFile *file)
     : m_file(file)
-    , m_putExchange(file->prepare(
-          QStringLiteral("INSERT INTO exchanges (device, exchange, before, sent, after) VALUES (?, ?, ?, ?, ?) "
-                         "ON CONFLICT (device, exchange) DO UPDATE SET "
-                         "before = iif(excluded.before = '', before, excluded.before), "
-                         "sent = iif(excluded.sent = '', sent, excluded.sent), "
-                         "after = iif(excluded.after = '', after, excluded.after)")))
+    , m_putExchange(file->prepare(QStringLiteral(
+          "INSERT INTO exchanges (device, exchange, before, sent, after, taken) VALUES (?, ?, ?, ?, ?, ?) "
+          "ON CONFLICT (device, exchange) DO UPDATE SET "
+          "before = iif(excluded.before = '', before, excluded.before), "
+          "sent = iif(excluded.sent = '', sent, excluded.sent), "
+          "after = iif(excluded.after = '', after, excluded.after), "
+          "taken = iif(excluded.taken = '', taken, excluded.taken)")))
     , m_putDevice(
           file->prepare(QStringLiteral("UPDATE devices SET outcome = ?, code = ?, message = ? WHERE number = ?")))
     , m_putLate(file->prepare(QStringLiteral("UPDATE devices SET late = ? WHERE number = ?")))
@@ -57,7 +58,7 @@ bool RunRows::write(const RunBegin &begin)
 bool RunRows::write(const ExchangeRow &row)
 {
     const qint64 device = numberOf(row.devId);
-    return device == 0 || m_file->run(m_putExchange, device, row.exchange, row.before, row.sent, row.after);
+    return device == 0 || m_file->run(m_putExchange, device, row.exchange, row.before, row.sent, row.after, row.taken);
 }
 
 bool RunRows::write(const DeviceRow &row)

@@ -3,6 +3,9 @@
 #include "run/CfgFamily.h"
 #include "run/ParamsCfgTask.h"
 
+#include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/OnvifCode.h>
+
 #include <QCoreApplication>
 #include <QJsonDocument>
 
@@ -22,9 +25,27 @@ QJsonObject objectIn(const QJsonObject &object, const char *member)
     return object.value(QLatin1String(member)).toObject();
 }
 
+/// What a device says of its failure. Its own words: made safe to print, and not longer than a line.
+QString messageIn(const QJsonObject &answer)
+{
+    constexpr int longest = 500;
+    return vms_sdk::escaped(objectIn(answer, "error").value(QLatin1String("message")).toString().left(longest));
+}
+
+QString textOf(const QJsonObject &object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
 } // namespace
 
-TrackedRun::TrackedRun(const RunStart &start, const CfgFamily &family)
+QJsonObject paramOfTaken(const CfgExchange &exchange, const QJsonObject &before, const QJsonObject &taken)
+{
+    const QJsonObject settings = exchange.withMembers(before, taken);
+    return exchange.attribute.isEmpty() ? settings : QJsonObject{{exchange.attribute, settings}};
+}
+
+TrackedRun::TrackedRun(const RunStart &start, const CfgFamily &family, const QSet<QString> &telling)
     : m_start(start)
     , m_family(family)
     , m_devices(start.devIds.size())
@@ -34,6 +55,7 @@ TrackedRun::TrackedRun(const RunStart &start, const CfgFamily &family)
     for (int place = 0; place < m_devices.size(); ++place) {
         m_placeById.insert(start.devIds.at(place), place);
         m_devices[place].exchanges.resize(family.exchanges.size());
+        m_devices[place].isTelling = telling.contains(start.devIds.at(place));
     }
 }
 
@@ -104,7 +126,11 @@ ExchangeRow TrackedRun::take(const Request &request, const QString &requestId, c
     exchange.sent = request.param;
     exchange.changes = m_family.changesBy(request.exchange, exchange.before, request.param);
     exchange.isHeld = true;
-    return {m_start.devIds.at(request.device), request.exchange, std::exchange(exchange.beforeText, {}), text, {}};
+    ExchangeRow row{
+        m_start.devIds.at(request.device), request.exchange, std::exchange(exchange.beforeText, {}), text, {}};
+    if (!exchange.taken.isEmpty()) // at an earlier try; whether this one is answered is not known yet
+        row.taken = textOf(supposed(exchange));
+    return row;
 }
 
 bool TrackedRun::letLeave(int place, int number, const QString &requestId)
@@ -144,6 +170,7 @@ TrackedRun::Answer TrackedRun::takeAnswer(const QString &requestId, const QStrin
     }
     const QString method = answer.value(QLatin1String("method")).toString();
     const int code = objectIn(answer, "error").value(QLatin1String("errorcode")).toInt(0);
+    device.fault = code == 0 ? QString() : messageIn(answer);
     for (int i = 0; i < device.exchanges.size(); ++i) {
         const CfgExchange &family = m_family.exchanges.at(i);
         Exchange &exchange = device.exchanges[i];
@@ -158,15 +185,47 @@ TrackedRun::Answer TrackedRun::takeAnswer(const QString &requestId, const QStrin
             }
             return {place, i, false, code == 0 && exchange.hasLeft, resultOfRead(device, i, held, code)};
         }
-        if (method == family.setMethod && !std::exchange(exchange.isWriteAnswered, true)) {
-            if (std::exchange(exchange.awaitsWrite, false) && code == 0) {
-                exchange.isWritten = true;
-                exchange.isInDoubt = false;
-            }
-            return {place, i, false, false, resultOfWrite(place, i, code)};
-        }
+        if (method == family.setMethod && !std::exchange(exchange.isWriteAnswered, true))
+            return takeWritten(place, i, answer, code);
     }
     return {};
+}
+
+TrackedRun::Answer TrackedRun::takeWritten(int place, int number, const QJsonObject &answer, int code)
+{
+    Device &device = m_devices[place];
+    Exchange &exchange = device.exchanges[number];
+    Answer taken{place, number, false, false, resultOfWrite(place, number, code)};
+    if (!std::exchange(exchange.awaitsWrite, false))
+        return taken;
+    const QJsonValue result = answer.value(QLatin1String("result"));
+    const bool tells = device.isTelling && result.isObject();
+    // A device that tells of a write before the one that failed has something of the run all the same.
+    exchange.isWritten = exchange.isWritten || code == 0 || (tells && !result.toObject().isEmpty());
+    if (code == 0)
+        exchange.isInDoubt = false;
+    if (!tells)
+        return taken;
+    const CfgExchange &family = m_family.exchanges.at(number);
+    const bool isUnanswered = code != 0 && objectIn(answer, "error").value(QLatin1String("unanswered")).toBool();
+    if (isUnanswered)
+        exchange.isInDoubt = true;
+    const QJsonObject members = isUnanswered ? supposed(exchange) : family.membersOf(result.toObject());
+    for (auto member = members.begin(); member != members.end(); ++member)
+        exchange.taken.insert(member.key(), member.value());
+    exchange.sent = paramOfTaken(family, exchange.before, exchange.taken);
+    exchange.changes = m_family.changesBy(number, exchange.before, exchange.sent);
+    taken.taken = textOf(exchange.taken);
+    return taken;
+}
+
+/// What a device holds when it takes all of a write, or has taken it: by member, without what is as it was before.
+QJsonObject TrackedRun::supposed(const Exchange &exchange)
+{
+    QJsonObject members = exchange.taken;
+    for (const orda_batchCfg::MemberChange &change : exchange.changes)
+        members.insert(change.member, change.after);
+    return members;
 }
 
 std::optional<Result> TrackedRun::resultOfRead(const Device &device, int exchange, const QJsonObject &held,
@@ -247,6 +306,10 @@ Settled TrackedRun::settled(int place, Outcome outcome, const Result &result)
     settled.row.outcome = outcome;
     settled.row.code = result.code;
     settled.row.message = result.message;
+    const QString reason = device.fault.isEmpty() ? vms_sdk::onvifCodeText(result.code) : device.fault;
+    if (result.code != ParamsCfgTask::Success && !reason.isEmpty())
+        settled.row.message = QCoreApplication::translate("orda_journal::TrackedRun", "%1: %2", "failure, reason")
+                                  .arg(result.message, reason);
     QStringList written;
     bool isAwaited = false;
     for (int i = 0; i < device.exchanges.size(); ++i) {
@@ -265,7 +328,7 @@ Settled TrackedRun::settled(int place, Outcome outcome, const Result &result)
         device.overdueId = device.requestId;
     if (outcome == Outcome::PartlyWritten) {
         settled.row.message = QCoreApplication::translate("orda_journal::TrackedRun", "%1; written before: %2")
-                                  .arg(result.message, written.join(QLatin1String(", ")));
+                                  .arg(settled.row.message, written.join(QLatin1String(", ")));
     }
     return settled;
 }

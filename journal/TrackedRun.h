@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QJsonObject>
+#include <QSet>
 #include <QVector>
 
 #include <optional>
@@ -26,6 +27,10 @@ struct Result
     int code = 0;
     QString message;
 };
+
+/// The "param" of a write after which a device that held @p before holds @p taken as well, and nothing else is changed.
+QJsonObject paramOfTaken(const orda_batchCfg::CfgExchange &exchange, const QJsonObject &before,
+                         const QJsonObject &taken);
 
 /// Follows the devices of one run by what goes over the wire: which reads and writes are on their way, what a device
 /// held before, and what came of it. Free of input and output. GUI thread.
@@ -49,9 +54,12 @@ public:
         bool isLate = false; ///< the device had its outcome already
         bool isAfter = false; ///< what the device holds since it was written to
         std::optional<Result> result = {}; ///< that a task makes of it, where it ends the task
+        QString taken = {}; ///< ExchangeRow::taken
     };
 
-    TrackedRun(const RunStart &start, const orda_batchCfg::CfgFamily &family);
+    /// @param telling ids of the devices whose answers to writes say in "result" what was changed, and that change
+    /// nothing else
+    TrackedRun(const RunStart &start, const orda_batchCfg::CfgFamily &family, const QSet<QString> &telling = {});
 
     const RunStart &start() const { return m_start; }
     int deviceCount() const { return m_devices.size(); }
@@ -90,7 +98,8 @@ private:
     {
         QString beforeText; // the answer, until the history has it
         QJsonObject before; // what the device held before its first write
-        QJsonObject sent; // the "param" of the latest write
+        QJsonObject sent; // the "param" of the latest write; of a device that tells it, only what it took of that
+        QJsonObject taken; // by member, of all tries
         QVector<orda_batchCfg::MemberChange> changes; // from before to sent
         bool hasBefore = false;
         // As ParamsCfgTask sees it: answered since it was last sent. What was never sent is taken for sent.
@@ -105,12 +114,16 @@ private:
     };
     struct Device
     {
+        bool isTelling = false;
+        QString fault; // what it said of its latest failure
         QString requestId; // of the latest request
         QString overdueId; // under which it had no answer when its outcome was decided
         QVector<Exchange> exchanges;
         bool isSettled = false;
     };
 
+    static QJsonObject supposed(const Exchange &exchange);
+    Answer takeWritten(int device, int exchange, const QJsonObject &answer, int code);
     std::optional<Result> resultOfRead(const Device &device, int exchange, const QJsonObject &held, int code) const;
     std::optional<Result> resultOfWrite(int device, int exchange, int code) const;
     bool isLastExchange(int device, int exchange) const;

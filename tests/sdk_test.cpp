@@ -5,6 +5,7 @@
 #include <orda_data/DevsMgrData.h>
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/ClientSignals.h>
+#include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/PendingRequests.h>
@@ -269,6 +270,15 @@ private slots:
             QVERIFY(readInventory(path).error.contains("0600"));
         }
         QVERIFY(!writeInventory(m_dir.filePath("none/x.json"), {camera}).isEmpty());
+        QVERIFY(!inventoryToJson({camera}).value("devices")[0].toObject().contains("protocol")); // as it always was
+
+        const QString onvif = "{'protocol': 'onvif', 'id': '%1', 'ip': '10.0.0.%1', 'tls': %2}";
+        const Inventory cameras =
+            readInventory(fileWith("{'devices': [" + onvif.arg("7", "false") + ", " + onvif.arg("8", "true") + "]}"));
+        QCOMPARE(deviceUrl(cameras.devices.value(0)), QUrl("http://10.0.0.7:80/onvif/device_service"));
+        QCOMPARE(deviceUrl(cameras.devices.value(1)), QUrl("https://10.0.0.8:443/onvif/device_service"));
+        QCOMPARE(writeInventory(path, cameras.devices), QString());
+        QCOMPARE(readInventory(path).devices, cameras.devices);
 
         QList<DevInfo> many;
         for (int i = 0; i < 100'000; ++i) {

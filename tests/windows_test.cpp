@@ -10,6 +10,7 @@
 #include <QtWidgets>
 #include <orda_base/Theme.h>
 #include <orda_data/DevsMgrData.h>
+#include <vms_client_sdk/onvif/OnvifDiscovery.h>
 
 using namespace orda_client;
 using orda_base::Theme;
@@ -125,12 +126,14 @@ private slots:
         const QList<QPair<const char *, const char *>> windows{
             {"showDevices", "devicesWindow"}, {"showPreview", "previewWindow"}, {"showCompare", "compareWindow"},
             {"showRuns", "runsWindow"},       {"showManual", "manualWindow"},   {"showSettings", "settingsDialog"},
-            {"showAbout", "aboutDialog"},     {"exportDevices", "exportDialog"}};
+            {"showAbout", "aboutDialog"},     {"findCameras", "findWindow"},    {"exportDevices", "exportDialog"}};
         for (const auto &[action, name] : windows) {
             window.findChild<QAction *>(action)->trigger();
             auto *opened = window.findChild<QWidget *>(name);
             QVERIFY2(opened && opened->isVisible(), name);
-            QTest::qWait(100); // what it reads
+            if (auto *search = opened->findChild<vms_sdk::OnvifDiscovery *>())
+                emit search->found({"urn:1", "Gate", "X1", "hall", {QUrl("https://10.0.0.1/")}, "10.0.0.2"});
+            QTest::qWait(opened->objectName() == "findWindow" ? 300 : 100); // what it reads
             QCOMPARE(faultsOf(opened).join('\n'), QString());
             opened->close();
         }

@@ -62,6 +62,10 @@ void ClientMenus::buildDevices()
     showDevices->setStatusTip(tr("Lists all devices of the inventory, their states and the reasons"));
     connectAgain = add(menu, "connectAgain", tr("&Connect again"), {});
     connectAgain->setStatusTip(tr("Tries the devices again that refused the sign-on"));
+    menu->addSeparator();
+    findCameras = add(menu, "findCameras", tr("&Find cameras…"), {});
+    findCameras->setStatusTip(tr("Searches the local network for ONVIF cameras when told to, and puts them into the "
+                                 "inventory"));
 }
 
 void ClientMenus::buildRun()

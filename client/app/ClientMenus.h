@@ -32,6 +32,7 @@ public:
     // Devices
     QAction *showDevices = nullptr;
     QAction *connectAgain = nullptr;
+    QAction *findCameras = nullptr;
     // Run
     QAction *showPreview = nullptr;
     QAction *showCompare = nullptr;

@@ -10,6 +10,7 @@
 #include "client/form/Families.h"
 #include "client/form/FormPage.h"
 #include "client/form/FormTicks.h"
+#include "client/inventory/InventoryAddition.h"
 #include "client/inventory/InventoryImport.h"
 #include "client/press/PressGuard.h"
 #include "client/press/PressLine.h"
@@ -65,6 +66,7 @@ ClientWindow::ClientWindow(ClientSession *session, ClientSettings *settings, QWi
     , m_statusBar(new ClientStatusBar(m_menus->showDevices, m_menus->showRuns))
     , m_opener(new InventoryOpener(m_form, session, settings, this))
     , m_import(new InventoryImport(settings, this))
+    , m_addition(new InventoryAddition(this))
     , m_windows(new Windows(m_form, session, settings, this))
 {
     setObjectName(QStringLiteral("clientWindow"));
@@ -131,6 +133,10 @@ void ClientWindow::connectActions()
     connect(m_menus->importDevices, &QAction::triggered, this, &ClientWindow::importDevices);
     connect(m_firstSteps, &FirstSteps::signalImport, this, &ClientWindow::importDevices);
     connect(m_import, &InventoryImport::signalImported, m_opener, &InventoryOpener::open);
+    connect(m_menus->findCameras, &QAction::triggered, m_windows, &Windows::showFind);
+    connect(m_firstSteps, &FirstSteps::signalFind, m_windows, &Windows::showFind);
+    connect(m_windows, &Windows::signalAdd, this, &ClientWindow::addDevices);
+    connect(m_addition, &InventoryAddition::signalAdded, m_opener, &InventoryOpener::open);
     connect(m_menus->exportDevices, &QAction::triggered, m_windows, &Windows::showExport);
     connect(m_menus->showSettings, &QAction::triggered, m_windows, &Windows::showSettings);
     connect(m_menus->quit, &QAction::triggered, this, &QWidget::close);
@@ -154,6 +160,12 @@ void ClientWindow::importDevices()
 {
     if (!m_opener->isDeclined())
         m_import->start();
+}
+
+void ClientWindow::addDevices(const QList<vms_sdk::DevInfo> &devices)
+{
+    if (!m_opener->isDeclined())
+        m_addition->add(devices, m_session->source().inventoryFile);
 }
 
 void ClientWindow::followSession()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/DevInfo.h>
+
 #include <QMainWindow>
 #include <QPointer>
 
@@ -19,6 +21,7 @@ class ClientSettings;
 class ClientStatusBar;
 class CloseQuestion;
 class FirstSteps;
+class InventoryAddition;
 class InventoryImport;
 class InventoryOpener;
 class PressGuard;
@@ -52,6 +55,7 @@ private:
     QWidget *buildForm();
     void connectActions();
     void importDevices();
+    void addDevices(const QList<vms_sdk::DevInfo> &devices);
     void followSession();
     void rememberPage();
     void showSource();
@@ -70,6 +74,7 @@ private:
     ClientStatusBar *m_statusBar;
     InventoryOpener *m_opener;
     InventoryImport *m_import;
+    InventoryAddition *m_addition;
     Windows *m_windows;
     PressGuard *m_guard = nullptr;
     QPointer<CloseQuestion> m_closeQuestion;

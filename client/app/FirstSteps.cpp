@@ -112,12 +112,15 @@ QWidget *FirstSteps::buildImport() const
 {
     QVBoxLayout *layout = card(tr("Bring cameras in"));
     layout->addWidget(explanation(
-        tr("The client does not search the network for cameras. List them in a spreadsheet, each on a line of its own, "
-           "with the columns id, ip and port, and where they are needed name, serialNumber, userName, password and "
-           "others, which the manual names. Saved as CSV and imported here, the table becomes an inventory.")));
+        tr("ONVIF cameras of the local network can be searched for and put into an inventory. Others are listed in a "
+           "spreadsheet, each on a line of its own, with the columns id, ip and port, and where they are needed name, "
+           "serialNumber, userName, password and others, which the manual names. Saved as CSV and imported here, the "
+           "table becomes an inventory.")));
+    auto *find = styledButton(tr("Find &cameras…"), "findCamerasBt", "common_bt_style2");
+    connect(find, &QPushButton::clicked, this, &FirstSteps::signalFind);
     auto *import = styledButton(tr("&Import devices from CSV…"), "importDevicesBt", "common_bt_style2");
     connect(import, &QPushButton::clicked, this, &FirstSteps::signalImport);
-    layout->addLayout(rowOf({import}));
+    layout->addLayout(rowOf({find, import}));
     return layout->parentWidget();
 }
 

@@ -28,6 +28,7 @@ signals:
     void signalOpen();
     void signalOpenRecent(const QString &path);
     void signalStartDemo(int devices);
+    void signalFind();
     void signalImport();
 
 private:

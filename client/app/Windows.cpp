@@ -8,6 +8,7 @@
 #include "client/compare/CompareWindow.h"
 #include "client/devices/DeviceStates.h"
 #include "client/devices/DevicesWindow.h"
+#include "client/find/FindWindow.h"
 #include "client/form/Families.h"
 #include "client/inventory/ExportDialog.h"
 #include "client/preview/PreviewWindow.h"
@@ -55,6 +56,15 @@ void Windows::show(QPointer<Window> *window, const Make &make)
 void Windows::showDevices()
 {
     show(&m_devices, [this] { return new DevicesWindow(m_session, m_deviceStates, m_form, m_settings, m_window); });
+}
+
+void Windows::showFind()
+{
+    show(&m_find, [this] {
+        auto *window = new FindWindow(m_session, m_settings, m_window);
+        connect(window, &FindWindow::signalAdd, this, &Windows::signalAdd);
+        return window;
+    });
 }
 
 void Windows::showPreview()

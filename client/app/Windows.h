@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/DevInfo.h>
+
 #include <QObject>
 #include <QPointer>
 
@@ -15,6 +17,7 @@ class ClientSettings;
 class CompareWindow;
 class DeviceStates;
 class DevicesWindow;
+class FindWindow;
 class ManualWindow;
 class PreviewWindow;
 class RecordViewer;
@@ -33,6 +36,7 @@ public:
     Windows(QWidget *form, ClientSession *session, ClientSettings *settings, QMainWindow *window);
 
     void showDevices();
+    void showFind();
     /// Plans what the form's page would change now.
     void showPreview();
     void showCompare();
@@ -48,6 +52,8 @@ public:
 signals:
     /// Of the preview: this run is wanted.
     void signalConfigure(const orda_client::PressedRun &run);
+    /// Cameras that were found are wanted in the inventory.
+    void signalAdd(const QList<vms_sdk::DevInfo> &devices);
 
 private slots:
     /// QDesktopServices hands the address over that Report and Detail open.
@@ -65,6 +71,7 @@ private:
     DeviceStates *m_deviceStates; // sees each change, whether the window is open or not
     RunJobs *m_runJobs; // outlives the windows that start them
     QPointer<DevicesWindow> m_devices;
+    QPointer<FindWindow> m_find;
     QPointer<PreviewWindow> m_preview;
     QPointer<CompareWindow> m_compare;
     QPointer<RunsWindow> m_runs;

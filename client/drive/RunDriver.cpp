@@ -141,6 +141,7 @@ void RunDriver::tickAndConfigure()
         complain(tr("%n of the given devices is off line or may not be configured", nullptr, missing));
     QTimer::singleShot(0ms, this, [this] {
         saveWindowScreenshot("showDevices", "devicesWindow");
+        saveWindowScreenshot("findCameras", "findWindow");
         saveWindowScreenshot("showPreview", "previewWindow");
         saveWindowScreenshot("showCompare", "compareWindow");
         configure();

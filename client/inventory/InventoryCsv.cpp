@@ -37,6 +37,7 @@ struct Field
 constexpr Field fields[]{{"id"},
                          {"name"},
                          {"serialNumber"},
+                         {"protocol"},
                          {"ip"},
                          {"port", Kind::Number},
                          {"path"},

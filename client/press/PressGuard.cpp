@@ -95,7 +95,8 @@ void PressGuard::runAnnounced(QObject *page)
         return;
     FormPage pressed = FormPage::of(m_form, *family);
     pressed.values = run.values;
-    const PressQuestion::Asked asked{run, ValueChecks::of(pressed), allowed.has_value()};
+    const PressQuestion::Asked asked{run, ValueChecks::onvifGap(pressed, run.devIds) + ValueChecks::of(pressed),
+                                     allowed.has_value()};
     if (!asked.isChanged && asked.complaints.isEmpty() && run.devIds.size() <= m_settings->askAbove())
         return;
     page->setProperty(refusedProperty, tr("Configure asks first whether this is meant."));

@@ -136,12 +136,14 @@ void PressLine::refresh()
     const bool isFormThere = m_form && FormTicks::listOf(m_form);
     const FormPage page = isFormThere ? FormPage::shown(m_form) : FormPage();
     const FormTicks ticks = isFormThere ? FormTicks::of(m_form) : FormTicks();
-    const QStringList complaints = ValueChecks::of(page);
+    const bool isEffective = PressTexts::isEffective(page, ticks);
+    const QStringList gap = isEffective ? ValueChecks::onvifGap(page, ticks.devIds) : QStringList();
+    const QStringList complaints = gap + ValueChecks::of(page);
     m_text->setWholeText(PressTexts::press(page, ticks));
     m_complaint->setWholeText(complaints.isEmpty() ? QString()
                                                    : tr("Looks wrong: %1").arg(complaints.join(QStringLiteral("; "))));
     m_complaint->setVisible(!complaints.isEmpty());
-    m_preview->setEnabled(PressTexts::isEffective(page, ticks));
+    m_preview->setEnabled(isEffective);
     m_announceSoon->request();
 }
 

@@ -1,6 +1,7 @@
 #include "client/press/ValueChecks.h"
 
 #include "client/form/FormPage.h"
+#include "engine/Selection.h"
 
 #include <QAbstractButton>
 #include <QHash>
@@ -165,6 +166,23 @@ QStringList ValueChecks::of(const FormPage &page)
             texts.append(tr("%1: no address is given").arg(member.title));
     }
     return texts;
+}
+
+QStringList ValueChecks::onvifGap(const FormPage &page, const QStringList &devIds)
+{
+    if (!page.family)
+        return {};
+    const orda_engine::OnvifGap gap = orda_engine::Selection{page.family, devIds, page.values}.onvifGap();
+    if (gap.devices == 0)
+        return {};
+    QStringList titles;
+    for (const FormPage::Member &member : page.members)
+        if (gap.keys.contains(member.name))
+            titles.append(member.title);
+    if (titles.isEmpty())
+        return {}; // nothing would be set
+    return {tr("%Ln of the devices speak(s) ONVIF, which does not know this: %1", nullptr, gap.devices)
+                .arg(titles.join(QStringLiteral("; ")))};
 }
 
 } // namespace orda_client

@@ -16,6 +16,8 @@ public:
     /// @param page what is ticked on it, and the values that would be sent; the page itself is not looked at
     /// @return what looks wrong, a text for the user each, such as "Service Address: empty"
     static QStringList of(const FormPage &page);
+    /// What cannot be set on those of the devices that speak ONVIF, in the same way; none or one.
+    static QStringList onvifGap(const FormPage &page, const QStringList &devIds);
 };
 
 } // namespace orda_client

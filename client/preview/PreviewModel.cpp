@@ -71,8 +71,7 @@ void PreviewModel::take(const DeviceReading &reading)
 
 void PreviewModel::takePlan(Row *row, const DeviceReading &reading) const
 {
-    const DevicePlan plan = orda_engine::planOf(*m_selection.family, m_selection.flagsOf(reading.devId),
-                                                m_selection.valuesOf(reading.devId), reading.held);
+    const DevicePlan plan = m_selection.planOf(reading.devId, reading.held);
     row->isLacking = !plan.lacking.isEmpty();
     row->group = !plan.changes.isEmpty() || !plan.added.isEmpty() ? WouldChange : row->isLacking ? Lacks : HasAlready;
     row->changes = changeTexts(plan).join(QStringLiteral("; "));

@@ -56,6 +56,7 @@ SearchedTable::SearchedTable(TableModel *model, const QVector<int> &digits, cons
         update();
     });
     connect(m_filter, &QAbstractItemModel::modelReset, this, &SearchedTable::update);
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, &SearchedTable::update);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SearchedTable::signalSelectionChanged);
     update();

@@ -29,7 +29,9 @@ QUrl deviceUrl(const DevInfo &device)
         return QUrl(device.url, QUrl::StrictMode);
     if (device.ip.isEmpty() || device.port == 0)
         return {};
-    const QString scheme = device.tls ? QStringLiteral("wss") : QStringLiteral("ws");
+    QString scheme = device.protocol == DevProtocol::Onvif ? QStringLiteral("http") : QStringLiteral("ws");
+    if (device.tls)
+        scheme += QLatin1Char('s');
     return QUrl(QStringLiteral("%1://%2:%3%4").arg(scheme, device.ip).arg(device.port).arg(device.path),
                 QUrl::StrictMode);
 }

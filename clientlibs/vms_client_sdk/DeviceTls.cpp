@@ -26,6 +26,20 @@ QSslConfiguration deviceTls()
     return tls;
 }
 
+TroubleReason troubleOf(QAbstractSocket::SocketError error, bool isConnecting)
+{
+    switch (error) {
+    case QAbstractSocket::ConnectionRefusedError:
+        return TroubleReason::ConnectionRefused;
+    case QAbstractSocket::HostNotFoundError:
+        return TroubleReason::NoAddress;
+    case QAbstractSocket::SslHandshakeFailedError:
+        return TroubleReason::Tls;
+    default: // no route to it, for instance
+        return isConnecting ? TroubleReason::NoAnswer : TroubleReason::ConnectionLost;
+    }
+}
+
 std::chrono::milliseconds randomBackOff(std::chrono::milliseconds first, std::chrono::milliseconds last, int losses)
 {
     const qint64 longest = qMin<qint64>(last.count(), first.count() << qMin(losses, 20));

@@ -18,6 +18,16 @@ namespace vms_sdk {
 
 namespace {
 
+// Of ONVIF devices: what nearly all of them use.
+constexpr char onvifPath[] = "/onvif/device_service";
+constexpr quint16 httpPort = 80;
+constexpr quint16 httpsPort = 443;
+
+QString textOf(DevProtocol protocol)
+{
+    return protocol == DevProtocol::Onvif ? QStringLiteral("onvif") : QStringLiteral("vms-device");
+}
+
 /// Makes a device of one entry.
 class DeviceReader
 {
@@ -36,7 +46,9 @@ private:
     QString visibleText(const QString &key, const QString &absent = {});
     QString ipText();
     QString fingerprint();
+    void readAddress(DevInfo *device);
     void checkAddress(const DevInfo &device);
+    void checkUrl(const DevInfo &device, const QUrl &url);
 
     CheckedEntry &m_entry;
 };
@@ -88,12 +100,7 @@ DevInfo DeviceReader::read()
         m_entry.fail(QStringLiteral("id"), tr("must be there and not be empty"));
     device.name = printableText(QStringLiteral("name"));
     device.serialNumber = visibleText(QStringLiteral("serialNumber"));
-    device.ip = ipText();
-    device.ipNumber = QHostAddress(device.ip).toIPv4Address();
-    device.port = quint16(m_entry.wholeNumber(QStringLiteral("port"), 1, 65535, 0));
-    device.path = visibleText(QStringLiteral("path"), device.path);
-    device.tls = m_entry.flag(QStringLiteral("tls"));
-    device.url = visibleText(QStringLiteral("url"));
+    readAddress(&device);
     device.fingerprint = fingerprint();
     device.userName = m_entry.text(QStringLiteral("userName"));
     device.password = m_entry.text(QStringLiteral("password"));
@@ -104,17 +111,43 @@ DevInfo DeviceReader::read()
     return device;
 }
 
+void DeviceReader::readAddress(DevInfo *device)
+{
+    const QStringList protocols{textOf(DevProtocol::Vms), textOf(DevProtocol::Onvif)};
+    const bool isOnvif = m_entry.choice(QStringLiteral("protocol"), protocols, 0) == 1;
+    device->protocol = isOnvif ? DevProtocol::Onvif : DevProtocol::Vms;
+    device->ip = ipText();
+    device->ipNumber = QHostAddress(device->ip).toIPv4Address();
+    device->tls = m_entry.flag(QStringLiteral("tls"));
+    device->url = visibleText(QStringLiteral("url"));
+    const int usualPort = isOnvif && device->url.isEmpty() ? (device->tls ? httpsPort : httpPort) : 0;
+    device->port = quint16(m_entry.wholeNumber(QStringLiteral("port"), 1, 65535, usualPort));
+    device->path = visibleText(QStringLiteral("path"), isOnvif ? QLatin1String(onvifPath) : device->path);
+}
+
+void DeviceReader::checkUrl(const DevInfo &device, const QUrl &url)
+{
+    const bool isOnvif = device.protocol == DevProtocol::Onvif;
+    const QString plain = isOnvif ? QStringLiteral("http") : QStringLiteral("ws");
+    const bool isSecure = url.scheme() == plain + QLatin1Char('s');
+    if (!url.isValid() || url.host().isEmpty() || !(isSecure || url.scheme() == plain))
+        m_entry.fail(QStringLiteral("url"),
+                     tr("must be an address such as %1")
+                         .arg(isOnvif ? QStringLiteral("https://relay.example:443/onvif/device_service")
+                                      : QStringLiteral("wss://relay.example:443/camera-1")));
+    else if (device.tls && !isSecure)
+        m_entry.fail(QStringLiteral("tls"), tr("must not be true beside a \"url\" that begins with %1:").arg(plain));
+}
+
 void DeviceReader::checkAddress(const DevInfo &device)
 {
+    if (m_entry.hasFault(QStringLiteral("protocol")))
+        return; // nobody knows which address would be right
     const QUrl url = deviceUrl(device);
-    const bool secure = url.scheme() == QLatin1String("wss");
+    const QString secureScheme =
+        device.protocol == DevProtocol::Onvif ? QStringLiteral("https") : QStringLiteral("wss");
     if (!device.url.isEmpty()) {
-        const bool wellFormed =
-            url.isValid() && !url.host().isEmpty() && (secure || url.scheme() == QLatin1String("ws"));
-        if (!wellFormed)
-            m_entry.fail(QStringLiteral("url"), tr("must be an address such as wss://relay.example:443/camera-1"));
-        else if (device.tls && !secure)
-            m_entry.fail(QStringLiteral("tls"), tr("must not be true beside a \"url\" that begins with ws:"));
+        checkUrl(device, url);
     } else {
         if (device.ip.isEmpty())
             m_entry.fail(QStringLiteral("ip"), tr("must be an IPv4 address where no \"url\" is given"));
@@ -127,8 +160,9 @@ void DeviceReader::checkAddress(const DevInfo &device)
             m_entry.fail(QStringLiteral("path"), tr("must be the path of an address and begin with \"/\""));
     }
     const bool isUnclear = m_entry.hasFault(QStringLiteral("tls")) || m_entry.hasFault(QStringLiteral("url"));
-    if (!device.fingerprint.isEmpty() && !secure && !isUnclear)
-        m_entry.fail(QStringLiteral("fingerprint"), tr("has no use without TLS: set tls to true or give a wss: url"));
+    if (!device.fingerprint.isEmpty() && url.scheme() != secureScheme && !isUnclear)
+        m_entry.fail(QStringLiteral("fingerprint"),
+                     tr("has no use without TLS: set tls to true or give a %1: url").arg(secureScheme));
 }
 
 /// The fields that no two entries may have in common.
@@ -172,6 +206,8 @@ QJsonObject toJson(const DevInfo &device)
                       {QStringLiteral("password"), device.password},
                       {QStringLiteral("accessCode"), device.accessCode},
                       {QStringLiteral("kindCode"), device.kindCode}};
+    if (device.protocol != DevProtocol::Vms)
+        entry.insert(QStringLiteral("protocol"), textOf(device.protocol));
     if (device.port != 0)
         entry.insert(QStringLiteral("port"), device.port);
     if (!device.group.isEmpty())

@@ -29,9 +29,13 @@ public:
     void shutdown();
 
 private:
+    void listenTo(DeviceTransport *transport, DevProtocol protocol);
+
     WebSocketTransport *m_webSockets; // children
     OnvifTransport *m_onvif;
     QHash<QString, DevProtocol> m_protocols; // by device id
+    QHash<QString, DevProtocol> m_reported; // of devices that are not offline: whose state was passed on last
+    bool m_isShutDown = false;
 };
 
 } // namespace vms_sdk

@@ -22,13 +22,19 @@ public:
 
     /// The value of the next request's Authorization header; each call counts as a use of the nonce.
     /// @param uri path and query of the address
-    QByteArray authorization(const QString &userName, const QString &password, const QByteArray &uri);
+    /// @param method of HTTP @param clientNonce empty: a random one
+    QByteArray authorization(const QString &userName, const QString &password, const QByteArray &uri,
+                             const QByteArray &method = "POST", const QByteArray &clientNonce = {});
 
 private:
+    struct Challenge;
+    static std::optional<DigestAuth> fromChallenge(const Challenge &challenge);
+
     QByteArray m_realm, m_nonce, m_opaque, m_algorithm;
+    bool m_hasOpaque = false;
     bool m_isSha256 = false;
+    bool m_isSession = false; ///< the hash of the account is bound to the nonces: "MD5-sess"
     bool m_hasQop = false;
-    bool m_isUtf8 = false;
     bool m_isStale = false;
     quint32 m_uses = 0;
 };

@@ -31,9 +31,10 @@ struct HttpRequest
     QByteArray body; ///< SOAP 1.2
     QByteArray action; ///< of the content type; may be empty
     QByteArray authorization; ///< the header's value; empty: none
-    QString fingerprint; ///< of the device's certificate; empty: the system's authorities decide
-    /// Whether the device may get it a second time without harm. Where it may not, a connection that breaks before the
-    /// answer ends the exchange; otherwise it is sent anew on a fresh one.
+    QString fingerprint; ///< of the device's certificate, as PinnedCertificate takes it
+    /// Whether the device may get it a second time without harm. Such a request may go out on a connection that was
+    /// kept since an earlier one; when the device turns out to have closed that, it is sent anew, once, on a fresh one.
+    /// Any other has a fresh one to itself. A fresh connection that breaks before the answer ends the exchange.
     bool isRepeatable = true;
 };
 

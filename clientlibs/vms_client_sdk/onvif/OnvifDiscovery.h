@@ -1,26 +1,16 @@
 #pragma once
 
 #include <vms_client_sdk/Export.h>
+#include <vms_client_sdk/onvif/FoundCamera.h>
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QUrl>
 
 #include <chrono>
 #include <memory>
 
 namespace vms_sdk {
-
-/// A camera that has answered a search. All texts are the camera's own: not safe to print, and nobody has proved
-/// anything.
-struct FoundCamera
-{
-    QString endpoint; ///< its own name for itself, such as "urn:uuid:…": the same in all its answers
-    QString name, hardware, location; ///< from the scopes, decoded; may be empty
-    QList<QUrl> addresses; ///< of its device service, as it says them; http or https, at least one
-    QString sender; ///< IP address that the answer came from
-};
 
 /// Searches the local network for ONVIF cameras (WS-Discovery): a probe goes out by multicast, and what answers is told
 /// as it comes. Never by itself. Lives on the thread that made it.
@@ -32,16 +22,18 @@ public:
     explicit OnvifDiscovery(QObject *parent = nullptr);
     ~OnvifDiscovery() override;
 
-    /// Names of the interfaces that can be searched: up, multicast, with an IPv4 address.
+    /// Names of the interfaces that are searched when none is named: up, multicast, with an IPv4 address.
     static QStringList interfaces();
 
-    /// @param interface a name; empty: all that can be searched
+    /// Sends probes now and twice more within a second. A search that goes on ends first.
+    /// @param interface a name; empty: all of interfaces(). The loopback interface is searched when it is named
     /// @return why it cannot search, for the user; empty when it has begun
     QString start(const QString &interface, std::chrono::milliseconds duration);
     void stop(); ///< finished() comes at once
 
 signals:
-    void found(const vms_sdk::FoundCamera &camera); ///< once for each endpoint
+    /// Once for each endpoint and sender: who takes another's endpoint must not hide the other.
+    void found(const vms_sdk::FoundCamera &camera);
     void finished(); ///< once after each start()
 
 private:

@@ -11,13 +11,17 @@ namespace vms_sdk {
 namespace {
 
 // Other fields are not kept: thousands of short ones would take many times the memory of their text.
-constexpr std::array handshakeFields{"connection",
-                                     "sec-websocket-accept",
-                                     "sec-websocket-extensions",
-                                     "sec-websocket-key",
-                                     "sec-websocket-protocol",
-                                     "sec-websocket-version",
-                                     "upgrade"};
+constexpr std::array usedFields{"connection",
+                                "content-length",
+                                "location",
+                                "sec-websocket-accept",
+                                "sec-websocket-extensions",
+                                "sec-websocket-key",
+                                "sec-websocket-protocol",
+                                "sec-websocket-version",
+                                "transfer-encoding",
+                                "upgrade",
+                                "www-authenticate"};
 
 } // namespace
 
@@ -46,7 +50,7 @@ void HttpHead::takeLine(const QByteArray &line)
     if (colon <= 0)
         return;
     const QByteArray name = line.left(colon).toLower();
-    if (std::none_of(handshakeFields.begin(), handshakeFields.end(), [&](const char *field) { return name == field; }))
+    if (std::none_of(usedFields.begin(), usedFields.end(), [&](const char *field) { return name == field; }))
         return;
     QByteArray &value = m_fields[name];
     if (!value.isEmpty())

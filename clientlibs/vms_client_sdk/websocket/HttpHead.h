@@ -9,7 +9,7 @@ QT_END_NAMESPACE
 
 namespace vms_sdk {
 
-/// The first line of an HTTP message and the header fields of a WebSocket handshake, read as they arrive. Limited in
+/// The first line of an HTTP message and those of its header fields that are used here, read as they arrive. Limited in
 /// size: a peer that has not signed on yet may send header lines without end.
 class HttpHead
 {
@@ -28,7 +28,7 @@ public:
     State read(QIODevice &device);
     /// For example "GET /dev-0001 HTTP/1.1"; without the line's end.
     QByteArray startLine() const { return m_startLine; }
-    /// The value of a field of the handshake, without blanks around it; empty where there is none. Values of a repeated
+    /// The value of a field, without blanks around it; empty where there is none. Values of a repeated
     /// field are joined by commas, as HTTP has it.
     QByteArray field(const QByteArray &lowerCaseName) const { return m_fields.value(lowerCaseName); }
     /// True when the field is a list that has this word, whatever its case.

@@ -1,6 +1,7 @@
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/DeviceTls.h>
 
 #include <QCryptographicHash>
 #include <QPointer>
@@ -38,20 +39,6 @@ QByteArray closePayload(int code, const QString &reason = {})
     qToBigEndian(quint16(code), payload.data());
     constexpr int maxReasonBytes = 123; // of a control frame's 125
     return payload + reason.toUtf8().left(maxReasonBytes);
-}
-
-TroubleReason reasonOf(QAbstractSocket::SocketError error, bool isConnecting)
-{
-    switch (error) {
-    case QAbstractSocket::ConnectionRefusedError:
-        return TroubleReason::ConnectionRefused;
-    case QAbstractSocket::HostNotFoundError:
-        return TroubleReason::NoAddress;
-    case QAbstractSocket::SslHandshakeFailedError:
-        return TroubleReason::Tls;
-    default: // no route to it, for instance
-        return isConnecting ? TroubleReason::NoAnswer : TroubleReason::ConnectionLost;
-    }
 }
 
 } // namespace
@@ -358,7 +345,7 @@ void WebSocketConnection::onError(QAbstractSocket::SocketError error)
 {
     // When the peer closes the connection, disconnected() follows.
     if (error != QAbstractSocket::RemoteHostClosedError)
-        end(m_socket->errorString(), reasonOf(error, m_phase == Phase::Connecting));
+        end(m_socket->errorString(), troubleOf(error, m_phase == Phase::Connecting));
 }
 
 void WebSocketConnection::onDisconnected()

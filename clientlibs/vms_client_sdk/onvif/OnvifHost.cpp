@@ -1,0 +1,47 @@
+#include <vms_client_sdk/onvif/OnvifHost.h>
+
+#include <vms_client_sdk/onvif/OnvifLink.h>
+
+#include <utility>
+
+namespace vms_sdk {
+
+OnvifHost::OnvifHost(const OnvifOptions &options, Backlog &backlog, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+    , m_backlog(backlog)
+{
+}
+
+void OnvifHost::queueForSignOn(OnvifLink *link, bool hasFailed)
+{
+    (hasFailed ? m_failed : m_queue).enqueue(link);
+    fillLater();
+}
+
+void OnvifHost::leave(OnvifLink *link)
+{
+    m_queue.removeOne(link);
+    m_failed.removeOne(link);
+    if (m_signingOn.remove(link))
+        fillLater();
+}
+
+void OnvifHost::fillLater()
+{
+    // Not at once: the caller may be about to end many links, each of which would hand its place to the next.
+    if (!std::exchange(m_willFill, true))
+        QMetaObject::invokeMethod(this, &OnvifHost::fillPlaces, Qt::QueuedConnection);
+}
+
+void OnvifHost::fillPlaces()
+{
+    m_willFill = false;
+    while (m_signingOn.size() < m_options.maxSigningOn && !(m_queue.isEmpty() && m_failed.isEmpty())) {
+        OnvifLink *link = (m_queue.isEmpty() ? m_failed : m_queue).dequeue();
+        m_signingOn.insert(link);
+        link->signOn();
+    }
+}
+
+} // namespace vms_sdk

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <vms_client_sdk/Backlog.h>
+#include <vms_client_sdk/onvif/HttpExchanges.h>
+#include <vms_client_sdk/onvif/OnvifTransport.h>
+
+#include <QObject>
+#include <QQueue>
+#include <QSet>
+
+namespace vms_sdk {
+
+class OnvifLink;
+
+/// What the links to cameras share: the exchanges, the limit of what waits for the window, and the places for cameras
+/// that sign on. Network thread.
+class OnvifHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    OnvifHost(const OnvifOptions &options, Backlog &backlog, QObject *parent);
+
+    const OnvifOptions &options() const { return m_options; }
+    HttpExchanges &exchanges() { return m_exchanges; }
+    Backlog &backlog() { return m_backlog; }
+
+    /// Calls OnvifLink::signOn() from the event loop as soon as a place is free. The link keeps the place until
+    /// leave().
+    /// @param hasFailed it comes after those that have not
+    void queueForSignOn(OnvifLink *link, bool hasFailed);
+    /// Gives up the place, or the place in the queue.
+    void leave(OnvifLink *link);
+
+private:
+    void fillLater();
+    void fillPlaces();
+
+    OnvifOptions m_options;
+    Backlog &m_backlog;
+    HttpExchanges m_exchanges;
+    QQueue<OnvifLink *> m_queue, m_failed; ///< cameras that are switched off must not hold the others up
+    QSet<OnvifLink *> m_signingOn;
+    bool m_willFill = false;
+};
+
+} // namespace vms_sdk

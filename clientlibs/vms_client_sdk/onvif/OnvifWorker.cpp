@@ -1,0 +1,135 @@
+#include <vms_client_sdk/onvif/OnvifWorker.h>
+
+#include <vms_client_sdk/Logging.h>
+#include <vms_client_sdk/onvif/OnvifHost.h>
+#include <vms_client_sdk/onvif/OnvifLink.h>
+
+#include <utility>
+
+namespace vms_sdk {
+
+namespace {
+
+// How often merged changes are checked: they pass at most so much late.
+constexpr std::chrono::milliseconds mergedStatusInterval{100};
+
+// So long before the waiting time is over a request ends: its answer, which says what was written, still counts. Of
+// short waiting times it is a quarter.
+constexpr std::chrono::milliseconds answerMargin{2'000};
+
+} // namespace
+
+OnvifWorker::OnvifWorker(const OnvifOptions &options)
+    : m_options(options)
+    , m_backlog([this] { QMetaObject::invokeMethod(this, &OnvifWorker::sendRequests, Qt::QueuedConnection); })
+    , m_statusTimer(this)
+{
+    m_clock.start();
+    m_statusTimer.setInterval(mergedStatusInterval);
+    connect(&m_statusTimer, &QTimer::timeout, this,
+            [this] { passOnChanges(m_statusChanges.takeDue(m_clock.elapsed())); });
+}
+
+OnvifWorker::~OnvifWorker() = default;
+
+void OnvifWorker::setDevices(const QList<DevInfo> &devices)
+{
+    if (!m_host)
+        m_host = new OnvifHost(m_options, m_backlog, this);
+    Links previous = std::exchange(m_links, {});
+    for (const DevInfo &device : devices) {
+        const auto known = previous.find(device.id);
+        if (known != previous.end() && known->second->takeOver(device))
+            m_links.insert(previous.extract(known));
+    }
+    for (const auto &[id, link] : previous)
+        link->end();
+    previous.clear();
+    for (const DevInfo &device : devices) {
+        std::unique_ptr<OnvifLink> &link = m_links[device.id];
+        if (!link) {
+            link = makeLink(device);
+            link->start();
+        }
+    }
+}
+
+std::unique_ptr<OnvifLink> OnvifWorker::makeLink(const DevInfo &device)
+{
+    auto link = std::make_unique<OnvifLink>(device, *m_host);
+    connect(link.get(), &OnvifLink::answered, this, &OnvifWorker::answered);
+    connect(link.get(), &OnvifLink::identified, this, &OnvifWorker::identified);
+    connect(link.get(), &OnvifLink::statusChanged, this, &OnvifWorker::onStatusChanged);
+    return link;
+}
+
+void OnvifWorker::onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble)
+{
+    passOnChanges(m_statusChanges.add({devId, status, trouble}, m_clock.elapsed()));
+}
+
+void OnvifWorker::passOnChanges(const QVector<StatusChanges::Change> &changes)
+{
+    for (const auto &[devId, status, trouble] : changes) {
+        if (!isOnlineStatus(status))
+            emit linkTroubled(devId, trouble);
+        emit devStatusChanged(devId, status);
+    }
+    if (!m_statusChanges.isHolding())
+        m_statusTimer.stop();
+    else if (!m_statusTimer.isActive())
+        m_statusTimer.start();
+}
+
+void OnvifWorker::connectAgain()
+{
+    for (const auto &[id, link] : m_links)
+        link->connectAgain();
+}
+
+void OnvifWorker::connectDevicesAgain(const QStringList &devIds)
+{
+    for (const QString &devId : devIds) {
+        const auto known = m_links.find(devId);
+        if (known != m_links.end())
+            known->second->connectNow();
+    }
+}
+
+void OnvifWorker::passedOn(const QString &requestId, int characters)
+{
+    m_backlog.passedOn(requestId, characters);
+}
+
+void OnvifWorker::setRequestTimeout(std::chrono::milliseconds timeout)
+{
+    const std::lock_guard lock(m_mutex);
+    m_requestTimeout = timeout;
+}
+
+void OnvifWorker::send(const QString &requestId, const QString &devId, const QString &text)
+{
+    const std::lock_guard lock(m_mutex);
+    const QDeadlineTimer end(m_requestTimeout - qMin(answerMargin, m_requestTimeout / 4), Qt::PreciseTimer);
+    m_requests.append({requestId, devId, text, end});
+    if (m_requests.size() == 1)
+        QMetaObject::invokeMethod(this, &OnvifWorker::sendRequests, Qt::QueuedConnection);
+}
+
+void OnvifWorker::sendRequests()
+{
+    if (m_backlog.isFull())
+        return; // until the window has caught up with the answers that wait for it
+    std::unique_lock lock(m_mutex);
+    const QVector<Request> requests = std::exchange(m_requests, {});
+    lock.unlock();
+    for (const Request &request : requests) {
+        const auto known = m_links.find(request.devId);
+        if (known != m_links.end())
+            known->second->send(request.requestId, request.text, request.end);
+        else
+            qCDebug(sdkLog) << "request" << request.requestId << "dropped: device" << request.devId << "is unknown";
+    }
+}
+
+} // namespace vms_sdk
