@@ -14,11 +14,7 @@ namespace {
 
 QJsonObject object(const QString &text)
 {
-    QJsonParseError error;
-    const QJsonObject parsed = QJsonDocument::fromJson(text.toUtf8(), &error).object();
-    if (error.error != QJsonParseError::NoError)
-        qFatal("%s: %s", qPrintable(text), qPrintable(error.errorString()));
-    return parsed;
+    return QJsonDocument::fromJson(text.toUtf8()).object();
 }
 
 QString text(const QJsonObject &json)
@@ -49,31 +45,15 @@ QJsonObject merged(QJsonObject held, const QJsonObject &changes)
             held[it.key()] = it.value();
             continue;
         }
+        const QJsonArray list = it.value().toArray();
         QJsonArray entries = held.value(it.key()).toArray();
         for (int i = 0; i < entries.size(); ++i)
-            for (const QJsonValue &change : it.value().toArray())
+            for (const QJsonValue &change : list)
                 if (change.toObject().value("streamid").toInt() == i)
                     entries[i] = merged(entries.at(i).toObject(), change.toObject());
         held[it.key()] = entries;
     }
     return held;
-}
-
-/// What @p changed has, with the values of @p before.
-QJsonObject former(const QJsonObject &before, QJsonObject changed)
-{
-    for (auto it = changed.begin(); it != changed.end(); ++it) {
-        if (!it.value().isArray()) {
-            it.value() = before.value(it.key());
-            continue;
-        }
-        QJsonArray entries = it.value().toArray();
-        const QJsonArray list = before.value(it.key()).toArray();
-        for (QJsonValueRef each : entries)
-            each = former(list.at(each.toObject().value("streamid").toInt()).toObject(), each.toObject());
-        it.value() = entries;
-    }
-    return changed;
 }
 
 int codeOf(const QJsonObject &answer)
@@ -99,7 +79,8 @@ const Methods videoMethods{"stream_get_params", "stream_set_params", ""};
 QString tokenless(MemoryCamera *camera)
 {
     QStringList texts;
-    for (XmlElement osd : camera->answers.value("GetOSDs").children) {
+    std::vector<XmlElement> osds = camera->answers.value("GetOSDs").children;
+    for (XmlElement &osd : osds) {
         osd.setAttribute("token", {});
         texts.append(MemoryCamera::dump(osd));
     }
@@ -107,22 +88,22 @@ QString tokenless(MemoryCamera *camera)
     return texts.join('\n') + MemoryCamera::dump(camera->answers.value("GetVideoEncoderConfigurations"));
 }
 
-/// A way from one state of the camera to another and back: what was changed, as the answer names it, is written back.
+/// A way from one state of the camera to another and back. The answer to the first write names all that it has changed;
+/// so the second, of all that was there before, changes just these members.
 void goThereAndBack(MemoryCamera *camera, const Methods &methods, const QJsonObject &changes)
 {
     const QJsonObject before = ask(camera, methods.read, {}).value("result").toObject();
     const QString dump = tokenless(camera);
-    const QJsonObject asked = merged(before, changes);
-    const QJsonObject answer = write(camera, methods, asked);
+    const QJsonObject answer = write(camera, methods, merged(before, changes));
     const QJsonObject after = ask(camera, methods.read, {}).value("result").toObject();
     const QByteArray what = (text(changes) + " from " + text(before) + " gave " + text(answer)).toUtf8();
     if (codeOf(answer) != 0) {
         QVERIFY2(codeOf(answer) == OnvifNotAllowed && tokenless(camera) == dump, what);
         return;
     }
-    const QJsonObject changed = answer.value("result").toObject();
-    QVERIFY2(merged(after, merged(before, changed)) == after, what + " and " + text(after).toUtf8());
-    const QJsonObject back = write(camera, methods, merged(after, former(before, changed)));
+    const QJsonObject known = merged(before, answer.value("result").toObject());
+    QVERIFY2(merged(after, known) == after, what + " and " + text(after).toUtf8());
+    const QJsonObject back = write(camera, methods, merged(after, before));
     const QJsonObject atLast = ask(camera, methods.read, {}).value("result").toObject();
     QVERIFY2(codeOf(back) == 0 && atLast == before, what + " and back " + text(back).toUtf8() + text(atLast).toUtf8());
     QVERIFY2(tokenless(camera) == dump, what + " left " + tokenless(camera).toUtf8());
@@ -169,7 +150,7 @@ private slots:
         QCOMPARE(camera.mostWrites, 1);
     }
 
-    void screenTextsGoThereAndBack_data() { seeds(300); }
+    void screenTextsGoThereAndBack_data() { seeds(200); }
 
     void screenTextsGoThereAndBack()
     {
@@ -182,12 +163,9 @@ private slots:
             + one({"3", "4", "5"}) + "\"; yyyy-MM-dd</DateFormat><Time => " + one({"yyyy-MM-dd", "M/d/yyyy"})
             + "</DateFormat><Time; DateAndTime=\"1\" => " + one({"", "DateAndTime=\"2\""}));
         std::vector<XmlElement> &osds = camera.answers["GetOSDs"].children;
-        const QStringList all{"other", "logo", "D", "T"};
-        for (const QString &token : all)
+        for (size_t i = osds.size(); i-- > 0;)
             if (random.bounded(2))
-                osds.erase(std::remove_if(osds.begin(), osds.end(),
-                                          [&](const XmlElement &each) { return each.attribute("token") == token; }),
-                           osds.end());
+                osds.erase(osds.begin() + int(i));
         const QMap<QString, QStringList> values{
             {"timePos", {"hide", "left_top", "right_top", "left_bottom", "Custom(0,0.5)", "right_bottom"}},
             {"position", {"hide", "left_top", "right_top", "left_bottom", "Custom(0,0.5)"}},
@@ -209,7 +187,7 @@ private slots:
         }
     }
 
-    void streamsGoThereAndBack_data() { seeds(300); }
+    void streamsGoThereAndBack_data() { seeds(200); }
 
     void streamsGoThereAndBack()
     {
@@ -246,9 +224,7 @@ private slots:
     {
         QVERIFY(isKnownToOnvif("stream_set_params") && isKnownToOnvif("image_get_expertsetting_param"));
         QVERIFY(!isKnownToOnvif("ifconfig_eth_set") && !isKnownToOnvif(""));
-        for (const int code : {OnvifNotAllowed, OnvifNotKnown, OnvifFault, OnvifTrouble})
-            QVERIFY(!onvifCodeText(code).isEmpty());
-        QVERIFY(onvifCodeText(-61010).isEmpty());
+        QVERIFY(!onvifCodeText(OnvifTrouble).isEmpty() && onvifCodeText(-61010).isEmpty());
     }
 };
 ORDA_TEST_MAIN(OnvifFamiliesTest)
