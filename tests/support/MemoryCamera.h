@@ -26,8 +26,6 @@ public:
             failures.insert(each.section(' ', 0, 0).mid(1), each.section(' ', 1));
         parts = parts.filter(QRegularExpression("^[^@]"));
         const vms_sdk::XmlRead read = vms_sdk::readXml(replaced(file.readAll(), parts).toUtf8());
-        if (!read.root)
-            qFatal("%s: %s", qPrintable(setup), qPrintable(read.error));
         for (const Element &each : read.root->children)
             answers.insert(each.name.chopped(8), vms_sdk::detached({&*read.root, &each}));
     }
@@ -56,7 +54,7 @@ public:
         int &most = isRepeatable ? mostReads : mostWrites;
         most = qMax(most, ++waiting);
         if (!request.name.startsWith("Get"))
-            sent.append(isRepeatable ? "repeatable " + request.name : request.name);
+            sent.append(request.name + (isRepeatable ? "?" : "") + (request.children.size() > 1 ? "+" : ""));
         QTimer::singleShot(0, owner, [this, request, done] {
             --waiting;
             if (failures.value(request.name) != "silent")
@@ -73,7 +71,6 @@ public:
         return text;
     }
 
-    /// Without prefixes.
     static QString dump(const Element &element)
     {
         QString text = '<' + element.name;
@@ -87,7 +84,7 @@ public:
 
     QMap<QString, Element> answers; ///< by the operation
     QMap<QString, QString> failures; ///< by the operation: "silent", "lost", "perhaps", "other", or a code
-    QStringList sent; ///< all writes
+    QStringList sent; ///< all writes; with "?" repeatable ones, with "+" those of several elements
     int waiting = 0, mostReads = 0, mostWrites = 0; ///< at once
 
 private:

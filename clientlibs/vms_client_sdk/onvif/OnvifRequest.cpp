@@ -99,7 +99,6 @@ void OnvifRequest::takeWritten(const CallResult &result)
 {
     if (m_isFinished)
         return;
-    m_isWriting = false;
     const OnvifWrite &write = m_plan.writes[m_written];
     if (hasFailed(write.operation.request, result, true))
         return;
