@@ -138,7 +138,7 @@ private slots:
     {
         const QString how = QTest::currentDataTag();
         const bool isToken = how.startsWith("token");
-        Site site([isToken](const CameraState &camera) { return camera.traits.takesUsernameToken == isToken; });
+        Site site([isToken](const CameraState &camera) { return camera.traits.takesDigest != isToken; });
         QAtomicInt refused;
         connect(
             site.fleet.get(), &EmbeddedFleet::signOnRefused, &site.owner, [&] { ++refused; }, Qt::DirectConnection);
