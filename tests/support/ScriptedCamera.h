@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/onvif/SoapMessage.h>
 
 #include <QtNetwork>
 
@@ -9,7 +10,7 @@ class ScriptedCamera : public QObject
 {
 public:
     QStringList schemes; ///< that it asks for: "MD5", "SHA-256", "Token", "Basic"; none: it asks for no account
-    QStringList broken; ///< of these: it asks for them, and takes nobody's
+    QString broken; ///< of these one that it takes from nobody
     QSet<QString> open{"GetSystemDateAndTime", "GetServices", "GetCapabilities"}; ///< operations for everybody
     QSet<QString> unknown, forbidden, silent, dropped; ///< operations
     QString serial = "SN-1", password = "Gr\u00fcn-7";
@@ -17,7 +18,7 @@ public:
     int stales = 0; ///< so many requests come with a nonce that is too old
     int clockOffset = 0; ///< seconds
     bool isAway = false; ///< hangs up on everybody
-    QString mediaAddress;
+    QString mediaAddress = "http://192.0.2.1/media";
     QStringList log; ///< "GetServices none", "SetDiscoveryMode MD5 refused", "GetProfiles@/media Token"
     vms_sdk::DevInfo info;
 
@@ -40,8 +41,7 @@ public:
     /// How the account was shown for an operation, each time.
     QStringList shownFor(const QString &operation) const
     {
-        QStringList shown = log.filter(QRegularExpression("^" + operation + "[ @]"));
-        return shown.replaceInStrings(operation + ' ', "");
+        return log.filter(QRegularExpression("^" + operation + "[ @]")).replaceInStrings(operation + ' ', "");
     }
 
 private:
@@ -50,31 +50,28 @@ private:
         QByteArray &received = m_received[socket];
         received += socket->readAll();
         const int headEnd = received.indexOf("\r\n\r\n") + 4;
-        const QRegularExpression length("content-length: *(\\d+)", QRegularExpression::CaseInsensitiveOption);
-        const int size = headEnd + length.match(received.left(headEnd)).captured(1).toInt();
+        const QString head = received.left(headEnd);
+        const int size = headEnd + found("\r\n(?i)content-length: *(\\d+)", head).toInt();
         if (headEnd < 4 || received.size() < size)
             return;
-        const QByteArray head = received.left(headEnd), body = received.mid(headEnd, size - headEnd);
+        const QByteArray body = received.mid(headEnd, size - headEnd);
         received.remove(0, size);
         take(socket, head, body);
     }
 
-    void take(QTcpSocket *socket, const QByteArray &head, const QByteArray &body)
+    void take(QTcpSocket *socket, const QString &head, const QByteArray &body)
     {
-        QXmlStreamReader xml(body);
-        while (xml.name() != "Body" && !xml.atEnd())
-            xml.readNextStartElement();
-        xml.readNextStartElement();
-        const QString operation = xml.name().toString();
+        const QString operation = vms_sdk::readSoapAnswer(body).body.name, path = head.section(' ', 1, 1);
         if (isAway || dropped.contains(operation))
             return socket->abort();
-        QString shown = "none";
+        const QString header = found("\r\n(?i)authorization: ([^\r]*)", head);
+        m_shown = body.contains("UsernameToken") ? "Token" : header.isEmpty() ? "none" : header.section(' ', 0, 0);
         m_isStale = false;
-        const bool isKnown = isAccount(head, body, &shown) && !broken.contains(shown);
-        const bool isAllowed =
-            (schemes.isEmpty() || open.contains(operation) || isKnown) && !forbidden.contains(operation);
-        const QString path = head.split(' ').value(1);
-        log.append(operation + (path == info.path ? "" : '@' + path) + ' ' + shown + (isAllowed ? "" : " refused"));
+        const bool isRight =
+            m_shown == "Token" ? isTokenRight(body) : m_shown == "Digest" && isDigestRight(header, path);
+        const bool isKnown = schemes.isEmpty() || open.contains(operation) || (isRight && m_shown != broken);
+        const bool isAllowed = isKnown && !forbidden.contains(operation);
+        log.append(operation + (path == info.path ? "" : '@' + path) + ' ' + m_shown + (isAllowed ? "" : " refused"));
         if (silent.contains(operation))
             return;
         if (!isAllowed)
@@ -82,93 +79,73 @@ private:
         else if (unknown.contains(operation))
             send(socket, "500 Internal Server Error", {}, fault("ActionNotSupported"));
         else
-            send(socket, "200 OK", {}, answer(operation));
+            send(socket, "200 OK", {},
+                 QString("<%2:%1Response>%3</%2:%1Response>")
+                     .arg(operation, operation == "GetProfiles" ? "trt" : "tds", content(operation)));
     }
 
-    bool isAccount(const QByteArray &head, const QByteArray &body, QString *shown)
+    bool isTokenRight(const QString &body)
     {
-        const auto between = [&body](const char *name) {
-            return QRegularExpression(QString("<[^<>]*%1[^<>]*>([^<]*)<").arg(name)).match(body).captured(1);
+        const auto field = [&body](const char *name) {
+            return found(QString("[<:]%1(?: [^>]*)?>([^<]*)<").arg(name), body);
         };
-        if (body.contains("UsernameToken")) {
-            *shown = "Token";
-            const QString created = between("Created");
-            const qint64 age = QDateTime::fromString(created, Qt::ISODateWithMs).secsTo(now());
-            QCryptographicHash hash(QCryptographicHash::Sha1);
-            hash.addData(QByteArray::fromBase64(between("Nonce").toLatin1()) + created.toLatin1() + password.toUtf8());
-            const bool isNew = !std::exchange(m_nonces[between("Nonce").toLatin1()], 1);
-            return isNew && qAbs(age) < 60 && between("Username") == info.userName
-                && hash.result().toBase64() == between("Password").toLatin1();
-        }
-        const QString header = QRegularExpression("\r\nauthorization: ([^\r]*)", QRegularExpression::CaseInsensitiveOption)
-                                   .match(head).captured(1);
-        if (header.isEmpty())
-            return false;
-        *shown = header.section(' ', 0, 0);
-        return *shown == "Digest" && isDigestRight(header, head.split(' ').value(1), shown);
+        const QByteArray nonce = field("Nonce").toLatin1(), created = field("Created").toLatin1();
+        const QByteArray hashed = QByteArray::fromBase64(nonce) + created + password.toUtf8();
+        return std::exchange(m_nonces[nonce], 1) == 0
+            && qAbs(QDateTime::fromString(created, Qt::ISODateWithMs).secsTo(now())) < 60
+            && field("Username") == "operator"
+            && QCryptographicHash::hash(hashed, QCryptographicHash::Sha1).toBase64() == field("Password").toLatin1();
     }
 
-    bool isDigestRight(const QString &header, const QByteArray &uri, QString *shown)
+    bool isDigestRight(const QString &header, const QString &path)
     {
-        const auto field = [&header](const char *name) {
-            const QRegularExpression pattern(QString("[ ,]%1=(?:\"([^\"]*)\"|([^, ]*))").arg(name));
-            const QRegularExpressionMatch match = pattern.match(header);
-            return (match.captured(1) + match.captured(2)).toUtf8();
+        const auto field = [&](const char *name) {
+            return found(QString("[ ,]%1=\"?([^\", ]*)").arg(name), header).toUtf8();
         };
-        *shown = field("algorithm").isEmpty() ? "MD5" : field("algorithm");
-        const auto kind = *shown == "SHA-256" ? QCryptographicHash::Sha256 : QCryptographicHash::Md5;
+        m_shown = field("algorithm");
+        const auto kind = m_shown == "SHA-256" ? QCryptographicHash::Sha256 : QCryptographicHash::Md5;
         const auto hash = [kind](const QByteArray &text) { return QCryptographicHash::hash(text, kind).toHex(); };
-        const QByteArray account = hash("operator:camera:" + password.toUtf8());
         const QByteArray middle = ':' + field("nonce") + ':' + field("nc") + ':' + field("cnonce") + ":auth:";
-        const int count = field("nc").toInt(nullptr, 16);
+        const int count = field("nc").toInt(nullptr, 16), before = m_nonces.value(field("nonce"), count);
         m_isStale = stales > 0 && stales-- > 0;
-        if (m_isStale || !m_nonces.contains(field("nonce")) || count <= m_nonces.value(field("nonce")))
-            return false;
-        const bool isUsed = std::exchange(m_nonces[field("nonce")], count) > 0;
-        return !(isUsed && isNonceTakenOnce) && field("uri") == uri
-            && field("response") == hash(account + middle + hash("POST:" + uri));
+        m_nonces[field("nonce")] = count;
+        return !m_isStale && count > before && !(before > 0 && isNonceTakenOnce) && field("uri") == path.toUtf8()
+            && field("response")
+                   == hash(hash("operator:camera:" + password.toUtf8()) + middle + hash("POST:" + path.toUtf8()));
     }
 
     void refuse(QTcpSocket *socket)
     {
-        QByteArray challenges;
+        QByteArray headers;
         for (const QString &scheme : qAsConst(schemes)) {
             const QByteArray nonce = QByteArray::number(QRandomGenerator::global()->generate64());
-            if (scheme == "Basic")
-                challenges += "WWW-Authenticate: Basic realm=\"camera\"\r\n";
-            else if (scheme != "Token")
-                challenges += "WWW-Authenticate: Digest realm=\"camera\", qop=\"auth\", algorithm=" + scheme.toLatin1()
-                            + ", nonce=\"" + nonce + (m_isStale ? "\", stale=true\r\n" : "\"\r\n");
             m_nonces[nonce] = 0;
+            if (scheme == "Basic")
+                headers += "WWW-Authenticate: Basic realm=\"camera\"\r\n";
+            else if (scheme != "Token")
+                headers += "WWW-Authenticate: Digest realm=\"camera\", qop=\"auth\", algorithm=" + scheme.toLatin1()
+                         + (m_isStale ? ", stale=true" : "") + ", nonce=\"" + nonce + "\"\r\n";
         }
-        send(socket, challenges.isEmpty() ? "400 Bad Request" : "401 Unauthorized", challenges,
+        send(socket, headers.isEmpty() ? "400 Bad Request" : "401 Unauthorized", headers,
              schemes.contains("Token") ? fault("NotAuthorized") : QString());
-    }
-
-    QString answer(const QString &operation) const
-    {
-        const QString named = "<%2:%1Response>%3</%2:%1Response>";
-        const QString name = operation == "GetProfiles" ? "trt" : "tds";
-        return named.arg(operation, name, content(operation));
     }
 
     QString content(const QString &operation) const
     {
-        const QString media = mediaAddress.isEmpty() ? QString("http://%1/media").arg(info.ip) : mediaAddress;
-        if (operation == "GetSystemDateAndTime")
-            return now().toString("'<tds:SystemDateAndTime><tt:UTCDateTime><tt:Time><tt:Hour>'H'</tt:Hour><tt:Minute>'m"
-                                  "'</tt:Minute><tt:Second>'s'</tt:Second></tt:Time><tt:Date><tt:Year>'yyyy'</tt:Year>"
-                                  "<tt:Month>'M'</tt:Month><tt:Day>'d'</tt:Day></tt:Date></tt:UTCDateTime>"
-                                  "</tds:SystemDateAndTime>'");
-        if (operation == "GetServices")
-            return "<tds:Service><tds:Namespace>http://www.onvif.org/ver10/media/wsdl</tds:Namespace><tds:XAddr>"
-                + media.toHtmlEscaped() + "</tds:XAddr></tds:Service>";
-        if (operation == "GetCapabilities")
-            return "<tds:Capabilities><tt:Media><tt:XAddr>" + media.toHtmlEscaped()
-                + "</tt:XAddr></tt:Media></tds:Capabilities>";
-        if (operation == "GetDeviceInformation")
-            return "<tds:SerialNumber> " + serial + " </tds:SerialNumber>";
-        return operation == "GetDiscoveryMode" ? "<tds:DiscoveryMode>Discoverable</tds:DiscoveryMode>" : QString();
+        const QString media = "<tt:Media><tt:XAddr>" + mediaAddress + "</tt:XAddr></tt:Media>";
+        return QHash<QString, QString>{
+            {"GetSystemDateAndTime",
+             now().toString("'<tds:SystemDateAndTime><tt:UTCDateTime><tt:Time><tt:Hour>'H'</tt:Hour>"
+                            "<tt:Minute>'m'</tt:Minute><tt:Second>'s'</tt:Second></tt:Time><tt:Date>"
+                            "<tt:Year>'yyyy'</tt:Year><tt:Month>'M'</tt:Month><tt:Day>'d'</tt:Day>"
+                            "</tt:Date></tt:UTCDateTime></tds:SystemDateAndTime>'")},
+            {"GetServices",
+             "<tds:Service><tds:Namespace>http://www.onvif.org/ver10/media/wsdl</tds:Namespace><tds:XAddr>"
+                 + mediaAddress + "</tds:XAddr></tds:Service>"},
+            {"GetCapabilities", "<tds:Capabilities>" + media + "</tds:Capabilities>"},
+            {"GetDeviceInformation", "<tds:SerialNumber> " + serial + " </tds:SerialNumber>"},
+            {"GetDiscoveryMode", "<tds:DiscoveryMode>Discoverable</tds:DiscoveryMode>"}}
+            .value(operation);
     }
 
     static QString fault(const QString &code)
@@ -177,22 +154,26 @@ private:
              + "</e:Value></e:Subcode></e:Code><e:Reason><e:Text>no</e:Text></e:Reason></e:Fault>";
     }
 
-    static void send(QTcpSocket *socket, const char *status, const QByteArray &headers, const QString &content)
+    static void send(QTcpSocket *socket, const QByteArray &status, const QByteArray &headers, const QString &content)
     {
-        const QString envelope = R"(<e:Envelope xmlns:e="http://www.w3.org/2003/05/soap-envelope")"
-                                 R"( xmlns:ter="http://www.onvif.org/ver10/error")"
-                                 R"( xmlns:tds="http://www.onvif.org/ver10/device/wsdl")"
-                                 R"( xmlns:trt="http://www.onvif.org/ver10/media/wsdl")"
-                                 R"( xmlns:tt="http://www.onvif.org/ver10/schema"><e:Body>%1</e:Body></e:Envelope>)";
-        const QByteArray body = content.isEmpty() ? QByteArray() : envelope.arg(content).toUtf8();
-        socket->write(QByteArray("HTTP/1.1 ") + status + "\r\nContent-Type: application/soap+xml\r\n" + headers
+        const QString www = "http://www.onvif.org/ver10/";
+        const QString text =
+            QString(R"(<e:Envelope xmlns:e="http://www.w3.org/2003/05/soap-envelope" xmlns:tds="%1device/wsdl")"
+                    R"( xmlns:trt="%1media/wsdl" xmlns:tt="%1schema"><e:Body>%2</e:Body></e:Envelope>)");
+        const QByteArray body = content.isEmpty() ? QByteArray() : text.arg(www, content).toUtf8();
+        socket->write("HTTP/1.1 " + status + "\r\nContent-Type: application/soap+xml\r\n" + headers
                       + "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body);
     }
 
+    static QString found(const QString &pattern, const QString &text)
+    {
+        return QRegularExpression(pattern).match(text).captured(1);
+    }
     QDateTime now() const { return QDateTime::currentDateTimeUtc().addSecs(clockOffset); }
 
     QTcpServer m_server;
     QHash<QTcpSocket *, QByteArray> m_received;
     QHash<QByteArray, int> m_nonces; ///< how often they were used
+    QString m_shown;
     bool m_isStale = false;
 };

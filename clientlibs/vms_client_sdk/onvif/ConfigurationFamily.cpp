@@ -231,7 +231,9 @@ QString ConfigurationFamily::changeKeys(const Held &held, const QJsonObject &ask
     for (const KeyRow *row = m_table.keys; row != m_table.keys + m_table.keyCount; ++row) {
         const QString key = QLatin1String(row->key);
         QString refused;
-        if (asked.contains(key))
+        if (asked.contains(key) && isOtherEncoding && valueOf(*row, *configuration, options).isUndefined())
+            refused = notAllowed(key, asked.value(key), QStringLiteral("no such value with this encoding"));
+        else if (asked.contains(key))
             refused = setValue(*row, asked.value(key), options, configuration);
         else if (isOtherEncoding && row->isFitted)
             fitValue(*row, options, configuration);
