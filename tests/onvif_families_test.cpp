@@ -1,5 +1,5 @@
-#include "support/OrdaTest.h"
 #include "support/CameraInMemory.h"
+#include "support/OrdaTest.h"
 
 #include <vms_client_sdk/OnvifCode.h>
 #include <vms_client_sdk/onvif/OnvifRequest.h>
@@ -262,9 +262,11 @@ private slots:
         QFETCH(int, seed);
         QRandomGenerator random{quint32(seed)};
         const auto one = [&random](const QStringList &of) { return of.at(random.bounded(of.size())); };
-        CameraInMemory camera("onvif_media2.xml; <FontSize>32</FontSize><Extension><v:Week>true</v:Week></Extension> => ; "
-                              " v:layer=\"2\" => ; Total=\"4\" => Total=\"" + one({"3", "4", "5"}) + "\"; yyyy-MM-dd</DateFormat><Time => "
-                              + one({"yyyy-MM-dd", "M/d/yyyy"}) + "</DateFormat><Time; DateAndTime=\"1\" => " + one({"", "DateAndTime=\"2\""}));
+        CameraInMemory camera(
+            "onvif_media2.xml; <FontSize>32</FontSize><Extension><v:Week>true</v:Week></Extension> => ; "
+            " v:layer=\"2\" => ; Total=\"4\" => Total=\""
+            + one({"3", "4", "5"}) + "\"; yyyy-MM-dd</DateFormat><Time => " + one({"yyyy-MM-dd", "M/d/yyyy"})
+            + "</DateFormat><Time; DateAndTime=\"1\" => " + one({"", "DateAndTime=\"2\""}));
         std::vector<XmlElement> &osds = camera.answers["GetOSDs"].children;
         const QStringList all{"other", "logo", "D", "T"};
         for (const QString &token : all)
@@ -275,7 +277,8 @@ private slots:
         const QMap<QString, QStringList> values{
             {"timePos", {"hide", "left_top", "right_top", "left_bottom", "Custom(0,0.5)", "right_bottom"}},
             {"position", {"hide", "left_top", "right_top", "left_bottom", "Custom(0,0.5)"}},
-            {"timeFormat", {"YYYY-MM-DD hh:mm:ss", "MM/DD/YYYY hh:mm:ss", "M/d/yyyy h:mm:ss tt", "DD/MM/YYYY hh:mm:ss"}},
+            {"timeFormat",
+             {"YYYY-MM-DD hh:mm:ss", "MM/DD/YYYY hh:mm:ss", "M/d/yyyy h:mm:ss tt", "DD/MM/YYYY hh:mm:ss"}},
             {"channelName", {"", "Gate", "Hof <&> \u00e4"}}};
         for (int round = 0; round < 5; ++round) {
             QJsonObject changes;
@@ -299,10 +302,12 @@ private slots:
         QFETCH(int, seed);
         QRandomGenerator random{quint32(seed)};
         const bool isMedia2 = seed % 2;
-        CameraInMemory camera(isMedia2 ? "onvif_media2.xml; 25.0 => 25; \"1\"> => \"true\">; >7000< => >3000<; =\"250\" => =\"100\"; "
-                                         "<RateControl><FrameRateLimit>12 => <RateControl ConstantBitRate=\"false\"><FrameRateLimit>12"
-                                       : "onvif_media.xml; <s:Encoding>JPEG => <s:Encoding>H264; <s:Multicast> => "
-                                         "<s:H264><s:GovLength>20</s:GovLength><s:H264Profile>High</s:H264Profile></s:H264><s:Multicast>");
+        CameraInMemory camera(
+            isMedia2
+                ? "onvif_media2.xml; 25.0 => 25; \"1\"> => \"true\">; >7000< => >3000<; =\"250\" => =\"100\"; "
+                  "<RateControl><FrameRateLimit>12 => <RateControl ConstantBitRate=\"false\"><FrameRateLimit>12"
+                : "onvif_media.xml; <s:Encoding>JPEG => <s:Encoding>H264; <s:Multicast> => "
+                  "<s:H264><s:GovLength>20</s:GovLength><s:H264Profile>High</s:H264Profile></s:H264><s:Multicast>");
         const QMap<QString, QJsonArray> values{{"venctype", {"h264", "h265", "jpeg"}},
                                                {"width", {1920, 1280, 640}},
                                                {"height", {1080, 720, 480}},
