@@ -82,8 +82,8 @@ private slots:
         row("no account", QStringList(), "", QStringList("none"), "");
         row("Digest before token", QStringList({"Token", "MD5"}), "", QStringList({none, "MD5"}), "");
         row("Digest before Basic", QStringList({"Basic", "MD5"}), "", QStringList({none, "MD5"}), "");
-        row("token after Digest", QStringList({"MD5", "Token"}), "Digest",
-            QStringList({none, "MD5 refused", "Token"}), "");
+        row("token after Digest", QStringList({"MD5", "Token"}), "Digest", QStringList({none, "MD5 refused", "Token"}),
+            "");
         row("Digest, wrong", QStringList("MD5"), "password", QStringList({none, "MD5 refused"}), password);
         row("token, wrong", QStringList("Token"), "password", QStringList({none, "Token refused"}), password);
         row("both, wrong", QStringList({"Token", "SHA-256", "MD5"}), "password",
@@ -245,7 +245,9 @@ private slots:
             QTRY_COMPARE(m_states[id], States({DevConnecting, DevOnline}));
             const QString asked = "@" + path + ' ';
             QCOMPARE(camera.shownFor("GetProfiles"),
-                     path.isEmpty() ? QStringList() : QStringList({"GetProfiles" + asked + "none refused", "GetProfiles" + asked + "Token"}));
+                     path.isEmpty()
+                         ? QStringList()
+                         : QStringList({"GetProfiles" + asked + "none refused", "GetProfiles" + asked + "Token"}));
             QVERIFY(!other.hasPendingConnections());
         }
     }
@@ -313,7 +315,8 @@ private slots:
     void aRecordMayChangeAtAnyMoment_data()
     {
         columns<QString>({"operation"});
-        for (const char *operation : {"GetSystemDateAndTime", "GetServices", "GetDeviceInformation", "GetDiscoveryMode"})
+        for (const char *operation :
+             {"GetSystemDateAndTime", "GetServices", "GetDeviceInformation", "GetDiscoveryMode"})
             row(operation, QString(operation));
     }
 

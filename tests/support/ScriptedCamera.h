@@ -100,8 +100,10 @@ private:
             return isNew && qAbs(age) < 60 && between("Username") == info.userName
                 && hash.result().toBase64() == between("Password").toLatin1();
         }
-        const QString header = QRegularExpression("\r\nauthorization: ([^\r]*)", QRegularExpression::CaseInsensitiveOption)
-                                   .match(head).captured(1);
+        const QString header =
+            QRegularExpression("\r\nauthorization: ([^\r]*)", QRegularExpression::CaseInsensitiveOption)
+                .match(head)
+                .captured(1);
         if (header.isEmpty())
             return false;
         *shown = header.section(' ', 0, 0);
@@ -162,10 +164,10 @@ private:
                                   "</tds:SystemDateAndTime>'");
         if (operation == "GetServices")
             return "<tds:Service><tds:Namespace>http://www.onvif.org/ver10/media/wsdl</tds:Namespace><tds:XAddr>"
-                + media.toHtmlEscaped() + "</tds:XAddr></tds:Service>";
+                 + media.toHtmlEscaped() + "</tds:XAddr></tds:Service>";
         if (operation == "GetCapabilities")
             return "<tds:Capabilities><tt:Media><tt:XAddr>" + media.toHtmlEscaped()
-                + "</tt:XAddr></tt:Media></tds:Capabilities>";
+                 + "</tt:XAddr></tt:Media></tds:Capabilities>";
         if (operation == "GetDeviceInformation")
             return "<tds:SerialNumber> " + serial + " </tds:SerialNumber>";
         return operation == "GetDiscoveryMode" ? "<tds:DiscoveryMode>Discoverable</tds:DiscoveryMode>" : QString();
