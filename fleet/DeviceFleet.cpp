@@ -6,6 +6,8 @@
 #include "fleet/Reaction.h"
 #include "fleet/SimulatedDevice.h"
 #include "fleet/Site.h"
+#include "fleet/onvif/OnvifSite.h"
+#include "fleet/onvif/ProbeResponder.h"
 
 #include <vms_client_sdk/ForeignText.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
@@ -23,11 +25,6 @@ namespace {
 // So many windows and scripts may use a site at a time. Older connections are those that their clients have lost.
 constexpr int maxClients = 4;
 constexpr int maxWaitingAnswers = 256; // of one connection; a task waits for one at a time
-
-bool hasOwnAddresses(const FleetOptions &options)
-{
-    return options.listenAddress.isNull() || options.listenAddress == QHostAddress(QHostAddress::AnyIPv4);
-}
 
 } // namespace
 
@@ -53,8 +50,12 @@ DeviceFleet::DeviceFleet(const FleetOptions &options, const FaultPlan &faults, Q
     , m_options(options)
     , m_faults(faults)
     , m_listener(new DeviceListener([this](const QString &path) { return admission(path); }, this))
+    , m_onvif(new OnvifSite(options, m_faults, this))
 {
     connect(m_listener, &DeviceListener::dialled, this, &DeviceFleet::greet);
+    connect(m_listener, &DeviceListener::posted, m_onvif, &OnvifSite::takeOver);
+    connect(m_onvif, &OnvifSite::requestReceived, this, &DeviceFleet::requestReceived);
+    connect(m_onvif, &OnvifSite::signOnRefused, this, &DeviceFleet::signOnRefused);
     m_devices.reserve(std::size_t(options.devices));
     m_deviceById.reserve(options.devices);
     for (int i = 0; i < options.devices; ++i) {
@@ -63,7 +64,7 @@ DeviceFleet::DeviceFleet(const FleetOptions &options, const FaultPlan &faults, Q
     }
     const QStringList faultyIds = faults.deviceIds();
     for (const QString &id : faultyIds)
-        if (!find(id))
+        if (!find(id) && !m_onvif->hasDevice(id))
             qCWarning(fleetLog).noquote()
                 << tr("no device is called \"%1\": its faults have no effect").arg(vms_sdk::escaped(id));
 }
@@ -72,7 +73,11 @@ DeviceFleet::~DeviceFleet() = default;
 
 QString DeviceFleet::start()
 {
-    return m_listener->start(m_options);
+    const QString error = m_listener->start(m_options);
+    if (!error.isEmpty())
+        return error;
+    m_onvif->setServer(m_listener->serverPort(), m_listener->fingerprint());
+    return m_options.answersProbes ? (new ProbeResponder(*m_onvif, this))->start() : QString();
 }
 
 QString DeviceFleet::address() const
@@ -88,7 +93,7 @@ QList<vms_sdk::DevInfo> DeviceFleet::inventory() const
     records.reserve(int(m_devices.size()));
     for (const auto &device : m_devices)
         records.append(inventoryRecord(*device));
-    return records;
+    return records + m_onvif->inventory();
 }
 
 vms_sdk::DevInfo DeviceFleet::inventoryRecord(const Device &device) const
@@ -116,7 +121,7 @@ vms_sdk::DevInfo DeviceFleet::inventoryRecord(const Device &device) const
 
 QJsonObject DeviceFleet::dump() const
 {
-    QJsonObject devices;
+    QJsonObject devices = m_onvif->dump();
     for (const auto &device : m_devices)
         devices.insert(device->info.id, device->simulated.parameters());
     return {{QStringLiteral("devices"), devices}};
@@ -140,6 +145,7 @@ void DeviceFleet::clearFaults()
 
 void DeviceFleet::setOnline(const QString &deviceId, bool online)
 {
+    m_onvif->setOnline(deviceId, online);
     Device *device = find(deviceId);
     if (!device)
         return;

@@ -21,10 +21,12 @@ namespace device_fleet {
 
 class DeviceConnection;
 class DeviceListener;
+class OnvifSite;
 enum class Admission;
 
-/// Simulated devices behind one server socket, told apart by the path that is dialled. Speaks the device protocol
-/// (docs/device-protocol.md). All of it lives on the thread on which it was made; EmbeddedFleet brings a thread along.
+/// Simulated devices behind one server socket. Those of the device protocol (docs/device-protocol.md) are told apart by
+/// the path that is dialled; ONVIF cameras are in OnvifSite. All of it lives on the thread on which it was made;
+/// EmbeddedFleet brings a thread along.
 class DeviceFleet : public QObject
 {
     Q_OBJECT
@@ -40,11 +42,12 @@ public:
     /// The devices as a client needs to know them, passwords included. Only after start().
     QList<vms_sdk::DevInfo> inventory() const;
 
-    /// What every device has stored: {"devices": {"<id>": {"<object>": {…}}}}. Holds no passwords.
+    /// What every device has stored: {"devices": {"<id>": {"<object>": {…}}}}; of an ONVIF camera what dumpOf() has
+    /// (StateDump.h). Holds no passwords.
     QJsonObject dump() const;
-    int connectedDevices() const; ///< signed on
+    int connectedDevices() const; ///< signed on; of the device protocol only
 
-    /// @param deviceId, method a name or FaultPlan::any()
+    /// @param deviceId, method a name or FaultPlan::any(); a method of an ONVIF camera is the name of an operation
     void setFault(const QString &deviceId, const QString &method, const FaultRule &fault);
     void clearFaults();
 
@@ -54,6 +57,8 @@ public:
 signals:
     /// Every request, before the device deals with it. @param method empty when the request has none
     void requestReceived(const QString &deviceId, const QString &method, const QString &text);
+    /// An ONVIF camera was shown an account that is not the right one; not raised for a nonce that is used up.
+    void signOnRefused(const QString &deviceId);
 
 private:
     struct Device;
@@ -68,6 +73,7 @@ private:
     FleetOptions m_options;
     FaultPlan m_faults;
     DeviceListener *m_listener;
+    OnvifSite *m_onvif;
     std::vector<std::unique_ptr<Device>> m_devices;
     QHash<QString, Device *> m_deviceById;
 };

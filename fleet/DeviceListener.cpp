@@ -4,7 +4,6 @@
 #include "fleet/Logging.h"
 #include "fleet/TlsIdentity.h"
 
-#include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QSslCertificate>
@@ -51,6 +50,7 @@ QString DeviceListener::start(const FleetOptions &options)
     }
 
     // To answer on all of 127.0.0.0/8 a socket must be bound to every address. Other machines are then refused.
+    m_takesPosts = options.onvifDevices > 0;
     m_isLoopbackOnly = options.listenAddress.isNull();
     const QHostAddress address = m_isLoopbackOnly ? QHostAddress(QHostAddress::AnyIPv4) : options.listenAddress;
     if (!listen(address, options.port) || ::listen(int(socketDescriptor()), backlog) != 0)
@@ -111,6 +111,11 @@ void DeviceListener::readHead(QTcpSocket *socket, vms_sdk::HttpHead *head)
 
 void DeviceListener::admit(QTcpSocket *socket, const vms_sdk::HttpHead &head)
 {
+    if (m_takesPosts && head.startLine().startsWith("POST ")) {
+        release(socket);
+        emit posted(socket, head);
+        return;
+    }
     const QString path = pathOf(head);
     switch (m_gatekeeper(path)) {
     case Admission::OffLine:
@@ -121,14 +126,19 @@ void DeviceListener::admit(QTcpSocket *socket, const vms_sdk::HttpHead &head)
         socket->disconnectFromHost();
         break;
     case Admission::Welcome:
-        disconnect(socket, nullptr, this, nullptr);
-        delete socket->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly); // the handshake's deadline
+        release(socket);
         auto *connection = new vms_sdk::WebSocketConnection({}, this);
         connect(connection, &vms_sdk::WebSocketConnection::finished, connection, &QObject::deleteLater);
         if (connection->accept(socket, head))
             emit dialled(path, connection);
         break;
     }
+}
+
+void DeviceListener::release(QTcpSocket *socket)
+{
+    disconnect(socket, nullptr, this, nullptr);
+    delete socket->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly); // the handshake's deadline
 }
 
 } // namespace device_fleet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QSslConfiguration>
@@ -43,6 +44,8 @@ public:
 signals:
     /// A client has dialled a device that may be dialled; the receiver owns the connection.
     void dialled(const QString &path, vms_sdk::WebSocketConnection *connection);
+    /// A client has sent the head of a POST request; the receiver owns the socket. Only with ONVIF devices.
+    void posted(QTcpSocket *socket, const vms_sdk::HttpHead &head);
 
 protected:
     void incomingConnection(qintptr descriptor) override;
@@ -51,9 +54,11 @@ private:
     QTcpSocket *makeSocket(qintptr descriptor);
     void readHead(QTcpSocket *socket, vms_sdk::HttpHead *head);
     void admit(QTcpSocket *socket, const vms_sdk::HttpHead &head);
+    void release(QTcpSocket *socket);
 
     Gatekeeper m_gatekeeper;
     bool m_isLoopbackOnly = true;
+    bool m_takesPosts = false;
     QSslConfiguration m_tls; // null: none
 };
 

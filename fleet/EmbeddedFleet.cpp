@@ -9,6 +9,7 @@ namespace device_fleet {
 namespace {
 
 constexpr qint64 filesPerDevice = 2; // the client's end and ours
+constexpr qint64 filesPerCamera = 8; // of up to four requests at once
 constexpr qint64 otherFiles = 128; // libraries, fonts, displays, records
 
 } // namespace
@@ -27,7 +28,7 @@ EmbeddedFleet::~EmbeddedFleet()
 }
 
 std::unique_ptr<EmbeddedFleet> EmbeddedFleet::startDemo(int devices, const QString &faultsFile, QStringList *warnings,
-                                                        QString *error)
+                                                        QString *error, int onvifDevices)
 {
     FaultPlan faults;
     if (!faultsFile.isEmpty())
@@ -36,6 +37,7 @@ std::unique_ptr<EmbeddedFleet> EmbeddedFleet::startDemo(int devices, const QStri
         return nullptr;
     FleetOptions options;
     options.devices = devices;
+    options.onvifDevices = onvifDevices;
     auto fleet = std::make_unique<EmbeddedFleet>(options, faults);
     *error = fleet->start();
     return error->isEmpty() ? std::move(fleet) : nullptr;
@@ -45,20 +47,23 @@ QString EmbeddedFleet::start()
 {
     if (m_fleet)
         return {};
-    const qint64 needed = m_options.devices * filesPerDevice + otherFiles;
+    const qint64 needed = m_options.devices * filesPerDevice + m_options.onvifDevices * filesPerCamera + otherFiles;
     const qint64 limit = vms_sdk::raiseOpenFileLimit();
     if (needed > limit) {
         return tr("%1 simulated devices in this process need %2 open files, but it may have only %3. Start them in a "
                   "process of "
-                  "their own, orda_fleet --devices %1 --inventory FILE, and connect to that inventory.")
-            .arg(m_options.devices)
+                  "their own, orda_fleet --devices %4 --onvif %5 --inventory FILE, and connect to that inventory.")
+            .arg(m_options.devices + m_options.onvifDevices)
             .arg(needed)
-            .arg(limit);
+            .arg(limit)
+            .arg(m_options.devices)
+            .arg(m_options.onvifDevices);
     }
     m_fleet = new DeviceFleet(m_options, m_faults);
     m_fleet->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_fleet, &QObject::deleteLater);
     connect(m_fleet, &DeviceFleet::requestReceived, this, &EmbeddedFleet::requestReceived, Qt::DirectConnection);
+    connect(m_fleet, &DeviceFleet::signOnRefused, this, &EmbeddedFleet::signOnRefused, Qt::DirectConnection);
     m_thread.start();
 
     QString error;

@@ -29,9 +29,10 @@ public:
     /// Devices to try something on, of seed 1, started.
     /// @param faultsFile what goes wrong with them (FaultPlan); empty: nothing
     /// @param warnings @param error for the user
+    /// @param onvifDevices cameras beside the devices
     /// @return null after an error
     static std::unique_ptr<EmbeddedFleet> startDemo(int devices, const QString &faultsFile, QStringList *warnings,
-                                                    QString *error);
+                                                    QString *error, int onvifDevices = 0);
 
     /// @return a text for the user, empty when the devices can be dialled. Refused when this process may not have as
     /// many open files as client and fleet need together.
@@ -50,6 +51,7 @@ public:
 signals:
     /// As in DeviceFleet; raised on the fleet's thread.
     void requestReceived(const QString &deviceId, const QString &method, const QString &text);
+    void signOnRefused(const QString &deviceId);
 
 private:
     void onFleetThread(const std::function<void()> &function) const;

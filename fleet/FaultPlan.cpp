@@ -1,6 +1,7 @@
 #include "fleet/FaultPlan.h"
 
 #include "fleet/SimulatedDevice.h"
+#include "fleet/onvif/OnvifDevice.h"
 
 #include <vms_client_sdk/CheckedJson.h>
 
@@ -44,7 +45,7 @@ void readEntry(vms_sdk::CheckedEntry &entry, FaultPlan *plan)
 {
     const QStringList devices = names(entry, QStringLiteral("devices"));
     const QStringList methods = names(entry, QStringLiteral("methods"));
-    const QStringList known = SimulatedDevice::methods();
+    const QStringList known = SimulatedDevice::methods() + OnvifDevice::operations();
     for (const QString &method : methods) {
         if (method != FaultPlan::any() && !known.contains(method))
             entry.fail(QStringLiteral("methods"),

@@ -8,10 +8,12 @@
 namespace device_fleet {
 
 /// What a fleet is made from. The same devices and seed give the same fleet, on any machine; device number i does not
-/// depend on how many devices follow it.
+/// depend on how many devices of its kind follow it, nor on those of the other kind.
 struct FleetOptions
 {
-    int devices = 0;
+    int devices = 0; ///< of the device protocol
+    int onvifDevices = 0;
+    bool answersProbes = false; ///< ONVIF cameras can be found by multicast
     quint32 seed = 1;
     quint16 port = 0; ///< 0: the system picks a free one
     std::chrono::milliseconds latency{0}; ///< before every answer
@@ -22,5 +24,10 @@ struct FleetOptions
     QString certificateFile; ///< PEM, the device's own certificate first; with keyFile: TLS
     QString keyFile; ///< PEM, RSA or EC, without a passphrase
 };
+
+inline bool hasOwnAddresses(const FleetOptions &options)
+{
+    return options.listenAddress.isNull() || options.listenAddress == QHostAddress(QHostAddress::AnyIPv4);
+}
 
 } // namespace device_fleet

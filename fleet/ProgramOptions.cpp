@@ -30,7 +30,8 @@ QString description()
               "\"drop-and-return\",\n"
               "               \"delayMs\": 800, \"returnWith\": \"old-settings\"},\n"
               "              {\"devices\": [\"dev-0007\"], \"fault\": \"error-code\", \"errorcode\": -5}]}\n"
-              "\"*\", or no list, means every device or every method; an entry that names one goes first.\n"
+              "\"*\", or no list, means every device or every method; an entry that names one goes first. With ONVIF "
+              "cameras a method is the name of an operation, such as \"SetVideoEncoderConfiguration\".\n"
               "  faults: %1\n"
               "  returnWith, for drop-and-return: new-settings, old-settings, missing-member\n\n"
               "Exit codes: 0 ended by a signal, 2 wrong usage, 3 a file or the port cannot be used.")
@@ -52,6 +53,12 @@ qint64 number(const QCommandLineParser &parser, const QCommandLineOption &option
     return min;
 }
 
+/// 0 when the option is not there.
+int numberOfDevices(const QCommandLineParser &parser, const QCommandLineOption &option, QString *error)
+{
+    return parser.isSet(option) ? int(number(parser, option, 1, maxDevices, error)) : 0;
+}
+
 QString checkAddress(const QHostAddress &address, const QString &text)
 {
     if (address.protocol() == QAbstractSocket::IPv4Protocol)
@@ -68,7 +75,11 @@ QString place(const QString &file)
 
 ProgramOptions parseOptions(const QStringList &arguments)
 {
-    const QCommandLineOption devices(QStringLiteral("devices"), tr("How many devices."), QStringLiteral("N"));
+    const QCommandLineOption devices(QStringLiteral("devices"), tr("How many devices of the device protocol."),
+                                     QStringLiteral("N"));
+    const QCommandLineOption onvif(QStringLiteral("onvif"), tr("How many ONVIF cameras."), QStringLiteral("N"));
+    const QCommandLineOption answerProbes(QStringLiteral("answer-probes"),
+                                          tr("Let the ONVIF cameras be found in the local network (WS-Discovery)."));
     const QCommandLineOption seed(QStringLiteral("seed"), tr("The same seed gives the same devices (default 1)."),
                                   QStringLiteral("S"), QStringLiteral("1"));
     const QCommandLineOption port(QStringLiteral("port"), tr("TCP port; 0, the default, takes a free one."),
@@ -94,7 +105,7 @@ ProgramOptions parseOptions(const QStringList &arguments)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
-    parser.addOptions({devices, seed, port, latency, faults, tls, listen, inventory, dump});
+    parser.addOptions({devices, onvif, answerProbes, seed, port, latency, faults, tls, listen, inventory, dump});
 
     ProgramOptions options;
     options.error = orda_programs::parseCommandLine(parser, arguments);
@@ -103,7 +114,9 @@ ProgramOptions parseOptions(const QStringList &arguments)
 
     const QStringList leftOver = parser.positionalArguments();
     const int keyFiles = parser.isSet(tls) ? 1 : 0;
-    options.fleet.devices = int(number(parser, devices, 1, maxDevices, &options.error));
+    options.fleet.devices = numberOfDevices(parser, devices, &options.error);
+    options.fleet.onvifDevices = numberOfDevices(parser, onvif, &options.error);
+    options.fleet.answersProbes = parser.isSet(answerProbes);
     options.fleet.seed = quint32(number(parser, seed, 0, std::numeric_limits<quint32>::max(), &options.error));
     options.fleet.port = quint16(number(parser, port, 0, std::numeric_limits<quint16>::max(), &options.error));
     options.fleet.latency = std::chrono::milliseconds(number(parser, latency, 0, 3600'000, &options.error));
@@ -114,6 +127,10 @@ ProgramOptions parseOptions(const QStringList &arguments)
     options.inventoryFile = parser.value(inventory);
     options.dumpFile = parser.value(dump);
 
+    if (!parser.isSet(devices) && !parser.isSet(onvif) && options.error.isEmpty())
+        options.error = tr("devices are missing: --devices N, --onvif N or both");
+    if (parser.isSet(answerProbes) && !parser.isSet(onvif) && options.error.isEmpty())
+        options.error = tr("--answer-probes needs --onvif: only ONVIF cameras are searched for");
     if (parser.isSet(listen) && options.error.isEmpty())
         options.error = checkAddress(options.fleet.listenAddress, parser.value(listen));
     if (leftOver.size() < keyFiles)

@@ -1,6 +1,7 @@
 #include "fleet/Site.h"
 
 #include "fleet/ParameterTemplates.h"
+#include "fleet/SiteTexts.h"
 
 #include <QHostAddress>
 #include <QRandomGenerator>
@@ -20,42 +21,6 @@ constexpr int reachedThroughOthers = 2;
 bool happens(QRandomGenerator &random, int percent)
 {
     return random.bounded(100) < percent;
-}
-
-template <std::size_t n>
-QString oneOf(QRandomGenerator &random, const std::array<const char *, n> &texts)
-{
-    return QString::fromUtf8(texts.at(std::size_t(random.bounded(int(n)))));
-}
-
-QString drawName(QRandomGenerator &random)
-{
-    static constexpr std::array plain{"Gate",      "Warehouse", "Parking Level", "Loading Dock", "Lobby", "Stairwell",
-                                      "Corridor",  "Office",    "Server Room",   "Fence",        "Lift",  "Canteen",
-                                      "Reception", "Roof",      "Workshop",      "Cold Store"};
-    static constexpr std::array foreign{"Südtor", "Entrée", "倉庫", "Склад", "Łącznik"};
-    static constexpr std::array side{"", "", "", "", " North", " East", " South", " West"};
-    const int number = random.bounded(1, 41);
-    const int kind = random.bounded(100);
-    if (kind < 3)
-        return {};
-    if (kind < 6)
-        return QStringLiteral("%1 %2").arg(oneOf(random, foreign)).arg(number);
-    const QString name = QStringLiteral("%1 %2%3").arg(oneOf(random, plain)).arg(number).arg(oneOf(random, side));
-    return kind < 9
-             ? name + QStringLiteral(", view of the conveyor belt and of the emergency exit behind the second pillar")
-             : name;
-}
-
-/// Twelve characters of four classes.
-QString drawStrongPassword(QRandomGenerator &random)
-{
-    static constexpr std::array<const char *, 4> classes{"abcdefghkmnpqrst", "ABCDEFGHKMNPQRST", "2345678923456789",
-                                                         "!#%+-=?@_.:;,*~^"};
-    QString password;
-    for (std::size_t i = 0; i < 12; ++i)
-        password += QLatin1Char(classes.at(i % classes.size())[random.bounded(16)]);
-    return password;
 }
 
 QString drawPassword(QRandomGenerator &random, vms_sdk::DevStatus state)
@@ -80,21 +45,6 @@ int drawKind(QRandomGenerator &random)
     if (kind < 2)
         return decoder;
     return kind < 18 ? recorder : camera;
-}
-
-/// 127.10.0.1 on, 250 devices to a subnet: no address ends in 0 or 255.
-quint32 ownAddress(int index)
-{
-    constexpr int perSubnet = 250;
-    return QHostAddress(QStringLiteral("127.10.0.0")).toIPv4Address() + (quint32(index / perSubnet) << 8)
-         + quint32(index % perSubnet) + 1;
-}
-
-/// By number and not drawn: the rest of a device stays what a seed has always given.
-QString groupOf(int index)
-{
-    static constexpr std::array groups{"north", "south", "gate"};
-    return QString::fromLatin1(groups.at(std::size_t(index) % groups.size()));
 }
 
 } // namespace
@@ -122,7 +72,7 @@ SiteDevice makeSiteDevice(quint32 seed, int index)
     info.userName = QStringLiteral("admin");
     info.password = drawPassword(random, device.state);
     if (!happens(random, 5)) { // the others are cloud devices
-        info.ipNumber = ownAddress(index);
+        info.ipNumber = ownAddress("127.10.0.0", index);
         info.ip = QHostAddress(info.ipNumber).toString();
     }
     device.parameters = drawParameters(info, random);

@@ -18,6 +18,7 @@ using namespace orda_programs;
 
 namespace {
 
+constexpr qint64 filesPerCamera = 4; // requests that a client sends at once
 constexpr qint64 otherFiles = 64; // libraries, the server socket, input and output files
 
 /// @return a text for the user, empty on success
@@ -27,9 +28,10 @@ QString writeDump(const QString &path, const QJsonObject &dump)
     return why.isEmpty() ? QString() : QCoreApplication::translate("main", "%1: cannot be written: %2").arg(path, why);
 }
 
-QString openFilesError(int devices)
+QString openFilesError(const FleetOptions &options)
 {
-    const qint64 needed = devices + otherFiles;
+    const qint64 devices = options.devices + options.onvifDevices;
+    const qint64 needed = options.devices + options.onvifDevices * filesPerCamera + otherFiles;
     const qint64 limit = vms_sdk::raiseOpenFileLimit();
     if (needed <= limit)
         return {};
@@ -65,7 +67,7 @@ int main(int argc, char *argv[])
     if (!options.error.isEmpty())
         return fail(options.error + QStringLiteral(" (see orda_fleet --help)"), ExitUsage);
 
-    QString error = openFilesError(options.fleet.devices);
+    QString error = openFilesError(options.fleet);
     const FaultPlan faults = error.isEmpty() ? readFaults(options.faultsFile, &error) : FaultPlan();
     if (!error.isEmpty())
         return fail(error, ExitInput);
@@ -87,8 +89,8 @@ int main(int argc, char *argv[])
         });
     }
     QObject::connect(&signalsOfProcess, &UnixSignals::endRequested, &app, &QCoreApplication::quit);
-    QTextStream(stdout) << "listening on " << fleet.address() << ", " << options.fleet.devices << " devices"
-                        << Qt::endl;
+    QTextStream(stdout) << "listening on " << fleet.address() << ", "
+                        << options.fleet.devices + options.fleet.onvifDevices << " devices" << Qt::endl;
     QCoreApplication::exec();
 
     error = options.dumpFile.isEmpty() ? QString() : dump();

@@ -11,8 +11,10 @@ namespace vms_sdk {
 namespace {
 
 // Other fields are not kept: thousands of short ones would take many times the memory of their text.
-constexpr std::array usedFields{"connection",
+constexpr std::array usedFields{"authorization",
+                                "connection",
                                 "content-length",
+                                "expect",
                                 "location",
                                 "sec-websocket-accept",
                                 "sec-websocket-extensions",
