@@ -203,7 +203,8 @@ private slots:
         while (socket.waitForReadyRead(got.isEmpty() ? 2000 : 100))
             got += socket.readAll();
         const bool isClosed = socket.state() == QAbstractSocket::UnconnectedState;
-        QTEST(QString("%1 %2").arg(got.left(12)).arg(got.count("HTTP/1.1")) + (isClosed ? " closed" : ""), "answer");
+        QTEST(QString("%1 %2").arg(QString(got.left(12))).arg(got.count("HTTP/1.1")) + (isClosed ? " closed" : ""),
+              "answer");
     }
 };
 
