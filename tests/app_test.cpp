@@ -11,6 +11,7 @@
 #include <QtWidgets>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/WholeFile.h>
+#include <vms_client_sdk/onvif/OnvifDiscovery.h>
 
 using namespace orda_client;
 
@@ -174,6 +175,78 @@ private slots:
         QCOMPARE(client.session.source().inventoryFile, inventory);
         QCOMPARE(client.window.windowTitle(), QString("imported.json – Batch Configuration"));
         QCOMPARE(orda_data::DevsMgrData::instance().getDevInfoById("c1").password, QString("secret"));
+    }
+
+    void foundCamerasGoIntoTheInventory_data()
+    {
+        columns<QString, QString>({"what", "told"});
+        row("added", "", "");
+        row("two at one address", "twin", "the same address");
+        row("an inventory that has one meanwhile", "late", "must not be the same as in");
+        row("no inventory", "none", "");
+    }
+
+    void foundCamerasGoIntoTheInventory()
+    {
+        QFETCH(QString, what);
+        QFETCH(QString, told);
+        Client client(m_directory);
+        const QString site = path("site.json");
+        QByteArray content = R"({"site": "x", "devices": [{"id": "onvif-10.0.0.1", "ip": "10.0.0.9", "port": 80}]})";
+        QCOMPARE(vms_sdk::writeWholeFile(site, content, vms_sdk::Readers::OwnerOnly), QString());
+        if (what != "none")
+            QCOMPARE(client.session.openInventory(site), QString());
+        client.choose("findCameras");
+        auto *search = client.window.findChild<vms_sdk::OnvifDiscovery *>();
+        emit search->found({"1", "Gate\u202e<b>", {}, {}, {QUrl("http://10.0.0.1")}, "10.0.0.1"});
+        emit search->found({"2", "Hall", {}, {}, {QUrl("https://10.0.0.3:8443/a%20b")}, "10.0.0.3"});
+        emit search->found(
+            {"3", "Known", {}, {}, {QUrl(what == "twin" ? "http://10.0.0.1:80/x" : "http://10.0.0.9")}, "10.0.0.9"});
+        emit search->found({"4", "Liar", {}, {}, {QUrl("http://cam.example/")}, "10.0.0.5"});
+        auto *view = client.child<QTableView>("found");
+        QTRY_COMPARE(view->model()->rowCount(), 4);
+        const auto cell = [view](int row, int column) { return view->model()->index(row, column).data().toString(); };
+        QCOMPARE(cell(0, 0), QString("Gate\uFFFD<b>"));
+        QCOMPARE(cell(3, 2), QString("says that it is at http://cam.example/"));
+        client.press("tickNew"); // not the liar
+        if (what == "twin") {
+            view->selectAll();
+            QTest::keyClick(view, Qt::Key_Space);
+        }
+        client.child<QLineEdit>("userName")->setText("admin");
+        client.child<QLineEdit>("password")->setText(" secret");
+        client.child<QLineEdit>("group")->setText("hall");
+        if (what == "late")
+            content.replace("}]", R"(}, {"id": "b", "protocol": "onvif", "ip": "10.0.0.1"}])");
+        QCOMPARE(vms_sdk::writeWholeFile(site, content, vms_sdk::Readers::OwnerOnly), QString());
+        client.press("addFound");
+        if (what == "twin") {
+            QVERIFY(client.child<QLabel>("notice")->text().contains(told) && !client.child("addQuestion"));
+            return;
+        }
+        QTRY_VERIFY(client.child("confirm")->isEnabled());
+        client.press("confirm");
+        if (what == "none")
+            client.giveFile(path("fresh.json"));
+        const QString alerts = client.alerts();
+        QVERIFY2(told.isEmpty() ? alerts.isEmpty() : alerts.contains(told), qPrintable(alerts));
+        if (!told.isEmpty()) {
+            QCOMPARE(contentOf(site), content);
+            return;
+        }
+        const QString file = client.session.source().inventoryFile;
+        QStringList added; // readInventory() refuses a file that others may read
+        const QList<vms_sdk::DevInfo> read = vms_sdk::readInventory(file).devices.mid(what == "none" ? 0 : 1, 2);
+        for (const vms_sdk::DevInfo &dev : read)
+            added << QStringList{dev.id, dev.name, dev.ip, dev.path, dev.userName, dev.password, dev.group}.join(' ')
+                         + QString(" %1 %2 %3").arg(dev.port).arg(dev.tls).arg(int(dev.protocol));
+        QCOMPARE(added.value(0), QString("onvif-10.0.0.1%1 Gate\uFFFD<b> 10.0.0.1 /onvif/device_service admin  secret "
+                                         "hall 80 0 1")
+                                     .arg(what == "none" ? "" : "-2"));
+        QCOMPARE(added.value(1), QString("onvif-10.0.0.3-8443 Hall 10.0.0.3 /a%20b admin  secret hall 8443 1 1"));
+        QVERIFY(what == "none" || contentOf(file).contains("\"site\"")); // nobody here knows it
+        QVERIFY(cell(0, 1) == "in the inventory already"
+                && !view->model()->index(0, 0).data(Qt::CheckStateRole).isValid());
     }
 
     void devicesBecomeATable()

@@ -91,15 +91,21 @@ QString OnvifDiscovery::Private::open(const QString &name)
 {
     const QStringList names = name.isEmpty() ? interfaces() : QStringList{name};
     if (names.isEmpty())
-        return OnvifDiscovery::tr("There is no network to search: no interface is up that has an IPv4 address and multicast.");
+        return OnvifDiscovery::tr(
+            "There is no network to search: no interface is up that has an IPv4 address and multicast.");
     if (!name.isEmpty()) {
         const QNetworkInterface interface = QNetworkInterface::interfaceFromName(name);
+        const QStringList others = interfaces();
         if (!interface.isValid())
-            return OnvifDiscovery::tr(R"(There is no network interface "%1"; these can be searched: %2.)")
-                .arg(name, interfaces().join(QStringLiteral(", ")));
+            return others.isEmpty()
+                     ? OnvifDiscovery::tr(R"(There is no network interface "%1", nor another that can be searched.)")
+                           .arg(name)
+                     : OnvifDiscovery::tr(R"(There is no network interface "%1"; these can be searched: %2.)")
+                           .arg(name, others.join(QStringLiteral(", ")));
         if (!isUsable(interface) || ipv4Of(interface).isEmpty())
-            return OnvifDiscovery::tr(R"(The network interface "%1" cannot be searched: it is not up, or has no IPv4 address or no )"
-                      "multicast.")
+            return OnvifDiscovery::tr(
+                       R"(The network interface "%1" cannot be searched: it is not up, or has no IPv4 address or no )"
+                       "multicast.")
                 .arg(name);
     }
     m_messageIds.clear();
