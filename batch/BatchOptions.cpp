@@ -58,8 +58,9 @@ class KnownOptions
 public:
     KnownOptions();
 
-    QCommandLineOption set, values, unchecked, inventory, demo, faults, devices, shard, format, language, timeout,
-        connectTimeout, interface, noJournal, serial, maxFailPercentage, retries, verify, requireAll, force, yes;
+    QCommandLineOption set, values, unchecked, inventory, demo, onvif, faults, devices, shard, format, language,
+        timeout, connectTimeout, interface, noJournal, serial, maxFailPercentage, retries, verify, requireAll, force,
+        yes;
 
     void addTo(QCommandLineParser *parser) const;
     /// Which option was given that the command does not have; empty when none was.
@@ -87,6 +88,7 @@ KnownOptions::KnownOptions()
     , unchecked(option("unchecked", tr("Lets keys and values pass that the family does not name; reads all members.")))
     , inventory(option("inventory", tr("The devices of this inventory file."), "FILE"))
     , demo(option("demo", tr("N simulated devices, to try something on."), "N"))
+    , onvif(option("onvif", tr("M simulated ONVIF cameras beside them (with --demo)."), "M"))
     , faults(option("faults", tr("Faults of the simulated devices (with --demo)."), "FILE"))
     , devices(option("devices", tr("Which of the devices; all when not given."), "SELECTION"))
     , shard(option("shard", tr("Only the K-th of N shares of them."), "K/N"))
@@ -118,6 +120,7 @@ KnownOptions::KnownOptions()
                 {&unchecked, {C::Read, C::Plan, C::Apply, C::Verify}},
                 {&inventory, withDevices},
                 {&demo, withDevices},
+                {&onvif, withDevices},
                 {&faults, withDevices},
                 {&devices, withDevices},
                 {&shard, withDevices},
@@ -311,6 +314,7 @@ void Reader::readDevices()
     options.devices = value(m_known.devices);
     options.hasHistory = !isSet(m_known.noJournal);
     readNumber(m_known.demo, 1, maxDemoDevices, [this](int number) { options.demoDevices = number; });
+    readNumber(m_known.onvif, 1, maxDemoDevices, [this](int number) { options.demoCameras = number; });
     if (options.command == Command::Discover)
         readNumber(m_known.timeout, 1, maxSearch,
                    [this](int number) { options.searchTime = std::chrono::seconds(number); });
@@ -373,6 +377,8 @@ void Reader::checkTogether()
         fail(tr("devices are missing: --inventory FILE or --demo N"));
     if (isSet(m_known.inventory) && isSet(m_known.demo))
         fail(tr("--demo and --inventory exclude each other"));
+    if (isSet(m_known.onvif) && !isSet(m_known.demo))
+        fail(tr("--onvif needs --demo: it brings simulated cameras along"));
     if (isSet(m_known.faults) && !isSet(m_known.demo))
         fail(tr("--faults needs --demo: only simulated devices have faults to order"));
     for (const QCommandLineOption *file : {&m_known.inventory, &m_known.values, &m_known.faults})

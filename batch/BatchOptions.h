@@ -50,6 +50,7 @@ public:
     bool isUnchecked = false; ///< keys and values that the family's table does not have are passed on
 
     int demoDevices = 0; ///< 0: none
+    int demoCameras = 0; ///< ONVIF cameras beside the demo devices
     QString faultsFile; ///< of the demo devices
     QString inventoryFile;
     QString devices; ///< DeviceSelection; empty: the devices that the values or the run are of, else all

@@ -71,7 +71,8 @@ bool CommandInput::readDevices()
 {
     QString error;
     if (m_options.demoDevices > 0) {
-        m_demo = device_fleet::EmbeddedFleet::startDemo(m_options.demoDevices, m_options.faultsFile, &m_notes, &error);
+        m_demo = device_fleet::EmbeddedFleet::startDemo(m_options.demoDevices, m_options.faultsFile, &m_notes, &error,
+                                                        m_options.demoCameras);
         if (m_demo)
             m_inventory = m_demo->inventory();
     } else {

@@ -55,6 +55,11 @@ struct FaultRule
 /// drop-and-return; of "returnWith": new-settings (when not given), old-settings, missing-member. "delayMs" is in
 /// milliseconds (1000 when not given), "errorcode" any whole number but 0 (-5 when not given). Where several entries
 /// fit a request, a named device goes before "*", then a named method before "*", then the later entry.
+///
+/// A method of an ONVIF camera is the name of an operation. There an error code is a fault, "foreign-id" the answer to
+/// another operation, "foreign-method" an answer under another name, "no-result" an empty one, "huge-answer" one beyond
+/// 4 MiB, and after "missing-member" the first member that a write changed is again what it was. A request without a
+/// sign-on that the operation needs meets no fault but "drop-connection".
 class FaultPlan
 {
 public:

@@ -16,7 +16,7 @@ import threading
 BIN = pathlib.Path(sys.argv[1]).resolve()
 SCHEMA = os.environ.get("ORDA_ONVIF_SCHEMA")
 SKIPPED = 77
-CAMERAS = 40  # of seed 1: so many have all that the fleet's cameras differ in
+CAMERAS = 24  # of seed 1: so many have all that the fleet's cameras differ in
 SOAP = "{http://www.w3.org/2003/05/soap-envelope}"
 SERVICES = ("ver10/device/wsdl/devicemgmt.wsdl", "ver10/media/wsdl/media.wsdl", "ver20/media/wsdl/media.wsdl", "ver20/imaging/wsdl/imaging.wsdl")
 # What the schema takes from other standards, as far as it names it. Nothing of that stands in what is looked at here.
@@ -33,6 +33,7 @@ RUNS = (("video", "stream0.bitRate=1000", "stream0.frameRate=15", "stream1.quali
         ("osd", "bShowOSD=false"),
         ("osd", "bShowOSD=true", "channelName=Gate"),
         ("audio", "encType=g711u", "aoGain=30"),
+        ("audio", "encType=g711a"),
         ("image", "flip=both", "lightmode=off"),
         ("onvif", "discoveryflag=0"))
 
@@ -118,6 +119,10 @@ def listener(judge, fleet_port):
             camera.close()
             if content:
                 judge.look(content)
+            with contextlib.suppress(BrokenPipeError):  # a program that ends awaits no answers
+                self.pass_on(answer, content)
+
+        def pass_on(self, answer, content):
             self.send_response(answer.status)
             for name in ("WWW-Authenticate", "Content-Type"):
                 for value in answer.headers.get_all(name, []):
@@ -164,7 +169,7 @@ def main():
         print(f"NOT VALID: {kind}\n  {text}")
     print("\n".join(f"{count:6} {name}" for name, count in sorted(judge.seen.items())))
     setting = [name for name in judge.seen if name.split()[1].startswith(("Set", "Create", "Delete")) and not name.endswith("Response")]
-    if len(setting) < 12:  # each of the operations that set something, in both versions where there are two
+    if len(setting) < 14:  # each of the operations that set something, in both versions where there are two
         sys.exit(f"only {setting} were used")
     sys.exit(1 if judge.faults else 0)
 

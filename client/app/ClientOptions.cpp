@@ -36,6 +36,8 @@ QCommandLineOption option(const char *name, const QString &description, const ch
 struct KnownOptions
 {
     QCommandLineOption demo = option("demo", ClientOptions::tr("Bring N simulated devices along."), "N");
+    QCommandLineOption onvif =
+        option("onvif", ClientOptions::tr("M simulated ONVIF cameras beside them (with --demo)."), "M");
     QCommandLineOption inventory =
         option("inventory", ClientOptions::tr("Connect to the devices of this inventory file."), "FILE");
     QCommandLineOption faults =
@@ -75,6 +77,12 @@ QString mistakeIn(const ClientOptions &options, const QCommandLineParser &parser
         return ClientOptions::tr("--demo takes a number of devices from 1 to %1, not \"%2\"")
             .arg(QString::number(maxDemoDevices), parser.value(known.demo));
     }
+    if (isSet(known.onvif) && (options.demoCameras < 1 || options.demoCameras > maxDemoDevices)) {
+        return ClientOptions::tr("--onvif takes a number of cameras from 1 to %1, not \"%2\"")
+            .arg(QString::number(maxDemoDevices), parser.value(known.onvif));
+    }
+    if (isSet(known.onvif) && !isSet(known.demo))
+        return ClientOptions::tr("--onvif needs --demo: it brings simulated cameras along");
     if (isSet(known.inventory) && options.inventoryFile.isEmpty())
         return ClientOptions::tr("--inventory takes a file");
     if (isSet(known.demo) && isSet(known.inventory))
@@ -110,14 +118,15 @@ ClientOptions parseOptions(const QStringList &arguments)
         "Configures many online cameras and recorders at once.\n\n"
         "Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a file is wrong, 4 no device, "
         "5 nothing configured because the record is in use, 6 the record of the run is missing or not whole."));
-    parser.addOptions({known.demo, known.inventory, known.faults, known.language, known.theme, known.run, known.devices,
-                       known.yes, known.screenshots});
+    parser.addOptions({known.demo, known.onvif, known.inventory, known.faults, known.language, known.theme, known.run,
+                       known.devices, known.yes, known.screenshots});
 
     ClientOptions options;
     options.error = orda_programs::parseCommandLine(parser, arguments);
     if (!options.error.isEmpty())
         return options;
     options.demoDevices = parser.value(known.demo).toInt(); // 0 when it is no number
+    options.demoCameras = parser.value(known.onvif).toInt();
     options.inventoryFile = parser.value(known.inventory);
     options.faultsFile = parser.value(known.faults);
     options.theme = parser.value(known.theme);

@@ -14,6 +14,7 @@ struct ClientOptions
 
 public:
     int demoDevices = 0; ///< 0: no embedded fleet
+    int demoCameras = 0; ///< ONVIF cameras beside them
     QString inventoryFile;
     QString faultsFile; ///< for the embedded fleet
     QString theme; ///< "light" or "dark"; empty: as the desktop is

@@ -105,7 +105,7 @@ int main(int argc, char *argv[])
 
     QString error;
     if (options.demoDevices > 0)
-        error = session.startDemo(options.demoDevices, options.faultsFile);
+        error = session.startDemo(options.demoDevices, options.faultsFile, options.demoCameras);
     else if (!options.inventoryFile.isEmpty())
         error = session.openInventory(options.inventoryFile);
     if (!error.isEmpty() && isDriven)

@@ -45,18 +45,18 @@ void ClientSession::setSource(const Source &source)
     emit signalSourceChanged();
 }
 
-QString ClientSession::startDemo(int devices, const QString &faultsFile)
+QString ClientSession::startDemo(int devices, const QString &faultsFile, int onvifDevices)
 {
     QString error;
     QStringList warnings;
-    auto fleet = device_fleet::EmbeddedFleet::startDemo(devices, faultsFile, &warnings, &error);
+    auto fleet = device_fleet::EmbeddedFleet::startDemo(devices, faultsFile, &warnings, &error, onvifDevices);
     for (const QString &warning : qAsConst(warnings))
         emit signalWarning(warning);
     if (!fleet)
         return error;
     m_devices->setDevices(fleet->inventory()); // before an earlier fleet ends
     m_fleet = std::move(fleet);
-    setSource({{}, devices});
+    setSource({{}, devices + onvifDevices});
     return {};
 }
 

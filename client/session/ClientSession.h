@@ -36,15 +36,16 @@ public:
     struct Source
     {
         QString inventoryFile; ///< absolute path
-        int demoDevices = 0; ///< of the embedded fleet
+        int demoDevices = 0; ///< of the embedded fleet, ONVIF cameras included
 
         bool isNone() const { return inventoryFile.isEmpty() && demoDevices == 0; }
     };
     const Source &source() const { return m_source; }
 
     /// The store then holds these devices and no others. Changes nothing after an error.
+    /// @param onvifDevices cameras beside the devices
     /// @return an error for the user, empty when the devices are there
-    QString startDemo(int devices, const QString &faultsFile);
+    QString startDemo(int devices, const QString &faultsFile, int onvifDevices = 0);
     /// The same with the devices of a file. An embedded fleet ends.
     QString openInventory(const QString &file);
 

@@ -218,7 +218,7 @@ OnvifReply MediaCall::set(const QString &kind)
         return unknownToken("NoConfig", sent->attribute("token"));
     XmlElement stored = renamed(vms_sdk::detached({&m_operation, sent}), tt, text("Configuration"));
     if (isConverted() && kind == QLatin1String(videoEncoderKind))
-        stored = videoEncoderToVer20(stored);
+        stored = videoEncoderToVer20(stored, present->element);
     else if (isConverted() && kind == QLatin1String(audioEncoderKind))
         stored = audioEncoderToVer20(stored);
     const QString why = whyNotAllowed(kind, m_state.traits.hasMedia2, stored, present->options);

@@ -69,15 +69,16 @@ std::optional<XmlElement> videoEncoderToVer10(const XmlElement &encoder)
     return older;
 }
 
-XmlElement videoEncoderToVer20(const XmlElement &encoder)
+XmlElement videoEncoderToVer20(const XmlElement &encoder, const XmlElement &present)
 {
     XmlElement newer = shellOf(encoder);
     newer.setAttribute("GovLength", textsAt(encoder, text("H264/GovLength")).value(0));
     newer.setAttribute("Profile", textsAt(encoder, text("H264/H264Profile")).value(0));
     copy(encoder, &newer, {text("Name"), text("UseCount"), text("Encoding"), text("Resolution")});
-    XmlElement &rate = newer.append(XmlElement(tt, "RateControl"));
-    rate.append(XmlElement(tt, "FrameRateLimit", textsAt(encoder, text("RateControl/FrameRateLimit")).value(0)));
-    rate.append(XmlElement(tt, "BitrateLimit", textsAt(encoder, text("RateControl/BitrateLimit")).value(0)));
+    copy(present, &newer, {text("RateControl")});
+    XmlElement &rate = newer.childMade(tt, "RateControl");
+    rate.childMade(tt, "FrameRateLimit").setText(textsAt(encoder, text("RateControl/FrameRateLimit")).value(0));
+    rate.childMade(tt, "BitrateLimit").setText(textsAt(encoder, text("RateControl/BitrateLimit")).value(0));
     copy(encoder, &newer, {text("Multicast"), text("Quality")});
     copyForeign(encoder, &newer);
     return newer;

@@ -10,7 +10,8 @@ namespace device_fleet {
 
 /// @return none for what ver10 cannot say: encodings other than H.264 and JPEG
 std::optional<vms_sdk::XmlElement> videoEncoderToVer10(const vms_sdk::XmlElement &encoder);
-vms_sdk::XmlElement videoEncoderToVer20(const vms_sdk::XmlElement &encoder);
+/// @param present what the camera holds: ver10 cannot say all of it
+vms_sdk::XmlElement videoEncoderToVer20(const vms_sdk::XmlElement &encoder, const vms_sdk::XmlElement &present);
 /// @param options of H.264
 vms_sdk::XmlElement videoOptionsToVer10(const vms_sdk::XmlElement &options);
 

@@ -15,13 +15,10 @@
 namespace device_fleet {
 
 using vms_sdk::XmlElement;
-using vms_sdk::onvif::soapEnvelope;
+using namespace vms_sdk::onvif;
 
 namespace {
 
-constexpr char addressing[] = "http://schemas.xmlsoap.org/ws/2004/08/addressing";
-constexpr char discovery[] = "http://schemas.xmlsoap.org/ws/2005/04/discovery";
-constexpr char network[] = "http://www.onvif.org/ver10/network/wsdl";
 constexpr char group[] = "239.255.255.250"; // of WS-Discovery, as is the port
 constexpr quint16 discoveryPort = 3702;
 
@@ -38,7 +35,7 @@ QStringList words(const QString &list)
 /// Whether a camera is of one of the types: prefixes are the client's own.
 bool isOfTypes(const XmlElement &probe)
 {
-    const QStringList types = words(probe.textOf(discovery, "Types"));
+    const QStringList types = words(probe.textOf(wsdd, "Types"));
     return types.isEmpty() || std::any_of(types.begin(), types.end(), [](const QString &type) {
                return type.endsWith(QLatin1String(":NetworkVideoTransmitter"))
                    || type.endsWith(QLatin1String(":Device"));
@@ -47,7 +44,7 @@ bool isOfTypes(const XmlElement &probe)
 
 bool hasScopes(const CameraState &camera, const XmlElement &probe)
 {
-    const QStringList wanted = words(probe.textOf(discovery, "Scopes"));
+    const QStringList wanted = words(probe.textOf(wsdd, "Scopes"));
     const QStringList own = scopesOf(camera);
     return std::all_of(wanted.begin(), wanted.end(), [&own](const QString &scope) {
         return std::any_of(own.begin(), own.end(), [&scope](const QString &each) { return each.startsWith(scope); });
@@ -63,14 +60,14 @@ QString endpoint(const CameraState &camera)
 
 XmlElement match(const OnvifDevice &camera)
 {
-    XmlElement one(discovery, "ProbeMatch");
-    one.append(XmlElement(addressing, "EndpointReference"))
-        .append(XmlElement(addressing, "Address", endpoint(camera.state())));
-    XmlElement &types = one.append(XmlElement(discovery, "Types", QStringLiteral("dn:NetworkVideoTransmitter")));
-    types.declarations.append({QStringLiteral("dn"), QLatin1String(network)});
-    one.append(XmlElement(discovery, "Scopes", scopesOf(camera.state()).join(QLatin1Char(' '))));
-    one.append(XmlElement(discovery, "XAddrs", camera.url()));
-    one.append(XmlElement(discovery, "MetadataVersion", QStringLiteral("1")));
+    XmlElement one(wsdd, "ProbeMatch");
+    one.append(XmlElement(wsa, "EndpointReference"))
+        .append(XmlElement(wsa, "Address", endpoint(camera.state())));
+    XmlElement &types = one.append(XmlElement(wsdd, "Types", QStringLiteral("dn:NetworkVideoTransmitter")));
+    types.declarations.append({QStringLiteral("dn"), QLatin1String(dn)});
+    one.append(XmlElement(wsdd, "Scopes", scopesOf(camera.state()).join(QLatin1Char(' '))));
+    one.append(XmlElement(wsdd, "XAddrs", camera.url()));
+    one.append(XmlElement(wsdd, "MetadataVersion", QStringLiteral("1")));
     return one;
 }
 
@@ -78,13 +75,13 @@ QByteArray probeMatches(const OnvifDevice &camera, const QString &messageId)
 {
     XmlElement envelope(soapEnvelope, "Envelope");
     XmlElement &header = envelope.append(XmlElement(soapEnvelope, "Header"));
-    header.append(XmlElement(addressing, "MessageID",
+    header.append(XmlElement(wsa, "MessageID",
                              QStringLiteral("urn:uuid:") + QUuid::createUuid().toString(QUuid::WithoutBraces)));
-    header.append(XmlElement(addressing, "RelatesTo", messageId));
-    header.append(XmlElement(addressing, "To", QLatin1String(addressing) + QStringLiteral("/role/anonymous")));
-    header.append(XmlElement(addressing, "Action", QLatin1String(discovery) + QStringLiteral("/ProbeMatches")));
+    header.append(XmlElement(wsa, "RelatesTo", messageId));
+    header.append(XmlElement(wsa, "To", QLatin1String(wsa) + QStringLiteral("/role/anonymous")));
+    header.append(XmlElement(wsa, "Action", QLatin1String(wsdd) + QStringLiteral("/ProbeMatches")));
     envelope.append(XmlElement(soapEnvelope, "Body"))
-        .append(XmlElement(discovery, "ProbeMatches"))
+        .append(XmlElement(wsdd, "ProbeMatches"))
         .append(match(camera));
     return vms_sdk::writeXml(envelope);
 }
@@ -128,8 +125,8 @@ void ProbeResponder::answer(const XmlElement &envelope, const QHostAddress &to, 
 {
     const XmlElement *header = envelope.child(soapEnvelope, "Header");
     const XmlElement *body = envelope.child(soapEnvelope, "Body");
-    const XmlElement *probe = body ? body->child(discovery, "Probe") : nullptr;
-    const QString messageId = header ? header->textOf(addressing, "MessageID") : QString();
+    const XmlElement *probe = body ? body->child(wsdd, "Probe") : nullptr;
+    const QString messageId = header ? header->textOf(wsa, "MessageID") : QString();
     if (!probe || messageId.isEmpty() || !isOfTypes(*probe))
         return;
     for (const OnvifDevice *camera : m_site.discoverable())

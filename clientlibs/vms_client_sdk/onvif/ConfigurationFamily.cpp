@@ -89,8 +89,8 @@ void ConfigurationFamily::takeConfigurations(std::vector<XmlElement> *answers)
         m_held.push_back({takenOut(answer, *each, m_table.setPart), {}});
 }
 
-std::vector<const XmlElement *>
-ConfigurationFamily::chosen(const std::vector<const XmlElement *> &configurations, const XmlElement *profiles) const
+std::vector<const XmlElement *> ConfigurationFamily::chosen(const std::vector<const XmlElement *> &configurations,
+                                                            const XmlElement *profiles) const
 {
     if (configurations.empty())
         return {};
@@ -101,9 +101,7 @@ ConfigurationFamily::chosen(const std::vector<const XmlElement *> &configuration
     return {configurations.front()};
 }
 
-void ConfigurationFamily::completeEncoding(XmlElement *, const KeyOptions &) const
-{
-}
+void ConfigurationFamily::completeEncoding(XmlElement *, const KeyOptions &) const { }
 
 QString ConfigurationFamily::refusedTogether(const QJsonObject &, const XmlElement &, const KeyOptions &) const
 {
@@ -171,9 +169,9 @@ OnvifPlan ConfigurationFamily::plan(const QJsonObject &param)
             QJsonObject entry = value.toObject();
             const int place = entryFor(entry);
             if (place < 0) {
-                plan.refused = notAllowed(QStringLiteral("stream"),
-                                          entry.value(entry.contains(tokenKey) ? tokenKey : streamIdKey),
-                                          QStringLiteral("%1 streams").arg(m_held.size()));
+                plan.refused =
+                    notAllowed(QStringLiteral("stream"), entry.value(entry.contains(tokenKey) ? tokenKey : streamIdKey),
+                               QStringLiteral("%1 streams").arg(m_held.size()));
                 return plan;
             }
             entry.remove(tokenKey);
@@ -219,8 +217,8 @@ void ConfigurationFamily::planOne(int index, const QString &prefix, const QJsonO
                             }});
 }
 
-/// Sets the members of @p asked in @p configuration. A value that is not asked for is never checked; with a new encoding,
-/// a share keeps its place in the new range, and what is to be fitted is.
+/// Sets the members of @p asked in @p configuration. A value that is not asked for is never checked; with a new
+/// encoding, a share keeps its place in the new range, and what is to be fitted is.
 /// @return why it is not allowed
 QString ConfigurationFamily::changeKeys(const Held &held, const QJsonObject &asked, XmlElement *configuration) const
 {

@@ -25,7 +25,8 @@ void OnvifRequest::start()
 {
     const FamilyTable *table = familyOf(m_method);
     if (!table)
-        return fail(OnvifNotKnown, QStringLiteral("the ONVIF standard has no counterpart for %1").arg(escaped(m_method)));
+        return fail(OnvifNotKnown,
+                    QStringLiteral("the ONVIF standard has no counterpart for %1").arg(escaped(m_method)));
     m_isWrite = m_method == QLatin1String(table->writeMethod);
     m_family = makeFamily(*table, m_calls);
     if (!m_family)
@@ -68,11 +69,14 @@ void OnvifRequest::takeRead(size_t place, const CallResult &result)
 void OnvifRequest::beginWriting()
 {
     const FamilyTable *table = familyOf(m_method);
-    const QString attribute = QLatin1String(table->attribute);
-    if (!attribute.isEmpty() && !m_param.value(attribute).isObject())
+    const QLatin1String attribute(table->attribute);
+    const QLatin1String list(table->list);
+    if (attribute.size() > 0 && !m_param.value(attribute).isObject())
         return fail(OnvifNotAllowed, QStringLiteral("the request has no \"%1\"").arg(attribute));
+    if (list.size() > 0 && !m_param.value(list).isArray())
+        return fail(OnvifNotAllowed, QStringLiteral("the request has no \"%1\"").arg(list));
     m_before = m_family->held();
-    m_plan = m_family->plan(attribute.isEmpty() ? m_param : m_param.value(attribute).toObject());
+    m_plan = m_family->plan(attribute.size() > 0 ? m_param.value(attribute).toObject() : m_param);
     if (!m_plan.dropped.isEmpty())
         qCInfo(sdkLog, "%s: no counterpart for %s", qPrintable(m_method),
                qPrintable(escaped(m_plan.dropped.join(QLatin1String(", ")))));
@@ -95,7 +99,6 @@ void OnvifRequest::takeWritten(const CallResult &result)
 {
     if (m_isFinished)
         return;
-    m_isWriting = false;
     const OnvifWrite &write = m_plan.writes[m_written];
     if (hasFailed(write.operation.request, result, true))
         return;

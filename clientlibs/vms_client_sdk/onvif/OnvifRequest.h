@@ -60,7 +60,7 @@ private:
     QJsonObject m_before; // what the device held before the first write
     OnvifPlan m_plan;
     size_t m_written = 0; // of its writes
-    bool m_isWriting = false; // one is under way
+    bool m_isWriting = false; // one is under way, until the end
 };
 
 } // namespace vms_sdk

@@ -155,7 +155,7 @@ QString ScreenTexts::refused(const Asked &asked, const std::map<const ScreenText
         const Fate fate = fates.at(kind);
         const bool isMade = fate == Fate::Comes;
         made = isMade ? kind : made;
-        total += isMade ? 1 : fate == Fate::Goes ? -1 : 0;
+        total += isMade ? 1 : 0;
         if (fate == Fate::Goes && countOf(*kind) > 1)
             return QStringLiteral("%1: the device shows %2 texts of this kind, and the next would take the place of the "
                                   "one that is hidden")

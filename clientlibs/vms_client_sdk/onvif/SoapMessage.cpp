@@ -70,9 +70,9 @@ bool SoapFault::is(const char *name) const
 QString SoapFault::text() const
 {
     const QString particular = codes.mid(1).join(QLatin1Char('/'));
-    const QString all = particular.isEmpty() ? codes.join(QLatin1Char('/')) : particular;
+    const QString all = (particular.isEmpty() ? codes.join(QLatin1Char('/')) : particular).left(maxReason);
     if (reason.isEmpty())
-        return escaped(all);
+        return all.isEmpty() ? QStringLiteral("a fault without a code") : escaped(all);
     return escaped(QStringLiteral("%1: %2").arg(all, reason.simplified().left(maxReason)));
 }
 

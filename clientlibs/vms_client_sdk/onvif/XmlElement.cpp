@@ -137,11 +137,15 @@ private:
     void begin();
     void end();
     void addText();
+    QString shared(const QStringRef &uri);
 
     QXmlStreamReader m_reader;
     std::vector<XmlElement> m_open;
     std::optional<XmlElement> m_root;
+    QSet<QString> m_uris; ///< so that all names in a namespace share one text
     int m_count = 0;
+    int m_inForce = 0; ///< declarations
+    bool m_isNamespaceTooLong = false;
 };
 
 XmlRead Reader::read()
@@ -157,6 +161,10 @@ XmlRead Reader::read()
             if (++m_count > maxXmlElements)
                 return {{}, QStringLiteral("it has too many elements")};
             begin();
+            if (m_inForce > maxXmlDeclarations)
+                return {{}, QStringLiteral("it declares too many namespaces")};
+            if (m_isNamespaceTooLong)
+                return {{}, QStringLiteral("it declares a namespace that is too long")};
             break;
         case QXmlStreamReader::EndElement:
             end();
@@ -173,19 +181,29 @@ XmlRead Reader::read()
     return {std::move(m_root), {}};
 }
 
+QString Reader::shared(const QStringRef &uri)
+{
+    if (uri.isEmpty() || uri.size() > maxXmlNamespace)
+        return {};
+    return *m_uris.insert(uri.toString());
+}
+
 void Reader::begin()
 {
     XmlElement element;
-    element.namespaceUri = m_reader.namespaceUri().toString();
+    element.namespaceUri = shared(m_reader.namespaceUri());
     element.prefix = m_reader.prefix().toString();
     element.name = m_reader.name().toString();
     const QXmlStreamNamespaceDeclarations declarations = m_reader.namespaceDeclarations();
-    for (const QXmlStreamNamespaceDeclaration &each : declarations)
-        element.declarations.append({each.prefix().toString(), each.namespaceUri().toString()});
+    for (const QXmlStreamNamespaceDeclaration &each : declarations) {
+        m_isNamespaceTooLong |= each.namespaceUri().size() > maxXmlNamespace;
+        element.declarations.append({each.prefix().toString(), shared(each.namespaceUri())});
+    }
+    m_inForce += declarations.size();
     const QXmlStreamAttributes attributes = m_reader.attributes();
     for (const QXmlStreamAttribute &each : attributes)
-        element.attributes.append({each.namespaceUri().toString(), each.prefix().toString(), each.name().toString(),
-                                   each.value().toString()});
+        element.attributes.append(
+            {shared(each.namespaceUri()), each.prefix().toString(), each.name().toString(), each.value().toString()});
     m_open.push_back(std::move(element));
 }
 
@@ -193,6 +211,7 @@ void Reader::end()
 {
     XmlElement element = std::move(m_open.back());
     m_open.pop_back();
+    m_inForce -= element.declarations.size();
     // White space between elements only sets them out.
     const bool hasElements = std::any_of(element.children.begin(), element.children.end(),
                                          [](const XmlElement &child) { return !child.isText(); });
@@ -245,15 +264,25 @@ XmlRead readXml(const QByteArray &document)
 
 namespace {
 
+bool mayBeInPrefix(QChar c)
+{
+    return c.isLetterOrNumber() || c.isMark() || c.isSurrogate() || c == QLatin1Char('_') || c == QLatin1Char('-')
+        || c == QLatin1Char('.');
+}
+
 /// The prefixes that an element and all in it use, those in values included: there they stand for types and topics.
 void addPrefixes(const XmlElement &element, const QSet<QString> &known, QSet<QString> *used)
 {
     const auto addFrom = [&](const QString &value) {
-        if (!value.contains(QLatin1Char(':')))
-            return;
-        for (const QString &prefix : known)
-            if (value.contains(prefix + QLatin1Char(':')))
+        const auto nextColon = [&value](int from) { return value.indexOf(QLatin1Char(':'), from); };
+        for (int colon = nextColon(0); colon >= 0; colon = nextColon(colon + 1)) {
+            int begin = colon;
+            while (begin > 0 && mayBeInPrefix(value.at(begin - 1)))
+                --begin;
+            const QString prefix = value.mid(begin, colon - begin);
+            if (known.contains(prefix))
                 used->insert(prefix);
+        }
     };
     if (element.isText())
         return addFrom(element.content);
@@ -318,6 +347,7 @@ public:
 
 private:
     void writeElement(const XmlElement &element);
+    void writeText(const QString &text);
     QString qualified(const QString &uri, const QString &prefix, const QString &name, bool isAttribute);
     QString prefixFor(const QString &uri, const QString &prefix, bool isAttribute);
     const QString *inForce(const QString &prefix) const;
@@ -379,10 +409,20 @@ QString Writer::qualified(const QString &uri, const QString &prefix, const QStri
     return chosen.isEmpty() ? name : chosen + QLatin1Char(':') + name;
 }
 
+void Writer::writeText(const QString &text)
+{
+    const QStringList pieces = text.split(QLatin1Char('\r'));
+    for (int i = 0; i < pieces.size(); ++i) {
+        if (i > 0)
+            m_writer.writeEntityReference(QStringLiteral("#13")); // as it is, a reader would take it for a line's end
+        m_writer.writeCharacters(pieces.at(i));
+    }
+}
+
 void Writer::writeElement(const XmlElement &element)
 {
     if (element.isText()) {
-        m_writer.writeCharacters(element.content);
+        writeText(element.content);
         return;
     }
     const int outer = m_inForce.size();

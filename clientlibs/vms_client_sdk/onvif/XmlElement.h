@@ -79,7 +79,11 @@ inline constexpr int maxXmlDepth = 64;
 /// The largest answers, the profiles of a recorder with 64 channels, have about 10,000.
 inline constexpr int maxXmlElements = 50'000;
 /// Of one element. Qt compares each with all others: ten thousands of them would hold up all devices for minutes.
-inline constexpr int maxXmlAttributes = 1'000;
+inline constexpr int maxXmlAttributes = 300;
+/// Declarations of namespaces in force at one place; Qt searches them all for each name. Devices declare up to 100.
+inline constexpr int maxXmlDeclarations = 300;
+/// Characters of a namespace: each element in it may come to have a copy. Those of the standard have up to 90.
+inline constexpr int maxXmlNamespace = 500;
 
 /// Reads a whole document. Document types and entities of its own are refused, and what is beyond the limits above.
 XmlRead readXml(const QByteArray &document);

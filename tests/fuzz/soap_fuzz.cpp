@@ -1,0 +1,60 @@
+#include <vms_client_sdk/ForeignText.h>
+#include <vms_client_sdk/onvif/DigestAuth.h>
+#include <vms_client_sdk/onvif/HttpAnswerReader.h>
+#include <vms_client_sdk/onvif/SoapMessage.h>
+
+#include <QBuffer>
+
+#include <algorithm>
+
+using namespace vms_sdk;
+
+// What a camera may say: the bytes as an HTTP answer, as a challenge and as a SOAP message. What was read as XML is
+// written and read again.
+
+namespace {
+
+bool isSame(const XmlElement &a, const XmlElement &b)
+{
+    const auto attribute = [](const auto &x, const auto &y) {
+        return x.namespaceUri == y.namespaceUri && x.name == y.name && x.value == y.value;
+    };
+    return a.name == b.name && a.namespaceUri == b.namespaceUri && a.content == b.content
+        && std::equal(a.attributes.begin(), a.attributes.end(), b.attributes.begin(), b.attributes.end(), attribute)
+        && std::equal(a.children.begin(), a.children.end(), b.children.begin(), b.children.end(), isSame);
+}
+
+void checkTree(const XmlElement &tree)
+{
+    const XmlRead again = readXml(writeXml(tree));
+    if (!again.root || !isSame(tree, *again.root))
+        qFatal("what is written is not what was read: %s", writeXml(tree).constData());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
+{
+    const QByteArray input(reinterpret_cast<const char *>(data), int(size));
+    QBuffer device;
+    device.setData(input);
+    device.open(QIODevice::ReadOnly);
+    constexpr qint64 maxBytes = 1000;
+    HttpAnswerReader http(maxBytes);
+    if (http.read(device) == HttpAnswerReader::State::Incomplete)
+        http.end();
+    if (http.answer().body.size() > maxBytes || holdsControls(http.answer().error))
+        qFatal("an answer that cannot be");
+    if (auto auth = DigestAuth::fromChallenges({input}))
+        for (const char c : auth->authorization(QStringLiteral("a\"\r\n"), QStringLiteral("p"), "/"))
+            if (quint8(c) < ' ')
+                qFatal("a header that is not one line");
+    if (const XmlRead xml = readXml(input); xml.root)
+        checkTree(*xml.root);
+    const SoapAnswer answer = readSoapAnswer(input);
+    if (answer.error.isEmpty() && !answer.fault)
+        checkTree(answer.body);
+    if (holdsInvisible(answer.error) || (answer.fault && holdsInvisible(answer.fault->text())))
+        qFatal("an error that is no printable line");
+    return 0;
+}
