@@ -37,10 +37,10 @@ protected:
         auto *socket = new QSslSocket(this);
         connections.append(socket);
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
-            m_received[socket] += socket->readAll();
-            if (!m_received[socket].startsWith('\x16') && !m_received[socket].endsWith("<body/>"))
+            const QByteArray arrived = socket->peek(1000);
+            if (!arrived.startsWith('\x16') && !arrived.endsWith("<body/>"))
                 return; // neither a handshake nor a whole request
-            requests.append(m_received.take(socket));
+            requests.append(socket->readAll());
             socket->write(answer);
             if (then.isEmpty())
                 socket->disconnectFromHost();
@@ -57,9 +57,6 @@ protected:
             socket->startServerEncryption();
         }
     }
-
-private:
-    QHash<QTcpSocket *, QByteArray> m_received;
 };
 
 } // namespace
@@ -79,14 +76,14 @@ class OnvifHttpTest : public OrdaTest
     {
         const int before = m_answers.size();
         post(request);
-        QTRY_COMPARE(m_answers.size(), before + 1);
+        QTRY_COMPARE_WITH_TIMEOUT(m_answers.size(), before + 1, 2000);
     }
 
 private slots:
     void init()
     {
         OrdaTest::init();
-        delete std::exchange(m_exchanges, new HttpExchanges({300ms, 600ms, 50'000}, this));
+        delete std::exchange(m_exchanges, new HttpExchanges({300ms, 1s, 50'000}, this));
         m_answers.clear();
     }
 
@@ -106,10 +103,7 @@ private slots:
         if (const QString url = valueOf("url"); !url.isEmpty())
             request.url = QUrl(QString(url).replace("%1", QString::number(camera.serverPort())));
         request.fingerprint = valueOf("pin");
-        QElapsedTimer timer;
-        timer.start();
         exchange(request);
-        QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
         const HttpAnswer &read = m_answers.constFirst();
         const QByteArray content = read.status == 401 ? read.challenges.join('|') : read.body;
         const QString reason = reasons.at(int(read.reason)) + (read.hasLeft ? "" : " -");
@@ -156,6 +150,7 @@ private slots:
         exchange(once);
         QCOMPARE(m_answers.constLast().reason, TroubleReason::ConnectionLost);
         QCOMPARE(camera.requests.size(), 11);
+        QCOMPARE(camera.connections.size(), 9); // not on the one that was left
 
         // What follows an answer is not taken for the next one.
         camera.answer = good + QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nforged");
@@ -261,17 +256,15 @@ private slots:
             return;
         const bool isOwn = auth->nonce() == "N1";
         QCOMPARE(auth->isStale(), isOwn);
-        const QByteArray uri = isOwn ? "/onvif/x?y=1" : "/dir/index.html";
         const QString user = isOwn ? "J\u00e4ger" : "Mufasa", password = isOwn ? "p\u00e4\"\u00df" : "Circle of Life";
-        const QByteArray header = auth->authorization(user, password, uri, isOwn ? "POST" : "GET",
-                                                      isOwn ? "C1" : "f2/wE4q74E6zIJEtWaHKaf5wv/H5QzzpXusqGemxURZJ");
+        const QByteArray uri = "/dir/index.html", own = "f2/wE4q74E6zIJEtWaHKaf5wv/H5QzzpXusqGemxURZJ";
+        const QByteArray header = auth->authorization(user, password, uri, "GET", own);
         QVERIFY2(header.contains(", response=\"" + response + '"'), header);
         QVERIFY2(!isOwn || header.startsWith("Digest username=\"J\u00e4ger\", realm=\"a, \\\"b\\\\\", nonce=\"N1\""),
                  header);
-        QCOMPARE(header.contains("qop=auth, nc=00000001, cnonce=\""), challenges.contains("qop"));
-        const QByteArray second = auth->authorization("a\"\\\r\nX: y", password, uri);
-        QVERIFY2(second.contains("username=\"a\\\"\\\\X: y\"") && !second.contains('\n'), second);
-        QCOMPARE(second.contains("nc=00000002"), challenges.contains("qop"));
+        const QByteArray next = auth->authorization("a\"\\\r\nX: y", password, uri);
+        QVERIFY2(next.contains("username=\"a\\\"\\\\X: y\"") && !next.contains('\n') && !next.contains(own), next);
+        QCOMPARE(next.contains("qop=auth, nc=00000002, cnonce=\""), challenges.contains("qop"));
     }
 };
 
