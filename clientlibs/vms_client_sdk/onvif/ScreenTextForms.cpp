@@ -16,7 +16,8 @@ const KeyWords corners[] = {{"UpperLeft", "left_top"},
                             {"UpperRight", "right_top"},
                             {"LowerLeft", "left_bottom"},
                             {"LowerRight", "right_bottom"}};
-const KeyWords dateFormats[] = {{"yyyy-MM-dd", "YYYY-MM-DD"}, {"MM/dd/yyyy", "MM/DD/YYYY"}, {"dd/MM/yyyy", "DD/MM/YYYY"}};
+const KeyWords dateFormats[] = {
+    {"yyyy-MM-dd", "YYYY-MM-DD"}, {"MM/dd/yyyy", "MM/DD/YYYY"}, {"dd/MM/yyyy", "DD/MM/YYYY"}};
 const char fullTime[] = "HH:mm:ss";
 const QLatin1String freePlace("Custom");
 
@@ -97,9 +98,9 @@ std::vector<Format> cameraFormats(const XmlElement &options)
 XmlElement &partOfText(XmlElement *osd, const char *name)
 {
     XmlElement &text = osd->childMade(onvif::tt, "TextString");
-    return placed(&text, name,
-                  {"Type", "DateFormat", "TimeFormat", "FontSize", "FontColor", "BackgroundColor", "PlainText",
-                   "Extension"});
+    return placed(
+        &text, name,
+        {"Type", "DateFormat", "TimeFormat", "FontSize", "FontColor", "BackgroundColor", "PlainText", "Extension"});
 }
 
 QString setFormat(const QString &format, const XmlElement &options, XmlElement *osd)
@@ -201,8 +202,7 @@ XmlElement madeText(const ScreenTextKind &kind, const QString &sourceConfigurati
     osd.append(XmlElement(onvif::tt, "VideoSourceConfigurationToken", sourceConfiguration));
     osd.append(XmlElement(onvif::tt, "Type", QStringLiteral("Text")));
     osd.append(XmlElement(onvif::tt, "Position"));
-    osd.append(XmlElement(onvif::tt, "TextString"))
-        .append(XmlElement(onvif::tt, "Type", QLatin1String(kind.type)));
+    osd.append(XmlElement(onvif::tt, "TextString")).append(XmlElement(onvif::tt, "Type", QLatin1String(kind.type)));
     return osd;
 }
 

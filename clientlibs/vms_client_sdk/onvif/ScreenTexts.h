@@ -34,7 +34,13 @@ public:
     OnvifPlan plan(const QJsonObject &param) override;
 
 private:
-    enum class Fate { Stays, Changes, Goes, Comes };
+    enum class Fate
+    {
+        Stays,
+        Changes,
+        Goes,
+        Comes
+    };
     /// What is asked, of the members that differ.
     struct Asked
     {
