@@ -407,6 +407,9 @@ SiteCamera makeSiteCamera(quint32 seed, int index)
     state.paths = dealPaths(dealer, state.traits.hasMedia2, !dealer.isOneOf(Trait::Imaging, 4));
     made.info.path = state.paths.value(text(tds));
 
+    for (const char *kind :
+         {videoSourceKind, videoEncoderKind, audioEncoderKind, audioOutputKind, osdKind, imagingKind})
+        state.configurations[text(kind)] = {}; // all kinds are there, be it without anything in them
     Equipment equipment(dealer, &state, &random);
     const int sources = dealer.isOneOf(Trait::Sources, 10) ? 2 : 1;
     const int streams = dealer.deal(Trait::Streams, 3) + 1;

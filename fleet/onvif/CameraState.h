@@ -69,7 +69,7 @@ struct CameraState
     QString discoveryMode = QStringLiteral("Discoverable");
     std::vector<CameraConfiguration> videoSources; ///< without options
     std::vector<CameraProfile> profiles;
-    std::map<QString, std::vector<CameraConfiguration>> configurations; ///< by kind
+    std::map<QString, std::vector<CameraConfiguration>> configurations; ///< by kind, each of them
     std::vector<vms_sdk::XmlElement> osdOptions; ///< one; empty without OSD
     int osdsMade = 0; ///< for tokens of new ones
 };
