@@ -11,7 +11,6 @@
 #include <vms_client_sdk/Inventory.h>
 
 #include <QJsonArray>
-#include <QTimer>
 
 namespace orda_batch {
 
@@ -62,7 +61,7 @@ DiscoverCommand::DiscoverCommand(const BatchOptions &options, OutputThread *outp
 
 void DiscoverCommand::start()
 {
-    QTimer::singleShot(0, this, &DiscoverCommand::begin);
+    QMetaObject::invokeMethod(this, &DiscoverCommand::begin, Qt::QueuedConnection);
 }
 
 void DiscoverCommand::begin()

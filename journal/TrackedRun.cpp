@@ -204,12 +204,13 @@ TrackedRun::Answer TrackedRun::takeWritten(int place, int number, const QJsonObj
     exchange.isWritten = exchange.isWritten || code == 0 || (tells && !result.toObject().isEmpty());
     if (code == 0)
         exchange.isInDoubt = false;
-    if (!tells)
-        return taken;
-    const CfgExchange &family = m_family.exchanges.at(number);
-    const bool isUnanswered = code != 0 && objectIn(answer, "error").value(QLatin1String("unanswered")).toBool();
+    const bool isUnanswered =
+        device.isTelling && code != 0 && objectIn(answer, "error").value(QLatin1String("unanswered")).toBool();
     if (isUnanswered)
         exchange.isInDoubt = true;
+    if (!tells && !isUnanswered)
+        return taken;
+    const CfgExchange &family = m_family.exchanges.at(number);
     const QJsonObject members = isUnanswered ? supposed(exchange) : family.membersOf(result.toObject());
     for (auto member = members.begin(); member != members.end(); ++member)
         exchange.taken.insert(member.key(), member.value());

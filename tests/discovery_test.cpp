@@ -13,10 +13,9 @@ namespace {
 
 QByteArray matchOf(const QString &endpoint, const QString &scopes, const QString &addresses)
 {
-    return QString("<d:ProbeMatch><w:EndpointReference><w:Address>%1</w:Address></w:EndpointReference>"
-                   "<d:Scopes MatchBy=\"x\">\n%2 </d:Scopes><d:XAddrs> %3\n</d:XAddrs></d:ProbeMatch>")
-        .arg(endpoint, scopes, addresses)
-        .toUtf8();
+    return "<d:ProbeMatch><w:EndpointReference><w:Address>" + endpoint.toUtf8()
+         + "</w:Address></w:EndpointReference><d:Scopes MatchBy=\"x\">\n" + scopes.toUtf8() + " </d:Scopes><d:XAddrs> "
+         + addresses.toUtf8() + "\n</d:XAddrs></d:ProbeMatch>";
 }
 
 QByteArray answerTo(const QString &messageId, const QByteArray &matches)
@@ -72,15 +71,8 @@ struct Responder : QObject
 /// A search, and what it has told.
 struct Search
 {
-    Search()
-    {
-        QObject::connect(&discovery, &OnvifDiscovery::found, &discovery, [this](const FoundCamera &camera) {
-            found.append(camera.endpoint + ' ' + camera.sender + (camera.isAtSender() ? "" : " elsewhere"));
-        });
-    }
     OnvifDiscovery discovery;
-    QStringList found;
-    QSignalSpy finished{&discovery, &OnvifDiscovery::finished};
+    QSignalSpy found{&discovery, &OnvifDiscovery::found}, finished{&discovery, &OnvifDiscovery::finished};
 };
 
 } // namespace
@@ -138,21 +130,22 @@ private slots:
             responder.send(answerTo(probe.id, matchOf("urn:large", QString(60'000, 'x'), "http://127.0.0.5/")));
         });
         QCOMPARE(search.discovery.start("near0", 900ms), QString());
-        QVERIFY(search.found.isEmpty());
         QTRY_COMPARE(search.finished.count(), 1);
-        search.found.sort();
-        QCOMPARE(search.found, QStringList({"http://127.0.0.5:81/ 127.0.0.5", "urn:1 127.0.0.5",
-                                            "urn:1 127.0.0.6 elsewhere", "urn:large 127.0.0.5"}));
-        QMap<QString, QString> types;
+        QSet<QString> found;
+        for (const QVariantList &told : qAsConst(search.found)) {
+            const auto camera = told.at(0).value<FoundCamera>();
+            found.insert(camera.endpoint + ' ' + camera.sender + (camera.isAtSender() ? "" : " elsewhere"));
+        }
+        QCOMPARE(search.found.size(), found.size()); // each once
+        QCOMPARE(found, QSet<QString>({"http://127.0.0.5:81/ 127.0.0.5", "urn:1 127.0.0.5", "urn:1 127.0.0.6 elsewhere",
+                                       "urn:large 127.0.0.5"}));
+        QMap<QString, QString> asked; // by id
         for (const Responder::Probe &probe : qAsConst(responder.probes))
-            types[probe.id] += probe.type + ' ';
-        QStringList asked = types.values();
-        asked.sort(); // each thrice: a datagram may be lost
-        QCOMPARE(asked,
-                 QStringList({QString("dn:NetworkVideoTransmitter ").repeated(3), QString("tds:Device ").repeated(3)}));
-        QCOMPARE(search.discovery.start("near0", 300ms), QString()); // all is told anew
-        QTRY_COMPARE(search.finished.count(), 2);
-        QCOMPARE(search.found.size(), 8);
+            asked[probe.id] += probe.type + ' ';
+        // Each thrice: a datagram may be lost.
+        QCOMPARE(
+            QSet<QString>(asked.begin(), asked.end()),
+            QSet<QString>({QString("dn:NetworkVideoTransmitter ").repeated(3), QString("tds:Device ").repeated(3)}));
     }
 
     void asksOnTheInterfacesThatAreMeant()
@@ -202,7 +195,6 @@ private slots:
         row("elsewhere", "1", 0, "127.0.0.6 says that it is at http://127.0.0.5/a\n", "");
         row("nobody", "1 --interface lo", 0, "", "no camera has answered on lo\n");
         row("no interface", "1 --interface eth77", 3, "", "\"eth77\"");
-        row("too long", "61", 2, "", "from 1 to 60");
         row("interrupted", "60 --format json", 6, R"("id":"onvif-127.0.0.5-2")", "interrupted\n");
     }
 

@@ -12,7 +12,7 @@ enum class TroubleReason
     Password, ///< the device does not accept the user name or the password
     SerialNumber, ///< it has another serial number than its record
     SignOn, ///< it does not sign on as it should: cannot prove that it knows the password, nonce too short, no
-            ///< WebSocket
+            ///< WebSocket, no HTTP
     Certificate, ///< its certificate is not accepted
     Tls, ///< no secure connection for another reason than the certificate
     ConnectionRefused, ///< nobody listens at its address

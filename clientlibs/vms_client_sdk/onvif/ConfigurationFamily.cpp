@@ -119,7 +119,7 @@ QJsonObject ConfigurationFamily::valuesOf(const Held &held) const
 {
     const KeyOptions options = optionsOf(held, held.configuration);
     QJsonObject values;
-    for (const KeyRow *row = m_table.keys; row != m_table.keys + m_table.keyCount; ++row) {
+    for (const KeyRow *row = m_table.keys; row && row->key; ++row) {
         const QJsonValue value = valueOf(*row, held.configuration, options);
         if (!value.isUndefined())
             values.insert(QLatin1String(row->key), value);
@@ -226,7 +226,7 @@ QString ConfigurationFamily::changeKeys(const Held &held, const QJsonObject &ask
     const QString encoding = held.configuration.textOf(onvif::tt, "Encoding");
     KeyOptions options = optionsOf(held, *configuration);
     bool isOtherEncoding = false;
-    for (const KeyRow *row = m_table.keys; row != m_table.keys + m_table.keyCount; ++row) {
+    for (const KeyRow *row = m_table.keys; row && row->key; ++row) {
         const QString key = QLatin1String(row->key);
         QString refused;
         if (asked.contains(key) && isOtherEncoding && valueOf(*row, *configuration, options).isUndefined())

@@ -41,7 +41,7 @@ DevInfo toDevInfo(const FoundCamera &camera, QSet<QString> *takenIds)
     device.name = displayText(camera.name.isEmpty() ? camera.hardware : camera.name); // no inventory takes controls
     device.accessCode = device.kindCode = 1;
     const QHostAddress ip(address.host());
-    if (ip.protocol() == QAbstractSocket::IPv4Protocol) {
+    if (ip.protocol() == QAbstractSocket::IPv4Protocol && !address.hasQuery()) {
         device.ip = ip.toString();
         device.ipNumber = ip.toIPv4Address();
         device.port = portOf(address);

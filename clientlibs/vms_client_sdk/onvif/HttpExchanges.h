@@ -42,7 +42,7 @@ struct HttpAnswer
 {
     int status = 0; ///< 0: no answer; then reason and error say why
     QByteArray body; ///< whole; empty when it is beyond the limit
-    QByteArrayList challenges; ///< of WWW-Authenticate, one each
+    QByteArrayList challenges; ///< of WWW-Authenticate; several headers come as one, joined by commas
     TroubleReason reason = TroubleReason::None;
     QString error; ///< a printable line; also for an answer that is no use, such as a redirection
     /// Without an answer: whether the request, or a part of it, may have reached the device.

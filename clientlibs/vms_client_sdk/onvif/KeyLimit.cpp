@@ -108,7 +108,7 @@ std::optional<KeyLimit> KeyOptions::limitAt(const char *paths) const
     const QByteArrayList alternatives = QByteArray(paths).split('|');
     for (const QByteArray &path : alternatives) {
         for (const XmlElement *scope : scopes) {
-            const auto limit = path.contains('@') ? limitOfAttribute(*scope, path) : limitOfElements(*scope, path);
+            auto limit = path.contains('@') ? limitOfAttribute(*scope, path) : limitOfElements(*scope, path);
             if (limit)
                 return limit;
         }

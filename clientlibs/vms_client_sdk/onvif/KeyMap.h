@@ -7,7 +7,8 @@
 namespace vms_sdk {
 
 /// How a camera's text and a value of ours are turned into each other.
-enum class KeyForm {
+enum class KeyForm
+{
     Number, ///< the same number. Fractions are set only where the camera lists them
     Share, ///< a whole number from 0 to 100: where in its range the number stands
     WholeShare, ///< the same; the camera takes whole numbers only, so that the nearest one is set
@@ -26,16 +27,17 @@ struct KeyWords
     const char *ours;
 };
 
-/// A key of a family: where its value stands in a configuration, and what limits it. Plain data.
+/// A key of a family: where its value stands in a configuration, and what limits it. Plain data. A list ends with a row
+/// without a key.
 struct KeyRow
 {
     const char *key;
     /// As XmlPath.h has it; "|" between alternatives, of which the first that is there counts. "$" stands for the
     /// configuration's encoding.
     const char *path;
-    KeyForm form;
     const char *limits = ""; ///< for KeyOptions::limitAt(); empty: none
     const KeyWords *words = nullptr;
+    KeyForm form = KeyForm::Number;
     bool isFitted = false; ///< a new encoding may change it unasked, where it does not allow the present value
 };
 

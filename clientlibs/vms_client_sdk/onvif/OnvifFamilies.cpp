@@ -18,59 +18,55 @@ const KeyWords audioWords[] = {{"PCMU", "g711u"}, {"PCMA", "g711a"}, {"G711", "g
 const KeyWords filterWords[] = {{"AUTO", "ir"}, {"ON", "off"}, {"OFF", "night"}, {nullptr, nullptr}};
 const KeyWords discoveryWords[] = {{"Discoverable", "1"}, {"NonDiscoverable", "0"}, {nullptr, nullptr}};
 
-// Where two places or limits are named, the first is that of Media2, the second that of Media. The encoding comes first:
-// the limits of the others depend on it.
+// Where two places or limits are named, the first is that of Media2, the second that of Media. The encoding comes
+// first: the limits of the others depend on it.
 const KeyRow videoKeys[] = {
-    {"venctype", "Encoding", Form::Encoding},
-    {"width", "Resolution/Width", Form::Number},
-    {"height", "Resolution/Height", Form::Number},
-    {"frameRate", "RateControl/FrameRateLimit", Form::Number, "@FrameRatesSupported|FrameRateRange"},
-    {"bitRate", "RateControl/BitrateLimit", Form::Number, "BitrateRange"}, // kbit/s on both sides
-    {"rcMode", "RateControl/@ConstantBitRate", Form::ConstantRate, "@ConstantBitRateSupported"},
-    {"quality", "Quality", Form::Share, "QualityRange"},
-    {"iFrameInterval", "@GovLength|$/GovLength", Form::Number, "@GovLengthRange|GovLengthRange", nullptr, true},
-    {"profile", "@Profile|$/H264Profile", Form::Word, "@ProfilesSupported|H264ProfilesSupported", nullptr, true},
+    {"venctype", "Encoding", "", nullptr, Form::Encoding},
+    {"width", "Resolution/Width"},
+    {"height", "Resolution/Height"},
+    {"frameRate", "RateControl/FrameRateLimit", "@FrameRatesSupported|FrameRateRange"},
+    {"bitRate", "RateControl/BitrateLimit", "BitrateRange"}, // kbit/s on both sides
+    {"rcMode", "RateControl/@ConstantBitRate", "@ConstantBitRateSupported", nullptr, Form::ConstantRate},
+    {"quality", "Quality", "QualityRange", nullptr, Form::Share},
+    {"iFrameInterval", "@GovLength|$/GovLength", "@GovLengthRange|GovLengthRange", nullptr, Form::Number, true},
+    {"profile", "@Profile|$/H264Profile", "@ProfilesSupported|H264ProfilesSupported", nullptr, Form::Word, true},
+    {nullptr, nullptr},
 };
 
 const KeyRow audioInKeys[] = {
-    {"encType", "Encoding", Form::Encoding, "", audioWords},
-    {"sampleRate", "SampleRate", Form::KiloHertz, "SampleRateList/Items"},
+    {"encType", "Encoding", "", audioWords, Form::Encoding},
+    {"sampleRate", "SampleRate", "SampleRateList/Items", nullptr, Form::KiloHertz},
+    {nullptr, nullptr},
 };
 
-const KeyRow audioOutKeys[] = {{"aoGain", "OutputLevel", Form::WholeShare, "OutputLevelRange"}};
-const KeyRow adjustKeys[] = {{"flip", "Extension/Rotate", Form::Rotation}};
-const KeyRow dayNightKeys[] = {{"lightmode", "IrCutFilter", Form::Word, "IrCutFilterModes", filterWords}};
-const KeyRow discoveryKeys[] = {{"discoveryflag", "", Form::Flag, "", discoveryWords}};
-
-template <size_t count>
-constexpr int sizeOf(const KeyRow (&)[count])
-{
-    return int(count);
-}
+const KeyRow audioOutKeys[] = {{"aoGain", "OutputLevel", "OutputLevelRange", nullptr, Form::WholeShare},
+                               {nullptr, nullptr}};
+const KeyRow adjustKeys[] = {{"flip", "Extension/Rotate", "", nullptr, Form::Rotation}, {nullptr, nullptr}};
+const KeyRow dayNightKeys[] = {{"lightmode", "IrCutFilter", "IrCutFilterModes", filterWords, Form::Word},
+                               {nullptr, nullptr}};
+const KeyRow discoveryKeys[] = {{"discoveryflag", "", "", discoveryWords, Form::Flag}, {nullptr, nullptr}};
 
 const FamilyTable families[] = {
     {"stream_get_params", "stream_set_params", "", "streams", FamilyReach::Configurations, "VideoEncoder",
      "GetVideoEncoderConfigurations", "Configurations", "GetVideoEncoderConfigurationOptions", "Options",
-     "SetVideoEncoderConfiguration", "Configuration", videoKeys, sizeOf(videoKeys)},
+     "SetVideoEncoderConfiguration", "Configuration", videoKeys},
     {"ai_get_param", "ai_set_param", "audioAttr", "", FamilyReach::Configurations, "AudioEncoder",
      "GetAudioEncoderConfigurations", "Configurations", "GetAudioEncoderConfigurationOptions", "Options",
-     "SetAudioEncoderConfiguration", "Configuration", audioInKeys, sizeOf(audioInKeys)},
-    {"ao_get_param", "ao_set_param", "audioAttr", "", FamilyReach::Configurations, "",
-     "GetAudioOutputConfigurations", "Configurations", "GetAudioOutputConfigurationOptions", "Options",
-     "SetAudioOutputConfiguration", "Configuration", audioOutKeys, sizeOf(audioOutKeys)},
+     "SetAudioEncoderConfiguration", "Configuration", audioInKeys},
+    {"ao_get_param", "ao_set_param", "audioAttr", "", FamilyReach::Configurations, "", "GetAudioOutputConfigurations",
+     "Configurations", "GetAudioOutputConfigurationOptions", "Options", "SetAudioOutputConfiguration", "Configuration",
+     audioOutKeys},
     {"image_get_adjust_param", "image_set_adjust_param", "attr", "", FamilyReach::Configurations, "VideoSource",
      "GetVideoSourceConfigurations", "Configurations", "GetVideoSourceConfigurationOptions", "Options",
-     "SetVideoSourceConfiguration", "Configuration", adjustKeys, sizeOf(adjustKeys)},
+     "SetVideoSourceConfiguration", "Configuration", adjustKeys},
     {"image_get_dncut_param", "image_set_dncut_param", "attr", "", FamilyReach::VideoSource, "VideoSource",
      "GetImagingSettings", "ImagingSettings", "GetOptions", "ImagingOptions", "SetImagingSettings", "ImagingSettings",
-     dayNightKeys, sizeOf(dayNightKeys)},
-    {"image_get_expertsetting_param", "image_set_expertsetting_param", "attr", "", FamilyReach::Nothing, "", "", "",
-     "", "", "", "", nullptr, 0},
-    {"chnosd_get_param", "chnosd_set_param", "attr", "", FamilyReach::ScreenTexts, "", "", "", "", "", "", "", nullptr,
-     0},
+     dayNightKeys},
+    {"image_get_expertsetting_param", "image_set_expertsetting_param", "attr", "", FamilyReach::Nothing, "", "", "", "",
+     "", "", "", nullptr},
+    {"chnosd_get_param", "chnosd_set_param", "attr", "", FamilyReach::ScreenTexts, "", "", "", "", "", "", "", nullptr},
     {"netservice_onvif_get_discoveryinfo", "netservice_onvif_set_discoveryinfo", "", "", FamilyReach::Device, "",
-     "GetDiscoveryMode", "DiscoveryMode", "", "", "SetDiscoveryMode", "DiscoveryMode", discoveryKeys,
-     sizeOf(discoveryKeys)},
+     "GetDiscoveryMode", "DiscoveryMode", "", "", "SetDiscoveryMode", "DiscoveryMode", discoveryKeys},
 };
 
 /// The media service to be used; none when the camera has none.

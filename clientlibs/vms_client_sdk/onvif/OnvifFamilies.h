@@ -10,7 +10,8 @@
 namespace vms_sdk {
 
 /// What a family's operations are addressed to.
-enum class FamilyReach {
+enum class FamilyReach
+{
     Nothing, ///< the standard has no counterpart for its keys; its requests succeed with nothing
     Device, ///< the camera itself: one operation to read, one to write, no options
     Configurations, ///< of one of the media services, by their tokens
@@ -33,8 +34,7 @@ struct FamilyTable
     const char *optionsPart; ///< of its answer
     const char *setOperation;
     const char *setPart; ///< of its request
-    const KeyRow *keys;
-    int keyCount;
+    const KeyRow *keys; ///< null: none
 };
 
 /// The table of a method, be it the read or the write; null for methods that the standard has no counterpart for.

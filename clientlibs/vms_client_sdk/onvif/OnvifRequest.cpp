@@ -135,15 +135,15 @@ void OnvifRequest::fail(int code, const QString &message, bool isUnanswered)
     QJsonObject error{{QStringLiteral("errorcode"), code}, {QStringLiteral("message"), message}};
     if (isUnanswered)
         error.insert(QStringLiteral("unanswered"), true);
-    finish(std::move(error));
+    finish(error);
 }
 
-void OnvifRequest::finish(QJsonObject error)
+void OnvifRequest::finish(const QJsonObject &error)
 {
     if (std::exchange(m_isFinished, true))
         return;
     const bool isGood = error.value(QLatin1String("errorcode")).toInt() == 0;
-    QJsonObject answer{{QStringLiteral("method"), m_method}, {QStringLiteral("error"), std::move(error)}};
+    QJsonObject answer{{QStringLiteral("method"), m_method}, {QStringLiteral("error"), error}};
     if (m_isWrite && (isGood || m_written > 0)) {
         const QStringList kept{QStringLiteral("streamid"), QStringLiteral("token")};
         answer.insert(QStringLiteral("result"), changedMembers(m_before, m_family->held(), kept));

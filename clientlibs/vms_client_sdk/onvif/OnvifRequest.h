@@ -46,7 +46,7 @@ private:
     void takeWritten(const CallResult &result);
     bool hasFailed(const XmlElement &operation, const CallResult &result, bool isWrite);
     void fail(int code, const QString &message, bool isUnanswered = false);
-    void finish(QJsonObject error);
+    void finish(const QJsonObject &error);
 
     CameraCalls &m_calls;
     const QString m_method;

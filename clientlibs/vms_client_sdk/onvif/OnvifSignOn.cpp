@@ -75,16 +75,18 @@ void OnvifSignOn::tryNextWay(OnvifService service, const XmlElement &operation, 
     if (m_device.userName.isEmpty())
         return refuse(QStringLiteral("it asks for an account, and its record has no user name"),
                       TroubleReason::Password);
-    if (m_digest)
-        m_line.useDigest(*std::exchange(m_digest, {}));
-    else if (std::exchange(m_takesTokens, false))
+    if (m_digest) {
+        m_line.useDigest(*m_digest);
+        m_digest.reset();
+    } else if (std::exchange(m_takesTokens, false)) {
         m_line.useTokens();
-    else if (!isFirst)
+    } else if (!isFirst) {
         return refuse(QStringLiteral("it does not accept the user name or the password"), TroubleReason::Password);
-    else if (m_takesBasic)
-        return refuse(QStringLiteral("it offers only HTTP Basic, which shows the password"), TroubleReason::SignOn);
-    else
-        return refuse(QStringLiteral("it asks for an account in a way that is not known here"), TroubleReason::SignOn);
+    } else {
+        return refuse(m_takesBasic ? QStringLiteral("it offers only HTTP Basic, which shows the password")
+                                   : QStringLiteral("it asks for an account in a way that is not known here"),
+                      TroubleReason::SignOn);
+    }
     ask(service, operation, next);
 }
 

@@ -34,14 +34,14 @@ struct Turn
 /// Everything that the camera can do.
 std::vector<Turn> turnsOf(const KeyOptions &options)
 {
-    const auto modes = options.limitAt("Extension/Rotate/Mode");
-    const auto degrees = options.limitAt("Extension/Rotate/DegreeList/Items");
+    const QStringList modes = options.limitAt("Extension/Rotate/Mode").value_or(KeyLimit()).words;
+    const QStringList degrees = options.limitAt("Extension/Rotate/DegreeList/Items").value_or(KeyLimit()).words;
     std::vector<Turn> turns;
-    for (const QString &mode : modes.value_or(KeyLimit()).words) {
-        if (mode != QLatin1String(modeOn) || !degrees || degrees->words.isEmpty())
+    for (const QString &mode : modes) {
+        if (mode != QLatin1String(modeOn) || degrees.isEmpty())
             turns.push_back({mode, {}});
         else
-            for (const QString &each : qAsConst(degrees->words))
+            for (const QString &each : degrees)
                 turns.push_back({mode, each});
     }
     return turns;
@@ -65,7 +65,8 @@ QString setRotation(const QString &key, const QJsonValue &wanted, const KeyOptio
         allowed.append(wordOf(turn.mode, turn.degrees));
         if (allowed.constLast() != wanted.toString())
             continue;
-        XmlElement &rotate = placed(&configuration->childMade(onvif::tt, "Extension"), "Rotate", {"Rotate", "Extension"});
+        XmlElement &rotate =
+            placed(&configuration->childMade(onvif::tt, "Extension"), "Rotate", {"Rotate", "Extension"});
         placed(&rotate, "Mode", {"Mode", "Degree", "Extension"}).setText(turn.mode);
         if (!turn.degrees.isEmpty())
             placed(&rotate, "Degree", {"Degree", "Extension"}).setText(turn.degrees);
