@@ -63,7 +63,7 @@ inline constexpr char imagingKind[] = "ImagingSettings";
 struct CameraState
 {
     CameraTraits traits;
-    QString deviceId; ///< its serial number is unique: XAddrs and host name are made from it
+    QString deviceId; ///< as the inventory has it; also the host name
     QString name, location, serialNumber, hardware, manufacturer, mac;
     QMap<QString, QString> paths; ///< of the services, by namespace
     QString discoveryMode = QStringLiteral("Discoverable");
