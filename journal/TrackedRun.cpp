@@ -200,8 +200,8 @@ TrackedRun::Answer TrackedRun::takeWritten(int place, int number, const QJsonObj
         return taken;
     const QJsonValue result = answer.value(QLatin1String("result"));
     const bool tells = device.isTelling && result.isObject();
-    // A device that tells of a write before the one that failed has something of the run all the same.
-    exchange.isWritten = exchange.isWritten || code == 0 || (tells && !result.toObject().isEmpty());
+    // A device that tells has what it tells of, whether or not the rest failed.
+    exchange.isWritten = exchange.isWritten || (tells ? !result.toObject().isEmpty() : code == 0);
     if (code == 0)
         exchange.isInDoubt = false;
     const QJsonValue unanswered = objectIn(answer, "error").value(QLatin1String("unanswered"));

@@ -210,7 +210,7 @@ private slots:
                                                {"rcMode", {"cbr", "vbr"}},
                                                {"quality", {20, 40, 33, 100}},
                                                {"bitRate", {63, 512, 7000}},
-                                               {"iFrameInterval", {1, 50, 60}},
+                                               {"iFrameInterval", {1, 50, 200}},
                                                {"profile", {"main", "high", "main10"}}};
         QJsonArray streams;
         for (int stream = 0; stream < 2; ++stream) {
