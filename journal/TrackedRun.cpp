@@ -204,16 +204,18 @@ TrackedRun::Answer TrackedRun::takeWritten(int place, int number, const QJsonObj
     exchange.isWritten = exchange.isWritten || code == 0 || (tells && !result.toObject().isEmpty());
     if (code == 0)
         exchange.isInDoubt = false;
-    const bool isUnanswered =
-        device.isTelling && code != 0 && objectIn(answer, "error").value(QLatin1String("unanswered")).toBool();
+    const QJsonValue unanswered = objectIn(answer, "error").value(QLatin1String("unanswered"));
+    const bool isUnanswered = device.isTelling && code != 0 && unanswered.isObject();
     if (isUnanswered)
         exchange.isInDoubt = true;
     if (!tells && !isUnanswered)
         return taken;
     const CfgExchange &family = m_family.exchanges.at(number);
-    const QJsonObject members = isUnanswered ? supposed(exchange) : family.membersOf(result.toObject());
-    for (auto member = members.begin(); member != members.end(); ++member)
-        exchange.taken.insert(member.key(), member.value());
+    for (const QJsonValue &part : {result, unanswered}) {
+        const QJsonObject members = family.membersOf(part.toObject());
+        for (auto member = members.begin(); member != members.end(); ++member)
+            exchange.taken.insert(member.key(), member.value());
+    }
     exchange.sent = paramOfTaken(family, exchange.before, exchange.taken);
     exchange.changes = m_family.changesBy(number, exchange.before, exchange.sent);
     taken.taken = textOf(exchange.taken);

@@ -131,7 +131,8 @@ QString setConstantRate(const KeyRow &row, const QJsonValue &wanted, const KeyOp
         return notAllowed(QLatin1String(row.key), wanted, listed({constantRate, variableRate}));
     if (isConstant && !constantRateKnown(row, options).value_or(true))
         return notAllowed(QLatin1String(row.key), wanted, variableRate);
-    setTextAt(configuration, pathOf(row, *configuration), isConstant ? QStringLiteral("true") : QStringLiteral("false"));
+    setTextAt(configuration, pathOf(row, *configuration),
+              isConstant ? QStringLiteral("true") : QStringLiteral("false"));
     return {};
 }
 
@@ -162,7 +163,8 @@ QString setNumber(const KeyRow &row, const QJsonValue &wanted, const KeyOptions 
     const double number = wanted.toDouble(-1) / (isKiloHertz ? hertzInKiloHertz : 1);
     auto limit = options.limitAt(row.limits);
     const bool isListed = limit && !limit->isRange && limit->allows(number);
-    const bool isInt = isWhole(number) && number >= 0 && number <= std::numeric_limits<int>::max(); // as the schema has it
+    const bool isInt =
+        isWhole(number) && number >= 0 && number <= std::numeric_limits<int>::max(); // as the schema has it
     if (wanted.isDouble() && (isListed || (isInt && (!limit || limit->allows(number))))) {
         setTextAt(configuration, pathOf(row, *configuration), numberText(number));
         return {};

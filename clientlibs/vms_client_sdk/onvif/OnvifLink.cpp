@@ -117,9 +117,7 @@ void OnvifLink::onSignedOn(const OnvifSignOn::Outcome &outcome)
     case OnvifSignOn::Outcome::Kind::Refused:
         return refused(outcome.reason, outcome.text);
     case OnvifSignOn::Outcome::Kind::Failed:
-        if (outcome.reason == TroubleReason::SignOn)
-            warn(QStringLiteral("does not sign on as it should: %1").arg(outcome.text));
-        else if (outcome.reason == TroubleReason::Certificate)
+        if (outcome.reason == TroubleReason::Certificate)
             warn(outcome.text);
         return lost(outcome.reason, outcome.text);
     case OnvifSignOn::Outcome::Kind::SignedOn:
