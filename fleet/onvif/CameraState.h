@@ -12,6 +12,12 @@
 
 namespace device_fleet {
 
+/// Names and values of cameras are ASCII texts.
+inline QString text(const char *ascii)
+{
+    return QString::fromLatin1(ascii);
+}
+
 /// How a camera writes its answers.
 enum class XmlStyle
 {
