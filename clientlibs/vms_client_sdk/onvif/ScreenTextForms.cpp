@@ -16,7 +16,8 @@ const KeyWords corners[] = {{"UpperLeft", "left_top"},
                             {"UpperRight", "right_top"},
                             {"LowerLeft", "left_bottom"},
                             {"LowerRight", "right_bottom"}};
-const KeyWords dateFormats[] = {{"yyyy-MM-dd", "YYYY-MM-DD"}, {"MM/dd/yyyy", "MM/DD/YYYY"}, {"dd/MM/yyyy", "DD/MM/YYYY"}};
+const KeyWords dateFormats[] = {
+    {"yyyy-MM-dd", "YYYY-MM-DD"}, {"MM/dd/yyyy", "MM/DD/YYYY"}, {"dd/MM/yyyy", "DD/MM/YYYY"}};
 const char fullTime[] = "HH:mm:ss";
 const QLatin1String freePlace("Custom");
 
@@ -52,11 +53,13 @@ std::optional<Coordinates> coordinatesOf(const QString &position)
     if (parts.size() != 2)
         return std::nullopt;
     const Coordinates found{parts.constFirst(), parts.constLast()};
-    bool isX = false;
-    bool isY = false;
-    found.x.toFloat(&isX);
-    found.y.toFloat(&isY);
-    return isX && isY && position == placeText(found.x, found.y) ? std::optional(found) : std::nullopt;
+    const auto isOnScreen = [](const QString &text) {
+        bool isNumber = false;
+        const double number = text.toDouble(&isNumber);
+        return isNumber && number >= -1 && number <= 1; // from one edge to the other; "nan" is none of these
+    };
+    const bool isWhole = position == placeText(found.x, found.y);
+    return isWhole && isOnScreen(found.x) && isOnScreen(found.y) ? std::optional(found) : std::nullopt;
 }
 
 QString formatText(const QString &date, const QString &time)
@@ -97,9 +100,9 @@ std::vector<Format> cameraFormats(const XmlElement &options)
 XmlElement &partOfText(XmlElement *osd, const char *name)
 {
     XmlElement &text = osd->childMade(onvif::tt, "TextString");
-    return placed(&text, name,
-                  {"Type", "DateFormat", "TimeFormat", "FontSize", "FontColor", "BackgroundColor", "PlainText",
-                   "Extension"});
+    return placed(
+        &text, name,
+        {"Type", "DateFormat", "TimeFormat", "FontSize", "FontColor", "BackgroundColor", "PlainText", "Extension"});
 }
 
 QString setFormat(const QString &format, const XmlElement &options, XmlElement *osd)
@@ -179,8 +182,9 @@ QString setContent(const ScreenTextKind &kind, const QString &content, const Xml
 {
     if (kind.isDate)
         return setFormat(content, options, osd);
-    if (holdsControls(content))
-        return notAllowed(QLatin1String(kind.contentKey), content, QStringLiteral("no control characters"));
+    if (holdsControls(content) || !isXmlText(content))
+        return notAllowed(QLatin1String(kind.contentKey), content,
+                          QStringLiteral("neither control characters nor parts of characters"));
     partOfText(osd, "PlainText").setText(content);
     return {};
 }
@@ -201,8 +205,7 @@ XmlElement madeText(const ScreenTextKind &kind, const QString &sourceConfigurati
     osd.append(XmlElement(onvif::tt, "VideoSourceConfigurationToken", sourceConfiguration));
     osd.append(XmlElement(onvif::tt, "Type", QStringLiteral("Text")));
     osd.append(XmlElement(onvif::tt, "Position"));
-    osd.append(XmlElement(onvif::tt, "TextString"))
-        .append(XmlElement(onvif::tt, "Type", QLatin1String(kind.type)));
+    osd.append(XmlElement(onvif::tt, "TextString")).append(XmlElement(onvif::tt, "Type", QLatin1String(kind.type)));
     return osd;
 }
 
