@@ -219,6 +219,24 @@ private slots:
         QVERIFY(answering.connections.size() <= 4);
     }
 
+    void theLongestOfTooManyBytesIsGivenUp()
+    {
+        delete std::exchange(m_exchanges, new HttpExchanges({300ms, 10s, 50'000, 4, 256, 100'000}, this));
+        Camera hoarding, answering;
+        hoarding.answer = "HTTP/1.1 200 OK\r\n\r\n" + QByteArray(40'000, 'x'); // and no end
+        for (int i = 0; i < 4; ++i)
+            post(hoarding.request());
+        QTRY_COMPARE(m_answers.size(), 2);
+        exchange(answering.request());
+        QCOMPARE(m_answers.at(0).reason, TroubleReason::Limits);
+        QCOMPARE(m_answers.at(1).reason, TroubleReason::Limits);
+        QCOMPARE(m_answers.at(2).body, QByteArray("good"));
+        HttpRequest small = answering.request();
+        small.maxAnswerBytes = 3;
+        exchange(small);
+        QCOMPARE(m_answers.constLast().reason, TroubleReason::Limits);
+    }
+
     void whoHasGoneIsToldNothing()
     {
         Camera silent;

@@ -145,6 +145,15 @@ private slots:
         QVERIFY(!other.hasPendingConnections());
     }
 
+    void theDeviceServiceHasNotMuchToTell()
+    {
+        ScriptedCamera camera(m_id);
+        signOn(camera);
+        ask("r", 0);
+        camera.texts["GetDiscoveryMode"] += QString(300'000, ' ');
+        ask("s", -61024);
+    }
+
     void anAccountThatMayNotDoSomethingIsLookedIntoOnce()
     {
         ScriptedCamera camera(m_id);

@@ -18,6 +18,10 @@ constexpr int maxStales = 2;
 // requests themselves take.
 constexpr qint64 clockChangeMs = 5'000;
 
+// What a device service answers with takes a few KiB. Each camera is asked it every half minute: were it 4 MiB each
+// time, some of them together would hold up all others.
+constexpr qint64 maxDeviceAnswer = 256 * 1024;
+
 // Paths of real cameras take a twentieth of this.
 constexpr int maxAddressLength = 2'048;
 
@@ -152,6 +156,8 @@ void CameraLine::send(Request request)
     http.action = (request.operation.namespaceUri + QLatin1Char('/') + request.operation.name).toUtf8();
     http.fingerprint = m_fingerprint;
     http.isRepeatable = request.isRepeatable;
+    if (request.service == OnvifService::Device)
+        http.maxAnswerBytes = maxDeviceAnswer;
     std::optional<UsernameToken> token;
     if (request.scheme == Scheme::Token) {
         token = makeUsernameToken(m_userName, m_password, QDateTime::currentDateTimeUtc().addMSecs(m_clockOffset));

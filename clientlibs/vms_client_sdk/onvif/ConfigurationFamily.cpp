@@ -6,6 +6,7 @@
 #include <vms_client_sdk/onvif/XmlPath.h>
 
 #include <QJsonArray>
+#include <QSet>
 
 #include <map>
 
@@ -85,8 +86,14 @@ void ConfigurationFamily::takeConfigurations(std::vector<XmlElement> *answers)
     const XmlElement &answer = answers->back();
     const auto all = answer.all(namespaceOf(m_service), m_table.part);
     const auto configurations = chosen(all, *m_table.kind ? &answers->front() : nullptr);
-    for (const XmlElement *each : configurations)
+    QSet<QString> tokens;
+    for (const XmlElement *each : configurations) {
+        // Of two with one token, what is meant for the second would be written to the first.
+        if (tokens.contains(each->attribute("token")))
+            continue;
+        tokens.insert(each->attribute("token"));
         m_held.push_back({takenOut(answer, *each, m_table.setPart), {}});
+    }
 }
 
 std::vector<const XmlElement *> ConfigurationFamily::chosen(const std::vector<const XmlElement *> &configurations,

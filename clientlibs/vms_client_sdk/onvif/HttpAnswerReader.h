@@ -28,6 +28,7 @@ public:
     /// The connection has ended, and all that had arrived has been read.
     State end();
     bool hasBegun() const { return m_hasBegun; }
+    qint64 bytes() const { return m_bytes; } ///< that have followed the head so far
     /// Whether the connection may carry another answer after this one.
     bool canStayOpen() const { return m_canStayOpen; }
     const HttpAnswer &answer() const { return m_answer; } ///< once it is complete or broken

@@ -48,11 +48,11 @@ HttpConnection::~HttpConnection()
     m_socket->disconnect(this);
 }
 
-void HttpConnection::send(const QByteArray &message)
+void HttpConnection::send(const QByteArray &message, qint64 maxAnswerBytes)
 {
     Q_ASSERT(m_phase == Phase::New || m_phase == Phase::Resting);
     m_message = message;
-    m_reader.emplace(m_limits.maxAnswerBytes);
+    m_reader.emplace(qMin(maxAnswerBytes, m_limits.maxAnswerBytes));
     m_hasAnswerBegun = false;
     m_deadline.start(m_limits.connectLimit);
     if (std::exchange(m_phase, Phase::Connecting) == Phase::New)
@@ -141,8 +141,10 @@ void HttpConnection::onDisconnected()
 void HttpConnection::take(HttpAnswerReader::State state)
 {
     m_hasAnswerBegun = m_reader->hasBegun();
-    if (state == HttpAnswerReader::State::Incomplete)
+    if (state == HttpAnswerReader::State::Incomplete) {
+        emit received(); // last: it may be given up
         return;
+    }
     // More than was asked for, or an answer before the whole request: whose answer the next one is, nobody could tell.
     const bool isInStep = m_phase == Phase::Receiving && m_socket->bytesAvailable() == 0
                        && m_socket->state() == QAbstractSocket::ConnectedState;
@@ -186,6 +188,11 @@ void HttpConnection::end(const HttpAnswer &answer, Phase next)
         emit unused();
     else
         emit ended(answer);
+}
+
+void HttpConnection::giveUp()
+{
+    fail(TroubleReason::Limits, QStringLiteral("its answer is the longest of too many at once"));
 }
 
 void HttpConnection::cut()

@@ -42,7 +42,9 @@ public:
 
     const Peer &peer() const { return m_peer; }
     /// Sends a whole request; connects before when it is new. Not before the last exchange has ended.
-    void send(const QByteArray &message);
+    void send(const QByteArray &message, qint64 maxAnswerBytes);
+    qint64 bytesHeld() const { return m_reader ? m_reader->bytes() : 0; } ///< of an answer that is not complete
+    void giveUp(); ///< the exchange; for the bytes that it holds
     void cut(); ///< without a word
     /// After an exchange: whether another may follow. If so, unused() comes when it does not within @p limit.
     bool stay(std::chrono::milliseconds limit);
@@ -51,6 +53,7 @@ public:
     bool wasStale() const { return m_isReused && !m_hasAnswerBegun; }
 
 signals:
+    void received(); ///< a part of an answer
     void ended(const vms_sdk::HttpAnswer &answer); ///< once for each send(); it may come from inside it
     void unused(); ///< while it stays open: it has ended, or was not used in time
 

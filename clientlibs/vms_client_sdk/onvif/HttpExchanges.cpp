@@ -61,6 +61,7 @@ public:
     void begin(const ExchangePtr &exchange);
     HttpConnection *takeResting(const Exchange &exchange);
     HttpConnection *makeConnection(const HttpConnection::Peer &peer);
+    void giveUpLongest();
     void onEnded(HttpConnection *connection, const HttpAnswer &answer);
     void rest(HttpConnection *connection, const QString &address);
     void onUnused(HttpConnection *connection);
@@ -150,7 +151,7 @@ void HttpExchanges::Private::begin(const ExchangePtr &exchange)
         connection = makeConnection(exchange->peer);
     exchange->connection = connection;
     m_running.insert(connection, exchange);
-    connection->send(messageFor(exchange->request)); // last: it can fail at once
+    connection->send(messageFor(exchange->request), exchange->request.maxAnswerBytes); // last: it can fail at once
 }
 
 HttpConnection *HttpExchanges::Private::takeResting(const Exchange &exchange)
@@ -172,8 +173,23 @@ HttpConnection *HttpExchanges::Private::makeConnection(const HttpConnection::Pee
     auto *connection = new HttpConnection(peer, m_limits, q);
     QObject::connect(connection, &HttpConnection::ended, q,
                      [this, connection](const HttpAnswer &answer) { onEnded(connection, answer); });
+    QObject::connect(connection, &HttpConnection::received, q, [this] { giveUpLongest(); });
     QObject::connect(connection, &HttpConnection::unused, q, [this, connection] { onUnused(connection); });
     return connection;
+}
+
+/// Where there are too many bytes.
+void HttpExchanges::Private::giveUpLongest()
+{
+    qint64 inAll = 0;
+    HttpConnection *longest = nullptr;
+    for (auto running = m_running.cbegin(); running != m_running.cend(); ++running) {
+        inAll += running.key()->bytesHeld();
+        if (!longest || running.key()->bytesHeld() > longest->bytesHeld())
+            longest = running.key();
+    }
+    if (inAll > m_limits.maxBytesInAll)
+        longest->giveUp();
 }
 
 void HttpExchanges::Private::onEnded(HttpConnection *connection, const HttpAnswer &answer)

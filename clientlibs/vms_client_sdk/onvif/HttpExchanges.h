@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <functional>
+#include <limits>
 #include <memory>
 
 namespace vms_sdk {
@@ -22,6 +23,9 @@ struct HttpLimits
     qint64 maxAnswerBytes = 4 << 20;
     int maxToAddress = 4; ///< at once to one host and port
     int maxAtOnce = 256; ///< in all
+    /// Of all answers that are not complete yet. Beyond it the longest of them is given up; cameras that mean well
+    /// have a hundredth of it under way.
+    qint64 maxBytesInAll = 64 << 20;
 };
 
 /// One request, by POST.
@@ -36,6 +40,7 @@ struct HttpRequest
     /// kept since an earlier one; when the device turns out to have closed that, it is sent anew, once, on a fresh one.
     /// Any other has a fresh one to itself. A fresh connection that breaks before the answer ends the exchange.
     bool isRepeatable = true;
+    qint64 maxAnswerBytes = std::numeric_limits<qint64>::max(); ///< where less than HttpLimits has is enough
 };
 
 struct HttpAnswer

@@ -56,11 +56,12 @@ std::optional<bool> constantRateKnown(const KeyRow &row, const KeyOptions &optio
     return isTrue(limit->words.constFirst());
 }
 
-/// The range of a share; none when it has no width.
+/// The range of a share; none when it has no width, or one that no number of a camera's can have.
 std::optional<KeyLimit> widthOf(const KeyRow &row, const KeyOptions &options)
 {
     const auto limit = options.limitAt(row.limits);
-    return limit && limit->isRange && limit->max > limit->min ? limit : std::nullopt;
+    const double width = limit && limit->isRange ? limit->max - limit->min : 0;
+    return width > 0 && width <= double(std::numeric_limits<float>::max()) ? limit : std::nullopt;
 }
 
 double shareOf(double number, const KeyLimit &range)
@@ -191,9 +192,11 @@ QJsonValue valueOf(const KeyRow &row, const XmlElement &configuration, const Key
 {
     if (row.form == KeyForm::Rotation)
         return rotationOf(configuration, options);
-    const std::optional<QString> text = textAt(configuration, pathOf(row, configuration));
+    const QByteArray path = pathOf(row, configuration);
+    const std::optional<QString> text = textAt(configuration, path);
     if (row.form == KeyForm::ConstantRate) {
-        if (!text && !constantRateKnown(row, options).value_or(false))
+        const bool hasPlace = !elementsAt(configuration, path.left(path.lastIndexOf('/'))).empty();
+        if (!text && !(hasPlace && constantRateKnown(row, options).value_or(false)))
             return QJsonValue::Undefined;
         return QString(isTrue(text.value_or(QString())) ? constantRate : variableRate);
     }
@@ -236,7 +239,8 @@ void fitValue(const KeyRow &row, const KeyOptions &options, XmlElement *configur
         return;
     if (limit->isRange) {
         const double number = text->toDouble();
-        if (!limit->allows(number))
+        const bool isEmpty = !(limit->max >= limit->min); // or one of its ends is no number
+        if (!isEmpty && !limit->allows(number))
             setTextAt(configuration, path, numberText(number < limit->min ? limit->min : limit->max));
     } else if (!limit->words.isEmpty() && !limit->words.contains(*text)) {
         const QString usual = QStringLiteral("Main"); // of the profiles of a video encoding

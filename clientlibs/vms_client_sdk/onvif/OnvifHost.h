@@ -8,6 +8,8 @@
 #include <QQueue>
 #include <QSet>
 
+#include <memory>
+
 namespace vms_sdk {
 
 class OnvifLink;
@@ -32,6 +34,14 @@ public:
     /// Gives up the place, or the place in the queue.
     void leave(OnvifLink *link);
 
+    /// A place among the requests that are carried out at once; free again when the last copy of it is gone.
+    using Place = std::shared_ptr<void>;
+    bool hasPlace() const { return m_requests < m_options.maxRequests; }
+    Place takePlace();
+
+Q_SIGNALS:
+    void placeFree(); ///< from the event loop
+
 private:
     void fillLater();
     void fillPlaces();
@@ -42,6 +52,8 @@ private:
     QQueue<OnvifLink *> m_queue, m_failed; ///< cameras that are switched off must not hold the others up
     QSet<OnvifLink *> m_signingOn;
     bool m_willFill = false;
+    int m_requests = 0; ///< places that are taken
+    bool m_willTell = false;
 };
 
 } // namespace vms_sdk

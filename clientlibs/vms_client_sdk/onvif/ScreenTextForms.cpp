@@ -53,11 +53,13 @@ std::optional<Coordinates> coordinatesOf(const QString &position)
     if (parts.size() != 2)
         return std::nullopt;
     const Coordinates found{parts.constFirst(), parts.constLast()};
-    bool isX = false;
-    bool isY = false;
-    found.x.toFloat(&isX);
-    found.y.toFloat(&isY);
-    return isX && isY && position == placeText(found.x, found.y) ? std::optional(found) : std::nullopt;
+    const auto isOnScreen = [](const QString &text) {
+        bool isNumber = false;
+        const double number = text.toDouble(&isNumber);
+        return isNumber && number >= -1 && number <= 1; // from one edge to the other; "nan" is none of these
+    };
+    const bool isWhole = position == placeText(found.x, found.y);
+    return isWhole && isOnScreen(found.x) && isOnScreen(found.y) ? std::optional(found) : std::nullopt;
 }
 
 QString formatText(const QString &date, const QString &time)
@@ -180,8 +182,9 @@ QString setContent(const ScreenTextKind &kind, const QString &content, const Xml
 {
     if (kind.isDate)
         return setFormat(content, options, osd);
-    if (holdsControls(content))
-        return notAllowed(QLatin1String(kind.contentKey), content, QStringLiteral("no control characters"));
+    if (holdsControls(content) || !isXmlText(content))
+        return notAllowed(QLatin1String(kind.contentKey), content,
+                          QStringLiteral("neither control characters nor parts of characters"));
     partOfText(osd, "PlainText").setText(content);
     return {};
 }

@@ -143,7 +143,7 @@ private:
     std::vector<XmlElement> m_open;
     std::optional<XmlElement> m_root;
     QSet<QString> m_uris; ///< so that all names in a namespace share one text
-    int m_count = 0;
+    int m_count = 0; ///< of elements, attributes and declarations
     int m_inForce = 0; ///< declarations
     bool m_isNamespaceTooLong = false;
 };
@@ -158,9 +158,9 @@ XmlRead Reader::read()
         case QXmlStreamReader::StartElement:
             if (int(m_open.size()) == maxXmlDepth)
                 return {{}, QStringLiteral("its elements are nested too deeply")};
-            if (++m_count > maxXmlElements)
-                return {{}, QStringLiteral("it has too many elements")};
             begin();
+            if (m_count > maxXmlElements)
+                return {{}, QStringLiteral("it has too many elements or attributes")};
             if (m_inForce > maxXmlDeclarations)
                 return {{}, QStringLiteral("it declares too many namespaces")};
             if (m_isNamespaceTooLong)
@@ -201,6 +201,7 @@ void Reader::begin()
     }
     m_inForce += declarations.size();
     const QXmlStreamAttributes attributes = m_reader.attributes();
+    m_count += 1 + declarations.size() + attributes.size();
     for (const QXmlStreamAttribute &each : attributes)
         element.attributes.append(
             {shared(each.namespaceUri()), each.prefix().toString(), each.name().toString(), each.value().toString()});

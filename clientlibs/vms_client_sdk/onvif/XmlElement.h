@@ -76,7 +76,8 @@ struct XmlRead
 
 /// How deeply elements may be nested: answers of cameras stay under 20.
 inline constexpr int maxXmlDepth = 64;
-/// The largest answers, the profiles of a recorder with 64 channels, have about 10,000.
+/// Attributes and declarations count as elements: they take as long to read, and as much memory. The largest answers,
+/// the profiles of a recorder with 64 channels, have about 10,000.
 inline constexpr int maxXmlElements = 50'000;
 /// Of one element. Qt compares each with all others: ten thousands of them would hold up all devices for minutes.
 inline constexpr int maxXmlAttributes = 300;
