@@ -6,6 +6,7 @@
 #include <vms_client_sdk/onvif/OnvifFamilies.h>
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 #include <utility>
 
@@ -30,6 +31,13 @@ OnvifRequest::OnvifRequest(CameraCalls &calls, const QJsonObject &request, QObje
 }
 
 OnvifRequest::~OnvifRequest() = default;
+
+bool OnvifRequest::isWrite(const QString &text)
+{
+    const QString method = QJsonDocument::fromJson(text.toUtf8()).object().value(QLatin1String("method")).toString();
+    const FamilyTable *table = familyOf(method);
+    return table && method == QLatin1String(table->writeMethod);
+}
 
 void OnvifRequest::start()
 {

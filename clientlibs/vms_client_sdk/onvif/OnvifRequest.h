@@ -32,6 +32,9 @@ public:
     OnvifRequest(CameraCalls &calls, const QJsonObject &request, QObject *parent = nullptr);
     ~OnvifRequest() override;
 
+    /// Whether a request's text asks for a change.
+    static bool isWrite(const QString &text);
+
     void start(); ///< to be called once; may finish at once
     /// Time is up: nothing more is sent, and it finishes at once with what it has.
     void endNow();

@@ -3,6 +3,7 @@
 #include <vms_client_sdk/Logging.h>
 #include <vms_client_sdk/onvif/OnvifHost.h>
 #include <vms_client_sdk/onvif/OnvifLink.h>
+#include <vms_client_sdk/onvif/OnvifRequest.h>
 
 #include <algorithm>
 #include <utility>
@@ -133,10 +134,11 @@ void OnvifWorker::takeRequests()
     const QSet<QString> timedOut = std::exchange(m_timedOut, {});
     lock.unlock();
     for (const Request &request : requests)
-        m_waiting.push_back(request);
+        (OnvifRequest::isWrite(request.text) ? m_writes : m_reads).push_back(request);
     if (!timedOut.isEmpty()) {
         const auto isTimedOut = [&](const Request &request) { return timedOut.contains(request.requestId); };
-        m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), isTimedOut), m_waiting.end());
+        for (std::deque<Request> *queue : {&m_writes, &m_reads})
+            queue->erase(std::remove_if(queue->begin(), queue->end(), isTimedOut), queue->end());
         for (const auto &[id, link] : m_links)
             link->endTimedOut(timedOut);
     }
@@ -146,9 +148,10 @@ void OnvifWorker::takeRequests()
 void OnvifWorker::beginRequests()
 {
     // Not before the window has caught up with the answers that wait for it.
-    while (!m_waiting.empty() && m_host && m_host->hasPlace() && !m_backlog.isFull()) {
-        const Request request = std::move(m_waiting.front());
-        m_waiting.pop_front();
+    while (!(m_writes.empty() && m_reads.empty()) && m_host && m_host->hasPlace() && !m_backlog.isFull()) {
+        std::deque<Request> &queue = m_writes.empty() ? m_reads : m_writes;
+        const Request request = std::move(queue.front());
+        queue.pop_front();
         const auto known = m_links.find(request.devId);
         if (known != m_links.end())
             known->second->send(request.requestId, request.text, request.limit);

@@ -70,7 +70,9 @@ private:
     QElapsedTimer m_clock;
     StatusChanges m_statusChanges;
     QTimer m_statusTimer;
-    std::deque<Request> m_waiting; ///< for their turn
+    // For their turn. Writes come first: who has begun with a device ends with it, and each device that has ended gives
+    // those that wait their whole waiting time again.
+    std::deque<Request> m_writes, m_reads;
     OnvifHost *m_host = nullptr; ///< made in the network thread
     Links m_links; ///< by device id; deleted before the host
 };
