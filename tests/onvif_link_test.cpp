@@ -60,7 +60,8 @@ private slots:
         ScriptedCamera camera(m_id);
         camera.schemes = schemes;
         camera.broken = wrong;
-        camera.password += wrong == "password" ? "x" : "";
+        camera.password += wrong.startsWith("password") ? "x" : "";
+        camera.refusal = wrong.contains(' ') ? wrong.section(' ', 1) : camera.refusal;
         camera.stales = wrong.section("stale ", 1).toInt();
         camera.isNonceTakenOnce = wrong == "once";
         if (wrong == "once")
