@@ -60,7 +60,8 @@ private slots:
         ScriptedCamera camera(m_id);
         camera.schemes = schemes;
         camera.broken = wrong;
-        camera.password += wrong == "password" ? "x" : "";
+        camera.password += wrong.startsWith("password") ? "x" : "";
+        camera.refusal = wrong.contains(' ') ? wrong.section(' ', 1) : camera.refusal;
         camera.stales = wrong.section("stale ", 1).toInt();
         camera.isNonceTakenOnce = wrong == "once";
         if (wrong == "once")
@@ -143,6 +144,35 @@ private slots:
                      path.startsWith('/') ? asked + " none refused," + asked + " Token" : "");
         }
         QVERIFY(!other.hasPendingConnections());
+    }
+
+    void aDoubtedAccountIsTriedByOneAtATime_data()
+    {
+        columns<bool, int>({"isNonceTakenOnce", "code"});
+        row("nonces taken once", true, 0);
+        row("another password", false, -61023);
+    }
+
+    void aDoubtedAccountIsTriedByOneAtATime()
+    {
+        QFETCH(bool, isNonceTakenOnce);
+        QFETCH(int, code);
+        ScriptedCamera camera(m_id);
+        camera.schemes = "MD5";
+        camera.isNonceTakenOnce = isNonceTakenOnce;
+        signOn(camera);
+        ask("before", 0); // with a nonce that is used from now on
+        camera.log.clear();
+        camera.password += code ? "x" : "";
+        if (code)
+            expectWarning("no longer accepts");
+        for (const char *request : {"a", "b", "c", "d"})
+            common_req(request, m_id, m_read); // all have left before the first is refused
+        for (const char *request : {"a", "b", "c", "d"})
+            QTRY_VERIFY(m_answers.value(request, 1) == code || (code && m_answers.value(request) == -61024));
+        QTRY_COMPARE(m_states[m_id].constLast(), code ? DevRefused : DevOnline);
+        if (code)
+            QCOMPARE(camera.log.filter("refused").size(), 4 + 1 + 1); // one trial, and a look at the account itself
     }
 
     void theDeviceServiceHasNotMuchToTell()

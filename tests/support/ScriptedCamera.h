@@ -18,6 +18,7 @@ public:
     QSet<QString> open{"GetSystemDateAndTime", "GetServices", "GetCapabilities"}; ///< operations for everybody
     QString forbidden, silent, dropped; ///< an operation each; dropped may be "all"
     QString serial = "SN-1", password = "Gr\u00fcn-7", mediaAddress = "http://192.0.2.1/media";
+    QString refusal = "NotAuthorized"; ///< the code of the fault where it takes tokens
     bool isNonceTakenOnce = false;
     int stales = 0; ///< so many requests come with a nonce that is too old
     int clockOffset = 0; ///< seconds
@@ -103,7 +104,7 @@ private:
     {
         headers += schemes.contains("Basic") ? "WWW-Authenticate: Basic realm=\"camera\"" : "";
         send(socket, (headers.isEmpty() ? "400 Fault" : "401 Unauthorized\r\n") + headers,
-             schemes.contains("Token") ? texts["fault"].arg("NotAuthorized") : QString());
+             schemes.contains("Token") ? texts["fault"].arg(refusal) : QString());
     }
 
     void send(QTcpSocket *socket, const QByteArray &head, const QString &content)

@@ -5,6 +5,8 @@
 
 #include <QDateTime>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace vms_sdk {
@@ -25,6 +27,16 @@ constexpr qint64 maxDeviceAnswer = 256 * 1024;
 // Paths of real cameras take a twentieth of this.
 constexpr int maxAddressLength = 2'048;
 
+/// Whether it is the account that the camera wants or does not take. Were a wrong one no refusal, it would be shown
+/// again after each pause.
+bool isAboutAccount(const SoapFault &fault)
+{
+    // The codes of the ONVIF standard, and those of WS-Security.
+    const char *const codes[] = {"NotAuthorized", "FailedAuthentication", "InvalidSecurity", "InvalidSecurityToken",
+                                 "FailedCheck"};
+    return std::any_of(std::begin(codes), std::end(codes), [&fault](const char *code) { return fault.is(code); });
+}
+
 CameraLine::Reply replyFrom(const HttpAnswer &http)
 {
     CameraLine::Reply reply;
@@ -38,7 +50,7 @@ CameraLine::Reply replyFrom(const HttpAnswer &http)
     const bool isUnauthorized = http.status == 401 || http.status == 403;
     SoapAnswer soap = readSoapAnswer(http.body);
     reply.fault = soap.fault;
-    reply.takesTokens = soap.fault && (soap.fault->is("NotAuthorized") || soap.fault->is("FailedAuthentication"));
+    reply.takesTokens = soap.fault && isAboutAccount(*soap.fault);
     reply.isRefused = isUnauthorized || reply.takesTokens;
     if (isUnauthorized && !reply.fault)
         reply.fault = SoapFault{{QStringLiteral("Sender"), QStringLiteral("NotAuthorized")},
@@ -101,6 +113,9 @@ void CameraLine::forget()
     m_urls = {{OnvifService::Device, m_url}};
     m_scheme = Scheme::None;
     m_digest.reset();
+    m_waiting.clear();
+    m_trial.reset();
+    m_isDoubted = false;
     m_hasTokenWorked = false;
     m_clockOffset = 0;
 }
@@ -128,7 +143,29 @@ void CameraLine::useDigest(const DigestAuth &digest)
 void CameraLine::post(OnvifService service, const XmlElement &operation, bool isRepeatable, QObject *owner,
                       const Done &done)
 {
-    send({service, operation, isRepeatable, owner, done, m_scheme});
+    m_waiting.push_back({service, operation, isRepeatable, owner, done, m_scheme});
+    sendWaiting();
+}
+
+void CameraLine::postFirst(OnvifService service, const XmlElement &operation, QObject *owner, const Done &done)
+{
+    m_waiting.push_front({service, operation, true, owner, done, m_scheme});
+    sendWaiting();
+}
+
+void CameraLine::sendWaiting()
+{
+    while (!m_waiting.empty() && m_trial.expired()) {
+        Request request = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        if (!request.owner)
+            continue;
+        if (m_isDoubted && request.scheme == Scheme::Digest) {
+            request.trial = std::make_shared<bool>();
+            m_trial = request.trial;
+        }
+        send(std::move(request));
+    }
 }
 
 void CameraLine::readClock(QObject *owner, const Done &done)
@@ -162,7 +199,9 @@ void CameraLine::send(Request request)
     if (request.scheme == Scheme::Token) {
         token = makeUsernameToken(m_userName, m_password, QDateTime::currentDateTimeUtc().addMSecs(m_clockOffset));
     } else if (request.scheme == Scheme::Digest) {
-        request.isNonceFresh = std::exchange(m_isNonceFresh, false);
+        if (request.digest)
+            useDigest(*std::exchange(request.digest, {}));
+        request.isNonceFresh = std::exchange(m_isNonceFresh, false) && !request.hasWaited;
         http.authorization = m_digest->authorization(m_userName, m_password, pathAndQuery(http.url));
     }
     http.body = soapRequest(request.operation, token);
@@ -178,7 +217,12 @@ void CameraLine::onAnswer(const Request &request, const HttpAnswer &answer)
         return sendByNewClock(request, reply);
     if (request.scheme == Scheme::Token && !reply.isRefused && reply.trouble.isEmpty())
         m_hasTokenWorked = true;
-    request.done(reply);
+    if (request.scheme == Scheme::Digest && reply.trouble.isEmpty())
+        m_isDoubted = reply.isRefused;
+    if (request.trial)
+        m_trial.reset();
+    request.done(reply); // first: it may have the account looked into, before those that wait try it
+    sendWaiting();
 }
 
 bool CameraLine::sendWithNewNonce(const Request &request, const Reply &reply)
@@ -186,15 +230,23 @@ bool CameraLine::sendWithNewNonce(const Request &request, const Reply &reply)
     const std::optional<DigestAuth> digest = DigestAuth::fromChallenges(reply.challenges);
     if (!digest)
         return false;
-    useDigest(*digest);
     // Some cameras take each nonce once, others for a minute, and not all of them say that it was only too old. With a
     // nonce that was never used before, it is the account that is refused.
     Request again = request;
-    if (digest->isStale() && again.stales < maxStales)
-        ++again.stales;
-    else if (digest->isStale() || request.isNonceFresh)
-        return false;
-    send(again);
+    if (digest->isStale() || request.isNonceFresh) {
+        useDigest(*digest);
+        if (!digest->isStale() || ++again.stales > maxStales)
+            return false;
+        send(again);
+        return true;
+    }
+    if (std::exchange(again.trial, nullptr))
+        m_trial.reset();
+    m_isDoubted = true;
+    again.digest = digest;
+    again.hasWaited = !m_trial.expired();
+    m_waiting.push_front(again);
+    sendWaiting();
     return true;
 }
 

@@ -5,6 +5,10 @@
 #include <vms_client_sdk/onvif/HttpExchanges.h>
 
 #include <QMap>
+#include <QPointer>
+
+#include <deque>
+#include <memory>
 
 namespace vms_sdk {
 
@@ -46,9 +50,12 @@ public:
     void useTokens() { m_scheme = Scheme::Token; }
 
     /// Sends an operation with the account as agreed. What is refused only for an old nonce, or for a clock that was
-    /// set meanwhile, is sent again: the camera has not done it.
+    /// set meanwhile, is sent again: the camera has not done it. After a refusal by Digest one request at a time tries
+    /// the account, until the camera takes it again: were it wrong now, many at once would lock it.
     /// @param isRepeatable, owner, done as CameraCalls::call() has them
     void post(OnvifService service, const XmlElement &operation, bool isRepeatable, QObject *owner, const Done &done);
+    /// As post(), for a look at the account itself: it goes before those that wait for a trial.
+    void postFirst(OnvifService service, const XmlElement &operation, QObject *owner, const Done &done);
     /// Asks, without an account, for the camera's clock, which is ours as long as it does not tell. A fault is an
     /// answer as well.
     void readClock(QObject *owner, const Done &done);
@@ -59,15 +66,19 @@ private:
         OnvifService service;
         XmlElement operation;
         bool isRepeatable;
-        QObject *owner;
+        QPointer<QObject> owner;
         Done done;
         Scheme scheme;
         bool isNonceFresh = false;
         int stales = 0; ///< nonces that were too old
         qint64 clockOffset = 0;
         bool isClockRead = false; ///< anew, after a refusal
+        std::optional<DigestAuth> digest = {}; ///< to be used next
+        bool hasWaited = false; ///< so that a nonce may have become too old
+        std::shared_ptr<void> trial = {}; ///< of the account, while it goes on
     };
 
+    void sendWaiting();
     void send(Request request);
     void onAnswer(const Request &request, const HttpAnswer &answer);
     bool sendWithNewNonce(const Request &request, const Reply &reply);
@@ -81,6 +92,9 @@ private:
     Scheme m_scheme = Scheme::None;
     std::optional<DigestAuth> m_digest;
     bool m_isNonceFresh = false; ///< the nonce of m_digest was not used yet
+    std::deque<Request> m_waiting; ///< for the trial to end
+    std::weak_ptr<void> m_trial; ///< gone when its request is
+    bool m_isDoubted = false; ///< whether Digest still works
     bool m_hasTokenWorked = false;
     qint64 m_clockOffset = 0; ///< the camera's time less ours, in milliseconds
 };

@@ -226,7 +226,7 @@ void OnvifLink::checkDevice()
         return;
     m_accountChecked.start();
     const XmlElement operation(onvif::tds, "GetDeviceInformation");
-    m_line.post(OnvifService::Device, operation, true, m_session.get(), [this](const CameraLine::Reply &reply) {
+    m_line.postFirst(OnvifService::Device, operation, m_session.get(), [this](const CameraLine::Reply &reply) {
         if (m_phase != Phase::Online)
             return;
         m_isChecking = false;
