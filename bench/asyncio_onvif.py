@@ -55,40 +55,39 @@ class Connection:
 
 
 class Camera:
-    def __init__(self, record):
-        self.record = record
-        self.phases = record["phases"]
+    def __init__(self, record, places):
+        self.record, self.places = record, places
 
-    async def connect(self, places):
+    async def connect(self):
         url = urllib.parse.urlsplit(self.record["url"])
-        first = self.phases[0]["posts"][0]
-        async with places:
-            self.idle = [await Connection.open(url.hostname, url.port) for _ in range(max(len(phase["posts"]) for phase in self.phases))]
-            challenge = (await self.idle[0].post(first["path"], first["body"]))[1]
-            self.digest = Digest(challenge, self.record["user"], self.record["password"])
+        first = self.record["phases"][0][0]
+        async with self.places:
+            self.idle = [await Connection.open(url.hostname, url.port) for _ in range(self.record["width"])]
+            _, challenge = await self.idle[0].post(first["path"], first["body"])
+        self.digest = Digest(challenge, self.record["user"], self.record["password"])
 
-    async def post(self, text, places):
-        async with places:
+    async def post(self, text):
+        async with self.places:
             connection = self.idle.pop()
             status, _ = await connection.post(text["path"], text["body"], text["action"], self.digest)
             self.idle.append(connection)
         if status != 200:
             sys.exit("a camera refused a post")
 
-    async def run(self, places):
-        for phase in self.phases:
-            await asyncio.sleep(phase["pauseMs"] / 1000)
-            await asyncio.gather(*(self.post(text, places) for text in phase["posts"]))
+    async def run(self):
+        for posts in self.record["phases"]:
+            await asyncio.gather(*map(self.post, posts))
 
 
 async def main(path):
     with open(path, encoding="utf-8") as file:
-        cameras = [Camera(record) for record in json.load(file)]
+        records = json.load(file)
     places = asyncio.Semaphore(AT_ONCE)
-    await asyncio.gather(*(camera.connect(places) for camera in cameras))
+    cameras = [Camera(record, places) for record in records]
+    await asyncio.gather(*(camera.connect() for camera in cameras))
     await asyncio.sleep(0.2)
     start, cpu = time.perf_counter(), time.process_time()
-    await asyncio.gather(*(camera.run(places) for camera in cameras))
+    await asyncio.gather(*(camera.run() for camera in cameras))
     print(json.dumps({"runMs": (time.perf_counter() - start) * 1000, "cpuMs": (time.process_time() - cpu) * 1000}), flush=True)
     os._exit(0)  # closing the connections is not measured
 

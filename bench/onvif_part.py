@@ -20,7 +20,6 @@ CONNECTED_SIZE = 5000  # where all that is asked is measured
 FLEET_SIZE = 4500  # of one process; each camera may need four of its open files
 PLAIN_SHARE = 4.4  # so many cameras are needed for one that fits the comparison
 FIRST_BIT_RATE = 1000  # kbit/s; no camera begins with so few, and each run sets one more
-PAUSE_MS = 10  # of a task, between its read and its write
 # What a read sends side by side, one after the other; a write begins with a read.
 READS, OPTIONS, WRITES = (("GetProfiles", "GetVideoEncoderConfigurations"), ("GetVideoEncoderConfigurationOptions",),
                           ("SetVideoEncoderConfiguration",))
@@ -44,12 +43,18 @@ class Fleet:
             self.processes.append(process)
             self.dumps.append(dump)
 
-    def end(self):
-        """The bit rates that the cameras have in the end, by device id."""
-        found = {}
-        for part, process in enumerate(self.processes):
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        for process in self.processes:
             process.terminate()
             process.wait()
+
+    def bit_rates(self):
+        """Those that the cameras had in the end, by device id."""
+        found = {}
+        for part, _ in enumerate(self.processes):
             for name, device in json.loads(self.dumps[part].read_text(encoding="utf-8"))["devices"].items():
                 found["%d-%s" % (part, name)] = {each.get("RateControl/BitrateLimit") for each in device["VideoEncoderConfiguration"].values()}
         return found
@@ -131,7 +136,7 @@ def phases_of(posts):
         phases[-1][1].append(post)
     if [group for group, _ in phases] != [READS, OPTIONS, READS, OPTIONS, WRITES]:
         sys.exit("bench.py: this is no run over a camera: %s" % [post["action"] for post in posts])
-    return [{"pauseMs": PAUSE_MS if i == 2 else 0, "posts": some} for i, (_, some) in enumerate(phases)]
+    return [some for _, some in phases]
 
 
 class Comparison:
@@ -148,9 +153,12 @@ class Comparison:
         return write_json(self.directory / "run.json", {"devices": [dict(each, port=port or each["port"]) for each in self.devices]})
 
     def texts(self, posts, port=None):
-        return write_json(self.directory / "texts.json", [
-            {"url": "http://%s:%d" % (each["ip"], port or each["port"]), "user": each["userName"], "password": each["password"],
-             "phases": phases_of(posts[each["ip"]])} for each in self.devices])
+        records = []
+        for each in self.devices:
+            phases = phases_of(posts[each["ip"]])
+            records.append({"url": "http://%s:%d" % (each["ip"], port or each["port"]), "user": each["userName"],
+                            "password": each["password"], "width": max(map(len, phases)), "phases": phases})
+        return write_json(self.directory / "texts.json", records)
 
     def record(self):
         """The texts of a run; the other clients send them as often."""
@@ -185,10 +193,10 @@ def write_json(path, content):
 
 
 def measure_run(options, env, directory, table, run, size):
-    fleet = Fleet(options, int(size * PLAIN_SHARE) + 40, directory, env)
-    comparison = Comparison(options, env, directory, asyncio.run(plain_ones(fleet.devices, size)), run)
-    posts = comparison.take_turns(options.repeat)
-    rates = fleet.end()
+    with Fleet(options, int(size * PLAIN_SHARE) + 40, directory, env) as fleet:
+        comparison = Comparison(options, env, directory, asyncio.run(plain_ones(fleet.devices, size)), run)
+        posts = comparison.take_turns(options.repeat)
+    rates = fleet.bit_rates()
     if any(str(comparison.bit_rate) not in rates[device["id"]] for device in comparison.devices):
         sys.exit("bench.py: not all cameras have the bit rate of the last run")
     ours = comparison.median("ours", "runMs")
@@ -201,18 +209,17 @@ def measure_run(options, env, directory, table, run, size):
 
 
 def measure_connected(options, env, directory, table, run, sizes):
-    fleet = Fleet(options, max(sizes), directory, env)
-    for size in sizes:
-        inventory = write_json(directory / "connected.json", {"devices": fleet.devices[:size]})
-        figures = collections.defaultdict(list)
-        for _ in range(options.repeat):
-            time.sleep(0.2 + size / 4000)
-            for key, value in json.loads(run([options.bin / "engine_client", "connect", inventory], env)).items():
-                figures[key].append(value)
-        for what, key, unit in (("ONVIF cameras: started to all connected", "connectMs", "ms"), ("Threads with all connected", "threads", ""),
-                                ("Open files with all connected", "openFiles", ""), ("Memory with all connected", "memoryKiB", "KiB")):
-            table.add(what + (" (ONVIF)" if "ONVIF" not in what else ""), size, statistics.median(figures[key]), unit)
-    fleet.end()
+    with Fleet(options, max(sizes), directory, env) as fleet:
+        for size in sizes:
+            inventory = write_json(directory / "connected.json", {"devices": fleet.devices[:size]})
+            figures = collections.defaultdict(list)
+            for _ in range(options.repeat):
+                time.sleep(0.2 + size / 4000)
+                for key, value in json.loads(run([options.bin / "engine_client", "connect", inventory], env)).items():
+                    figures[key].append(value)
+            for what, key, unit in (("started to all connected", "connectMs", "ms"), ("threads with all connected", "threads", ""),
+                                    ("open files with all connected", "openFiles", ""), ("memory with all connected", "memoryKiB", "KiB")):
+                table.add("ONVIF cameras: " + what, size, statistics.median(figures[key]), unit)
 
 
 def measure_onvif(options, env, directory, table, run):
