@@ -4,6 +4,7 @@
 #include <vms_client_sdk/onvif/HttpExchanges.h>
 #include <vms_client_sdk/onvif/OnvifTransport.h>
 
+#include <QHash>
 #include <QObject>
 #include <QQueue>
 #include <QSet>
@@ -11,6 +12,7 @@
 namespace vms_sdk {
 
 class OnvifLink;
+class OnvifRequest;
 
 /// What the links to cameras share: the exchanges, the limit of what waits for the window, and the places for cameras
 /// that sign on. Network thread.
@@ -32,6 +34,11 @@ public:
     /// Gives up the place, or the place in the queue.
     void leave(OnvifLink *link);
 
+    /// Counts an answer that a request has got, until release(). Where all of them hold too much, the request that
+    /// holds most ends. @param request may be null: then nobody keeps it
+    void hold(OnvifRequest *request, qint64 bytes);
+    void release(QObject *request);
+
 private:
     void fillLater();
     void fillPlaces();
@@ -41,6 +48,8 @@ private:
     HttpExchanges m_exchanges;
     QQueue<OnvifLink *> m_queue, m_failed; ///< cameras that are switched off must not hold the others up
     QSet<OnvifLink *> m_signingOn;
+    QHash<QObject *, qint64> m_held; ///< bytes by request
+    qint64 m_heldInAll = 0;
     bool m_willFill = false;
 };
 

@@ -32,8 +32,8 @@ public:
     ~OnvifRequest() override;
 
     void start(); ///< to be called once; may finish at once
-    /// Time is up: nothing more is sent, and it finishes at once with what it has.
-    void endNow();
+    /// Nothing more is sent, and it finishes at once with what it has.
+    void endNow(const QString &why);
 
 signals:
     void finished(const QJsonObject &answer); ///< once
