@@ -162,10 +162,10 @@ void ClientWindow::importDevices()
         m_import->start();
 }
 
-void ClientWindow::addDevices(const QList<vms_sdk::DevInfo> &devices)
+void ClientWindow::addDevices(const QList<vms_sdk::DevInfo> &devices, QWidget *asking)
 {
     if (!m_opener->isDeclined())
-        m_addition->add(devices, m_session->source().inventoryFile);
+        m_addition->add(devices, m_session->source().inventoryFile, asking);
 }
 
 void ClientWindow::followSession()

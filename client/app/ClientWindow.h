@@ -55,7 +55,7 @@ private:
     QWidget *buildForm();
     void connectActions();
     void importDevices();
-    void addDevices(const QList<vms_sdk::DevInfo> &devices);
+    void addDevices(const QList<vms_sdk::DevInfo> &devices, QWidget *asking);
     void followSession();
     void rememberPage();
     void showSource();

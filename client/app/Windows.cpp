@@ -62,7 +62,8 @@ void Windows::showFind()
 {
     show(&m_find, [this] {
         auto *window = new FindWindow(m_session, m_settings, m_window);
-        connect(window, &FindWindow::signalAdd, this, &Windows::signalAdd);
+        connect(window, &FindWindow::signalAdd, this,
+                [this, window](const QList<vms_sdk::DevInfo> &devices) { emit signalAdd(devices, window); });
         return window;
     });
 }

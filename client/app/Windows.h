@@ -53,7 +53,7 @@ signals:
     /// Of the preview: this run is wanted.
     void signalConfigure(const orda_client::PressedRun &run);
     /// Cameras that were found are wanted in the inventory.
-    void signalAdd(const QList<vms_sdk::DevInfo> &devices);
+    void signalAdd(const QList<vms_sdk::DevInfo> &devices, QWidget *asking);
 
 private slots:
     /// QDesktopServices hands the address over that Report and Detail open.

@@ -40,19 +40,18 @@ QString faultIn(const QJsonArray &devices)
 
 } // namespace
 
-InventoryAddition::InventoryAddition(QWidget *window)
-    : QObject(window)
-    , m_window(window)
+InventoryAddition::InventoryAddition(QObject *parent)
+    : QObject(parent)
 {
 }
 
-void InventoryAddition::add(const QList<DevInfo> &devices, const QString &inventory)
+void InventoryAddition::add(const QList<DevInfo> &devices, const QString &inventory, QWidget *asking)
 {
     if (!inventory.isEmpty()) {
         append(devices, inventory);
         return;
     }
-    auto *dialog = new QFileDialog(m_window, tr("Save the inventory of %n device(s)", nullptr, devices.size()), {},
+    auto *dialog = new QFileDialog(asking, tr("Save the inventory of %n device(s)", nullptr, devices.size()), {},
                                    tr("Inventories (*.json);;All files (*)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);

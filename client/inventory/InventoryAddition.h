@@ -16,11 +16,12 @@ class InventoryAddition : public QObject
     Q_OBJECT
 
 public:
-    explicit InventoryAddition(QWidget *window);
+    explicit InventoryAddition(QObject *parent);
 
     /// Returns at once.
     /// @param inventory the file; empty: the user is asked for a new one
-    void add(const QList<vms_sdk::DevInfo> &devices, const QString &inventory);
+    /// @param asking the window that wants it: over another one the dialog would get no keys
+    void add(const QList<vms_sdk::DevInfo> &devices, const QString &inventory, QWidget *asking);
 
 signals:
     /// The file is written.
@@ -29,8 +30,6 @@ signals:
 private:
     void append(const QList<vms_sdk::DevInfo> &devices, const QString &inventory);
     void write(const QList<vms_sdk::DevInfo> &devices, const QString &inventory);
-
-    QWidget *m_window;
 };
 
 } // namespace orda_client
