@@ -54,7 +54,8 @@ QString ResultTexts::changes(const QVector<Change> &changes, const QString &sepa
     QStringList parts;
     for (const Change &change : changes)
         parts.append(QStringLiteral("%1: %2 -> %3")
-                         .arg(change.key, orda_engine::textOf(change.before), orda_engine::textOf(change.after)));
+                         .arg(change.key, orda_engine::shortened(orda_engine::textOf(change.before)),
+                              orda_engine::shortened(orda_engine::textOf(change.after))));
     return parts.join(separator);
 }
 

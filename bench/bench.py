@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """All figures of docs/performance.md: runs the benchmark programs, each beside its floor, and prints one table.
 
-    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,batch,windows,start]
+    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,batch,windows,start,onvif]
 
 BIN is the directory of the built programs. A figure is the median of its repetitions; a ratio is that of the medians of
 two programs that ran in turn.
@@ -18,8 +18,10 @@ import sys
 import tempfile
 import time
 
+import onvif_part
+
 HERE = pathlib.Path(__file__).parent
-PARTS = ("run", "list", "site", "engine", "batch", "windows", "start")
+PARTS = ("run", "list", "site", "engine", "batch", "windows", "start", "onvif")
 BATCH_SIZE = 1000  # devices, at most, for whole commands
 OSD = ("bShowOSD=false", "timeFormat=YYYY-MM-DD hh:mm:ss", "timePos=left_top", "channelName=HD IPC",
        "position=left_top", "bLargeOSD=false")
@@ -344,6 +346,8 @@ def main():
                 measure_windows(options, env, directory, table)
             elif part == "start":
                 measure_start(options, env, table)
+            elif part == "onvif":
+                onvif_part.measure_onvif(options, env, directory, table, run)
             else:
                 parser.error("--only takes some of %s, not \"%s\"" % (", ".join(PARTS), part))
     table.print()

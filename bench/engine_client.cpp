@@ -14,10 +14,12 @@
 #include <vms_client_sdk/ClientSdk.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
-#include <vms_client_sdk/WebSocketTransport.h>
+#include <vms_client_sdk/SiteTransport.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
@@ -29,9 +31,10 @@
 #include <memory>
 
 // The OSD of all devices of an inventory by the engine, without a form: prints what it took as JSON, and ends.
-//   engine_client plan|apply|apply-unrecorded|tasks INVENTORY
+//   engine_client plan|apply|apply-unrecorded|tasks|connect INVENTORY [BITRATE]
 // "apply" has the history (in XDG_STATE_HOME), "apply-unrecorded" the engine without it, "tasks" the tasks alone, as a
-// page starts them, with nothing between SDK and network.
+// page starts them, with nothing between SDK and network; "connect" only waits for all devices. With a bit rate, the
+// first stream of the video gets that instead.
 //   engine_client history RUNS DEVICES
 // Writes so many runs over so many devices into the history and reads the list of them.
 
@@ -59,15 +62,32 @@ Selection osdOf(const QList<vms_sdk::DevInfo> &devices)
     return selection;
 }
 
+Selection videoOf(const QList<vms_sdk::DevInfo> &devices, int bitRate)
+{
+    Selection selection = osdOf(devices);
+    selection.family = orda_batchCfg::Families::find(QStringLiteral("video"));
+    const QJsonObject stream{{QStringLiteral("streamid"), 0}, {QStringLiteral("bitRate"), bitRate}};
+    selection.values = {{QStringLiteral("streams"), QJsonArray{stream}}};
+    return selection;
+}
+
+int entriesOf(const char *directory)
+{
+    return QDir(QLatin1String(directory)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+}
+
 class Measurement : public QObject
 {
 public:
-    Measurement(const QString &mode, const QList<vms_sdk::DevInfo> &devices)
+    /// @param sinceStart begun with the program
+    Measurement(const QString &mode, const QList<vms_sdk::DevInfo> &devices, const Selection &selection,
+                const QElapsedTimer &sinceStart)
         : m_mode(mode)
-        , m_selection(osdOf(devices))
+        , m_selection(selection)
+        , m_sinceStart(sinceStart)
     {
-        auto network = std::make_unique<vms_sdk::WebSocketTransport>();
-        vms_sdk::WebSocketTransport *connections = network.get();
+        auto network = std::make_unique<vms_sdk::SiteTransport>();
+        vms_sdk::SiteTransport *connections = network.get();
         std::unique_ptr<vms_sdk::DeviceTransport> transport = std::move(network);
         if (mode != QLatin1String("tasks")) {
             auto history = mode == QLatin1String("apply") ? std::make_unique<orda_journal::HistoryWriter>() : nullptr;
@@ -79,7 +99,7 @@ public:
         connect(&orda_data::DataSignals::instance(), &orda_data::DataSignals::signalDevStatusChanged, this,
                 [this](const QString &, vms_sdk::DevStatus status) {
                     if (vms_sdk::isOnlineStatus(status) && ++m_online == m_selection.devIds.size())
-                        QTimer::singleShot(200ms, this, &Measurement::begin);
+                        onConnected();
                 });
         QTimer::singleShot(120s, this, [] { qFatal("not all devices are online, or not all have ended"); });
         orda_data::DevsMgrData::instance().updateDevs(devices);
@@ -87,9 +107,20 @@ public:
     }
 
 private:
+    void onConnected()
+    {
+        m_figures = {{QStringLiteral("connectMs"), double(m_sinceStart.nsecsElapsed()) / 1e6},
+                     {QStringLiteral("connectedKiB"), processMemoryKiB("VmHWM")},
+                     {QStringLiteral("memoryKiB"), processMemoryKiB("VmRSS")},
+                     {QStringLiteral("threads"), entriesOf("/proc/self/task")},
+                     {QStringLiteral("openFiles"), entriesOf("/proc/self/fd")}};
+        if (m_mode == QLatin1String("connect"))
+            printAndEnd();
+        QTimer::singleShot(200ms, this, &Measurement::begin);
+    }
+
     void begin()
     {
-        m_connectedKiB = processMemoryKiB("VmHWM");
         m_cpu = std::clock();
         m_clock.start();
         if (m_mode == QLatin1String("plan"))
@@ -139,25 +170,30 @@ private:
         const double cpuMs = double(std::clock() - m_cpu) * 1e3 / CLOCKS_PER_SEC; // of all threads
         if (m_good != m_selection.devIds.size())
             qFatal("only %d of %d devices", m_good, m_selection.devIds.size());
-        QTextStream(stdout) << QJsonDocument({{QStringLiteral("runMs"), runMs},
-                                              {QStringLiteral("cpuMs"), cpuMs},
-                                              {QStringLiteral("connectedKiB"), m_connectedKiB},
-                                              {QStringLiteral("peakKiB"), processMemoryKiB("VmHWM")}})
-                                   .toJson(QJsonDocument::Compact)
-                            << Qt::endl;
+        m_figures.insert(QStringLiteral("runMs"), runMs);
+        m_figures.insert(QStringLiteral("cpuMs"), cpuMs);
+        m_figures.insert(QStringLiteral("openFilesAfter"), entriesOf("/proc/self/fd"));
+        m_figures.insert(QStringLiteral("peakKiB"), processMemoryKiB("VmHWM"));
         if (m_mode == QLatin1String("apply"))
             vms_sdk::ClientSdk::instance().setTransport(nullptr); // the history is whole
+        printAndEnd();
+    }
+
+    [[noreturn]] void printAndEnd() const
+    {
+        QTextStream(stdout) << QJsonDocument(m_figures).toJson(QJsonDocument::Compact) << Qt::endl;
         std::_Exit(0); // closing thousands of sockets is not measured
     }
 
     QString m_mode;
     Selection m_selection;
+    QElapsedTimer m_sinceStart;
+    QJsonObject m_figures;
     JournalTransport *m_journal = nullptr;
     std::unique_ptr<CfgRun> m_run;
     QElapsedTimer m_clock;
     std::clock_t m_cpu = 0;
     int m_online = 0;
-    int m_connectedKiB = 0;
     int m_good = 0;
 };
 
@@ -198,6 +234,8 @@ void listHistory(int runs, int devices)
 
 int main(int argc, char *argv[])
 {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     qputenv("QT_NO_GLIB", "1"); // as the programs do
     const QCoreApplication app(argc, argv);
     vms_sdk::raiseOpenFileLimit();
@@ -208,7 +246,9 @@ int main(int argc, char *argv[])
     }
     const vms_sdk::Inventory inventory = vms_sdk::readInventory(arguments.value(2));
     if (!inventory.error.isEmpty() || inventory.devices.isEmpty())
-        qFatal("engine_client MODE INVENTORY: %s", qPrintable(inventory.error));
-    const Measurement measurement(arguments.value(1), inventory.devices);
+        qFatal("engine_client MODE INVENTORY [BITRATE]: %s", qPrintable(inventory.error));
+    const int bitRate = arguments.value(3).toInt();
+    const Selection selection = bitRate > 0 ? videoOf(inventory.devices, bitRate) : osdOf(inventory.devices);
+    const Measurement measurement(arguments.value(1), inventory.devices, selection, sinceStart);
     return QCoreApplication::exec();
 }

@@ -20,6 +20,12 @@ QString listed(const QStringList &parts)
 
 } // namespace
 
+QString shortened(const QString &text)
+{
+    constexpr int longest = 200;
+    return text.size() <= longest ? text : text.left(longest) + QStringLiteral("…");
+}
+
 QString textOf(const QJsonValue &value)
 {
     if (value.isUndefined())
@@ -37,7 +43,8 @@ QString textOf(const QVector<MemberDifference> &differences)
 {
     QStringList parts;
     for (const MemberDifference &d : differences)
-        parts.append(Texts::tr("%1: %2 instead of %3").arg(d.member, textOf(d.found), textOf(d.wanted)));
+        parts.append(
+            Texts::tr("%1: %2 instead of %3").arg(d.member, shortened(textOf(d.found)), shortened(textOf(d.wanted))));
     return listed(parts);
 }
 
@@ -47,7 +54,7 @@ QString textOfLeft(const DeviceUndo &undo)
     for (const ExchangeUndo &exchange : undo) {
         for (const MemberDifference &d : exchange.changedSince)
             if (!exchange.goBack.contains(d.member))
-                changed.append(QStringLiteral("%1: %2").arg(d.member, textOf(d.found)));
+                changed.append(QStringLiteral("%1: %2").arg(d.member, shortened(textOf(d.found))));
         for (const MemberDifference &d : exchange.notRemovable)
             stay.append(d.member);
     }

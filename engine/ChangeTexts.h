@@ -7,6 +7,9 @@ namespace orda_engine {
 
 // Lists of members for messages, a line each. Members and values stand as devices have them.
 
+/// For people: some devices have members of a thousand characters, which nobody reads.
+QString shortened(const QString &text);
+
 /// A value as one writes it in JSON; "-" for an undefined one.
 QString textOf(const QJsonValue &value);
 /// The same, but a text without the quotation marks of JSON.

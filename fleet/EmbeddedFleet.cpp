@@ -9,7 +9,7 @@ namespace device_fleet {
 namespace {
 
 constexpr qint64 filesPerDevice = 2; // the client's end and ours
-constexpr qint64 filesPerCamera = 8; // of up to four requests at once
+constexpr qint64 filesPerCamera = 4; // two connections, with both ends here
 constexpr qint64 otherFiles = 128; // libraries, fonts, displays, records
 
 } // namespace

@@ -18,7 +18,7 @@ using namespace orda_programs;
 
 namespace {
 
-constexpr qint64 filesPerCamera = 4; // requests that a client sends at once
+constexpr qint64 filesPerCamera = 2; // a client keeps one, and opens others for a moment
 constexpr qint64 otherFiles = 64; // libraries, the server socket, input and output files
 
 /// @return a text for the user, empty on success

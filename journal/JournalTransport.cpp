@@ -48,6 +48,11 @@ void JournalTransport::setRequestTimeout(std::chrono::milliseconds timeout)
     m_transport->setRequestTimeout(timeout);
 }
 
+void JournalTransport::timedOut(const QString &requestId)
+{
+    m_transport->timedOut(requestId);
+}
+
 QString JournalTransport::takeTurn(Turn turn, Owner owner)
 {
     // A page's run counts itself when it is announced; that of a page that nobody watches is not announced here.

@@ -39,6 +39,7 @@ public:
     void send(const QString &requestId, const QString &devId, const QString &text) override;
     void passedOn(const QString &requestId, const QString &text) override;
     void setRequestTimeout(std::chrono::milliseconds timeout) override;
+    void timedOut(const QString &requestId) override;
 
     /// Takes the turn for a run, and begins its record.
     /// @return why no run can begin now, for the user; empty when it has begun

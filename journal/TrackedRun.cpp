@@ -200,20 +200,22 @@ TrackedRun::Answer TrackedRun::takeWritten(int place, int number, const QJsonObj
         return taken;
     const QJsonValue result = answer.value(QLatin1String("result"));
     const bool tells = device.isTelling && result.isObject();
-    // A device that tells of a write before the one that failed has something of the run all the same.
-    exchange.isWritten = exchange.isWritten || code == 0 || (tells && !result.toObject().isEmpty());
+    // A device that tells has what it tells of, whether or not the rest failed.
+    exchange.isWritten = exchange.isWritten || (tells ? !result.toObject().isEmpty() : code == 0);
     if (code == 0)
         exchange.isInDoubt = false;
-    const bool isUnanswered =
-        device.isTelling && code != 0 && objectIn(answer, "error").value(QLatin1String("unanswered")).toBool();
+    const QJsonValue unanswered = objectIn(answer, "error").value(QLatin1String("unanswered"));
+    const bool isUnanswered = device.isTelling && code != 0 && unanswered.isObject();
     if (isUnanswered)
         exchange.isInDoubt = true;
     if (!tells && !isUnanswered)
         return taken;
     const CfgExchange &family = m_family.exchanges.at(number);
-    const QJsonObject members = isUnanswered ? supposed(exchange) : family.membersOf(result.toObject());
-    for (auto member = members.begin(); member != members.end(); ++member)
-        exchange.taken.insert(member.key(), member.value());
+    for (const QJsonValue &part : {result, unanswered}) {
+        const QJsonObject members = family.membersOf(part.toObject());
+        for (auto member = members.begin(); member != members.end(); ++member)
+            exchange.taken.insert(member.key(), member.value());
+    }
     exchange.sent = paramOfTaken(family, exchange.before, exchange.taken);
     exchange.changes = m_family.changesBy(number, exchange.before, exchange.sent);
     taken.taken = textOf(exchange.taken);

@@ -149,7 +149,7 @@ private slots:
             << R"({"timeFormat":"A","timePos":"left_top"})";
         QTest::newRow("a part, then no answer") // the device may have all of it: the undo looks at it
             << R"({"timePos":"hide","channelName":"Gate"})"
-            << R"({"error":{"errorcode":-61024,"message":"gone","unanswered":true},"result":{"timePos":"hide"}})"
+            << R"({"error":{"errorcode":-61024,"message":"gone","unanswered":{"channelName":"Gate"}},"result":{"timePos":"hide"}})"
             << "unknown Failed to set osd parameters(-61024): gone"
             << "channelName=Gate timePos=hide"
             << R"({"bShowOSD":true,"timeFormat":"A","timePos":"left_top","channelName":"Gate"})"

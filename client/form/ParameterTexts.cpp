@@ -81,7 +81,7 @@ QString ParameterTexts::value(const QString &member, const QJsonValue &value) co
             if (choice.text && choice.value == value)
                 return m_family.translated(choice.text);
     }
-    return value.isUndefined() ? QStringLiteral("–") : orda_engine::plainTextOf(value);
+    return value.isUndefined() ? QStringLiteral("–") : orda_engine::shortened(orda_engine::plainTextOf(value));
 }
 
 QString ParameterTexts::change(const QString &member, const QJsonValue &before, const QJsonValue &after) const

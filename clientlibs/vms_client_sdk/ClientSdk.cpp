@@ -180,7 +180,10 @@ void ClientSdk::checkTimeouts()
             m_timer.start(0); // let the event loop handle other events first
             return;
         }
-        raise([id = m_timedOut.takeFirst()](ClientSignals &sdk) { emit sdk.signalRequestTimeout(id, QVariant()); });
+        const QString id = m_timedOut.takeFirst();
+        if (m_transport)
+            m_transport->timedOut(id);
+        raise([id](ClientSignals &sdk) { emit sdk.signalRequestTimeout(id, QVariant()); });
     }
 }
 

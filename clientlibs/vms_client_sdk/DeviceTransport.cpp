@@ -13,4 +13,6 @@ void DeviceTransport::passedOn(const QString &, const QString &) { }
 
 void DeviceTransport::setRequestTimeout(std::chrono::milliseconds) { }
 
+void DeviceTransport::timedOut(const QString &) { }
+
 } // namespace vms_sdk

@@ -28,6 +28,9 @@ public:
     /// Called on the GUI thread, before the first request and at each change, with the waiting time of requests. A
     /// transport that needs several steps for one ends it before; the default does nothing.
     virtual void setRequestTimeout(std::chrono::milliseconds timeout);
+    /// Called on the GUI thread when the waiting time of a request is over, renewals included, before the listeners
+    /// hear of it. A transport that needs several steps for one begins no further step; the default does nothing.
+    virtual void timedOut(const QString &requestId);
 
 Q_SIGNALS:
     // May be raised on any thread, from inside send() too: the SDK always queues them.

@@ -55,6 +55,11 @@ void SiteTransport::listenTo(DeviceTransport *transport, DevProtocol protocol)
         Qt::QueuedConnection);
 }
 
+void SiteTransport::timedOut(const QString &requestId)
+{
+    m_onvif->timedOut(requestId); // the others do nothing about it
+}
+
 void SiteTransport::setDevices(const QList<DevInfo> &devices)
 {
     if (m_isShutDown)

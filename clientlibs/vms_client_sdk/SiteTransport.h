@@ -23,6 +23,7 @@ public:
     void send(const QString &requestId, const QString &devId, const QString &text) override;
     void passedOn(const QString &requestId, const QString &text) override;
     void setRequestTimeout(std::chrono::milliseconds timeout) override;
+    void timedOut(const QString &requestId) override;
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
     void connectDevicesAgain(const QStringList &devIds);

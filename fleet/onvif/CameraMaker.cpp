@@ -2,6 +2,7 @@
 
 #include "fleet/SiteTexts.h"
 #include "fleet/onvif/CameraTemplates.h"
+#include "fleet/onvif/TraitDealer.h"
 
 #include <vms_client_sdk/onvif/OnvifNames.h>
 
@@ -9,7 +10,6 @@
 #include <QRandomGenerator>
 
 #include <array>
-#include <numeric>
 
 namespace device_fleet {
 
@@ -19,118 +19,6 @@ namespace {
 
 constexpr int camera = 1;
 constexpr int reachedDirectly = 1;
-
-/// What is dealt out; the number is part of the seed of its order.
-enum class Trait : quint32
-{
-    Media,
-    Streams,
-    Sources,
-    Osd,
-    Imaging,
-    Audio,
-    Clock,
-    SignOn,
-    Style,
-    Paths,
-    Transport,
-    FaultStatus,
-    Vendor,
-    Credentials,
-    Serial,
-    HiddenServices,
-    Tokens,
-    Rotation
-};
-
-/// Deals out the kinds of each trait to the cameras of a seed.
-class Dealer
-{
-public:
-    Dealer(quint32 seed, int index)
-        : m_seed(seed)
-        , m_index(index)
-    {
-    }
-
-    /// From 0 to @p kinds - 1.
-    int deal(Trait trait, int kinds) const
-    {
-        std::array<quint32, 3> seeds{m_seed, quint32(trait), quint32(m_index / kinds)};
-        QRandomGenerator random(seeds.data(), qsizetype(seeds.size()));
-        std::vector<int> order(std::size_t(kinds), 0);
-        std::iota(order.begin(), order.end(), 0);
-        for (int i = kinds - 1; i > 0; --i)
-            std::swap(order.at(std::size_t(i)), order.at(std::size_t(random.bounded(i + 1))));
-        return order.at(std::size_t(m_index % kinds));
-    }
-
-    /// True for one of @p kinds.
-    bool isOneOf(Trait trait, int kinds) const { return deal(trait, kinds) == 0; }
-
-private:
-    quint32 m_seed;
-    int m_index;
-};
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-void dealSignOn(const Dealer &dealer, CameraTraits *traits)
-{
-    enum SignOn
-    {
-        DigestMd5,
-        OldDigest,
-        DigestBoth,
-        TokenOnly,
-        OtherTokenOnly,
-        All,
-        OnceStale,
-        OncePlain,
-        Kinds
-    };
-    const int kind = dealer.deal(Trait::SignOn, Kinds);
-    traits->takesUsernameToken = kind == TokenOnly || kind == OtherTokenOnly || kind == All;
-    traits->takesDigest = kind != TokenOnly && kind != OtherTokenOnly;
-    traits->takesSha256 = kind == DigestBoth || kind == All || kind == OnceStale;
-    traits->isNonceTakenOnce = kind == OnceStale || kind == OncePlain;
-    traits->saysStale = kind != OncePlain;
-}
-
-CameraTraits dealTraits(const Dealer &dealer)
-{
-    CameraTraits traits;
-    traits.hasMedia2 = dealer.deal(Trait::Media, 5) >= 2;
-    dealSignOn(dealer, &traits);
-    traits.hidesServices = dealer.isOneOf(Trait::HiddenServices, 10);
-    static constexpr std::array offsets{0, 0, 3 * 3600, -(5 * 3600 + 1800), 37};
-    traits.clockOffset = std::chrono::seconds(offsets.at(std::size_t(dealer.deal(Trait::Clock, offsets.size()))));
-    traits.style = XmlStyle(dealer.deal(Trait::Style, 3));
-    const int transport = dealer.deal(Trait::Transport, 6);
-    traits.isChunked = transport == 0 || transport == 1;
-    traits.closesAfterAnswer = transport == 1 || transport == 2;
-    traits.faultStatus = dealer.isOneOf(Trait::FaultStatus, 2) ? 400 : 500;
-    return traits;
-}
-
-QMap<QString, QString> dealPaths(const Dealer &dealer, bool hasMedia2, bool hasImaging)
-{
-    static constexpr std::array<std::array<const char *, 4>, 4> kinds{
-        {{"/onvif/device_service", "/onvif/media_service", "/onvif/media2_service", "/onvif/imaging_service"},
-         {"/onvif/device_service", "/onvif/device_service", "/onvif/device_service", "/onvif/device_service"},
-         {"/onvif/device_service", "/onvif/Media", "/onvif/Media2", "/onvif/Imaging"},
-         {"/cgi/onvif/device", "/cgi/onvif/media?v=1", "/cgi/onvif/media?v=2", "/cgi/onvif/img"}}};
-    const auto &kind = kinds.at(std::size_t(dealer.deal(Trait::Paths, int(kinds.size()))));
-    QMap<QString, QString> paths{{text(tds), text(kind[0])}, {text(trt), text(kind[1])}};
-    if (hasMedia2)
-        paths.insert(text(tr2), text(kind[2]));
-    if (hasImaging)
-        paths.insert(text(timg), text(kind[3]));
-    return paths;
-}
 
 /// Fills a camera's configurations in.
 class Equipment

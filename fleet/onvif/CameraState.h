@@ -12,6 +12,12 @@
 
 namespace device_fleet {
 
+/// Names and values of cameras are ASCII texts.
+inline QString text(const char *ascii)
+{
+    return QString::fromLatin1(ascii);
+}
+
 /// How a camera writes its answers.
 enum class XmlStyle
 {
@@ -63,7 +69,7 @@ inline constexpr char imagingKind[] = "ImagingSettings";
 struct CameraState
 {
     CameraTraits traits;
-    QString deviceId; ///< its serial number is unique: XAddrs and host name are made from it
+    QString deviceId; ///< as the inventory has it; also the host name
     QString name, location, serialNumber, hardware, manufacturer, mac;
     QMap<QString, QString> paths; ///< of the services, by namespace
     QString discoveryMode = QStringLiteral("Discoverable");

@@ -130,7 +130,8 @@ bool isAllowed(const QString &value, const Check &check, const XmlElement &optio
                         textsAt(options, path + QStringLiteral("/Max")).value(0));
     case Rule::Words: {
         const QStringList words = textsAt(options, path).value(0).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        return isOneOf(value, words) || (value == QLatin1String("false") && words.contains(QStringLiteral("true")));
+        // What a camera cannot do it may be told not to do.
+        return isOneOf(value, words) || value == QLatin1String("false");
     }
     case Rule::WordRange: {
         const QStringList words = textsAt(options, path).value(0).split(QLatin1Char(' '), Qt::SkipEmptyParts);

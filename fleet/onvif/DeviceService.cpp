@@ -20,11 +20,6 @@ struct Call
     const QDateTime &now;
 };
 
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 void appendDateTime(XmlElement *parent, const char *name, const QDateTime &moment)
 {
     XmlElement &whole = parent->append(XmlElement(tt, name));

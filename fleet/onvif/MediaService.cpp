@@ -27,11 +27,6 @@ constexpr std::array<Kind, 4> kinds{{{videoSourceKind, "VideoSource"},
                                      {audioEncoderKind, "AudioEncoder"},
                                      {audioOutputKind, "AudioOutput"}}};
 
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 /// One operation of a media service.
 class MediaCall
 {

@@ -13,11 +13,6 @@ using namespace vms_sdk::onvif;
 
 namespace {
 
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 /// A configuration without what is in it: token, attributes of the maker, declarations.
 XmlElement shellOf(const XmlElement &encoder)
 {

@@ -61,8 +61,7 @@ QString endpoint(const CameraState &camera)
 XmlElement match(const OnvifDevice &camera)
 {
     XmlElement one(wsdd, "ProbeMatch");
-    one.append(XmlElement(wsa, "EndpointReference"))
-        .append(XmlElement(wsa, "Address", endpoint(camera.state())));
+    one.append(XmlElement(wsa, "EndpointReference")).append(XmlElement(wsa, "Address", endpoint(camera.state())));
     XmlElement &types = one.append(XmlElement(wsdd, "Types", QStringLiteral("dn:NetworkVideoTransmitter")));
     types.declarations.append({QStringLiteral("dn"), QLatin1String(dn)});
     one.append(XmlElement(wsdd, "Scopes", scopesOf(camera.state()).join(QLatin1Char(' '))));
@@ -75,14 +74,12 @@ QByteArray probeMatches(const OnvifDevice &camera, const QString &messageId)
 {
     XmlElement envelope(soapEnvelope, "Envelope");
     XmlElement &header = envelope.append(XmlElement(soapEnvelope, "Header"));
-    header.append(XmlElement(wsa, "MessageID",
-                             QStringLiteral("urn:uuid:") + QUuid::createUuid().toString(QUuid::WithoutBraces)));
+    header.append(
+        XmlElement(wsa, "MessageID", QStringLiteral("urn:uuid:") + QUuid::createUuid().toString(QUuid::WithoutBraces)));
     header.append(XmlElement(wsa, "RelatesTo", messageId));
     header.append(XmlElement(wsa, "To", QLatin1String(wsa) + QStringLiteral("/role/anonymous")));
     header.append(XmlElement(wsa, "Action", QLatin1String(wsdd) + QStringLiteral("/ProbeMatches")));
-    envelope.append(XmlElement(soapEnvelope, "Body"))
-        .append(XmlElement(wsdd, "ProbeMatches"))
-        .append(match(camera));
+    envelope.append(XmlElement(soapEnvelope, "Body")).append(XmlElement(wsdd, "ProbeMatches")).append(match(camera));
     return vms_sdk::writeXml(envelope);
 }
 

@@ -54,6 +54,22 @@ void OnvifHost::release(QObject *request)
     m_heldInAll -= m_held.take(request);
 }
 
+OnvifHost::Place OnvifHost::takePlace()
+{
+    ++m_requests;
+    return {nullptr, [this](void *) {
+                --m_requests;
+                if (!std::exchange(m_willTell, true))
+                    QMetaObject::invokeMethod(
+                        this,
+                        [this] {
+                            m_willTell = false;
+                            emit placeFree();
+                        },
+                        Qt::QueuedConnection);
+            }};
+}
+
 void OnvifHost::fillLater()
 {
     // Not at once: the caller may be about to end many links, each of which would hand its place to the next.

@@ -9,6 +9,8 @@
 #include <QQueue>
 #include <QSet>
 
+#include <memory>
+
 namespace vms_sdk {
 
 class OnvifLink;
@@ -39,6 +41,14 @@ public:
     void hold(OnvifRequest *request, qint64 bytes);
     void release(QObject *request);
 
+    /// A place among the requests that are carried out at once; free again when the last copy of it is gone.
+    using Place = std::shared_ptr<void>;
+    bool hasPlace() const { return m_requests < m_options.maxRequests; }
+    Place takePlace();
+
+Q_SIGNALS:
+    void placeFree(); ///< from the event loop
+
 private:
     void fillLater();
     void fillPlaces();
@@ -51,6 +61,8 @@ private:
     QHash<QObject *, qint64> m_held; ///< bytes by request
     qint64 m_heldInAll = 0;
     bool m_willFill = false;
+    int m_requests = 0; ///< places that are taken
+    bool m_willTell = false;
 };
 
 } // namespace vms_sdk

@@ -117,9 +117,7 @@ void OnvifLink::onSignedOn(const OnvifSignOn::Outcome &outcome)
     case OnvifSignOn::Outcome::Kind::Refused:
         return refused(outcome.reason, outcome.text);
     case OnvifSignOn::Outcome::Kind::Failed:
-        if (outcome.reason == TroubleReason::SignOn)
-            warn(QStringLiteral("does not sign on as it should: %1").arg(outcome.text));
-        else if (outcome.reason == TroubleReason::Certificate)
+        if (outcome.reason == TroubleReason::Certificate)
             warn(outcome.text);
         return lost(outcome.reason, outcome.text);
     case OnvifSignOn::Outcome::Kind::SignedOn:
@@ -242,21 +240,20 @@ void OnvifLink::checkDevice()
     });
 }
 
-void OnvifLink::send(const QString &requestId, const QString &text, const QDeadlineTimer &end)
+void OnvifLink::send(const QString &requestId, const QString &text, std::chrono::milliseconds limit)
 {
-    if (m_phase != Phase::Online || end.hasExpired()) {
-        qCDebug(sdkLog) << "request" << requestId << "dropped:" << m_device.id
-                        << (m_phase == Phase::Online ? "has no time left for it" : "is not online");
+    if (m_phase != Phase::Online) {
+        qCDebug(sdkLog) << "request" << requestId << "dropped:" << m_device.id << "is not online";
         return;
     }
     if (m_requests.size() >= maxRequests)
         return warn(QStringLiteral("has too many requests to carry out; some are dropped"));
     const QJsonObject content = QJsonDocument::fromJson(text.toUtf8()).object();
     auto *request = new OnvifRequest(*this, content, this);
-    m_requests.insert(request, requestId);
+    m_requests.insert(request, {requestId, m_host.takePlace()});
     connect(request, &OnvifRequest::finished, this,
             [this, request](const QJsonObject &answer) { onFinished(request, answer); });
-    QTimer::singleShot(int(end.remainingTime()), Qt::PreciseTimer, request, [this, request] {
+    QTimer::singleShot(limit, Qt::PreciseTimer, request, [this, request] {
         if (m_requests.contains(request))
             request->endNow(QStringLiteral("no answer in time"));
     });
@@ -268,7 +265,7 @@ void OnvifLink::onFinished(OnvifRequest *request, const QJsonObject &answer)
 {
     m_host.release(request);
     request->deleteLater();
-    const QString requestId = m_requests.take(request);
+    const QString requestId = m_requests.take(request).id;
     const QString text = QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
     if (m_host.backlog().add(m_device.id, requestId, text.size())) {
         emit answered(requestId, text);
@@ -313,6 +310,14 @@ void OnvifLink::rest(DevStatus status)
     m_host.leave(this);
     endRequests();
     setStatus(status);
+}
+
+void OnvifLink::endTimedOut(const QSet<QString> &requestIds)
+{
+    const QList<OnvifRequest *> requests = m_requests.keys();
+    for (OnvifRequest *request : requests)
+        if (requestIds.contains(m_requests.value(request).id))
+            request->endNow();
 }
 
 void OnvifLink::endRequests()

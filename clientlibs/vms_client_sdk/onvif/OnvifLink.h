@@ -5,13 +5,13 @@
 #include <vms_client_sdk/onvif/CameraLine.h>
 #include <vms_client_sdk/onvif/OnvifSignOn.h>
 
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QTimer>
 
+#include <chrono>
 #include <memory>
 
 namespace vms_sdk {
@@ -36,8 +36,10 @@ public:
     /// Takes a record that differs from ours in nothing but that the camera's own serial number is, or is not yet, in
     /// it. @return false: another record
     bool takeOver(const DevInfo &device);
-    /// @param end when nobody waits for the answer any more
-    void send(const QString &requestId, const QString &text, const QDeadlineTimer &end);
+    /// Begins to carry a request out. @param limit that it may take
+    void send(const QString &requestId, const QString &text, std::chrono::milliseconds limit);
+    /// Ends those requests that nobody awaits any more.
+    void endTimedOut(const QSet<QString> &requestIds);
 
     void signOn(); ///< by the host, once per place
 
@@ -93,7 +95,12 @@ private:
     QElapsedTimer m_accountChecked;
     int m_misses = 0; ///< polls in a row without an answer
     int m_losses = 0; ///< since it answered last while online
-    QHash<OnvifRequest *, QString> m_requests; ///< under way; request ids
+    struct Request
+    {
+        QString id;
+        std::shared_ptr<void> place; ///< OnvifHost::Place
+    };
+    QHash<OnvifRequest *, Request> m_requests; ///< under way
     QSet<QString> m_warned; ///< since it was last online
 };
 

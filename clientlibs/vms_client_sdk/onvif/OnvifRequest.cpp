@@ -6,10 +6,21 @@
 #include <vms_client_sdk/onvif/OnvifFamilies.h>
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 #include <utility>
 
 namespace vms_sdk {
+
+namespace {
+
+/// Of the entries of a list: what tells them apart.
+QStringList keptMembers()
+{
+    return {QStringLiteral("streamid"), QStringLiteral("token")};
+}
+
+} // namespace
 
 OnvifRequest::OnvifRequest(CameraCalls &calls, const QJsonObject &request, QObject *parent)
     : QObject(parent)
@@ -20,6 +31,13 @@ OnvifRequest::OnvifRequest(CameraCalls &calls, const QJsonObject &request, QObje
 }
 
 OnvifRequest::~OnvifRequest() = default;
+
+bool OnvifRequest::isWrite(const QString &text)
+{
+    const QString method = QJsonDocument::fromJson(text.toUtf8()).object().value(QLatin1String("method")).toString();
+    const FamilyTable *table = familyOf(method);
+    return table && method == QLatin1String(table->writeMethod);
+}
 
 void OnvifRequest::start()
 {
@@ -46,7 +64,7 @@ void OnvifRequest::readOn()
     if (m_reads.empty()) {
         if (m_isWrite)
             return beginWriting();
-        return finish({{QStringLiteral("errorcode"), 0}});
+        return finish({{QStringLiteral("errorcode"), 0}}, m_family->held());
     }
     m_unanswered = m_reads.size();
     m_answers.assign(m_reads.size(), {});
@@ -88,7 +106,7 @@ void OnvifRequest::beginWriting()
 void OnvifRequest::writeOn()
 {
     if (m_written == m_plan.writes.size())
-        return finish({{QStringLiteral("errorcode"), 0}});
+        return finish({{QStringLiteral("errorcode"), 0}}, m_family->held());
     const OnvifOperation &operation = m_plan.writes[m_written].operation;
     m_isWriting = true;
     m_calls.call(operation.service, operation.request, false, this,
@@ -133,22 +151,27 @@ bool OnvifRequest::hasFailed(const XmlElement &operation, const CallResult &resu
 void OnvifRequest::fail(int code, const QString &message, bool isUnanswered)
 {
     QJsonObject error{{QStringLiteral("errorcode"), code}, {QStringLiteral("message"), message}};
-    if (isUnanswered)
-        error.insert(QStringLiteral("unanswered"), true);
-    finish(error);
+    if (isUnanswered) {
+        const QJsonObject sure = m_family->held();
+        m_plan.writes[m_written].done({});
+        error.insert(QStringLiteral("unanswered"), changedMembers(sure, m_family->held(), keptMembers()));
+        finish(error, sure);
+    } else {
+        finish(error, m_family ? m_family->held() : QJsonObject());
+    }
 }
 
-void OnvifRequest::finish(const QJsonObject &error)
+/// @param held what the camera holds for sure
+void OnvifRequest::finish(const QJsonObject &error, const QJsonObject &held)
 {
     if (std::exchange(m_isFinished, true))
         return;
     const bool isGood = error.value(QLatin1String("errorcode")).toInt() == 0;
     QJsonObject answer{{QStringLiteral("method"), m_method}, {QStringLiteral("error"), error}};
     if (m_isWrite && (isGood || m_written > 0)) {
-        const QStringList kept{QStringLiteral("streamid"), QStringLiteral("token")};
-        answer.insert(QStringLiteral("result"), changedMembers(m_before, m_family->held(), kept));
+        answer.insert(QStringLiteral("result"), changedMembers(m_before, held, keptMembers()));
     } else if (isGood) {
-        answer.insert(QStringLiteral("result"), m_family->held());
+        answer.insert(QStringLiteral("result"), held);
     }
     if (!m_plan.dropped.isEmpty())
         answer.insert(QStringLiteral("dropped"), QJsonArray::fromStringList(m_plan.dropped));

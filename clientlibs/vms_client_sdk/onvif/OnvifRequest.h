@@ -20,7 +20,8 @@ namespace vms_sdk {
 ///    entries concerned;
 ///  - after a write "dropped", where there are any: names of members that the device has no counterpart for;
 ///  - in "error", with a code: "message", a printable line in English that says what the device or the network said;
-///  - in "error", "unanswered": true where a write has left and nobody knows whether the device took it.
+///  - in "error", "unanswered" where a write has left and nobody knows whether the device took it: the members that
+///    it would have changed, in the shape of "result".
 class OnvifRequest : public QObject
 {
     Q_OBJECT
@@ -30,6 +31,9 @@ public:
     /// @param request as a task sends it: "method" and, depending on the method, "param"
     OnvifRequest(CameraCalls &calls, const QJsonObject &request, QObject *parent = nullptr);
     ~OnvifRequest() override;
+
+    /// Whether a request's text asks for a change.
+    static bool isWrite(const QString &text);
 
     void start(); ///< to be called once; may finish at once
     /// Nothing more is sent, and it finishes at once with what it has.
@@ -46,7 +50,7 @@ private:
     void takeWritten(const CallResult &result);
     bool hasFailed(const XmlElement &operation, const CallResult &result, bool isWrite);
     void fail(int code, const QString &message, bool isUnanswered = false);
-    void finish(const QJsonObject &error);
+    void finish(const QJsonObject &error, const QJsonObject &held);
 
     CameraCalls &m_calls;
     const QString m_method;

@@ -77,6 +77,12 @@ void OnvifTransport::setRequestTimeout(std::chrono::milliseconds timeout)
         d->worker->setRequestTimeout(timeout);
 }
 
+void OnvifTransport::timedOut(const QString &requestId)
+{
+    if (d->worker)
+        d->worker->timedOut(requestId);
+}
+
 void OnvifTransport::connectAgain()
 {
     if (d->worker)

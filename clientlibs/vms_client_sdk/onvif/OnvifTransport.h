@@ -18,6 +18,9 @@ struct OnvifOptions
     std::chrono::milliseconds firstBackOff{500}; ///< the shortest pause before a lost device is tried again
     std::chrono::milliseconds lastBackOff{30'000}; ///< the longest
     int maxSigningOn = 64; ///< devices that sign on at once
+    /// Requests that are carried out at once; the others wait their turn, and only then does their own time begin. So
+    /// many fill the exchanges that there may be at once (HttpLimits), as each asks for about two things side by side.
+    int maxRequests = 128;
 };
 
 /// Cameras that speak ONVIF. To the tasks it answers as a device of our own protocol does (docs/onvif.md): it turns
@@ -35,6 +38,7 @@ public:
     void send(const QString &requestId, const QString &devId, const QString &text) override;
     void passedOn(const QString &requestId, const QString &text) override;
     void setRequestTimeout(std::chrono::milliseconds timeout) override;
+    void timedOut(const QString &requestId) override;
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
     void connectDevicesAgain(const QStringList &devIds);

@@ -3,7 +3,9 @@
 #include <vms_client_sdk/Logging.h>
 #include <vms_client_sdk/onvif/OnvifHost.h>
 #include <vms_client_sdk/onvif/OnvifLink.h>
+#include <vms_client_sdk/onvif/OnvifRequest.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace vms_sdk {
@@ -21,7 +23,7 @@ constexpr std::chrono::milliseconds answerMargin{2'000};
 
 OnvifWorker::OnvifWorker(const OnvifOptions &options)
     : m_options(options)
-    , m_backlog([this] { QMetaObject::invokeMethod(this, &OnvifWorker::sendRequests, Qt::QueuedConnection); })
+    , m_backlog([this] { QMetaObject::invokeMethod(this, &OnvifWorker::beginRequests, Qt::QueuedConnection); })
     , m_statusTimer(this)
 {
     m_clock.start();
@@ -34,8 +36,10 @@ OnvifWorker::~OnvifWorker() = default;
 
 void OnvifWorker::setDevices(const QList<DevInfo> &devices)
 {
-    if (!m_host)
+    if (!m_host) {
         m_host = new OnvifHost(m_options, m_backlog, this);
+        connect(m_host, &OnvifHost::placeFree, this, &OnvifWorker::beginRequests);
+    }
     Links previous = std::exchange(m_links, {});
     for (const DevInfo &device : devices) {
         const auto known = previous.find(device.id);
@@ -110,23 +114,47 @@ void OnvifWorker::setRequestTimeout(std::chrono::milliseconds timeout)
 void OnvifWorker::send(const QString &requestId, const QString &devId, const QString &text)
 {
     const std::lock_guard lock(m_mutex);
-    const QDeadlineTimer end(m_requestTimeout - qMin(answerMargin, m_requestTimeout / 4), Qt::PreciseTimer);
-    m_requests.append({requestId, devId, text, end});
+    m_requests.append({requestId, devId, text, m_requestTimeout - qMin(answerMargin, m_requestTimeout / 4)});
     if (m_requests.size() == 1)
-        QMetaObject::invokeMethod(this, &OnvifWorker::sendRequests, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &OnvifWorker::takeRequests, Qt::QueuedConnection);
 }
 
-void OnvifWorker::sendRequests()
+void OnvifWorker::timedOut(const QString &requestId)
 {
-    if (m_backlog.isFull())
-        return; // until the window has caught up with the answers that wait for it
+    const std::lock_guard lock(m_mutex);
+    m_timedOut.insert(requestId);
+    if (m_timedOut.size() == 1)
+        QMetaObject::invokeMethod(this, &OnvifWorker::takeRequests, Qt::QueuedConnection);
+}
+
+void OnvifWorker::takeRequests()
+{
     std::unique_lock lock(m_mutex);
     const QVector<Request> requests = std::exchange(m_requests, {});
+    const QSet<QString> timedOut = std::exchange(m_timedOut, {});
     lock.unlock();
-    for (const Request &request : requests) {
+    for (const Request &request : requests)
+        (OnvifRequest::isWrite(request.text) ? m_writes : m_reads).push_back(request);
+    if (!timedOut.isEmpty()) {
+        const auto isTimedOut = [&](const Request &request) { return timedOut.contains(request.requestId); };
+        for (std::deque<Request> *queue : {&m_writes, &m_reads})
+            queue->erase(std::remove_if(queue->begin(), queue->end(), isTimedOut), queue->end());
+        for (const auto &[id, link] : m_links)
+            link->endTimedOut(timedOut);
+    }
+    beginRequests();
+}
+
+void OnvifWorker::beginRequests()
+{
+    // Not before the window has caught up with the answers that wait for it.
+    while (!(m_writes.empty() && m_reads.empty()) && m_host && m_host->hasPlace() && !m_backlog.isFull()) {
+        std::deque<Request> &queue = m_writes.empty() ? m_reads : m_writes;
+        const Request request = std::move(queue.front());
+        queue.pop_front();
         const auto known = m_links.find(request.devId);
         if (known != m_links.end())
-            known->second->send(request.requestId, request.text, request.end);
+            known->second->send(request.requestId, request.text, request.limit);
         else
             qCDebug(sdkLog) << "request" << request.requestId << "dropped: device" << request.devId << "is unknown";
     }

@@ -4,12 +4,13 @@
 #include <vms_client_sdk/StatusChanges.h>
 #include <vms_client_sdk/onvif/OnvifTransport.h>
 
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 #include <QVector>
 
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <unordered_map>
@@ -36,6 +37,7 @@ public:
     void send(const QString &requestId, const QString &devId, const QString &text);
     void passedOn(const QString &requestId, int characters);
     void setRequestTimeout(std::chrono::milliseconds timeout);
+    void timedOut(const QString &requestId);
 
 Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
@@ -49,22 +51,28 @@ private:
     struct Request
     {
         QString requestId, devId, text;
-        QDeadlineTimer end;
+        std::chrono::milliseconds limit; ///< that it may take, once it has begun
     };
 
     std::unique_ptr<OnvifLink> makeLink(const DevInfo &device);
-    void sendRequests();
+    void takeRequests();
+    void beginRequests();
     void onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble);
     void passOnChanges(const QVector<StatusChanges::Change> &changes);
 
     OnvifOptions m_options;
     std::mutex m_mutex;
-    QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
+    // On their way into this thread, with one wake-up for all of them; under the mutex.
+    QVector<Request> m_requests;
+    QSet<QString> m_timedOut;
     std::chrono::milliseconds m_requestTimeout{15'000}; ///< under the mutex; until it is told, the SDK's own
     Backlog m_backlog;
     QElapsedTimer m_clock;
     StatusChanges m_statusChanges;
     QTimer m_statusTimer;
+    // For their turn. Writes come first: who has begun with a device ends with it, and each device that has ended gives
+    // those that wait their whole waiting time again.
+    std::deque<Request> m_writes, m_reads;
     OnvifHost *m_host = nullptr; ///< made in the network thread
     Links m_links; ///< by device id; deleted before the host
 };

@@ -70,8 +70,8 @@ QString setRotation(const QString &key, const QJsonValue &wanted, const KeyOptio
         placed(&rotate, "Mode", {"Mode", "Degree", "Extension"}).setText(turn.mode);
         if (!turn.degrees.isEmpty())
             placed(&rotate, "Degree", {"Degree", "Extension"}).setText(turn.degrees);
-        else if (turn.mode == QLatin1String(modeOn))
-            removeChild(&rotate, "Degree");
+        else
+            removeChild(&rotate, "Degree"); // of a turn that is over
         return {};
     }
     allowed.removeDuplicates();

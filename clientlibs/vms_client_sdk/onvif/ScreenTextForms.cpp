@@ -7,8 +7,8 @@
 
 namespace vms_sdk {
 
-const ScreenTextKind dateText{"DateAndTime", "timeFormat", "timePos", "left_top", true};
-const ScreenTextKind plainText{"Plain", "channelName", "position", "left_bottom", false};
+const ScreenTextKind dateText{"DateAndTime", "timeFormat", "timePos", "timeStyle", "left_top", true};
+const ScreenTextKind plainText{"Plain", "channelName", "position", "nameStyle", "left_bottom", false};
 
 namespace {
 
@@ -198,8 +198,50 @@ QStringList formatsOf(const XmlElement &options)
     return formats;
 }
 
-XmlElement madeText(const ScreenTextKind &kind, const QString &sourceConfiguration, const char *ofNamespace)
+namespace {
+
+/// Takes out what other keys say; what stays in it is the style.
+void clearContent(XmlElement *osd)
 {
+    osd->setAttribute("token", {});
+    const auto clear = [](XmlElement *parent, std::initializer_list<const char *> names) {
+        for (const char *name : names)
+            removeChild(parent, name);
+    };
+    if (XmlElement *text = osd->child(onvif::tt, "TextString"))
+        clear(text, {"DateFormat", "TimeFormat", "PlainText"});
+    if (XmlElement *place = osd->child(onvif::tt, "Position"))
+        clear(place, {"Type", "Pos"});
+    if (XmlElement *source = osd->child(onvif::tt, "VideoSourceConfigurationToken"))
+        source->children.clear();
+}
+
+} // namespace
+
+QString styleOf(const XmlElement &osd)
+{
+    XmlElement style = osd;
+    clearContent(&style);
+    const XmlElement *text = style.child(onvif::tt, "TextString");
+    const XmlElement *place = style.child(onvif::tt, "Position");
+    const bool isPlain = style.children.size() <= 4 && style.attributes.size() <= 1 && text
+                      && text->attributes.isEmpty() && text->children.size() <= 1 && place
+                      && place->attributes.isEmpty() && place->children.empty();
+    return isPlain ? QString() : QString::fromUtf8(writeXml(style));
+}
+
+std::optional<XmlElement> madeText(const ScreenTextKind &kind, const QString &style, const QString &sourceConfiguration,
+                                   const char *ofNamespace)
+{
+    if (!style.isEmpty()) {
+        XmlRead former = readXml(style.toUtf8());
+        if (!former.root || former.root->name != QLatin1String("OSD") || !isOfKind(*former.root, kind))
+            return std::nullopt;
+        clearContent(&*former.root);
+        former.root->childMade(onvif::tt, "VideoSourceConfigurationToken").setText(sourceConfiguration);
+        former.root->namespaceUri = QLatin1String(ofNamespace);
+        return former.root;
+    }
     XmlElement osd(ofNamespace, "OSD");
     osd.setAttribute("token", {}); // the camera gives it one
     osd.append(XmlElement(onvif::tt, "VideoSourceConfigurationToken", sourceConfiguration));

@@ -59,15 +59,15 @@ void ScreenTexts::takeAnswers(std::vector<XmlElement> answers)
 
 const XmlElement *ScreenTexts::find(const ScreenTextKind &kind) const
 {
-    const auto found = std::find_if(m_osds.begin(), m_osds.end(),
-                                    [&kind](const XmlElement &osd) { return isOfKind(osd, kind); });
+    const auto found =
+        std::find_if(m_osds.begin(), m_osds.end(), [&kind](const XmlElement &osd) { return isOfKind(osd, kind); });
     return found == m_osds.end() ? nullptr : &*found;
 }
 
 int ScreenTexts::countOf(const ScreenTextKind &kind) const
 {
-    return int(std::count_if(m_osds.begin(), m_osds.end(),
-                             [&kind](const XmlElement &osd) { return isOfKind(osd, kind); }));
+    return int(
+        std::count_if(m_osds.begin(), m_osds.end(), [&kind](const XmlElement &osd) { return isOfKind(osd, kind); }));
 }
 
 /// Whether the camera takes no more than @p count.
@@ -105,9 +105,18 @@ QJsonObject ScreenTexts::held() const
             continue;
         held.insert(QLatin1String(kind->contentKey), osd ? contentOf(*kind, *osd) : QString());
         held.insert(QLatin1String(kind->positionKey), osd ? positionOf(*osd) : QString(hidden));
+        held.insert(QLatin1String(kind->styleKey), osd ? styleOf(*osd) : QString());
         held.insert(QLatin1String(showKey), isShown());
     }
     return held;
+}
+
+/// A style is only for a text that is made anew.
+bool ScreenTexts::isStyleOfPresent(const QString &key) const
+{
+    return std::any_of(std::begin(kinds), std::end(kinds), [this, &key](const ScreenTextKind *kind) {
+        return key == QLatin1String(kind->styleKey) && find(*kind);
+    });
 }
 
 /// Sorts what is asked.
@@ -123,8 +132,13 @@ QString ScreenTexts::readAsked(const QJsonObject &settings, QStringList *dropped
         const QJsonValue present = now.value(it.key());
         if (it.value() == present)
             continue;
+        if (isStyleOfPresent(it.key())) {
+            dropped->append(it.key());
+            continue;
+        }
         if (it.value().type() != present.type())
-            return notAllowed(it.key(), it.value(), present.isBool() ? QStringLiteral("true, false") : QStringLiteral("texts"));
+            return notAllowed(it.key(), it.value(),
+                              present.isBool() ? QStringLiteral("true, false") : QStringLiteral("texts"));
         asked->members.insert(it.key(), it.value());
     }
     asked->isOn = asked->has(showKey) && !isShown();
@@ -157,8 +171,9 @@ QString ScreenTexts::refused(const Asked &asked, const std::map<const ScreenText
         made = isMade ? kind : made;
         total += isMade ? 1 : 0;
         if (fate == Fate::Goes && countOf(*kind) > 1)
-            return QStringLiteral("%1: the device shows %2 texts of this kind, and the next would take the place of the "
-                                  "one that is hidden")
+            return QStringLiteral(
+                       "%1: the device shows %2 texts of this kind, and the next would take the place of the "
+                       "one that is hidden")
                 .arg(QLatin1String(kind->positionKey))
                 .arg(countOf(*kind));
         if (isMade && !asked.isOn && !isShown())
@@ -237,12 +252,16 @@ QString ScreenTexts::creation(const ScreenTextKind &kind, const Asked &asked, On
     const QString usual = QLatin1String(kind.usualPosition);
     const QString usualPosition = corners.contains(usual) ? usual : corners.value(0);
     const QString usualContent = kind.isDate ? formatsOf(m_options).value(0) : QString();
-    XmlElement osd = madeText(kind, m_sourceConfiguration, uri);
-    QString refused = setPosition(kind, asked.has(kind.positionKey) ? asked.of(kind.positionKey) : usualPosition,
-                                  m_options, &osd);
+    const std::optional<XmlElement> start = madeText(kind, asked.of(kind.styleKey), m_sourceConfiguration, uri);
+    if (!start)
+        return notAllowed(QLatin1String(kind.styleKey), asked.of(kind.styleKey),
+                          QStringLiteral("that of a former text"));
+    XmlElement osd = *start;
+    QString refused =
+        setPosition(kind, asked.has(kind.positionKey) ? asked.of(kind.positionKey) : usualPosition, m_options, &osd);
     if (refused.isEmpty())
-        refused = setContent(kind, asked.has(kind.contentKey) ? asked.of(kind.contentKey) : usualContent, m_options,
-                             &osd);
+        refused =
+            setContent(kind, asked.has(kind.contentKey) ? asked.of(kind.contentKey) : usualContent, m_options, &osd);
     if (!refused.isEmpty())
         return refused;
     XmlElement request(uri, "CreateOSD");

@@ -10,6 +10,9 @@ namespace vms_sdk {
 /// The texts on the screen of the first video source: the first date with time ("timeFormat", "timePos") and the first
 /// plain text ("channelName", "position"); "bShowOSD" is whether there is one of both.
 ///
+/// Beside these a member of its own has all else that is in a text ("timeStyle", "nameStyle"), so that an undo makes a
+/// deleted one as it was.
+///
 /// The keys of a text are reported when it is there or the camera's options allow to make it; of one that is not there
 /// the position is "hide" and the rest "".
 ///
@@ -34,7 +37,13 @@ public:
     OnvifPlan plan(const QJsonObject &param) override;
 
 private:
-    enum class Fate { Stays, Changes, Goes, Comes };
+    enum class Fate
+    {
+        Stays,
+        Changes,
+        Goes,
+        Comes
+    };
     /// What is asked, of the members that differ.
     struct Asked
     {
@@ -52,6 +61,7 @@ private:
     bool canMake(const ScreenTextKind &kind) const;
     bool isFull(int count, const char *attribute) const;
     bool isShown() const;
+    bool isStyleOfPresent(const QString &key) const;
     QString readAsked(const QJsonObject &settings, QStringList *dropped, Asked *asked) const;
     Fate fateOf(const ScreenTextKind &kind, const Asked &asked) const;
     QString refused(const Asked &asked, const std::map<const ScreenTextKind *, Fate> &fates) const;

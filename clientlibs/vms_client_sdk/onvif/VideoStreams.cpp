@@ -100,9 +100,9 @@ QString VideoStreams::refusedTogether(const QJsonObject &asked, const XmlElement
     }
     allowed.removeDuplicates();
     const QString wanted = sizeText(resolutionOf(configuration));
-    return allowed.isEmpty() || allowed.contains(wanted) ? QString()
-                                                         : notAllowed(QStringLiteral("width and height"), wanted,
-                                                                      listed(allowed));
+    return allowed.isEmpty() || allowed.contains(wanted)
+             ? QString()
+             : notAllowed(QStringLiteral("width and height"), wanted, listed(allowed));
 }
 
 } // namespace vms_sdk

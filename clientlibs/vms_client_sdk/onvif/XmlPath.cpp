@@ -78,7 +78,8 @@ XmlElement &placed(XmlElement *parent, const char *name, std::initializer_list<c
 {
     if (XmlElement *found = parent->child(onvif::tt, name))
         return *found;
-    const auto self = std::find_if(order.begin(), order.end(), [name](const char *each) { return qstrcmp(each, name) == 0; });
+    const auto self =
+        std::find_if(order.begin(), order.end(), [name](const char *each) { return qstrcmp(each, name) == 0; });
     const auto comesLater = [&](const XmlElement &child) {
         return std::any_of(self, order.end(), [&](const char *each) { return child.is(onvif::tt, each); });
     };
