@@ -37,6 +37,22 @@ void OnvifHost::leave(OnvifLink *link)
         fillLater();
 }
 
+OnvifHost::Place OnvifHost::takePlace()
+{
+    ++m_requests;
+    return {nullptr, [this](void *) {
+                --m_requests;
+                if (!std::exchange(m_willTell, true))
+                    QMetaObject::invokeMethod(
+                        this,
+                        [this] {
+                            m_willTell = false;
+                            emit placeFree();
+                        },
+                        Qt::QueuedConnection);
+            }};
+}
+
 void OnvifHost::hold(OnvifRequest *request, qint64 bytes)
 {
     if (!request)
@@ -52,22 +68,6 @@ void OnvifHost::hold(OnvifRequest *request, qint64 bytes)
 void OnvifHost::release(QObject *request)
 {
     m_heldInAll -= m_held.take(request);
-}
-
-OnvifHost::Place OnvifHost::takePlace()
-{
-    ++m_requests;
-    return {nullptr, [this](void *) {
-                --m_requests;
-                if (!std::exchange(m_willTell, true))
-                    QMetaObject::invokeMethod(
-                        this,
-                        [this] {
-                            m_willTell = false;
-                            emit placeFree();
-                        },
-                        Qt::QueuedConnection);
-            }};
 }
 
 void OnvifHost::fillLater()
