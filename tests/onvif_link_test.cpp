@@ -184,6 +184,27 @@ private slots:
         ask("s", -61024);
     }
 
+    void whatRequestsHoldTogetherIsLimited()
+    {
+        std::vector<std::unique_ptr<ScriptedCamera>> cameras;
+        QList<DevInfo> devices;
+        for (int i = 0; i < 12; ++i) {
+            cameras.push_back(std::make_unique<ScriptedCamera>("cam" + QString::number(i)));
+            cameras.back()->silent = "GetVideoEncoderConfigurations";
+            cameras.back()->texts[cameras.back()->silent] = "any";
+            cameras.back()->texts["GetProfiles"] =
+                "<trt:GetProfilesResponse>" + QString(3 << 20, ' ') + "</trt:GetProfilesResponse>";
+            devices.append(cameras.back()->info);
+        }
+        m_transport->setDevices(devices);
+        for (const DevInfo &device : qAsConst(devices))
+            QTRY_COMPARE(m_states[device.id], m_online);
+        for (const DevInfo &device : qAsConst(devices))
+            common_req(device.id, device.id, R"({"method":"stream_get_params"})");
+        QTRY_COMPARE(m_answers.size(), 2); // of 36 MiB six have to go
+        QCOMPARE(m_answers.values(), QList<int>({-61024, -61024}));
+    }
+
     void anAccountThatMayNotDoSomethingIsLookedIntoOnce()
     {
         ScriptedCamera camera(m_id);
