@@ -99,6 +99,9 @@ SoapFault readFault(const XmlElement &fault)
 
 SoapAnswer readSoapAnswer(const QByteArray &document)
 {
+    // Of a program in the camera that has crashed its web server answers nothing, with status 200.
+    if (document.trimmed().isEmpty())
+        return {{}, {}, QStringLiteral("the answer is empty")};
     XmlRead xml = readXml(document);
     if (!xml.root)
         return {{}, {}, QStringLiteral("the answer cannot be read: %1").arg(xml.error)};
