@@ -29,8 +29,8 @@ QJsonObject ask(MemoryCamera *camera, const QString &method, const QJsonObject &
     QSignalSpy finished(&request, &OnvifRequest::finished);
     request.start();
     [&] { QTRY_COMPARE(camera->waiting, 0); }(); // nothing more can come
-    request.endNow();
-    request.endNow();
+    request.endNow("no answer in time");
+    request.endNow("no answer in time");
     QJsonObject answer = finished.value(0).value(0).toJsonObject();
     [&] { QVERIFY(finished.size() == 1 && answer.take("method") == method); }();
     return answer;

@@ -27,42 +27,6 @@
 <context>
     <name>orda_batch::BatchOptions</name>
     <message>
-        <source>Reads, plans, sets, verifies and takes back parameters of many cameras and recorders.
-
-Commands:
-  families [FAMILY]           the families of parameters; keys, types, ranges and choices of one
-  read FAMILY                 what the devices hold
-  plan FAMILY VALUES          what &quot;apply&quot; would change; changes nothing
-  apply FAMILY VALUES         sets the values, after a question on the terminal or with --yes
-  verify RUN | FAMILY VALUES  whether the devices hold what the run wrote, or these values
-  undo RUN                    takes back what a run has written and nobody has changed since
-  history [RUN]               the recorded runs; what one of them did
-  history prune               removes old runs, as the history&apos;s settings say
-  history export RUN          writes a run to standard output; &quot;import FILE…&quot; takes it in elsewhere
-
-VALUES: --set KEY=VALUE …, or --values FILE. RUN: an id, its beginning, or &quot;last&quot;.
-SELECTION, with commas: all, offered, an id, a serial number, name=GLOB, ip=10.1.0.0/16, kind=camera, kind=recorder, group=NAME, @FILE, failed:RUN, and not: before any of them.
-
-Exit codes: 0 done on all selected devices, 1 failed on some, 2 wrong usage, 3 wrong input, 4 no device, 5 some not reached, 6 stopped, 7 verification found differences, 8 the history cannot be written or read; plan: 10 something would change.</source>
-        <translation>Liest, plant, setzt und überprüft Parameter vieler Kameras und Rekorder und nimmt Änderungen zurück.
-
-Befehle:
-  families [FAMILY]           die Familien der Parameter; Schlüssel, Typen, Bereiche und Werte einer Familie
-  read FAMILY                 was die Geräte enthalten
-  plan FAMILY VALUES          was „apply“ ändern würde; ändert nichts
-  apply FAMILY VALUES         setzt die Werte, nach einer Frage am Terminal oder mit --yes
-  verify RUN | FAMILY VALUES  ob die Geräte enthalten, was der Lauf geschrieben hat, oder diese Werte
-  undo RUN                    nimmt zurück, was ein Lauf geschrieben und seither niemand geändert hat
-  history [RUN]               die aufgezeichneten Läufe; was einer davon getan hat
-  history prune               entfernt alte Läufe nach den Einstellungen des Verlaufs
-  history export RUN          schreibt einen Lauf auf die Standardausgabe; „import FILE…“ nimmt ihn anderswo auf
-
-VALUES: --set KEY=VALUE … oder --values FILE. RUN: eine Kennung, ihr Anfang oder „last“.
-SELECTION, mit Kommas: all, offered, eine Kennung, eine Seriennummer, name=GLOB, ip=10.1.0.0/16, kind=camera, kind=recorder, group=NAME, @FILE, failed:RUN, und vor jedem davon not:.
-
-Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlgeschlagen, 2 falscher Aufruf, 3 falsche Eingabe, 4 kein Gerät, 5 einige nicht erreicht, 6 gestoppt, 7 die Überprüfung fand Abweichungen, 8 der Verlauf lässt sich nicht schreiben oder lesen; plan: 10 etwas würde sich ändern.</translation>
-    </message>
-    <message>
         <source>Sets a parameter; once for each.</source>
         <translation>Setzt einen Parameter; für jeden einmal anzugeben.</translation>
     </message>
@@ -101,10 +65,6 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
     <message>
         <source>Language of messages, such as &quot;en&quot;; the system&apos;s when not given.</source>
         <translation>Sprache der Meldungen, etwa „en“; ohne Angabe die des Systems.</translation>
-    </message>
-    <message>
-        <source>How long a device may take for an answer, in seconds (default 15).</source>
-        <translation>Wie lange ein Gerät für eine Antwort brauchen darf, in Sekunden (Vorgabe 15).</translation>
     </message>
     <message>
         <source>How long to wait for connections, in seconds (default 60).</source>
@@ -234,6 +194,64 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
         <source>--%1 is given twice</source>
         <translation>--%1 ist zweimal angegeben</translation>
     </message>
+    <message>
+        <source>Reads, plans, sets, verifies and takes back parameters of many cameras and recorders.
+
+Commands:
+  families [FAMILY]           the families of parameters; keys, types, ranges and choices of one
+  read FAMILY                 what the devices hold
+  plan FAMILY VALUES          what &quot;apply&quot; would change; changes nothing
+  apply FAMILY VALUES         sets the values, after a question on the terminal or with --yes
+  verify RUN | FAMILY VALUES  whether the devices hold what the run wrote, or these values
+  undo RUN                    takes back what a run has written and nobody has changed since
+  history [RUN]               the recorded runs; what one of them did
+  history prune               removes old runs, as the history&apos;s settings say
+  history export RUN          writes a run to standard output; &quot;import FILE…&quot; takes it in elsewhere
+  discover                    ONVIF cameras that answer a search of the local network
+
+VALUES: --set KEY=VALUE …, or --values FILE. RUN: an id, its beginning, or &quot;last&quot;.
+SELECTION, with commas: all, offered, an id, a serial number, name=GLOB, ip=10.1.0.0/16, kind=camera, kind=recorder, group=NAME, @FILE, failed:RUN, and not: before any of them.
+
+Exit codes: 0 done on all selected devices, 1 failed on some, 2 wrong usage, 3 wrong input, 4 no device, 5 some not reached, 6 stopped, 7 verification found differences, 8 the history cannot be written or read; plan: 10 something would change.</source>
+        <translation>Liest, plant, setzt und überprüft Parameter vieler Kameras und Rekorder und nimmt Änderungen zurück.
+
+Befehle:
+  families [FAMILY]           die Familien der Parameter; Schlüssel, Typen, Bereiche und Werte einer Familie
+  read FAMILY                 was die Geräte enthalten
+  plan FAMILY VALUES          was „apply“ ändern würde; ändert nichts
+  apply FAMILY VALUES         setzt die Werte, nach einer Frage am Terminal oder mit --yes
+  verify RUN | FAMILY VALUES  ob die Geräte enthalten, was der Lauf geschrieben hat, oder diese Werte
+  undo RUN                    nimmt zurück, was ein Lauf geschrieben und seither niemand geändert hat
+  history [RUN]               die aufgezeichneten Läufe; was einer davon getan hat
+  history prune               entfernt alte Läufe nach den Einstellungen des Verlaufs
+  history export RUN          schreibt einen Lauf auf die Standardausgabe; „import FILE…“ nimmt ihn anderswo auf
+  discover                    ONVIF-Kameras, die auf eine Suche im lokalen Netz antworten
+
+VALUES: --set KEY=VALUE … oder --values FILE. RUN: eine Kennung, ihr Anfang oder „last“.
+SELECTION, mit Kommas: all, offered, eine Kennung, eine Seriennummer, name=GLOB, ip=10.1.0.0/16, kind=camera, kind=recorder, group=NAME, @FILE, failed:RUN, und vor jedem davon not:.
+
+Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlgeschlagen, 2 falscher Aufruf, 3 falsche Eingabe, 4 kein Gerät, 5 einige nicht erreicht, 6 gestoppt, 7 die Überprüfung fand Abweichungen, 8 der Verlauf lässt sich nicht schreiben oder lesen; plan: 10 etwas würde sich ändern.</translation>
+    </message>
+    <message>
+        <source>M simulated ONVIF cameras beside them (with --demo).</source>
+        <translation>Daneben M simulierte ONVIF-Kameras (mit --demo).</translation>
+    </message>
+    <message>
+        <source>How long a device may take for an answer, in seconds (default 15); of discover: how long to search (default 5).</source>
+        <translation>Wie lange ein Gerät für eine Antwort brauchen darf, in Sekunden (Vorgabe 15); bei discover: wie lange gesucht wird (Vorgabe 5).</translation>
+    </message>
+    <message>
+        <source>Searches by this network interface; all when not given.</source>
+        <translation>Sucht über diese Netzwerkschnittstelle; ohne Angabe über alle.</translation>
+    </message>
+    <message>
+        <source>--interface takes the name of a network interface</source>
+        <translation>--interface nimmt den Namen einer Netzwerkschnittstelle</translation>
+    </message>
+    <message>
+        <source>--onvif needs --demo: it brings simulated cameras along</source>
+        <translation>--onvif braucht --demo: es bringt simulierte Kameras mit</translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::CommandInput</name>
@@ -327,6 +345,13 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
         <source>nothing more is sent; what has left is awaited (once more ends at once)</source>
         <translation>es wird nichts mehr gesendet; auf Antworten wird noch gewartet (noch einmal beendet sofort)</translation>
     </message>
+    <message numerus="yes">
+        <source>%n device(s) speak ONVIF, which does not know this: %1</source>
+        <translation>
+            <numerusform>%n Gerät spricht ONVIF, das Folgendes nicht kennt: %1</numerusform>
+            <numerusform>%n Geräte sprechen ONVIF, das Folgendes nicht kennt: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::DeviceResults</name>
@@ -407,6 +432,33 @@ Rückgabewerte: 0 auf allen ausgewählten Geräten erledigt, 1 auf einigen fehlg
     <message>
         <source>the selection has no device</source>
         <translation>die Auswahl enthält kein Gerät</translation>
+    </message>
+</context>
+<context>
+    <name>orda_batch::DiscoverCommand</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>%1 says that it is at %2</source>
+        <translation>%1 nennt als Adresse %2</translation>
+    </message>
+    <message>
+        <source>no camera has answered on %1</source>
+        <translation>über %1 hat keine Kamera geantwortet</translation>
     </message>
 </context>
 <context>

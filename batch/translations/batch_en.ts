@@ -33,6 +33,16 @@
     </message>
 </context>
 <context>
+    <name>orda_batch::DeviceCommand</name>
+    <message numerus="yes">
+        <source>%n device(s) speak ONVIF, which does not know this: %1</source>
+        <translation>
+            <numerusform>%n device speaks ONVIF, which does not know this: %1</numerusform>
+            <numerusform>%n devices speak ONVIF, which does not know this: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>orda_batch::DeviceSelection</name>
     <message numerus="yes">
         <source>%1 and %n more</source>

@@ -27,42 +27,6 @@
 <context>
     <name>orda_batch::BatchOptions</name>
     <message>
-        <source>Reads, plans, sets, verifies and takes back parameters of many cameras and recorders.
-
-Commands:
-  families [FAMILY]           the families of parameters; keys, types, ranges and choices of one
-  read FAMILY                 what the devices hold
-  plan FAMILY VALUES          what &quot;apply&quot; would change; changes nothing
-  apply FAMILY VALUES         sets the values, after a question on the terminal or with --yes
-  verify RUN | FAMILY VALUES  whether the devices hold what the run wrote, or these values
-  undo RUN                    takes back what a run has written and nobody has changed since
-  history [RUN]               the recorded runs; what one of them did
-  history prune               removes old runs, as the history&apos;s settings say
-  history export RUN          writes a run to standard output; &quot;import FILE…&quot; takes it in elsewhere
-
-VALUES: --set KEY=VALUE …, or --values FILE. RUN: an id, its beginning, or &quot;last&quot;.
-SELECTION, with commas: all, offered, an id, a serial number, name=GLOB, ip=10.1.0.0/16, kind=camera, kind=recorder, group=NAME, @FILE, failed:RUN, and not: before any of them.
-
-Exit codes: 0 done on all selected devices, 1 failed on some, 2 wrong usage, 3 wrong input, 4 no device, 5 some not reached, 6 stopped, 7 verification found differences, 8 the history cannot be written or read; plan: 10 something would change.</source>
-        <translation>读取、计划、设置、核实并撤销许多摄像机和录像机的参数。
-
-命令：
-  families [FAMILY]           参数类别；某一类别的键、类型、范围和可选值
-  read FAMILY                 设备的当前值
-  plan FAMILY VALUES          “apply”将更改什么；不作任何更改
-  apply FAMILY VALUES         设置这些值，须先在终端确认或给出 --yes
-  verify RUN | FAMILY VALUES  设备是否仍为该运行写入的值，或这些值
-  undo RUN                    撤销某次运行写入且之后无人更改的值
-  history [RUN]               已记录的运行；某次运行所做的事
-  history prune               按历史记录的设置删除旧的运行
-  history export RUN          将一次运行写到标准输出；“import FILE…”可在别处导入
-
-VALUES：--set KEY=VALUE …，或 --values FILE。RUN：id、id 的开头或“last”。
-SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip=10.1.0.0/16、kind=camera、kind=recorder、group=NAME、@FILE、failed:RUN，每一项之前都可加 not:。
-
-退出码：0 所选设备全部完成，1 部分失败，2 用法错误，3 输入有误，4 没有设备，5 部分未连上，6 已停止，7 核实发现差异，8 无法写入或读取历史记录；plan：10 会有更改。</translation>
-    </message>
-    <message>
         <source>Sets a parameter; once for each.</source>
         <translation>设置一个参数；每个参数给出一次。</translation>
     </message>
@@ -101,10 +65,6 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
     <message>
         <source>Language of messages, such as &quot;en&quot;; the system&apos;s when not given.</source>
         <translation>消息语言，例如“en”；未给出时使用系统语言。</translation>
-    </message>
-    <message>
-        <source>How long a device may take for an answer, in seconds (default 15).</source>
-        <translation>设备应答的时限，以秒为单位（默认 15）。</translation>
     </message>
     <message>
         <source>How long to wait for connections, in seconds (default 60).</source>
@@ -234,6 +194,64 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
         <source>--%1 is given twice</source>
         <translation>--%1 给出了两次</translation>
     </message>
+    <message>
+        <source>Reads, plans, sets, verifies and takes back parameters of many cameras and recorders.
+
+Commands:
+  families [FAMILY]           the families of parameters; keys, types, ranges and choices of one
+  read FAMILY                 what the devices hold
+  plan FAMILY VALUES          what &quot;apply&quot; would change; changes nothing
+  apply FAMILY VALUES         sets the values, after a question on the terminal or with --yes
+  verify RUN | FAMILY VALUES  whether the devices hold what the run wrote, or these values
+  undo RUN                    takes back what a run has written and nobody has changed since
+  history [RUN]               the recorded runs; what one of them did
+  history prune               removes old runs, as the history&apos;s settings say
+  history export RUN          writes a run to standard output; &quot;import FILE…&quot; takes it in elsewhere
+  discover                    ONVIF cameras that answer a search of the local network
+
+VALUES: --set KEY=VALUE …, or --values FILE. RUN: an id, its beginning, or &quot;last&quot;.
+SELECTION, with commas: all, offered, an id, a serial number, name=GLOB, ip=10.1.0.0/16, kind=camera, kind=recorder, group=NAME, @FILE, failed:RUN, and not: before any of them.
+
+Exit codes: 0 done on all selected devices, 1 failed on some, 2 wrong usage, 3 wrong input, 4 no device, 5 some not reached, 6 stopped, 7 verification found differences, 8 the history cannot be written or read; plan: 10 something would change.</source>
+        <translation>读取、计划、设置、核实并撤销许多摄像机和录像机的参数。
+
+命令：
+  families [FAMILY]           参数类别；某一类别的键、类型、范围和可选值
+  read FAMILY                 设备的当前值
+  plan FAMILY VALUES          “apply”将更改什么；不作任何更改
+  apply FAMILY VALUES         设置这些值，须先在终端确认或给出 --yes
+  verify RUN | FAMILY VALUES  设备是否仍为该运行写入的值，或这些值
+  undo RUN                    撤销某次运行写入且之后无人更改的值
+  history [RUN]               已记录的运行；某次运行所做的事
+  history prune               按历史记录的设置删除旧的运行
+  history export RUN          将一次运行写到标准输出；“import FILE…”可在别处导入
+  discover                    在本地网络中查找时应答的 ONVIF 摄像机
+
+VALUES：--set KEY=VALUE …，或 --values FILE。RUN：id、id 的开头或“last”。
+SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip=10.1.0.0/16、kind=camera、kind=recorder、group=NAME、@FILE、failed:RUN，每一项之前都可加 not:。
+
+退出码：0 所选设备全部完成，1 部分失败，2 用法错误，3 输入有误，4 没有设备，5 部分未连上，6 已停止，7 核实发现差异，8 无法写入或读取历史记录；plan：10 会有更改。</translation>
+    </message>
+    <message>
+        <source>M simulated ONVIF cameras beside them (with --demo).</source>
+        <translation>另加 M 台模拟 ONVIF 摄像机（与 --demo 一起使用）。</translation>
+    </message>
+    <message>
+        <source>How long a device may take for an answer, in seconds (default 15); of discover: how long to search (default 5).</source>
+        <translation>设备应答的时限，以秒为单位（默认 15）；对于 discover：查找的时长（默认 5）。</translation>
+    </message>
+    <message>
+        <source>Searches by this network interface; all when not given.</source>
+        <translation>通过此网络接口查找；未给出时为全部。</translation>
+    </message>
+    <message>
+        <source>--interface takes the name of a network interface</source>
+        <translation>--interface 需要网络接口的名称</translation>
+    </message>
+    <message>
+        <source>--onvif needs --demo: it brings simulated cameras along</source>
+        <translation>--onvif 需要 --demo：它附带模拟摄像机</translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::CommandInput</name>
@@ -323,6 +341,12 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
         <source>nothing more is sent; what has left is awaited (once more ends at once)</source>
         <translation>不再发送；正在等待已发出请求的应答（再次中断则立即结束）</translation>
     </message>
+    <message numerus="yes">
+        <source>%n device(s) speak ONVIF, which does not know this: %1</source>
+        <translation>
+            <numerusform>%n 台设备使用 ONVIF，它没有以下内容：%1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>orda_batch::DeviceResults</name>
@@ -402,6 +426,33 @@ SELECTION（以逗号分隔）：all、offered、id、序列号、name=GLOB、ip
     <message>
         <source>the selection has no device</source>
         <translation>所选范围中没有设备</translation>
+    </message>
+</context>
+<context>
+    <name>orda_batch::DiscoverCommand</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>硬件</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>%1 says that it is at %2</source>
+        <translation>%1 自称地址为 %2</translation>
+    </message>
+    <message>
+        <source>no camera has answered on %1</source>
+        <translation>%1 上没有摄像机应答</translation>
     </message>
 </context>
 <context>

@@ -180,6 +180,14 @@
         <source>&amp;Clear list</source>
         <translation>Liste &amp;leeren</translation>
     </message>
+    <message>
+        <source>&amp;Find cameras…</source>
+        <translation>&amp;Kameras finden …</translation>
+    </message>
+    <message>
+        <source>Searches the local network for ONVIF cameras when told to, and puts them into the inventory</source>
+        <translation>Sucht auf Befehl im lokalen Netz nach ONVIF-Kameras und nimmt sie in den Bestand auf</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::ClientOptions</name>
@@ -274,6 +282,18 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>--run with --inventory writes the form&apos;s default values to real devices: add --yes if that is meant, or set values of your own with orda_batch(1)</source>
         <translation>--run mit --inventory schreibt die Vorgabewerte des Formulars auf echte Geräte: mit --yes, wenn das gemeint ist; eigene Werte setzt orda_batch(1)</translation>
+    </message>
+    <message>
+        <source>M simulated ONVIF cameras beside them (with --demo).</source>
+        <translation>Daneben M simulierte ONVIF-Kameras (mit --demo).</translation>
+    </message>
+    <message>
+        <source>--onvif takes a number of cameras from 1 to %1, not &quot;%2&quot;</source>
+        <translation>--onvif nimmt eine Anzahl von Kameras von 1 bis %1, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>--onvif needs --demo: it brings simulated cameras along</source>
+        <translation>--onvif braucht --demo: es bringt simulierte Kameras mit</translation>
     </message>
 </context>
 <context>
@@ -828,6 +848,181 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     </message>
 </context>
 <context>
+    <name>orda_client::FindWindow</name>
+    <message>
+        <source>Cameras that this is about</source>
+        <translation>Betroffene Kameras</translation>
+    </message>
+    <message>
+        <source>Find cameras</source>
+        <translation>Kameras finden</translation>
+    </message>
+    <message>
+        <source>An https camera whose certificate no authority has signed is refused at first (&quot;certificate not accepted&quot;), until its fingerprint stands in the inventory.</source>
+        <translation>Eine https-Kamera, deren Zertifikat keine Zertifizierungsstelle signiert hat, wird zunächst abgelehnt („Zertifikat nicht akzeptiert“), bis ihr Fingerabdruck im Bestand steht.</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>Searches all columns (%1)</source>
+        <translation>Sucht in allen Spalten (%1)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>network interfaces</comment>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>&amp;Network interface</source>
+        <translation>&amp;Netzwerkschnittstelle</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Finden</translation>
+    </message>
+    <message>
+        <source>Asks all ONVIF cameras of the local network to answer; nothing is sent before</source>
+        <translation>Bittet alle ONVIF-Kameras des lokalen Netzes um Antwort; vorher wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>&amp;Benutzername</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Passwort</translation>
+    </message>
+    <message>
+        <source>Goes into the inventory file, which only you can read, and nowhere else</source>
+        <translation>Kommt in die Bestandsdatei, die nur Sie lesen können, und sonst nirgendwohin</translation>
+    </message>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Gruppe</translation>
+    </message>
+    <message>
+        <source>To choose devices by, such as a building; may be empty</source>
+        <translation>Um Geräte danach auszuwählen, etwa ein Gebäude; darf leer sein</translation>
+    </message>
+    <message>
+        <source>&amp;Add to inventory</source>
+        <translation>In den Bestand &amp;aufnehmen</translation>
+    </message>
+    <message>
+        <source>Puts the ticked cameras that are shown into the inventory, with this account</source>
+        <translation>Nimmt die angezeigten angehakten Kameras mit diesem Konto in den Bestand auf</translation>
+    </message>
+    <message>
+        <source>&amp;Tick new ones</source>
+        <translation>Neue an&amp;haken</translation>
+    </message>
+    <message>
+        <source>Ticks what is shown and not in the inventory yet, but for cameras that say they are elsewhere than where their answer came from</source>
+        <translation>Hakt an, was angezeigt wird und noch nicht im Bestand steht, außer Kameras, die eine andere Adresse nennen als die, von der ihre Antwort kam</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>S&amp;toppen</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche läuft …</translation>
+    </message>
+    <message>
+        <source>No camera has answered. Cameras answer only within the same network, and only while their discovery (WS-Discovery) is switched on.</source>
+        <translation>Keine Kamera hat geantwortet. Kameras antworten nur innerhalb desselben Netzes und nur, solange ihre Auffindbarkeit (WS-Discovery) eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>&quot;Find&quot; asks all ONVIF cameras of the local network to answer.</source>
+        <translation>„Finden“ bittet alle ONVIF-Kameras des lokalen Netzes um Antwort.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln camera(s) found</source>
+        <translation>
+            <numerusform>%Ln Kamera gefunden</numerusform>
+            <numerusform>%Ln Kameras gefunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln ticked</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>%Ln angehakt</numerusform>
+            <numerusform>%Ln angehakt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln ticked but hidden by the search, and left out</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>%Ln angehakte von der Suche ausgeblendet und ausgelassen</numerusform>
+            <numerusform>%Ln angehakte von der Suche ausgeblendet und ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 from %2: %3</source>
+        <translation>%1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a name and an address</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 answered and says that it is at %2</source>
+        <translation>%1 hat geantwortet und nennt als Adresse %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>und %Ln weitere</numerusform>
+            <numerusform>und %Ln weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Whoever is at these addresses will be signed on to:</source>
+        <translation>Das Programm meldet sich bei jedem an, der unter diesen Adressen antwortet:</translation>
+    </message>
+    <message>
+        <source>Without a user name hardly any camera lets itself be configured.</source>
+        <translation>Ohne Benutzernamen lässt sich kaum eine Kamera konfigurieren.</translation>
+    </message>
+    <message>
+        <source>You will be asked where to save a new inventory.</source>
+        <translation>Sie werden gefragt, wo ein neuer Bestand gespeichert werden soll.</translation>
+    </message>
+    <message>
+        <source>They are added to %1.</source>
+        <translation>Sie werden in %1 aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Nothing was added: these say that they are at the same address. Tick one of them only.</source>
+        <translation>Es wurde nichts aufgenommen: Diese nennen dieselbe Adresse. Haken Sie nur eine davon an.</translation>
+    </message>
+    <message>
+        <source>Add to inventory</source>
+        <translation>In den Bestand aufnehmen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %Ln camera(s) to the inventory?</source>
+        <translation>
+            <numerusform>%Ln Kamera in den Bestand aufnehmen?</numerusform>
+            <numerusform>%Ln Kameras in den Bestand aufnehmen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aufnehmen</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::FirstSteps</name>
     <message>
         <source>&amp;Open inventory…</source>
@@ -854,10 +1049,6 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <translation>Kameras aufnehmen</translation>
     </message>
     <message>
-        <source>The client does not search the network for cameras. List them in a spreadsheet, each on a line of its own, with the columns id, ip and port, and where they are needed name, serialNumber, userName, password and others, which the manual names. Saved as CSV and imported here, the table becomes an inventory.</source>
-        <translation>Das Programm sucht im Netz nicht nach Kameras. Schreiben Sie sie in eine Tabelle, jede in eine eigene Zeile, mit den Spalten id, ip und port und, wo nötig, name, serialNumber, userName, password und weiteren, die das Handbuch nennt. Als CSV gespeichert und hier importiert, wird die Tabelle zu einem Bestand.</translation>
-    </message>
-    <message>
         <source>&amp;Import devices from CSV…</source>
         <translation>Geräte aus CSV &amp;importieren …</translation>
     </message>
@@ -876,6 +1067,14 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>&amp;Start the demo</source>
         <translation>De&amp;mo starten</translation>
+    </message>
+    <message>
+        <source>ONVIF cameras of the local network can be searched for and put into an inventory. Others are listed in a spreadsheet, each on a line of its own, with the columns id, ip and port, and where they are needed name, serialNumber, userName, password and others, which the manual names. Saved as CSV and imported here, the table becomes an inventory.</source>
+        <translation>ONVIF-Kameras des lokalen Netzes lassen sich suchen und in einen Bestand aufnehmen. Andere schreiben Sie in eine Tabelle, jede in eine eigene Zeile, mit den Spalten id, ip und port und, wo nötig, name, serialNumber, userName, password und weiteren, die das Handbuch nennt. Als CSV gespeichert und hier importiert, wird die Tabelle zu einem Bestand.</translation>
+    </message>
+    <message>
+        <source>Find &amp;cameras…</source>
+        <translation>&amp;Kameras finden …</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1111,50 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>These are not in the list now:</source>
         <translation>Diese stehen jetzt nicht in der Liste:</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::FoundModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Answered from</source>
+        <translation>Antwort von</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(ohne Namen)</translation>
+    </message>
+    <message>
+        <source>says that it is at %1</source>
+        <translation>nennt als Adresse %1</translation>
+    </message>
+    <message>
+        <source>in the inventory already</source>
+        <translation>schon im Bestand</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <comment>a camera</comment>
+        <translation>neu</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1284,40 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>C&amp;lose</source>
         <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::InventoryAddition</name>
+    <message>
+        <source>Add to inventory</source>
+        <translation>In den Bestand aufnehmen</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; %3</source>
+        <translation>%1: „%2“ %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>Save the inventory of %n device(s)</source>
+        <translation>
+            <numerusform>Den Bestand mit %n Gerät speichern</numerusform>
+            <numerusform>Den Bestand mit %n Geräten speichern</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inventories (*.json);;All files (*)</source>
+        <translation>Bestände (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was added to %1: %2.</source>
+        <translation>In %1 wurde nichts aufgenommen: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -3124,6 +3401,13 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
     <message>
         <source>%1: no address is given</source>
         <translation>%1: es ist keine Adresse angegeben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln of the devices speak(s) ONVIF, which does not know this: %1</source>
+        <translation>
+            <numerusform>%Ln der Geräte spricht ONVIF, das Folgendes nicht kennt: %1</numerusform>
+            <numerusform>%Ln der Geräte sprechen ONVIF, das Folgendes nicht kennt: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -82,6 +82,47 @@
     </message>
 </context>
 <context>
+    <name>orda_client::FindWindow</name>
+    <message numerus="yes">
+        <source>%Ln camera(s) found</source>
+        <translation>
+            <numerusform>%Ln camera found</numerusform>
+            <numerusform>%Ln cameras found</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln ticked</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>%Ln ticked</numerusform>
+            <numerusform>%Ln ticked</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln ticked but hidden by the search, and left out</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>%Ln ticked but hidden by the search, and left out</numerusform>
+            <numerusform>%Ln ticked but hidden by the search, and left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>and %Ln more</numerusform>
+            <numerusform>and %Ln more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %Ln camera(s) to the inventory?</source>
+        <translation>
+            <numerusform>Add %Ln camera to the inventory?</numerusform>
+            <numerusform>Add %Ln cameras to the inventory?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>orda_client::FormChanges</name>
     <message numerus="yes">
         <source>Ticked %1 of %Ln device(s) that differ in the device list, and no others.</source>
@@ -115,6 +156,16 @@
         <translation>
             <numerusform>%n error in %1. Nothing has been imported.</numerusform>
             <numerusform>%n errors in %1. Nothing has been imported.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::InventoryAddition</name>
+    <message numerus="yes">
+        <source>Save the inventory of %n device(s)</source>
+        <translation>
+            <numerusform>Save the inventory of %n device</numerusform>
+            <numerusform>Save the inventory of %n devices</numerusform>
         </translation>
     </message>
 </context>
@@ -448,6 +499,16 @@
         <translation>
             <numerusform>&amp;Tick %Ln device</numerusform>
             <numerusform>&amp;Tick %Ln devices</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::ValueChecks</name>
+    <message numerus="yes">
+        <source>%Ln of the devices speak(s) ONVIF, which does not know this: %1</source>
+        <translation>
+            <numerusform>%Ln of the devices speaks ONVIF, which does not know this: %1</numerusform>
+            <numerusform>%Ln of the devices speak ONVIF, which does not know this: %1</numerusform>
         </translation>
     </message>
 </context>

@@ -180,6 +180,14 @@
         <source>&amp;Clear list</source>
         <translation>清空列表(&amp;C)</translation>
     </message>
+    <message>
+        <source>&amp;Find cameras…</source>
+        <translation>查找摄像机(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Searches the local network for ONVIF cameras when told to, and puts them into the inventory</source>
+        <translation>按指令在本地网络中查找 ONVIF 摄像机，并将其添加到清单</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::ClientOptions</name>
@@ -274,6 +282,18 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>--run with --inventory writes the form&apos;s default values to real devices: add --yes if that is meant, or set values of your own with orda_batch(1)</source>
         <translation>--run 与 --inventory 一起使用会把表单的默认值写入真实设备：如确有此意请加 --yes，否则用 orda_batch(1) 设置自己的值</translation>
+    </message>
+    <message>
+        <source>M simulated ONVIF cameras beside them (with --demo).</source>
+        <translation>另加 M 台模拟 ONVIF 摄像机（与 --demo 一起使用）。</translation>
+    </message>
+    <message>
+        <source>--onvif takes a number of cameras from 1 to %1, not &quot;%2&quot;</source>
+        <translation>--onvif 接受 1 到 %1 的摄像机数，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>--onvif needs --demo: it brings simulated cameras along</source>
+        <translation>--onvif 需要 --demo：它附带模拟摄像机</translation>
     </message>
 </context>
 <context>
@@ -819,6 +839,176 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     </message>
 </context>
 <context>
+    <name>orda_client::FindWindow</name>
+    <message>
+        <source>Cameras that this is about</source>
+        <translation>相关的摄像机</translation>
+    </message>
+    <message>
+        <source>Find cameras</source>
+        <translation>查找摄像机</translation>
+    </message>
+    <message>
+        <source>An https camera whose certificate no authority has signed is refused at first (&quot;certificate not accepted&quot;), until its fingerprint stands in the inventory.</source>
+        <translation>证书未经机构签发的 https 摄像机起初会被拒绝（“证书不被接受”），直到清单中有其指纹为止。</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>摄像机</translation>
+    </message>
+    <message>
+        <source>Searches all columns (%1)</source>
+        <translation>搜索所有列 (%1)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>network interfaces</comment>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>&amp;Network interface</source>
+        <translation>网络接口(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>查找(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Asks all ONVIF cameras of the local network to answer; nothing is sent before</source>
+        <translation>请求本地网络中的所有 ONVIF 摄像机应答；在此之前不发送任何内容</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>用户名(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>密码(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Goes into the inventory file, which only you can read, and nowhere else</source>
+        <translation>只写入清单文件，该文件只有您能读取</translation>
+    </message>
+    <message>
+        <source>&amp;Group</source>
+        <translation>组(&amp;G)</translation>
+    </message>
+    <message>
+        <source>To choose devices by, such as a building; may be empty</source>
+        <translation>供选择设备时使用，例如一栋楼；可以为空</translation>
+    </message>
+    <message>
+        <source>&amp;Add to inventory</source>
+        <translation>添加到清单(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Puts the ticked cameras that are shown into the inventory, with this account</source>
+        <translation>将显示且已勾选的摄像机连同此账户添加到清单</translation>
+    </message>
+    <message>
+        <source>&amp;Tick new ones</source>
+        <translation>勾选新的(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Ticks what is shown and not in the inventory yet, but for cameras that say they are elsewhere than where their answer came from</source>
+        <translation>勾选显示且尚未在清单中的摄像机，但自称地址与应答来源不同的除外</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>停止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>正在查找…</translation>
+    </message>
+    <message>
+        <source>No camera has answered. Cameras answer only within the same network, and only while their discovery (WS-Discovery) is switched on.</source>
+        <translation>没有摄像机应答。摄像机只在同一网络内应答，而且须开启其发现功能 (WS-Discovery)。</translation>
+    </message>
+    <message>
+        <source>&quot;Find&quot; asks all ONVIF cameras of the local network to answer.</source>
+        <translation>按“查找”会请求本地网络中的所有 ONVIF 摄像机应答。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln camera(s) found</source>
+        <translation>
+            <numerusform>找到 %Ln 台摄像机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln ticked</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>已勾选 %Ln 台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln ticked but hidden by the search, and left out</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>%Ln 台勾选的摄像机被搜索隐藏，不会添加</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 from %2: %3</source>
+        <translation>%1（来自 %2）：%3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a name and an address</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 answered and says that it is at %2</source>
+        <translation>%1 应答，自称地址为 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <comment>cameras</comment>
+        <translation>
+            <numerusform>以及另外 %Ln 台</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Whoever is at these addresses will be signed on to:</source>
+        <translation>程序将登录到这些地址上的任何设备：</translation>
+    </message>
+    <message>
+        <source>Without a user name hardly any camera lets itself be configured.</source>
+        <translation>没有用户名，几乎所有摄像机都无法配置。</translation>
+    </message>
+    <message>
+        <source>You will be asked where to save a new inventory.</source>
+        <translation>程序会询问新清单的保存位置。</translation>
+    </message>
+    <message>
+        <source>They are added to %1.</source>
+        <translation>它们将添加到 %1。</translation>
+    </message>
+    <message>
+        <source>Nothing was added: these say that they are at the same address. Tick one of them only.</source>
+        <translation>未添加任何内容：以下摄像机自称在同一地址。请只勾选其中一台。</translation>
+    </message>
+    <message>
+        <source>Add to inventory</source>
+        <translation>添加到清单</translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %Ln camera(s) to the inventory?</source>
+        <translation>
+            <numerusform>将 %Ln 台摄像机添加到清单？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+</context>
+<context>
     <name>orda_client::FirstSteps</name>
     <message>
         <source>&amp;Open inventory…</source>
@@ -845,10 +1035,6 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <translation>添加摄像机</translation>
     </message>
     <message>
-        <source>The client does not search the network for cameras. List them in a spreadsheet, each on a line of its own, with the columns id, ip and port, and where they are needed name, serialNumber, userName, password and others, which the manual names. Saved as CSV and imported here, the table becomes an inventory.</source>
-        <translation>本程序不会在网络中搜索摄像机。请将它们列在电子表格中，每台一行，包含 id、ip 和 port 列，必要时还有 name、serialNumber、userName、password 以及手册中列出的其他列。将表格保存为 CSV 并在此导入，即成为清单。</translation>
-    </message>
-    <message>
         <source>&amp;Import devices from CSV…</source>
         <translation>从 CSV 导入设备(&amp;I)…</translation>
     </message>
@@ -867,6 +1053,14 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>&amp;Start the demo</source>
         <translation>开始演示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>ONVIF cameras of the local network can be searched for and put into an inventory. Others are listed in a spreadsheet, each on a line of its own, with the columns id, ip and port, and where they are needed name, serialNumber, userName, password and others, which the manual names. Saved as CSV and imported here, the table becomes an inventory.</source>
+        <translation>本地网络中的 ONVIF 摄像机可以查找并添加到清单。其他摄像机请列在电子表格中，每台一行，包含 id、ip 和 port 列，必要时还有 name、serialNumber、userName、password 以及手册中列出的其他列。将表格保存为 CSV 并在此导入，即成为清单。</translation>
+    </message>
+    <message>
+        <source>Find &amp;cameras…</source>
+        <translation>查找摄像机(&amp;C)…</translation>
     </message>
 </context>
 <context>
@@ -902,6 +1096,50 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>These are not in the list now:</source>
         <translation>以下设备当前不在列表中：</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::FoundModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Answered from</source>
+        <translation>应答来源</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>硬件</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>（无名称）</translation>
+    </message>
+    <message>
+        <source>says that it is at %1</source>
+        <translation>自称地址为 %1</translation>
+    </message>
+    <message>
+        <source>in the inventory already</source>
+        <translation>已在清单中</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <comment>a camera</comment>
+        <translation>新</translation>
     </message>
 </context>
 <context>
@@ -1028,6 +1266,39 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>C&amp;lose</source>
         <translation>关闭(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>orda_client::InventoryAddition</name>
+    <message>
+        <source>Add to inventory</source>
+        <translation>添加到清单</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; %3</source>
+        <translation>%1：“%2”%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>Save the inventory of %n device(s)</source>
+        <translation>
+            <numerusform>保存含 %n 台设备的清单</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inventories (*.json);;All files (*)</source>
+        <translation>清单 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>Nothing was added to %1: %2.</source>
+        <translation>未向 %1 添加任何内容：%2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -3071,6 +3342,12 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
     <message>
         <source>%1: no address is given</source>
         <translation>%1：未给出地址</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln of the devices speak(s) ONVIF, which does not know this: %1</source>
+        <translation>
+            <numerusform>其中 %Ln 台设备使用 ONVIF，它没有以下内容：%1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

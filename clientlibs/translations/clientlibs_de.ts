@@ -78,14 +78,6 @@
         <translation>muss vorhanden und darf nicht leer sein</translation>
     </message>
     <message>
-        <source>must be an address such as wss://relay.example:443/camera-1</source>
-        <translation>muss eine Adresse wie wss://relay.example:443/camera-1 sein</translation>
-    </message>
-    <message>
-        <source>must not be true beside a &quot;url&quot; that begins with ws:</source>
-        <translation>darf neben einer „url“, die mit ws: beginnt, nicht true sein</translation>
-    </message>
-    <message>
         <source>must be an IPv4 address where no &quot;url&quot; is given</source>
         <translation>muss eine IPv4-Adresse sein, wo keine „url“ angegeben ist</translation>
     </message>
@@ -96,10 +88,6 @@
     <message>
         <source>must be the path of an address and begin with &quot;/&quot;</source>
         <translation>muss der Pfad einer Adresse sein und mit „/“ beginnen</translation>
-    </message>
-    <message>
-        <source>has no use without TLS: set tls to true or give a wss: url</source>
-        <translation>ist ohne TLS nutzlos: tls auf true setzen oder eine wss:-Adresse angeben</translation>
     </message>
     <message>
         <source>%1: cannot be written: %2</source>
@@ -120,6 +108,37 @@
     <message>
         <source>%1 (id &quot;%2&quot;)</source>
         <translation>%1 (id „%2“)</translation>
+    </message>
+    <message>
+        <source>must be an address such as %1</source>
+        <translation>muss eine Adresse wie %1 sein</translation>
+    </message>
+    <message>
+        <source>must not be true beside a &quot;url&quot; that begins with %1:</source>
+        <translation>darf neben einer „url“, die mit %1: beginnt, nicht true sein</translation>
+    </message>
+    <message>
+        <source>has no use without TLS: set tls to true or give a %1: url</source>
+        <translation>ist ohne TLS nutzlos: tls auf true setzen oder eine %1:-Adresse angeben</translation>
+    </message>
+</context>
+<context>
+    <name>OnvifCode</name>
+    <message>
+        <source>The device does not allow this value</source>
+        <translation>Das Gerät lässt diesen Wert nicht zu</translation>
+    </message>
+    <message>
+        <source>The device has no counterpart for this in ONVIF</source>
+        <translation>Das Gerät hat dafür in ONVIF keine Entsprechung</translation>
+    </message>
+    <message>
+        <source>The device refused it</source>
+        <translation>Das Gerät hat es abgelehnt</translation>
+    </message>
+    <message>
+        <source>The connection to the device failed, or its answer was of no use</source>
+        <translation>Die Verbindung zum Gerät ist fehlgeschlagen, oder seine Antwort war unbrauchbar</translation>
     </message>
 </context>
 <context>
@@ -156,6 +175,29 @@
     <message>
         <source>Space ticks and unticks the selected rows</source>
         <translation>Die Leertaste hakt die ausgewählten Zeilen an oder ab</translation>
+    </message>
+</context>
+<context>
+    <name>vms_sdk::OnvifDiscovery</name>
+    <message>
+        <source>There is no network to search: no interface is up that has an IPv4 address and multicast.</source>
+        <translation>Es gibt kein Netz, in dem gesucht werden kann: Keine Schnittstelle ist aktiv, die eine IPv4-Adresse und Multicast hat.</translation>
+    </message>
+    <message>
+        <source>There is no network interface &quot;%1&quot;, nor another that can be searched.</source>
+        <translation>Es gibt keine Netzwerkschnittstelle „%1“ und auch keine andere, über die gesucht werden kann.</translation>
+    </message>
+    <message>
+        <source>There is no network interface &quot;%1&quot;; these can be searched: %2.</source>
+        <translation>Es gibt keine Netzwerkschnittstelle „%1“; gesucht werden kann über: %2.</translation>
+    </message>
+    <message>
+        <source>The network interface &quot;%1&quot; cannot be searched: it is not up, or has no IPv4 address or no multicast.</source>
+        <translation>Über die Netzwerkschnittstelle „%1“ kann nicht gesucht werden: Sie ist nicht aktiv oder hat keine IPv4-Adresse oder kein Multicast.</translation>
+    </message>
+    <message>
+        <source>The search cannot be sent: %1</source>
+        <translation>Die Suche lässt sich nicht senden: %1</translation>
     </message>
 </context>
 </TS>

@@ -78,14 +78,6 @@
         <translation>必须存在且不能为空</translation>
     </message>
     <message>
-        <source>must be an address such as wss://relay.example:443/camera-1</source>
-        <translation>必须是类似 wss://relay.example:443/camera-1 的地址</translation>
-    </message>
-    <message>
-        <source>must not be true beside a &quot;url&quot; that begins with ws:</source>
-        <translation>“url”以 ws: 开头时不得为 true</translation>
-    </message>
-    <message>
         <source>must be an IPv4 address where no &quot;url&quot; is given</source>
         <translation>未给出“url”时必须是 IPv4 地址</translation>
     </message>
@@ -96,10 +88,6 @@
     <message>
         <source>must be the path of an address and begin with &quot;/&quot;</source>
         <translation>必须是地址的路径并以“/”开头</translation>
-    </message>
-    <message>
-        <source>has no use without TLS: set tls to true or give a wss: url</source>
-        <translation>没有 TLS 时无用：请将 tls 设为 true 或给出 wss: 地址</translation>
     </message>
     <message>
         <source>%1: cannot be written: %2</source>
@@ -120,6 +108,37 @@
     <message>
         <source>%1 (id &quot;%2&quot;)</source>
         <translation>%1（id“%2”）</translation>
+    </message>
+    <message>
+        <source>must be an address such as %1</source>
+        <translation>必须是类似 %1 的地址</translation>
+    </message>
+    <message>
+        <source>must not be true beside a &quot;url&quot; that begins with %1:</source>
+        <translation>“url”以 %1: 开头时不得为 true</translation>
+    </message>
+    <message>
+        <source>has no use without TLS: set tls to true or give a %1: url</source>
+        <translation>没有 TLS 时无用：请将 tls 设为 true 或给出 %1: 地址</translation>
+    </message>
+</context>
+<context>
+    <name>OnvifCode</name>
+    <message>
+        <source>The device does not allow this value</source>
+        <translation>设备不允许此值</translation>
+    </message>
+    <message>
+        <source>The device has no counterpart for this in ONVIF</source>
+        <translation>设备在 ONVIF 中没有与此对应的内容</translation>
+    </message>
+    <message>
+        <source>The device refused it</source>
+        <translation>设备拒绝了此操作</translation>
+    </message>
+    <message>
+        <source>The connection to the device failed, or its answer was of no use</source>
+        <translation>与设备的连接失败，或其应答无法使用</translation>
     </message>
 </context>
 <context>
@@ -156,6 +175,29 @@
     <message>
         <source>Space ticks and unticks the selected rows</source>
         <translation>按空格键勾选或取消勾选所选行</translation>
+    </message>
+</context>
+<context>
+    <name>vms_sdk::OnvifDiscovery</name>
+    <message>
+        <source>There is no network to search: no interface is up that has an IPv4 address and multicast.</source>
+        <translation>没有可查找的网络：没有已启用、有 IPv4 地址且支持多播的接口。</translation>
+    </message>
+    <message>
+        <source>There is no network interface &quot;%1&quot;, nor another that can be searched.</source>
+        <translation>没有网络接口“%1”，也没有其他可供查找的接口。</translation>
+    </message>
+    <message>
+        <source>There is no network interface &quot;%1&quot;; these can be searched: %2.</source>
+        <translation>没有网络接口“%1”；可供查找的接口有：%2。</translation>
+    </message>
+    <message>
+        <source>The network interface &quot;%1&quot; cannot be searched: it is not up, or has no IPv4 address or no multicast.</source>
+        <translation>网络接口“%1”无法用于查找：它未启用，或没有 IPv4 地址，或不支持多播。</translation>
+    </message>
+    <message>
+        <source>The search cannot be sent: %1</source>
+        <translation>无法发出查找请求：%1</translation>
     </message>
 </context>
 </TS>

@@ -76,6 +76,13 @@
     </message>
 </context>
 <context>
+    <name>orda_engine::ReadBatch</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>orda_engine::ReadJob</name>
     <message>
         <source>There is no connection to devices.</source>

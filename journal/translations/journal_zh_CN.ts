@@ -204,5 +204,10 @@
         <source>%1; written before: %2</source>
         <translation>%1；之前已写入：%2</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>failure, reason</comment>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 </TS>

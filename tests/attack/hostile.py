@@ -6,6 +6,7 @@ import socket
 import struct
 from dataclasses import dataclass, field
 
+import cameras as onvif
 from wire import BINARY, CHUNK, CLOSE, CONTINUATION, PING, PONG, TEXT
 
 MEGABYTE = b"x" * (1 << 20)
@@ -280,6 +281,8 @@ class Attack:
     margin: float = 8     # seconds that the client may take beyond that
     ticked: str = "healthy"  # or "all", where the hostile ones get requests and the run may wait for their time-outs
     family: str = "audio"
+    cameras: int = 0         # ONVIF cameras of the fleet
+    program: str = "orda_client"  # or "orda_batch"
     on_fleet: bool = False   # hostile clients of orda_fleet instead of hostile devices of orda_client
 
 
@@ -356,4 +359,36 @@ def rows():
                  [incomplete(signed_on=False)], 400, long=14, on_fleet=True)
 
 
-ATTACKS = {attack.name: attack for attack in rows()}
+def camera_rows():
+    """Of ONVIF cameras."""
+    def row(name, what, hostile, each=1, *, batch=False, ticked="all", **more):
+        return Attack(name, what, "", hostile, each, ticked=ticked, cameras=10, program="orda_batch" if batch else "orda_client",
+                      **{"long": 0, "margin": 35, **more})
+
+    kinds = [name for name in onvif.ENDLESS if name != "no HTTP"]
+    yield row("camera-endless-unsigned", "ONVIF: heads, lines, chunks, bodies without end, as the first answer",
+              [onvif.camera(onvif.endless(name)) for name in onvif.ENDLESS], 2, ticked="healthy", short=2, long=20)
+    yield row("camera-endless", "the same in answer to reads", [onvif.camera(onvif.endless(name), onvif.MEDIA) for name in onvif.ENDLESS], 2)
+    yield row("camera-drips", "a byte each 0.3 s of these, at sign-on and in answer to reads",
+              [onvif.camera(onvif.endless(name, 0.3), at) for name in kinds for at in ((), onvif.MEDIA)], 4, batch=True)
+    yield row("camera-lengths", "lengths that lie: longer, shorter, negative, 2^63, two of them",
+              [onvif.camera(bad, at) for bad in onvif.LENGTHS for at in ((), onvif.MEDIA)], 3)
+    yield row("camera-large", "4 MiB in answer to each operation of 120", [onvif.camera(onvif.large, onvif.MEDIA)], 120)
+    yield row("camera-large-batch", "the same, by orda_batch", [onvif.camera(onvif.large, onvif.MEDIA)], 120, batch=True)
+    yield row("camera-hoarded", "4 MiB from each of 150, one after the other, each held until another read of its camera ends",
+              [onvif.camera(onvif.hoarded, onvif.MEDIA)], 150, batch=True)
+    yield row("camera-xml", "XML too deep or wide, with DTD or entities; answers to another operation",
+              [onvif.camera(bad, at) for bad in onvif.XML for at in ((), onvif.MEDIA)], 3, batch=True, short=0)
+    yield row("camera-pushed", "answers without a request; half-closed; deaf; answers of the last time",
+              [onvif.camera(bad, at) for bad in (onvif.pushed, onvif.half_closed, onvif.deaf, onvif.replay) for at in ((), onvif.MEDIA)], 3)
+    yield row("camera-moved", "sent to another host, by HTTP or as the place of the services: nobody asks there",
+              [onvif.stranger, *(onvif.camera(onvif.moved(status), at) for status in ("301 Moved", "302 Found", "307 Temporary Redirect",
+               "308 Permanent Redirect") for at in ((), onvif.MEDIA)), onvif.camera(None, ("",), host="%s:%d" % onvif.STRANGER)], batch=True, short=0)
+    yield row("camera-accounts", "challenges of 100 kB, without a nonce, stale for ever; refuses everything: attempts stay few",
+              onvif.ASKING, 3, short=0)
+    yield row("camera-clocks", "years 1 and 9999, no numbers, a new time at each look",
+              [onvif.camera(onvif.clock(*date), ("GetSystemDateAndTime",), ask=onvif.http(onvif.FAULT))
+               for date in ((9999, 12, 31), (1, 1, 1), (0, 0, 0), ("x" * 100_000, 13, -1), (2**31, 2**32, 2**64))], 3)
+
+
+ATTACKS = {attack.name: attack for attack in (*rows(), *camera_rows())}

@@ -42,6 +42,7 @@ CameraLine::Reply replyFrom(const HttpAnswer &http)
     CameraLine::Reply reply;
     reply.challenges = http.challenges;
     reply.reason = http.reason;
+    reply.bytes = http.body.size();
     if (http.status == 0) {
         reply.trouble = http.error;
         reply.mayBeDone = http.hasLeft;

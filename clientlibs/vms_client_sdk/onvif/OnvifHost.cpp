@@ -1,10 +1,20 @@
 #include <vms_client_sdk/onvif/OnvifHost.h>
 
 #include <vms_client_sdk/onvif/OnvifLink.h>
+#include <vms_client_sdk/onvif/OnvifRequest.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace vms_sdk {
+
+namespace {
+
+// Of the answers that requests hold while they wait for the next ones. Read, these take eight times the memory. A
+// request to most cameras holds under 50 KiB.
+constexpr qint64 maxHeld = 24 << 20;
+
+} // namespace
 
 OnvifHost::OnvifHost(const OnvifOptions &options, Backlog &backlog, QObject *parent)
     : QObject(parent)
@@ -41,6 +51,23 @@ OnvifHost::Place OnvifHost::takePlace()
                         },
                         Qt::QueuedConnection);
             }};
+}
+
+void OnvifHost::hold(OnvifRequest *request, qint64 bytes)
+{
+    if (!request)
+        return;
+    m_held[request] += bytes;
+    m_heldInAll += bytes;
+    if (m_heldInAll <= maxHeld)
+        return;
+    const auto most = std::max_element(m_held.cbegin(), m_held.cend());
+    static_cast<OnvifRequest *>(most.key())->endNow(QStringLiteral("its answers are the longest of too many at once"));
+}
+
+void OnvifHost::release(QObject *request)
+{
+    m_heldInAll -= m_held.take(request);
 }
 
 void OnvifHost::fillLater()

@@ -4,6 +4,7 @@
 #include <vms_client_sdk/onvif/HttpExchanges.h>
 #include <vms_client_sdk/onvif/OnvifTransport.h>
 
+#include <QHash>
 #include <QObject>
 #include <QQueue>
 #include <QSet>
@@ -13,6 +14,7 @@
 namespace vms_sdk {
 
 class OnvifLink;
+class OnvifRequest;
 
 /// What the links to cameras share: the exchanges, the limit of what waits for the window, and the places for cameras
 /// that sign on. Network thread.
@@ -34,6 +36,11 @@ public:
     /// Gives up the place, or the place in the queue.
     void leave(OnvifLink *link);
 
+    /// Counts an answer that a request has got, until release(). Where all of them hold too much, the request that
+    /// holds most ends. @param request may be null: then nobody keeps it
+    void hold(OnvifRequest *request, qint64 bytes);
+    void release(QObject *request);
+
     /// A place among the requests that are carried out at once; free again when the last copy of it is gone.
     using Place = std::shared_ptr<void>;
     bool hasPlace() const { return m_requests < m_options.maxRequests; }
@@ -51,6 +58,8 @@ private:
     HttpExchanges m_exchanges;
     QQueue<OnvifLink *> m_queue, m_failed; ///< cameras that are switched off must not hold the others up
     QSet<OnvifLink *> m_signingOn;
+    QHash<QObject *, qint64> m_held; ///< bytes by request
+    qint64 m_heldInAll = 0;
     bool m_willFill = false;
     int m_requests = 0; ///< places that are taken
     bool m_willTell = false;

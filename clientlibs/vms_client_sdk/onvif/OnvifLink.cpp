@@ -195,7 +195,8 @@ void OnvifLink::call(OnvifService service, const XmlElement &operation, bool isR
             owner, [=] { done(result); }, Qt::QueuedConnection);
         return;
     }
-    m_line.post(service, operation, isRepeatable, owner, [this, done](const CameraLine::Reply &reply) {
+    m_line.post(service, operation, isRepeatable, owner, [this, owner, done](const CameraLine::Reply &reply) {
+        m_host.hold(qobject_cast<OnvifRequest *>(owner), reply.bytes);
         done(reply); // first: what follows may end the requests
         onCalled(reply);
     });
@@ -254,13 +255,15 @@ void OnvifLink::send(const QString &requestId, const QString &text, std::chrono:
             [this, request](const QJsonObject &answer) { onFinished(request, answer); });
     QTimer::singleShot(limit, Qt::PreciseTimer, request, [this, request] {
         if (m_requests.contains(request))
-            request->endNow();
+            request->endNow(QStringLiteral("no answer in time"));
     });
+    connect(request, &QObject::destroyed, &m_host, &OnvifHost::release);
     request->start(); // last: it may finish at once
 }
 
 void OnvifLink::onFinished(OnvifRequest *request, const QJsonObject &answer)
 {
+    m_host.release(request);
     request->deleteLater();
     const QString requestId = m_requests.take(request).id;
     const QString text = QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
@@ -314,14 +317,14 @@ void OnvifLink::endTimedOut(const QSet<QString> &requestIds)
     const QList<OnvifRequest *> requests = m_requests.keys();
     for (OnvifRequest *request : requests)
         if (requestIds.contains(m_requests.value(request).id))
-            request->endNow();
+            request->endNow(QStringLiteral("nobody waits for it any more"));
 }
 
 void OnvifLink::endRequests()
 {
     const QList<OnvifRequest *> requests = m_requests.keys();
     for (OnvifRequest *request : requests)
-        request->endNow();
+        request->endNow(QStringLiteral("the device is not online any more"));
 }
 
 void OnvifLink::setStatus(DevStatus status)

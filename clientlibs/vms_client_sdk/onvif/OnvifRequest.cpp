@@ -52,10 +52,10 @@ void OnvifRequest::start()
     readOn();
 }
 
-void OnvifRequest::endNow()
+void OnvifRequest::endNow(const QString &why)
 {
     if (!m_isFinished)
-        fail(OnvifTrouble, QStringLiteral("no answer in time"), m_isWriting);
+        fail(OnvifTrouble, why, m_isWriting);
 }
 
 void OnvifRequest::readOn()

@@ -36,8 +36,8 @@ public:
     static bool isWrite(const QString &text);
 
     void start(); ///< to be called once; may finish at once
-    /// Time is up: nothing more is sent, and it finishes at once with what it has.
-    void endNow();
+    /// Nothing more is sent, and it finishes at once with what it has.
+    void endNow(const QString &why);
 
 signals:
     void finished(const QJsonObject &answer); ///< once

@@ -12,9 +12,6 @@ namespace vms_sdk {
 
 namespace {
 
-// How often merged changes are checked: they pass at most so much late.
-constexpr std::chrono::milliseconds mergedStatusInterval{100};
-
 // So long before the waiting time is over a request ends: its answer, which says what was written, still counts. Of
 // short waiting times it is a quarter.
 constexpr std::chrono::milliseconds answerMargin{2'000};
@@ -24,12 +21,10 @@ constexpr std::chrono::milliseconds answerMargin{2'000};
 OnvifWorker::OnvifWorker(const OnvifOptions &options)
     : m_options(options)
     , m_backlog([this] { QMetaObject::invokeMethod(this, &OnvifWorker::beginRequests, Qt::QueuedConnection); })
-    , m_statusTimer(this)
+    , m_states(new StatusRelay(this))
 {
-    m_clock.start();
-    m_statusTimer.setInterval(mergedStatusInterval);
-    connect(&m_statusTimer, &QTimer::timeout, this,
-            [this] { passOnChanges(m_statusChanges.takeDue(m_clock.elapsed())); });
+    connect(m_states, &StatusRelay::devStatusChanged, this, &OnvifWorker::devStatusChanged);
+    connect(m_states, &StatusRelay::linkTroubled, this, &OnvifWorker::linkTroubled);
 }
 
 OnvifWorker::~OnvifWorker() = default;
@@ -63,26 +58,8 @@ std::unique_ptr<OnvifLink> OnvifWorker::makeLink(const DevInfo &device)
     auto link = std::make_unique<OnvifLink>(device, *m_host);
     connect(link.get(), &OnvifLink::answered, this, &OnvifWorker::answered);
     connect(link.get(), &OnvifLink::identified, this, &OnvifWorker::identified);
-    connect(link.get(), &OnvifLink::statusChanged, this, &OnvifWorker::onStatusChanged);
+    connect(link.get(), &OnvifLink::statusChanged, m_states, &StatusRelay::add);
     return link;
-}
-
-void OnvifWorker::onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble)
-{
-    passOnChanges(m_statusChanges.add({devId, status, trouble}, m_clock.elapsed()));
-}
-
-void OnvifWorker::passOnChanges(const QVector<StatusChanges::Change> &changes)
-{
-    for (const auto &[devId, status, trouble] : changes) {
-        if (!isOnlineStatus(status))
-            emit linkTroubled(devId, trouble);
-        emit devStatusChanged(devId, status);
-    }
-    if (!m_statusChanges.isHolding())
-        m_statusTimer.stop();
-    else if (!m_statusTimer.isActive())
-        m_statusTimer.start();
 }
 
 void OnvifWorker::connectAgain()

@@ -1,13 +1,11 @@
 #pragma once
 
 #include <vms_client_sdk/Backlog.h>
-#include <vms_client_sdk/StatusChanges.h>
+#include <vms_client_sdk/StatusRelay.h>
 #include <vms_client_sdk/onvif/OnvifTransport.h>
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QSet>
-#include <QTimer>
 #include <QVector>
 
 #include <deque>
@@ -57,8 +55,6 @@ private:
     std::unique_ptr<OnvifLink> makeLink(const DevInfo &device);
     void takeRequests();
     void beginRequests();
-    void onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble);
-    void passOnChanges(const QVector<StatusChanges::Change> &changes);
 
     OnvifOptions m_options;
     std::mutex m_mutex;
@@ -67,9 +63,7 @@ private:
     QSet<QString> m_timedOut;
     std::chrono::milliseconds m_requestTimeout{15'000}; ///< under the mutex; until it is told, the SDK's own
     Backlog m_backlog;
-    QElapsedTimer m_clock;
-    StatusChanges m_statusChanges;
-    QTimer m_statusTimer;
+    StatusRelay *m_states;
     // For their turn. Writes come first: who has begun with a device ends with it, and each device that has ended gives
     // those that wait their whole waiting time again.
     std::deque<Request> m_writes, m_reads;

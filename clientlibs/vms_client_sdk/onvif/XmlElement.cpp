@@ -137,12 +137,13 @@ private:
     void begin();
     void end();
     void addText();
-    QString shared(const QStringRef &uri);
+    QString shared(const QStringRef &text);
+    QString sharedUri(const QStringRef &uri);
 
     QXmlStreamReader m_reader;
     std::vector<XmlElement> m_open;
     std::optional<XmlElement> m_root;
-    QSet<QString> m_uris; ///< so that all names in a namespace share one text
+    QSet<QString> m_texts; ///< names and namespaces, of which a document repeats a few: each is kept once
     int m_count = 0; ///< of elements, attributes and declarations
     int m_inForce = 0; ///< declarations
     bool m_isNamespaceTooLong = false;
@@ -181,30 +182,36 @@ XmlRead Reader::read()
     return {std::move(m_root), {}};
 }
 
-QString Reader::shared(const QStringRef &uri)
+QString Reader::shared(const QStringRef &text)
 {
-    if (uri.isEmpty() || uri.size() > maxXmlNamespace)
+    if (text.isEmpty())
         return {};
-    return *m_uris.insert(uri.toString());
+    const auto known = m_texts.constFind(QString::fromRawData(text.unicode(), text.size()));
+    return known != m_texts.constEnd() ? *known : *m_texts.insert(text.toString());
+}
+
+QString Reader::sharedUri(const QStringRef &uri)
+{
+    return uri.size() > maxXmlNamespace ? QString() : shared(uri);
 }
 
 void Reader::begin()
 {
     XmlElement element;
-    element.namespaceUri = shared(m_reader.namespaceUri());
-    element.prefix = m_reader.prefix().toString();
-    element.name = m_reader.name().toString();
+    element.namespaceUri = sharedUri(m_reader.namespaceUri());
+    element.prefix = shared(m_reader.prefix());
+    element.name = shared(m_reader.name());
     const QXmlStreamNamespaceDeclarations declarations = m_reader.namespaceDeclarations();
     for (const QXmlStreamNamespaceDeclaration &each : declarations) {
         m_isNamespaceTooLong |= each.namespaceUri().size() > maxXmlNamespace;
-        element.declarations.append({each.prefix().toString(), shared(each.namespaceUri())});
+        element.declarations.append({shared(each.prefix()), sharedUri(each.namespaceUri())});
     }
     m_inForce += declarations.size();
     const QXmlStreamAttributes attributes = m_reader.attributes();
     m_count += 1 + declarations.size() + attributes.size();
     for (const QXmlStreamAttribute &each : attributes)
         element.attributes.append(
-            {shared(each.namespaceUri()), each.prefix().toString(), each.name().toString(), each.value().toString()});
+            {sharedUri(each.namespaceUri()), shared(each.prefix()), shared(each.name()), each.value().toString()});
     m_open.push_back(std::move(element));
 }
 
@@ -298,7 +305,10 @@ void addPrefixes(const XmlElement &element, const QSet<QString> &known, QSet<QSt
 
 } // namespace
 
-XmlElement detached(const std::vector<const XmlElement *> &path)
+namespace {
+
+/// Those that are in force at the end of the path, as far as what is there uses them.
+QVector<XmlElement::Declaration> declarationsFor(const std::vector<const XmlElement *> &path)
 {
     QVector<XmlElement::Declaration> inForce;
     QSet<QString> known;
@@ -311,14 +321,29 @@ XmlElement detached(const std::vector<const XmlElement *> &path)
             known.insert(each.prefix);
         }
     }
-    XmlElement part = *path.back();
     QSet<QString> used;
-    addPrefixes(part, known, &used);
-    part.declarations.clear();
+    addPrefixes(*path.back(), known, &used);
+    QVector<XmlElement::Declaration> needed;
     for (const XmlElement::Declaration &each : qAsConst(inForce))
         if (used.contains(each.prefix) && !(each.prefix.isEmpty() && each.namespaceUri.isEmpty()))
-            part.declarations.append(each);
+            needed.append(each);
+    return needed;
+}
+
+} // namespace
+
+XmlElement detached(const std::vector<const XmlElement *> &path)
+{
+    XmlElement part = *path.back();
+    part.declarations = declarationsFor(path);
     return part;
+}
+
+XmlElement detached(const std::vector<const XmlElement *> &path, XmlElement *part)
+{
+    const QVector<XmlElement::Declaration> declarations = declarationsFor(path);
+    part->declarations = declarations;
+    return std::move(*part);
 }
 
 bool isXmlText(const QString &text)

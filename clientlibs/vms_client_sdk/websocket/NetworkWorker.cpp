@@ -8,21 +8,12 @@
 
 namespace vms_sdk {
 
-namespace {
-
-// How often merged changes are checked: they pass at most so much late.
-constexpr std::chrono::milliseconds mergedStatusInterval{100};
-
-} // namespace
-
 NetworkWorker::NetworkWorker(const WebSocketOptions &options)
-    : m_statusTimer(this)
+    : m_states(new StatusRelay(this))
     , m_host(new LinkHost(options, this))
 {
-    m_clock.start();
-    m_statusTimer.setInterval(mergedStatusInterval);
-    connect(&m_statusTimer, &QTimer::timeout, this,
-            [this] { passOnChanges(m_statusChanges.takeDue(m_clock.elapsed())); });
+    connect(m_states, &StatusRelay::devStatusChanged, this, &NetworkWorker::devStatusChanged);
+    connect(m_states, &StatusRelay::linkTroubled, this, &NetworkWorker::linkTroubled);
     connect(m_host, &LinkHost::readingHeld, this, [this](bool isHeld) { setReading(!isHeld); });
 }
 
@@ -57,26 +48,8 @@ std::unique_ptr<DeviceLink> NetworkWorker::makeLink(const DevInfo &device)
 {
     auto link = std::make_unique<DeviceLink>(device, *m_host);
     connect(link.get(), &DeviceLink::answered, this, &NetworkWorker::answered);
-    connect(link.get(), &DeviceLink::statusChanged, this, &NetworkWorker::onStatusChanged);
+    connect(link.get(), &DeviceLink::statusChanged, m_states, &StatusRelay::add);
     return link;
-}
-
-void NetworkWorker::onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble)
-{
-    passOnChanges(m_statusChanges.add({devId, status, trouble}, m_clock.elapsed()));
-}
-
-void NetworkWorker::passOnChanges(const QVector<StatusChanges::Change> &changes)
-{
-    for (const auto &[devId, status, trouble] : changes) {
-        if (!isOnlineStatus(status))
-            emit linkTroubled(devId, trouble);
-        emit devStatusChanged(devId, status);
-    }
-    if (!m_statusChanges.isHolding())
-        m_statusTimer.stop();
-    else if (!m_statusTimer.isActive())
-        m_statusTimer.start();
 }
 
 void NetworkWorker::setReading(bool isReading)

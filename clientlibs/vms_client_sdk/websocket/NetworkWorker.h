@@ -1,13 +1,11 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/StatusRelay.h>
 #include <vms_client_sdk/WebSocketOptions.h>
-#include <vms_client_sdk/StatusChanges.h>
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
-#include <QTimer>
 #include <QVector>
 #include <memory>
 #include <mutex>
@@ -48,15 +46,11 @@ private:
 
     std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
     void sendRequests();
-    void onStatusChanged(const QString &devId, DevStatus status, const LinkTrouble &trouble);
-    void passOnChanges(const QVector<StatusChanges::Change> &changes);
     void setReading(bool isReading);
 
     std::mutex m_mutex;
     QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
-    QElapsedTimer m_clock;
-    StatusChanges m_statusChanges;
-    QTimer m_statusTimer;
+    StatusRelay *m_states;
     LinkHost *m_host;
     Links m_links; ///< by device id; deleted before the host
 };
