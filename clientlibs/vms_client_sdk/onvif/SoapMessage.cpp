@@ -99,7 +99,7 @@ SoapFault readFault(const XmlElement &fault)
 
 SoapAnswer readSoapAnswer(const QByteArray &document)
 {
-    // Of a program in the camera that has crashed its web server answers nothing, with status 200.
+    // When a camera's program has crashed, its HTTP server may answer nothing with status 200.
     if (document.trimmed().isEmpty())
         return {{}, {}, QStringLiteral("the answer is empty")};
     XmlRead xml = readXml(document);
