@@ -129,17 +129,18 @@ XML = [once(lambda good, body=body: http(body())) for body in (
     lambda: envelope("<d:GetHostnameResponse/>"), lambda: envelope("<a/>" * 40_000), lambda: b"\xff\xfe\x00", lambda: b"")]
 
 
-async def large(link, operation):
-    """What was asked for, and as much of the maker's own as there may be, which a write has to give back."""
-    await link.send(link.good(operation, more="x" * LARGEST))
+OWN = {"long": "x" * LARGEST, "wide": "<a/>" * 45_000,  # what makers add, and a write has to give back
+       "dense": ("<a" + "".join(f' b{i}=""' for i in range(250)) + "/>") * 190}
 
 
-async def hoarded(link, operation):
-    """One after the other, so that few are under way at once; each is kept until the read beside it ends."""
-    if operation == "GetProfiles":
-        await link.wait_for_end()
-    await asyncio.sleep(random.uniform(0, 8))
-    await large(link, operation)
+def large(name, is_held=False):
+    """is_held: one after the other, so that few are under way at once, each kept until the read beside it ends."""
+    async def bad(link, operation):
+        if is_held and operation == "GetProfiles":
+            await link.wait_for_end()
+        await asyncio.sleep(random.uniform(0, 8) if is_held else 0)
+        await link.send(link.good(operation, more=OWN[name]))
+    return bad
 
 
 async def half_closed(link, operation):

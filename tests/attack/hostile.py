@@ -373,10 +373,10 @@ def camera_rows():
               [onvif.camera(onvif.endless(name, 0.3), at) for name in kinds for at in ((), onvif.MEDIA)], 4, batch=True)
     yield row("camera-lengths", "lengths that lie: longer, shorter, negative, 2^63, two of them",
               [onvif.camera(bad, at) for bad in onvif.LENGTHS for at in ((), onvif.MEDIA)], 3)
-    yield row("camera-large", "4 MiB in answer to each operation of 120", [onvif.camera(onvif.large, onvif.MEDIA)], 120)
-    yield row("camera-large-batch", "the same, by orda_batch", [onvif.camera(onvif.large, onvif.MEDIA)], 120, batch=True)
-    yield row("camera-hoarded", "4 MiB from each of 150, one after the other, each held until another read of its camera ends",
-              [onvif.camera(onvif.hoarded, onvif.MEDIA)], 150, batch=True)
+    yield row("camera-large", "4 MiB in answer to each operation of 120", [onvif.camera(onvif.large("long"), onvif.MEDIA)], 120)
+    for name, what in (("long", "4 MiB of text"), ("wide", "45,000 elements"), ("dense", "47,500 attributes")):
+        yield row(f"camera-held-{name}", f"{what} from each of 150, one after the other, each held until another read ends",
+                  [onvif.camera(onvif.large(name, True), onvif.MEDIA)], 150, batch=True)
     yield row("camera-xml", "XML too deep or wide, with DTD or entities; answers to another operation",
               [onvif.camera(bad, at) for bad in onvif.XML for at in ((), onvif.MEDIA)], 3, batch=True, short=0)
     yield row("camera-pushed", "answers without a request; half-closed; deaf; answers of the last time",

@@ -110,7 +110,7 @@ SoapAnswer readSoapAnswer(const QByteArray &document)
         if (element.is(soapEnvelope, "Fault"))
             return {{}, readFault(element), {}};
         if (!element.isText())
-            return {detached({&envelope, body, &element}), {}, {}};
+            return {detached({&envelope, body, &element}), {}, {}, xml.count};
     }
     return {{}, {}, QStringLiteral("the answer is empty")};
 }
