@@ -185,33 +185,25 @@ private slots:
         ask("s", -61024);
     }
 
-    void whatRequestsHoldTogetherIsLimited_data()
-    {
-        columns<QString, int, int>({"answer", "cameras", "givenUp"});
-        row("texts", QString(3'200'000, ' '), 12, 5); // seven fit into 24 MiB
-        row("elements, which take more than their text", QString("<a/>").repeated(49'000), 20, 6);
-    }
     void whatRequestsHoldTogetherIsLimited()
     {
-        QFETCH(QString, answer);
-        QFETCH(int, cameras);
-        QFETCH(int, givenUp);
-        std::vector<std::unique_ptr<ScriptedCamera>> all;
+        std::vector<std::unique_ptr<ScriptedCamera>> cameras;
         QList<DevInfo> devices;
-        for (int i = 0; i < cameras; ++i) {
-            all.push_back(std::make_unique<ScriptedCamera>("cam" + QString::number(i)));
-            all.back()->silent = "GetVideoEncoderConfigurations";
-            all.back()->texts[all.back()->silent] = "any";
-            all.back()->texts["GetProfiles"] = "<trt:GetProfilesResponse>" + answer + "</trt:GetProfilesResponse>";
-            devices.append(all.back()->info);
+        for (int i = 0; i < 12; ++i) {
+            cameras.push_back(std::make_unique<ScriptedCamera>("cam" + QString::number(i)));
+            cameras.back()->silent = "GetVideoEncoderConfigurations";
+            cameras.back()->texts[cameras.back()->silent] = "any";
+            const QString own = i % 2 ? QString(3'200'000, ' ') : QString("<a/>").repeated(49'000);
+            cameras.back()->texts["GetProfiles"] = "<trt:GetProfilesResponse>" + own + "</trt:GetProfilesResponse>";
+            devices.append(cameras.back()->info);
         }
         m_transport->setDevices(devices);
         for (const DevInfo &device : qAsConst(devices))
             QTRY_COMPARE(m_states[device.id], m_online);
         for (const DevInfo &device : qAsConst(devices))
             common_req(device.id, device.id, R"({"method":"stream_get_params"})");
-        QTRY_COMPARE(m_answers.size(), givenUp);
-        QCOMPARE(m_answers.values().count(-61024), givenUp);
+        QTRY_COMPARE(m_answers.size(), 2); // 24 MiB: an element, however short, takes as much memory as a few words
+        QCOMPARE(m_answers.values().count(-61024), 2);
     }
 
     void anAccountThatMayNotDoSomethingIsLookedIntoOnce()
