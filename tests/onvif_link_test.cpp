@@ -193,8 +193,8 @@ private slots:
             cameras.push_back(std::make_unique<ScriptedCamera>("cam" + QString::number(i)));
             cameras.back()->silent = "GetVideoEncoderConfigurations";
             cameras.back()->texts[cameras.back()->silent] = "any";
-            cameras.back()->texts["GetProfiles"] =
-                "<trt:GetProfilesResponse>" + QString(3'200'000, ' ') + "</trt:GetProfilesResponse>";
+            const QString own = i % 2 ? QString(3'200'000, ' ') : QString("<a/>").repeated(49'000);
+            cameras.back()->texts["GetProfiles"] = "<trt:GetProfilesResponse>" + own + "</trt:GetProfilesResponse>";
             devices.append(cameras.back()->info);
         }
         m_transport->setDevices(devices);
@@ -202,8 +202,8 @@ private slots:
             QTRY_COMPARE(m_states[device.id], m_online);
         for (const DevInfo &device : qAsConst(devices))
             common_req(device.id, device.id, R"({"method":"stream_get_params"})");
-        QTRY_COMPARE(m_answers.size(), 5); // seven fit into 24 MiB
-        QCOMPARE(std::count(m_answers.cbegin(), m_answers.cend(), -61024), 5);
+        QTRY_COMPARE(m_answers.size(), 2); // 24 MiB: an element, however short, takes as much memory as a few words
+        QCOMPARE(std::count(m_answers.cbegin(), m_answers.cend(), -61024), 2);
     }
 
     void anAccountThatMayNotDoSomethingIsLookedIntoOnce()

@@ -31,8 +31,7 @@ MAX_LATENCY = 11                  # seconds; the client waits 15 for an answer
 REQUESTS = {"audio": 4, "image": 6}  # of a run, one after the other; 2 for the other families
 COMMANDS = {"orda_client": ["--run"], "orda_batch": ["--no-journal", "--format", "json", "--connect-timeout", "12", "--set",
                                                      "encType=g711u", "--set", "sampleRate=8000", "--set", "aoGain=30", "apply"]}
-PARTLY = {"orda_client": (0, 1), "orda_batch": (0, 1, 5)}  # exit codes where hostile devices are ticked, too
-CAMERA_STEPS = 15                    # of sign-on and run at an ONVIF camera
+PARTLY = (0, 1, 5)  # exit codes where hostile devices are ticked, too, and may not be reached
 PR_SET_PDEATHSIG = 1
 
 
@@ -124,11 +123,10 @@ async def run(attack, bin_dir, seconds, healthy):
     async with contextlib.AsyncExitStack() as stack:
         home = stack.enter_context(tempfile.TemporaryDirectory(prefix="orda_attack."))
         stack.push_async_callback(site.close)
-        latency = min(seconds / (CAMERA_STEPS if attack.cameras else REQUESTS.get(attack.family, 2)), MAX_LATENCY)
+        latency = min(seconds / REQUESTS.get(attack.family, 2), MAX_LATENCY)
         fleet = await stack.enter_async_context(Program(
             f"{bin_dir}/orda_fleet", "--devices", str(FLEET_DEVICES), "--seed", str(FLEET_SEED), "--latency",
-            str(int(latency * 1000)), "--inventory", f"{home}/fleet.json", *(["--onvif", str(attack.cameras)] if attack.cameras else []),
-            home=home))
+            str(int(latency * 1000)), "--inventory", f"{home}/fleet.json", *attack.fleet, home=home))
         await asyncio.wait_for(fleet.process.stdout.readline(), 10)
         with open(f"{home}/fleet.json", encoding="utf-8") as file:
             entries = json.load(file)["devices"]
@@ -173,7 +171,7 @@ def verdict(attack, outcome):
         faults.append(f"did not end within {outcome.seconds:.0f} s")
     elif code < 0:
         faults.append(f"client died of signal {-code}" + (" (ours)" if outcome.client_mb > DEADLY else ""))
-    elif code not in (PARTLY[attack.program] if attack.ticked == "all" else (0,)):
+    elif code not in (PARTLY if attack.ticked == "all" else (0,)):
         faults.append(f"exit code {code}")
     if not outcome.healthy <= outcome.configured:
         faults.append("healthy devices failed")
@@ -185,15 +183,15 @@ async def attack_all(attacks, bin_dir):
     for ending in (signal.SIGTERM, signal.SIGINT):  # what is open is closed then too
         asyncio.get_running_loop().add_signal_handler(ending, asyncio.current_task().cancel)
     healthy = {}
-    for cameras in {0, *(attack.cameras for attack, _ in attacks)}:
-        healthy[cameras] = (await run(dataclasses.replace(ATTACKS["nothing"], cameras=cameras), bin_dir, 0, set())).configured
-        if len(healthy[cameras]) < HEALTHY_AT_LEAST + cameras // 2:
-            print(f"only {len(healthy[cameras])} devices are configured without any attack")
+    for fleet in {attack.fleet for attack, _ in attacks}:
+        healthy[fleet] = (await run(dataclasses.replace(ATTACKS["nothing"], fleet=fleet), bin_dir, 0, set())).configured
+        if len(healthy[fleet]) < HEALTHY_AT_LEAST + 3 * len(fleet):
+            print(f"only {len(healthy[fleet])} devices are configured without any attack")
             return 1
     print("| Attack | Earlier | Client, MB | Fleet, MB | Seconds | Healthy | Now |\n|---|---|---|---|---|---|---|")
     harmful = 0
     for attack, seconds in attacks:
-        now = await run(attack, bin_dir, seconds, healthy[attack.cameras])
+        now = await run(attack, bin_dir, seconds, healthy[attack.fleet])
         faults = verdict(attack, now)
         print(f"| `{attack.name}`: {attack.what} | {attack.earlier} | {now.client_mb} | {now.fleet_mb} | {now.seconds:.1f} | "
               f"{len(now.healthy & now.configured)} of {len(now.healthy)} | {faults or 'held'} |", flush=True)

@@ -281,7 +281,7 @@ class Attack:
     margin: float = 8     # seconds that the client may take beyond that
     ticked: str = "healthy"  # or "all", where the hostile ones get requests and the run may wait for their time-outs
     family: str = "audio"
-    cameras: int = 0         # ONVIF cameras of the fleet
+    fleet: tuple = ()        # more options of orda_fleet
     program: str = "orda_client"  # or "orda_batch"
     on_fleet: bool = False   # hostile clients of orda_fleet instead of hostile devices of orda_client
 
@@ -360,35 +360,25 @@ def rows():
 
 
 def camera_rows():
-    """Of ONVIF cameras."""
-    def row(name, what, hostile, each=1, *, batch=False, ticked="all", **more):
-        return Attack(name, what, "", hostile, each, ticked=ticked, cameras=10, program="orda_batch" if batch else "orda_client",
-                      **{"long": 0, "margin": 35, **more})
+    """Of ONVIF cameras; whether orda_batch is attacked, how many, and seconds in ./dev test."""
+    def both(behaviours):
+        return [onvif.camera(bad, at) for bad in behaviours for at in ((), onvif.MEDIA)]
 
-    kinds = [name for name in onvif.ENDLESS if name != "no HTTP"]
-    yield row("camera-endless-unsigned", "ONVIF: heads, lines, chunks, bodies without end, as the first answer",
-              [onvif.camera(onvif.endless(name)) for name in onvif.ENDLESS], 2, ticked="healthy", short=2, long=20)
-    yield row("camera-endless", "the same in answer to reads", [onvif.camera(onvif.endless(name), onvif.MEDIA) for name in onvif.ENDLESS], 2)
-    yield row("camera-drips", "a byte each 0.3 s of these, at sign-on and in answer to reads",
-              [onvif.camera(onvif.endless(name, 0.3), at) for name in kinds for at in ((), onvif.MEDIA)], 4, batch=True)
-    yield row("camera-lengths", "lengths that lie: longer, shorter, negative, 2^63, two of them",
-              [onvif.camera(bad, at) for bad in onvif.LENGTHS for at in ((), onvif.MEDIA)], 3)
-    yield row("camera-large", "4 MiB in answer to each operation of 120", [onvif.camera(onvif.large, onvif.MEDIA)], 120)
-    yield row("camera-large-batch", "the same, by orda_batch", [onvif.camera(onvif.large, onvif.MEDIA)], 120, batch=True)
-    yield row("camera-hoarded", "4 MiB from each of 150, one after the other, each held until another read of its camera ends",
-              [onvif.camera(onvif.hoarded, onvif.MEDIA)], 150, batch=True)
-    yield row("camera-xml", "XML too deep or wide, with DTD or entities; answers to another operation",
-              [onvif.camera(bad, at) for bad in onvif.XML for at in ((), onvif.MEDIA)], 3, batch=True, short=0)
-    yield row("camera-pushed", "answers without a request; half-closed; deaf; answers of the last time",
-              [onvif.camera(bad, at) for bad in (onvif.pushed, onvif.half_closed, onvif.deaf, onvif.replay) for at in ((), onvif.MEDIA)], 3)
-    yield row("camera-moved", "sent to another host, by HTTP or as the place of the services: nobody asks there",
-              [onvif.stranger, *(onvif.camera(onvif.moved(status), at) for status in ("301 Moved", "302 Found", "307 Temporary Redirect",
-               "308 Permanent Redirect") for at in ((), onvif.MEDIA)), onvif.camera(None, ("",), host="%s:%d" % onvif.STRANGER)], batch=True, short=0)
-    yield row("camera-accounts", "challenges of 100 kB, without a nonce, stale for ever; refuses everything: attempts stay few",
-              onvif.ASKING, 3, short=0)
-    yield row("camera-clocks", "years 1 and 9999, no numbers, a new time at each look",
-              [onvif.camera(onvif.clock(*date), ("GetSystemDateAndTime",), ask=onvif.http(onvif.FAULT))
-               for date in ((9999, 12, 31), (1, 1, 1), (0, 0, 0), ("x" * 100_000, 13, -1), (2**31, 2**32, 2**64))], 3)
+    for name, what, batch, each, short, hostile in (
+            ("endless", "heads, lines, chunks, bodies without end", 0, 2, None, both(onvif.ENDLESS)),
+            ("drips", "of these a byte each 0.3 s", 1, 4, None, both(onvif.DRIPS)),
+            ("lengths", "lengths that lie: longer, shorter, negative, 2^63, two of them", 0, 3, None, both(onvif.LENGTHS)),
+            ("large", "4 MiB in answer to each read", 0, 120, None, [onvif.camera(onvif.large("x" * 4_190_000), onvif.MEDIA)]),
+            ("held", "4 MiB, held until another read ends", 1, 150, None, [onvif.camera(onvif.large("x" * 4_190_000, True), onvif.MEDIA)]),
+            ("held-wide", "45,000 elements, likewise", 1, 150, None, [onvif.camera(onvif.large("<a/>" * 45_000, True), onvif.MEDIA)]),
+            ("xml", "XML too deep or wide, DTD, entities; other operations", 1, 3, 0, both(onvif.XML)),
+            ("pushed", "answers nobody asked for; half-closed; older answers", 0, 3, None, both((*onvif.STRAY, onvif.replay))),
+            ("moved", "sent to another host, which nobody asks", 1, 1, 0,
+             [*both(onvif.MOVED), onvif.camera(None, ("",), host="%s:%d" % onvif.STRANGER), onvif.stranger]),
+            ("accounts", "challenges of 100 kB, without nonce, stale for ever; all refused: few attempts", 0, 3, 0, onvif.REFUSING),
+            ("clocks", "years 1 and 9999, no numbers", 0, 3, None, [onvif.camera(bad, onvif.DEVICE[:1], onvif.http(onvif.FAULT)) for bad in onvif.CLOCKS])):
+        yield Attack(f"camera-{name}", "ONVIF: " + what, "", hostile, each, short, 0, 35, "all", "audio", ("--onvif", "10"),
+                     "orda_batch" if batch else "orda_client")
 
 
 ATTACKS = {attack.name: attack for attack in (*rows(), *camera_rows())}

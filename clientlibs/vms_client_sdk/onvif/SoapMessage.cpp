@@ -113,7 +113,7 @@ SoapAnswer readSoapAnswer(const QByteArray &document)
         if (element.is(soapEnvelope, "Fault"))
             return {{}, readFault(element), {}};
         if (!element.isText())
-            return {detached({&envelope, body, &element}, &element), {}, {}};
+            return {detached({&envelope, body, &element}, &element), {}, {}, xml.count};
     }
     return {{}, {}, QStringLiteral("the answer is empty")};
 }

@@ -170,7 +170,7 @@ XmlRead Reader::read()
     }
     if (m_reader.hasError())
         return {{}, QStringLiteral("it is no XML, from byte %1 on").arg(m_reader.characterOffset())};
-    return {std::move(m_root), {}};
+    return {std::move(m_root), {}, m_count};
 }
 
 QString Reader::shared(const QStringRef &text)

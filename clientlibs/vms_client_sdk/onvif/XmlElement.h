@@ -72,6 +72,7 @@ struct XmlRead
 {
     std::optional<XmlElement> root;
     QString error; ///< why there is none, for the log; a printable line without the text's own words
+    int count = 0; ///< of elements, attributes and declarations
 };
 
 /// How deeply elements may be nested: answers of cameras stay under 20.
