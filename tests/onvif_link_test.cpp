@@ -48,6 +48,7 @@ private slots:
         columns<QString, QString, QString, QString>({"schemes", "wrong", "shown", "refusal"});
         rowsFrom("onvif_sign_ons.txt");
         row("invisible serial number", "", "serial SN-1\u200b", "none", "SignOn");
+        row("user name that cannot be shown", "MD5 Token", "user operator\x01", "none refused", "Password");
         row("endless serial number", "", "serial " + QString(257, 'x'), "none", "SignOn");
     }
 
@@ -68,7 +69,7 @@ private slots:
             camera.open.remove("GetServices"); // so that the sign-on itself uses a nonce twice
         camera.serial = wrong.startsWith("serial") ? wrong.mid(7) : "SN-1";
         camera.info.serialNumber = "SN-1";
-        camera.info.userName = wrong == "user" ? "" : "operator";
+        camera.info.userName = wrong.startsWith("user") ? wrong.mid(5) : "operator";
         const bool isGood = refusal.isEmpty();
         const int reason = QStringList({"", "Password", "SerialNumber", "SignOn"}).indexOf(refusal);
         if (!isGood)
@@ -192,8 +193,8 @@ private slots:
             cameras.push_back(std::make_unique<ScriptedCamera>("cam" + QString::number(i)));
             cameras.back()->silent = "GetVideoEncoderConfigurations";
             cameras.back()->texts[cameras.back()->silent] = "any";
-            cameras.back()->texts["GetProfiles"] =
-                "<trt:GetProfilesResponse>" + QString(3 << 20, ' ') + "</trt:GetProfilesResponse>";
+            const QString own = i % 2 ? QString(3'200'000, ' ') : QString("<a/>").repeated(49'000);
+            cameras.back()->texts["GetProfiles"] = "<trt:GetProfilesResponse>" + own + "</trt:GetProfilesResponse>";
             devices.append(cameras.back()->info);
         }
         m_transport->setDevices(devices);
@@ -201,8 +202,8 @@ private slots:
             QTRY_COMPARE(m_states[device.id], m_online);
         for (const DevInfo &device : qAsConst(devices))
             common_req(device.id, device.id, R"({"method":"stream_get_params"})");
-        QTRY_COMPARE(m_answers.size(), 2); // of 36 MiB six have to go
-        QCOMPARE(m_answers.values(), QList<int>({-61024, -61024}));
+        QTRY_COMPARE(m_answers.size(), 2); // 24 MiB: an element, however short, takes as much memory as a few words
+        QCOMPARE(std::count(m_answers.cbegin(), m_answers.cend(), -61024), 2);
     }
 
     void anAccountThatMayNotDoSomethingIsLookedIntoOnce()

@@ -11,6 +11,7 @@ import argparse
 import asyncio
 import contextlib
 import ctypes
+import dataclasses
 import json
 import os
 import resource
@@ -28,6 +29,9 @@ FLEET_DEVICES, FLEET_SEED = 14, 1
 HEALTHY_AT_LEAST = 10             # of the fleet's devices; the others are offline or not to be configured
 MAX_LATENCY = 11                  # seconds; the client waits 15 for an answer
 REQUESTS = {"audio": 4, "image": 6}  # of a run, one after the other; 2 for the other families
+COMMANDS = {"orda_client": ["--run"], "orda_batch": ["--no-journal", "--format", "json", "--connect-timeout", "12", "--set",
+                                                     "encType=g711u", "--set", "sampleRate=8000", "--set", "aoGain=30", "apply"]}
+PARTLY = (0, 1, 5)  # exit codes where hostile devices are ticked, too, and may not be reached
 PR_SET_PDEATHSIG = 1
 
 
@@ -41,7 +45,7 @@ class Program:
     """A program under watch: its peak of memory, killed when that is deadly."""
 
     def __init__(self, *command, home):
-        self.command, self.home, self.peak, self.process = command, home, 0, None
+        self.command, self.home, self.peak, self.process, self.output = command, home, 0, None, b""
 
     async def __aenter__(self):
         environment = dict(os.environ, TMPDIR=self.home, XDG_RUNTIME_DIR=self.home, XDG_STATE_HOME=self.home, HOME=self.home, LC_ALL="C.UTF-8",
@@ -78,7 +82,7 @@ class Program:
     async def wait(self, seconds):
         """The exit code, None when it had to be ended."""
         with contextlib.suppress(asyncio.TimeoutError):
-            await asyncio.wait_for(self.process.communicate(), seconds)
+            self.output, _ = await asyncio.wait_for(self.process.communicate(), seconds)
             return self.process.returncode
         self.kill()
         return None
@@ -95,6 +99,12 @@ def configured(home):
                     if len(fields) > 3 and entry[len("    ".join(fields[:2])) + 4 + 16 + 4:].startswith("success    "):
                         serials.add(fields[1])
     return serials
+
+
+def done(output):
+    """The same of what orda_batch prints."""
+    devices = map(json.loads, output.splitlines())
+    return {device["serialNumber"] for device in devices if device.get("outcome") in ("done", "unchanged")}
 
 
 @dataclass
@@ -116,7 +126,7 @@ async def run(attack, bin_dir, seconds, healthy):
         latency = min(seconds / REQUESTS.get(attack.family, 2), MAX_LATENCY)
         fleet = await stack.enter_async_context(Program(
             f"{bin_dir}/orda_fleet", "--devices", str(FLEET_DEVICES), "--seed", str(FLEET_SEED), "--latency",
-            str(int(latency * 1000)), "--inventory", f"{home}/fleet.json", home=home))
+            str(int(latency * 1000)), "--inventory", f"{home}/fleet.json", *attack.fleet, home=home))
         await asyncio.wait_for(fleet.process.stdout.readline(), 10)
         with open(f"{home}/fleet.json", encoding="utf-8") as file:
             entries = json.load(file)["devices"]
@@ -132,7 +142,9 @@ async def run(attack, bin_dir, seconds, healthy):
                 if attack.on_fleet:
                     site.dial(behaviour, victims[number % 2])
                 else:
-                    (good if hasattr(behaviour, "healthy") else bad).append(await site.listen(behaviour))
+                    entry = await site.listen(behaviour)
+                    if not hasattr(behaviour, "address"):  # nobody is to know of the others
+                        (good if hasattr(behaviour, "healthy") else bad).append(entry)
         inventory = f"{home}/site.json"
         with open(os.open(inventory, os.O_CREAT | os.O_WRONLY, 0o600), "w", encoding="utf-8") as file:
             json.dump({"devices": bad + good}, file)
@@ -140,13 +152,14 @@ async def run(attack, bin_dir, seconds, healthy):
         ids = [] if attack.ticked == "all" or not healthy else ["--devices", ",".join(entry["id"] for entry in good)]
         began = time.monotonic()
         client = await stack.enter_async_context(Program(
-            f"{bin_dir}/orda_client", "--inventory", inventory, "--yes", "--run", attack.family, *ids, home=home))
+            f"{bin_dir}/{attack.program}", "--inventory", inventory, "--yes", *COMMANDS[attack.program], attack.family, *ids, home=home))
         code = await client.wait(seconds + attack.margin)
         duration = time.monotonic() - began
         fleet.look()
         if attack.hostile and not site.connections:
             site.faults.add("nobody was attacked")
-        return Outcome(client.peak, fleet.peak, duration, code, configured(home), {entry["serialNumber"] for entry in good},
+        return Outcome(client.peak, fleet.peak, duration, code,
+                       done(client.output) if attack.program == "orda_batch" else configured(home), {entry["serialNumber"] for entry in good},
                        site.faults)
 
 
@@ -158,7 +171,7 @@ def verdict(attack, outcome):
         faults.append(f"did not end within {outcome.seconds:.0f} s")
     elif code < 0:
         faults.append(f"client died of signal {-code}" + (" (ours)" if outcome.client_mb > DEADLY else ""))
-    elif code > (1 if attack.ticked == "all" else 0):
+    elif code not in (PARTLY if attack.ticked == "all" else (0,)):
         faults.append(f"exit code {code}")
     if not outcome.healthy <= outcome.configured:
         faults.append("healthy devices failed")
@@ -169,14 +182,16 @@ async def attack_all(attacks, bin_dir):
     """How many attacks did harm. What succeeds where nothing happens is healthy."""
     for ending in (signal.SIGTERM, signal.SIGINT):  # what is open is closed then too
         asyncio.get_running_loop().add_signal_handler(ending, asyncio.current_task().cancel)
-    healthy = (await run(ATTACKS["nothing"], bin_dir, 0, set())).configured
-    if len(healthy) < HEALTHY_AT_LEAST:
-        print(f"only {len(healthy)} devices are configured without any attack")
-        return 1
+    healthy = {}
+    for fleet in {attack.fleet for attack, _ in attacks}:
+        healthy[fleet] = (await run(dataclasses.replace(ATTACKS["nothing"], fleet=fleet), bin_dir, 0, set())).configured
+        if len(healthy[fleet]) < HEALTHY_AT_LEAST + 3 * len(fleet):
+            print(f"only {len(healthy[fleet])} devices are configured without any attack")
+            return 1
     print("| Attack | Earlier | Client, MB | Fleet, MB | Seconds | Healthy | Now |\n|---|---|---|---|---|---|---|")
     harmful = 0
     for attack, seconds in attacks:
-        now = await run(attack, bin_dir, seconds, healthy)
+        now = await run(attack, bin_dir, seconds, healthy[attack.fleet])
         faults = verdict(attack, now)
         print(f"| `{attack.name}`: {attack.what} | {attack.earlier} | {now.client_mb} | {now.fleet_mb} | {now.seconds:.1f} | "
               f"{len(now.healthy & now.configured)} of {len(now.healthy)} | {faults or 'held'} |", flush=True)

@@ -164,13 +164,15 @@ class HostileSite:
         number = len(self.entries)
         entry = {"id": f"hostile-{number}", "name": f"Hostile {number}", "serialNumber": f"XX{number:06}",
                  "ip": f"127.20.{number // 250}.{number % 250 + 1}", "path": "/", "userName": "admin",
-                 "password": "pA5#" + os.urandom(8).hex(), "tls": getattr(behaviour, "tls", False)}
+                 "password": "pA5#" + os.urandom(8).hex(), "tls": getattr(behaviour, "tls", False), **getattr(behaviour, "entry", {})}
+        make_link = getattr(behaviour, "make_link", DeviceLink)
 
         def serve(reader, writer):
-            self.tasks.append(asyncio.create_task(self.run(behaviour, DeviceLink(entry, reader, writer))))
+            self.tasks.append(asyncio.create_task(self.run(behaviour, make_link(entry, reader, writer))))
 
         accepts = getattr(behaviour, "accepts", True)
-        listener = socket.create_server((entry["ip"], 0), backlog=100 if accepts else 0)
+        address = getattr(behaviour, "address", (entry["ip"], 0))
+        listener = socket.create_server(address, backlog=100 if accepts else 0)
         if hasattr(behaviour, "narrow"):  # what is not read stays with its sender and not in the kernel
             listener.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 4096)
             listener.setsockopt(socket.IPPROTO_TCP, socket.TCP_MAXSEG, 536)

@@ -23,7 +23,7 @@ struct CallResult
     XmlElement answer; ///< such as GetOSDsResponse; empty unless it is there
     std::optional<SoapFault> fault; ///< the device's own refusal, rights that the account lacks included
     QString trouble; ///< there is no answer that can be read: why, a printable line
-    qint64 bytes = 0; ///< of the answer as it came
+    qint64 bytes = 0; ///< of the answer as it came, and for each element as many as take the same memory
     bool mayBeDone = false; ///< with a trouble: the device may have done it all the same
 
     bool isGood() const { return !fault && trouble.isEmpty(); }

@@ -24,6 +24,9 @@ constexpr qint64 clockChangeMs = 5'000;
 // time, some of them together would hold up all others.
 constexpr qint64 maxDeviceAnswer = 256 * 1024;
 
+// In memory an element or attribute takes over 100 bytes, however short it is. So many bytes of text grow as large.
+constexpr qint64 elementBytes = 32;
+
 // Paths of real cameras take a twentieth of this.
 constexpr int maxAddressLength = 2'048;
 
@@ -42,7 +45,6 @@ CameraLine::Reply replyFrom(const HttpAnswer &http)
     CameraLine::Reply reply;
     reply.challenges = http.challenges;
     reply.reason = http.reason;
-    reply.bytes = http.body.size();
     if (http.status == 0) {
         reply.trouble = http.error;
         reply.mayBeDone = http.hasLeft;
@@ -50,6 +52,7 @@ CameraLine::Reply replyFrom(const HttpAnswer &http)
     }
     const bool isUnauthorized = http.status == 401 || http.status == 403;
     SoapAnswer soap = readSoapAnswer(http.body);
+    reply.bytes = http.body.size() + elementBytes * soap.count;
     reply.fault = soap.fault;
     reply.takesTokens = soap.fault && isAboutAccount(*soap.fault);
     reply.isRefused = isUnauthorized || reply.takesTokens;

@@ -12,7 +12,7 @@ namespace {
 
 // Of the answers that requests hold while they wait for the next ones. Read, these take eight times the memory. A
 // request to most cameras holds under 50 KiB.
-constexpr qint64 maxHeld = 32 << 20;
+constexpr qint64 maxHeld = 24 << 20;
 
 } // namespace
 

@@ -317,7 +317,7 @@ void OnvifLink::endTimedOut(const QSet<QString> &requestIds)
     const QList<OnvifRequest *> requests = m_requests.keys();
     for (OnvifRequest *request : requests)
         if (requestIds.contains(m_requests.value(request).id))
-            request->endNow();
+            request->endNow(QStringLiteral("nobody waits for it any more"));
 }
 
 void OnvifLink::endRequests()

@@ -75,6 +75,11 @@ void OnvifSignOn::tryNextWay(OnvifService service, const XmlElement &operation, 
     if (m_device.userName.isEmpty())
         return refuse(QStringLiteral("it asks for an account, and its record has no user name"),
                       TroubleReason::Password);
+    // Left out on the way, they would make another account of it.
+    if (holdsControls(m_device.userName) || !isXmlText(m_device.userName))
+        return refuse(QStringLiteral("it asks for an account, and the user name in its record holds characters that "
+                                     "cannot be sent"),
+                      TroubleReason::Password);
     if (m_digest) {
         m_line.useDigest(*m_digest);
         m_digest.reset();

@@ -42,6 +42,7 @@ struct SoapAnswer
     XmlElement body; ///< the first element of the body, detached; empty after a fault or an error
     std::optional<SoapFault> fault;
     QString error; ///< why it is no answer, printable; empty when it is one
+    int count = 0; ///< of elements, attributes and declarations
 };
 
 SoapAnswer readSoapAnswer(const QByteArray &document);
