@@ -6,6 +6,7 @@
 #include "engine/DeviceUndo.h"
 #include "engine/Reach.h"
 
+#include <orda_data/DevsMgrData.h>
 #include <run/CfgFamily.h>
 
 #include <QCoreApplication>
@@ -29,7 +30,11 @@ struct Texts
 
 DeviceResult resultOf(const DevInfo &device, Outcome outcome, const QString &message)
 {
-    return {device.id, device.serialNumber, device.name, device.ip, outcome, 0, message};
+    // One that the inventory does not name is what the device itself has told, as the history has it.
+    const QString serialNumber = device.serialNumber.isEmpty()
+                                   ? orda_data::DevsMgrData::instance().getDevInfoById(device.id).serialNumber
+                                   : device.serialNumber;
+    return {device.id, serialNumber, device.name, device.ip, outcome, 0, message};
 }
 
 void setChanges(DeviceResult *result, const QVector<MemberChange> &changes)

@@ -102,8 +102,9 @@ class Recorder:
                 if action and action[1].rsplit("/")[-1] in READS + OPTIONS + WRITES:
                     self.posts[address].append({"path": header.split()[1], "action": action[1], "body": body.decode()})
                 to_camera.write(head + body)
+        back.cancel()
         to_camera.close()
-        await back
+        writer.close()
 
     @staticmethod
     async def pass_back(from_camera, writer):

@@ -15,10 +15,14 @@ DevicePlan planOf(const CfgFamily &family, int flags, const QJsonObject &values,
     const QVector<int> exchanges = family.exchangesOf(flags);
     for (const int place : exchanges) {
         const auto device = held.constFind(place);
-        if (device == held.constEnd())
+        if (device == held.constEnd() && unreported == Unreported::Sent)
             continue;
         const CfgExchange &exchange = family.exchanges.at(place);
         const QJsonObject asked = exchange.askedBy(values);
+        for (auto it = asked.begin(); it != asked.end(); ++it)
+            lacking.insert(it.key());
+        if (device == held.constEnd())
+            continue; // ONVIF has no counterpart for it
         const QJsonObject param = exchange.setParam(values, *device);
         const QVector<MemberChange> changes = family.changesBy(place, *device, param);
         QSet<QString> changing;
@@ -38,8 +42,6 @@ DevicePlan planOf(const CfgFamily &family, int flags, const QJsonObject &values,
             if (!changing.contains(it.key()))
                 ++plan.alreadySo;
         }
-        for (auto it = asked.begin(); it != asked.end(); ++it)
-            lacking.insert(it.key());
     }
     plan.lacking = (lacking - written).values();
     plan.lacking.sort();

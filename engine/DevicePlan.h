@@ -42,7 +42,8 @@ enum class Unreported
 };
 
 /// @param flags the exchanges of the run: CfgFamily::exchangesOf()
-/// @param held what the device holds; an exchange that is not there counts as one that does not run
+/// @param held what the device holds; an exchange that is not there counts as one that does not run, and of a device
+/// that drops what it does not report as one that it lacks
 DevicePlan planOf(const orda_batchCfg::CfgFamily &family, int flags, const QJsonObject &values,
                   const ObjectsByExchange &held, Unreported unreported = Unreported::Sent);
 

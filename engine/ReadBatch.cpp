@@ -29,8 +29,9 @@ void ReadBatch::start(const QStringList &devIds, const QHash<QString, int> &ownF
     for (const QString &devId : devIds) {
         const auto own = m_selection.ownValues.constFind(devId);
         const bool isAsOthers = own == m_selection.ownValues.constEnd();
+        const int asked = ownFlags.value(devId, isAsOthers ? flags : m_selection.flagsFor(*own));
         auto *task = new ReadTask(*m_selection.family, devId, isAsOthers ? values : m_selection.readValuesFor(*own),
-                                  ownFlags.value(devId, isAsOthers ? flags : m_selection.flagsFor(*own)), this);
+                                  m_selection.readableFlags(devId, asked), this);
         m_tasks.insert(devId, task);
         connect(task, &ReadTask::signalCfgResult, this,
                 [this, task](const QString &, const QString &message, int code) { take(task, message, code); });

@@ -66,6 +66,22 @@ Unreported unreportedBy(const QString &devId)
 
 } // namespace
 
+int Selection::readableFlags(const QString &devId, int flags) const
+{
+    if (!speaksOnvif(devId))
+        return flags;
+    int unknown = 0;
+    bool isAnyKnown = false;
+    const QVector<int> exchanges = family->exchangesOf(flags);
+    for (const int place : exchanges) {
+        const CfgExchange &exchange = family->exchanges.at(place);
+        const bool isKnown = vms_sdk::isKnownToOnvif(exchange.getMethod);
+        isAnyKnown = isAnyKnown || isKnown;
+        unknown |= isKnown ? 0 : exchange.flag;
+    }
+    return isAnyKnown ? flags & ~unknown : flags;
+}
+
 DevicePlan Selection::planOf(const QString &devId, const ObjectsByExchange &held) const
 {
     return orda_engine::planOf(*family, flagsOf(devId), valuesOf(devId), held, unreportedBy(devId));

@@ -36,6 +36,9 @@ struct Selection
     /// does not have.
     int flagsFor(const QJsonObject &wanted) const;
     int flagsOf(const QString &devId) const { return flagsFor(valuesOf(devId)); }
+    /// @p flags without the exchanges that have no counterpart in ONVIF, where the device speaks it and others remain:
+    /// a reading ends with the first exchange that fails, and the others can be read. GUI thread.
+    int readableFlags(const QString &devId, int flags) const;
     /// Values for read requests, of which some say by a value what is asked for: those that @p wanted lacks are added.
     QJsonObject readValuesFor(QJsonObject wanted) const;
 

@@ -206,6 +206,17 @@ private slots:
         QCOMPARE(site.dump(), before);
     }
 
+    /// Of the simulated ONVIF cameras two have none in the inventory.
+    void serialNumbersAreWhatDevicesTell()
+    {
+        Site site;
+        QCOMPARE(site.run("orda_batch read onvif --demo 1 --onvif 24 --format json") % 5, 0);
+        const QVector<QJsonObject> results = site.lines();
+        QCOMPARE(results.size(), 25);
+        for (const QJsonObject &result : results)
+            QVERIFY2(!result["serialNumber"].toString().isEmpty(), qPrintable(result["device"].toString()));
+    }
+
     void whateverBecomesOfTheOutput_data()
     {
         columns<QString, int>({"rest", "exitCode"});

@@ -32,6 +32,7 @@ DevInfo device(int number)
     dev.id = "dev" + text, dev.name = "Cam " + text, dev.serialNumber = "SN" + text;
     dev.ip = "10.0.0." + QString::number(number + 1), dev.port = 80, dev.accessCode = 1;
     dev.kindCode = number == 8 ? 3 : 1, dev.group = number < 3 ? "north & south" : "";
+    dev.protocol = number == 7 ? DevProtocol::Onvif : DevProtocol::Vms;
     return dev;
 }
 
@@ -108,7 +109,8 @@ struct Site
             return lines->toPlainText().simplified();
         if (const auto *button = child<QPushButton>(what))
             return button->isEnabled() ? button->text().remove('&') : "off";
-        static const QStringList titles{"Name", "State", "Since", "Serial", "Address", "Kind", "Group", "Outcome"};
+        static const QStringList titles{"Name", "State",    "Since", "Serial", "Address",
+                                        "Kind", "Protocol", "Group", "Outcome"};
         return child<QLabel>(what) ? child<QLabel>(what)->text() : cells(table(), titles.indexOf(what)).join(',');
     }
 

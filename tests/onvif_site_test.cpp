@@ -57,8 +57,9 @@ QMap<QString, QString> flat(const QJsonObject &camera)
 QStringList differences(const QMap<QString, QString> &before, const QMap<QString, QString> &after)
 {
     QStringList found;
-    const QStringList all = before.keys() + after.keys();
-    for (const QString &path : all)
+    QStringList paths = before.keys();
+    paths += after.keys();
+    for (const QString &path : qAsConst(paths))
         if (before.value(path) != after.value(path) && !path.isEmpty())
             found << path.section(' ', 0, 0) + " " + path.section(' ', 2);
     found.removeDuplicates();
@@ -239,6 +240,8 @@ private slots:
                          ? outcome == (isKnown ? "done" : "partly-written") || (outcome == "partly-written" && mayFail)
                          : outcome == "unchanged" || (outcome == "failed" && mayFail),
                      qPrintable(trace));
+            if (!isKnown && !changed.isEmpty()) // what ONVIF knows of the family is read all the same
+                QCOMPARE(plans.value(devId).lacking, selection.onvifGap().keys);
             if (plans.contains(devId) && outcome != "failed")
                 QVERIFY2(plans[devId].added.isEmpty() && plans[devId].changes.isEmpty() == paths.isEmpty(),
                          qPrintable(trace));
@@ -314,7 +317,7 @@ private slots:
                                     + differences(before[devId], after[devId]).join("; ")));
         }
         QVERIFY2(count["failed"] + count["unknown"] > 0 && count["done"] + count["partly-written"] > 0,
-                 qPrintable(QStringList(count.keys()).join(' ')));
+                 qPrintable(QString::number(count["done"])));
         site.fleet.clearFaults();
         QVERIFY(site.isUp());
         site.takenBack(details);

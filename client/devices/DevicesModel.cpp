@@ -48,7 +48,7 @@ void DevicesModel::loadDevices()
     const QList<vms_sdk::DevInfo> devices = orda_data::DevsMgrData::instance().getAllDevs(false);
     m_rows.reserve(devices.size());
     for (const vms_sdk::DevInfo &dev : devices) {
-        Row row{dev.id, dev.name, dev.serialNumber, dev.ip, dev.url, dev.group, dev.kindCode};
+        Row row{dev.id, dev.name, dev.serialNumber, dev.ip, dev.url, dev.group, dev.kindCode, dev.protocol};
         takeState(&row);
         takeOutcome(&row);
         m_rowOf.insert(dev.id, m_rows.size());
@@ -152,9 +152,10 @@ int DevicesModel::rowCount(const QModelIndex &parent) const
 
 QStringList DevicesModel::titles() const
 {
-    return {tr("Name"),          tr("State"),        tr("Since", "a time, from which on a device has had its state"),
-            tr("Serial number"), tr("Address"),      tr("Kind"),
-            tr("Group"),         tr("Last outcome"), tr("Last run")};
+    return {tr("Name"),          tr("State"),   tr("Since", "a time, from which on a device has had its state"),
+            tr("Serial number"), tr("Address"), tr("Kind"),
+            tr("Protocol"),      tr("Group"),   tr("Last outcome"),
+            tr("Last run")};
 }
 
 QString DevicesModel::text(int row, int column) const
@@ -173,6 +174,8 @@ QString DevicesModel::text(int row, int column) const
         return device.kindCode == kindCamera   ? tr("Camera")
              : device.kindCode == kindRecorder ? tr("Recorder")
                                                : tr("Other", "a kind of device");
+    case Protocol: // by its name, which no language changes
+        return device.protocol == vms_sdk::DevProtocol::Onvif ? QStringLiteral("ONVIF") : QStringLiteral("vms-device");
     case Group:
         return device.group;
     case Since:

@@ -24,6 +24,7 @@ public:
         SerialNumber,
         Address,
         Kind,
+        Protocol, ///< that it speaks
         Group,
         Outcome, ///< of its latest run, with the family
         LastRun, ///< when that began
@@ -64,6 +65,7 @@ private:
     {
         QString devId, name, serialNumber, ip, url, group;
         int kindCode = 0;
+        vms_sdk::DevProtocol protocol = vms_sdk::DevProtocol::Vms;
         DeviceState state = {};
         QString since = {}; ///< state.since in words; made once, because a search looks at all of them
         // Of the latest run; 0 and empty without one.

@@ -110,7 +110,7 @@ QWidget *DevicesWindow::buildTop()
 QWidget *DevicesWindow::buildTable()
 {
     // By column, in digits.
-    m_table = new TableView(m_filter, {22, 34, 20, 16, 14, 11, 13, 30, 20}, tr("Devices"));
+    m_table = new TableView(m_filter, {22, 34, 20, 16, 14, 11, 13, 13, 30, 20}, tr("Devices"));
     m_table->setObjectName(QStringLiteral("devices"));
     m_table->elideAtEnd({DevicesModel::State});
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -179,6 +179,7 @@ QStringList ValueChecks::onvifGap(const FormPage &page, const QStringList &devId
     for (const FormPage::Member &member : page.members)
         if (gap.keys.contains(member.name))
             titles.append(member.title);
+    titles.removeDuplicates(); // one box may set several members
     if (titles.isEmpty())
         return {}; // nothing would be set
     return {tr("%Ln of the devices speak(s) ONVIF, which does not know this: %1", nullptr, gap.devices)

@@ -656,6 +656,10 @@ Rückgabewerte: 0 alle Geräte konfiguriert, 1 einige nicht, 2 falscher Aufruf, 
         <comment>a kind of device</comment>
         <translation>Andere</translation>
     </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protokoll</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::DevicesWindow</name>

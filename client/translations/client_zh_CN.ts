@@ -652,6 +652,10 @@ Exit codes: 0 every device was configured, 1 some were not, 2 wrong usage, 3 a f
         <comment>a kind of device</comment>
         <translation>其他</translation>
     </message>
+    <message>
+        <source>Protocol</source>
+        <translation>协议</translation>
+    </message>
 </context>
 <context>
     <name>orda_client::DevicesWindow</name>

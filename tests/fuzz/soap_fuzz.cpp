@@ -34,10 +34,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
         http.end();
     if (http.answer().body.size() > maxBytes || holdsControls(http.answer().error))
         qFatal("an answer that cannot be");
-    if (auto auth = DigestAuth::fromChallenges({input}))
-        for (const char c : auth->authorization(QStringLiteral("a\"\r\n"), QStringLiteral("p"), "/"))
+    if (auto auth = DigestAuth::fromChallenges({input})) {
+        const QByteArray header = auth->authorization(QStringLiteral("a\"\r\n"), QStringLiteral("p"), "/");
+        for (const char c : header)
             if (quint8(c) < ' ')
                 qFatal("a header that is not one line");
+    }
     if (const XmlRead xml = readXml(input); xml.root)
         checkTree(*xml.root);
     const SoapAnswer answer = readSoapAnswer(input);

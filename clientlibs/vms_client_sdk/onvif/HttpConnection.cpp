@@ -29,8 +29,8 @@ HttpConnection::HttpConnection(const Peer &peer, const HttpLimits &limits, QObje
         m_socket = new QTcpSocket(this);
     m_socket->setProxy(QNetworkProxy::NoProxy);
     m_socket->setReadBufferSize(readBufferBytes);
-    m_deadline.setSingleShot(true);
-    connect(&m_deadline, &QTimer::timeout, this, &HttpConnection::onDeadline);
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &HttpConnection::onTimer);
     connect(m_socket, &QTcpSocket::bytesWritten, this, &HttpConnection::onBytesWritten);
     connect(m_socket, &QTcpSocket::readyRead, this, &HttpConnection::onReadyRead);
     connect(m_socket, &QTcpSocket::disconnected, this, &HttpConnection::onDisconnected);
@@ -54,7 +54,7 @@ void HttpConnection::send(const QByteArray &message, qint64 maxAnswerBytes)
     m_message = message;
     m_reader.emplace(qMin(maxAnswerBytes, m_limits.maxAnswerBytes));
     m_hasAnswerBegun = false;
-    m_deadline.start(m_limits.connectLimit);
+    setDeadline(m_limits.connectLimit);
     if (std::exchange(m_phase, Phase::Connecting) == Phase::New)
         return connectToPeer();
     m_isReused = true;
@@ -113,7 +113,7 @@ void HttpConnection::onBytesWritten()
     if (m_phase != Phase::Sending || m_socket->bytesToWrite() > 0 || (m_tls && m_tls->encryptedBytesToWrite() > 0))
         return;
     m_phase = Phase::Receiving;
-    m_deadline.start(m_limits.answerLimit);
+    setDeadline(m_limits.answerLimit);
 }
 
 void HttpConnection::onReadyRead()
@@ -152,6 +152,26 @@ void HttpConnection::take(HttpAnswerReader::State state)
     end(answer, m_reader->canStayOpen() && isInStep ? Phase::Resting : Phase::Ended);
 }
 
+/// Starts the timer only when it would come too late: Qt searches all timers of the thread for one that is started or
+/// stopped, and each connection has one.
+void HttpConnection::setDeadline(std::chrono::milliseconds limit)
+{
+    m_deadline.setRemainingTime(limit);
+    if (m_timer.isActive() && m_timerEnd <= m_deadline)
+        return;
+    m_timerEnd = m_deadline;
+    m_timer.start(limit);
+}
+
+void HttpConnection::onTimer()
+{
+    if (m_deadline.isForever())
+        return;
+    if (m_deadline.hasExpired())
+        return onDeadline();
+    setDeadline(std::chrono::milliseconds(m_deadline.remainingTime()));
+}
+
 void HttpConnection::onDeadline()
 {
     switch (m_phase) {
@@ -180,10 +200,12 @@ void HttpConnection::end(const HttpAnswer &answer, Phase next)
     const Phase before = std::exchange(m_phase, next);
     if (before == Phase::Ended)
         return;
-    m_deadline.stop();
+    m_deadline = QDeadlineTimer(QDeadlineTimer::Forever);
     m_reader.reset();
-    if (next == Phase::Ended)
+    if (next == Phase::Ended) {
+        m_timer.stop();
         m_socket->abort();
+    }
     if (before == Phase::Resting) // last: they may delete this
         emit unused();
     else
@@ -198,7 +220,7 @@ void HttpConnection::giveUp()
 void HttpConnection::cut()
 {
     m_phase = Phase::Ended;
-    m_deadline.stop();
+    m_timer.stop();
     m_socket->abort();
 }
 
@@ -206,7 +228,7 @@ bool HttpConnection::stay(std::chrono::milliseconds limit)
 {
     if (m_phase != Phase::Resting)
         return false;
-    m_deadline.start(limit);
+    setDeadline(limit);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include <vms_client_sdk/PinnedCertificate.h>
 #include <vms_client_sdk/onvif/HttpAnswerReader.h>
 
+#include <QDeadlineTimer>
 #include <QTimer>
 
 #include <optional>
@@ -75,6 +76,8 @@ private:
     void onBytesWritten();
     void onReadyRead();
     void onDisconnected();
+    void setDeadline(std::chrono::milliseconds limit);
+    void onTimer();
     void onDeadline();
     void take(HttpAnswerReader::State state);
     void fail(TroubleReason reason, const QString &why);
@@ -85,7 +88,9 @@ private:
     PinnedCertificate m_pin;
     QTcpSocket *m_socket;
     QSslSocket *m_tls = nullptr; ///< the same one
-    QTimer m_deadline;
+    QTimer m_timer; ///< ends at the deadline or before it
+    QDeadlineTimer m_timerEnd; ///< of m_timer
+    QDeadlineTimer m_deadline{QDeadlineTimer::Forever};
     Phase m_phase = Phase::New;
     QByteArray m_message; ///< until it is written
     std::optional<HttpAnswerReader> m_reader;

@@ -22,6 +22,10 @@ constexpr std::chrono::seconds furtherRestLimit{5};
 // Connections between exchanges, of all cameras together; each takes a descriptor, and 20 to 110 KiB.
 constexpr int maxResting = 1024;
 
+// With so many exchanges under way a camera's next one waits for its connection in place of opening another: opening
+// costs both ends more than the wait, which others use.
+constexpr std::size_t busyFrom = 64;
+
 } // namespace
 
 class HttpExchanges::Private
@@ -111,7 +115,9 @@ void HttpExchanges::Private::add(const ExchangePtr &exchange)
     exchange->ownerGone =
         QObject::connect(exchange->owner, &QObject::destroyed, q, [this, exchange] { cancel(exchange); });
     Address &address = m_addresses[exchange->address];
-    if (address.running >= m_limits.maxToAddress) {
+    const bool isBusy = std::size_t(m_running.size()) + m_ready.size() >= busyFrom;
+    const bool opens = !exchange->request.isRepeatable || address.resting.isEmpty();
+    if (address.running >= (isBusy && opens ? 1 : m_limits.maxToAddress)) {
         address.waiting.push_back(exchange);
         return;
     }

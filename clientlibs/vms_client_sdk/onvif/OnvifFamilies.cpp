@@ -69,6 +69,8 @@ const FamilyTable families[] = {
      "GetDiscoveryMode", "DiscoveryMode", "", "", "SetDiscoveryMode", "DiscoveryMode", discoveryKeys},
 };
 
+const FamilyTable noKeys{"", "", "", "", FamilyReach::Nothing, "", "", "", "", "", "", "", nullptr};
+
 /// The media service to be used; none when the camera has none.
 std::optional<OnvifService> mediaOf(const CameraCalls &calls)
 {
@@ -96,8 +98,8 @@ std::unique_ptr<OnvifFamily> makeFamily(const FamilyTable &table, const CameraCa
     case FamilyReach::Device:
         return std::make_unique<ConfigurationFamily>(table, OnvifService::Device);
     case FamilyReach::VideoSource:
-        if (!calls.hasService(OnvifService::Imaging))
-            return nullptr;
+        if (!calls.hasService(OnvifService::Imaging)) // then it lacks these keys, and has the family's others
+            return std::make_unique<ConfigurationFamily>(noKeys, OnvifService::Device);
         [[fallthrough]];
     case FamilyReach::Configurations:
         if (!media)

@@ -99,18 +99,21 @@ SoapFault readFault(const XmlElement &fault)
 
 SoapAnswer readSoapAnswer(const QByteArray &document)
 {
-    const XmlRead xml = readXml(document);
+    // When a camera's program has crashed, its HTTP server may answer nothing with status 200.
+    if (document.trimmed().isEmpty())
+        return {{}, {}, QStringLiteral("the answer is empty")};
+    XmlRead xml = readXml(document);
     if (!xml.root)
         return {{}, {}, QStringLiteral("the answer cannot be read: %1").arg(xml.error)};
-    const XmlElement &envelope = *xml.root;
-    const XmlElement *body = envelope.child(soapEnvelope, "Body");
+    XmlElement &envelope = *xml.root;
+    XmlElement *body = envelope.child(soapEnvelope, "Body");
     if (!envelope.is(soapEnvelope, "Envelope") || !body)
         return {{}, {}, QStringLiteral("the answer is no SOAP 1.2 message")};
-    for (const XmlElement &element : body->children) {
+    for (XmlElement &element : body->children) {
         if (element.is(soapEnvelope, "Fault"))
             return {{}, readFault(element), {}};
         if (!element.isText())
-            return {detached({&envelope, body, &element}), {}, {}, xml.count};
+            return {detached({&envelope, body, &element}, &element), {}, {}, xml.count};
     }
     return {{}, {}, QStringLiteral("the answer is empty")};
 }

@@ -1,22 +1,13 @@
 #include <vms_client_sdk/onvif/XmlElement.h>
 
-#include <vms_client_sdk/onvif/OnvifNames.h>
-
 #include <QSet>
 #include <QXmlStreamReader>
-#include <QXmlStreamWriter>
 
 #include <algorithm>
 
 namespace vms_sdk {
 
 namespace {
-
-const QString &xmlNamespace()
-{
-    static const QString uri = QStringLiteral("http://www.w3.org/XML/1998/namespace");
-    return uri;
-}
 
 template <typename Children>
 auto findChild(Children &children, const char *ofNamespace, const char *called)
@@ -137,12 +128,13 @@ private:
     void begin();
     void end();
     void addText();
-    QString shared(const QStringRef &uri);
+    QString shared(const QStringRef &text);
+    QString sharedUri(const QStringRef &uri);
 
     QXmlStreamReader m_reader;
     std::vector<XmlElement> m_open;
     std::optional<XmlElement> m_root;
-    QSet<QString> m_uris; ///< so that all names in a namespace share one text
+    QSet<QString> m_texts; ///< names and namespaces, of which a document repeats a few: each is kept once
     int m_count = 0; ///< of elements, attributes and declarations
     int m_inForce = 0; ///< declarations
     bool m_isNamespaceTooLong = false;
@@ -181,30 +173,36 @@ XmlRead Reader::read()
     return {std::move(m_root), {}, m_count};
 }
 
-QString Reader::shared(const QStringRef &uri)
+QString Reader::shared(const QStringRef &text)
 {
-    if (uri.isEmpty() || uri.size() > maxXmlNamespace)
+    if (text.isEmpty())
         return {};
-    return *m_uris.insert(uri.toString());
+    const auto known = m_texts.constFind(QString::fromRawData(text.unicode(), text.size()));
+    return known != m_texts.constEnd() ? *known : *m_texts.insert(text.toString());
+}
+
+QString Reader::sharedUri(const QStringRef &uri)
+{
+    return uri.size() > maxXmlNamespace ? QString() : shared(uri);
 }
 
 void Reader::begin()
 {
     XmlElement element;
-    element.namespaceUri = shared(m_reader.namespaceUri());
-    element.prefix = m_reader.prefix().toString();
-    element.name = m_reader.name().toString();
+    element.namespaceUri = sharedUri(m_reader.namespaceUri());
+    element.prefix = shared(m_reader.prefix());
+    element.name = shared(m_reader.name());
     const QXmlStreamNamespaceDeclarations declarations = m_reader.namespaceDeclarations();
     for (const QXmlStreamNamespaceDeclaration &each : declarations) {
         m_isNamespaceTooLong |= each.namespaceUri().size() > maxXmlNamespace;
-        element.declarations.append({each.prefix().toString(), shared(each.namespaceUri())});
+        element.declarations.append({shared(each.prefix()), sharedUri(each.namespaceUri())});
     }
     m_inForce += declarations.size();
     const QXmlStreamAttributes attributes = m_reader.attributes();
     m_count += 1 + declarations.size() + attributes.size();
     for (const QXmlStreamAttribute &each : attributes)
         element.attributes.append(
-            {shared(each.namespaceUri()), each.prefix().toString(), each.name().toString(), each.value().toString()});
+            {sharedUri(each.namespaceUri()), shared(each.prefix()), shared(each.name()), each.value().toString()});
     m_open.push_back(std::move(element));
 }
 
@@ -298,7 +296,10 @@ void addPrefixes(const XmlElement &element, const QSet<QString> &known, QSet<QSt
 
 } // namespace
 
-XmlElement detached(const std::vector<const XmlElement *> &path)
+namespace {
+
+/// Those that are in force at the end of the path, as far as what is there uses them.
+QVector<XmlElement::Declaration> declarationsFor(const std::vector<const XmlElement *> &path)
 {
     QVector<XmlElement::Declaration> inForce;
     QSet<QString> known;
@@ -311,14 +312,29 @@ XmlElement detached(const std::vector<const XmlElement *> &path)
             known.insert(each.prefix);
         }
     }
-    XmlElement part = *path.back();
     QSet<QString> used;
-    addPrefixes(part, known, &used);
-    part.declarations.clear();
+    addPrefixes(*path.back(), known, &used);
+    QVector<XmlElement::Declaration> needed;
     for (const XmlElement::Declaration &each : qAsConst(inForce))
         if (used.contains(each.prefix) && !(each.prefix.isEmpty() && each.namespaceUri.isEmpty()))
-            part.declarations.append(each);
+            needed.append(each);
+    return needed;
+}
+
+} // namespace
+
+XmlElement detached(const std::vector<const XmlElement *> &path)
+{
+    XmlElement part = *path.back();
+    part.declarations = declarationsFor(path);
     return part;
+}
+
+XmlElement detached(const std::vector<const XmlElement *> &path, XmlElement *part)
+{
+    const QVector<XmlElement::Declaration> declarations = declarationsFor(path);
+    part->declarations = declarations;
+    return std::move(*part);
 }
 
 bool isXmlText(const QString &text)
@@ -332,135 +348,6 @@ bool isXmlText(const QString &text)
             return false;
     }
     return true;
-}
-
-namespace {
-
-class Writer
-{
-public:
-    explicit Writer(QByteArray *document)
-        : m_writer(document)
-    {
-    }
-
-    void write(const XmlElement &root);
-
-private:
-    void writeElement(const XmlElement &element);
-    void writeText(const QString &text);
-    QString qualified(const QString &uri, const QString &prefix, const QString &name, bool isAttribute);
-    QString prefixFor(const QString &uri, const QString &prefix, bool isAttribute);
-    const QString *inForce(const QString &prefix) const;
-
-    QXmlStreamWriter m_writer;
-    QVector<XmlElement::Declaration> m_inForce; ///< the innermost last
-};
-
-/// The namespace that the prefix stands for; null when it stands for none.
-const QString *Writer::inForce(const QString &prefix) const
-{
-    const auto found = std::find_if(m_inForce.rbegin(), m_inForce.rend(),
-                                    [&prefix](const auto &each) { return each.prefix == prefix; });
-    return found == m_inForce.rend() ? nullptr : &found->namespaceUri;
-}
-
-QString preferredPrefix(const QString &uri)
-{
-    struct Known
-    {
-        const char *prefix, *uri;
-    };
-    static constexpr Known all[]{{"s", onvif::soapEnvelope}, {"tt", onvif::tt},     {"tds", onvif::tds},
-                                 {"trt", onvif::trt},        {"tr2", onvif::tr2},   {"timg", onvif::timg},
-                                 {"ter", onvif::ter},        {"wsse", onvif::wsse}, {"wsu", onvif::wsu}};
-    for (const Known &known : all)
-        if (uri == QLatin1String(known.uri))
-            return QLatin1String(known.prefix);
-    return QStringLiteral("n");
-}
-
-/// A prefix that stands for the namespace; one that is declared for it when there is none yet.
-QString Writer::prefixFor(const QString &uri, const QString &prefix, bool isAttribute)
-{
-    const QString *own = inForce(prefix);
-    if ((own ? *own : QString()) == uri && !(isAttribute && prefix.isEmpty() && !uri.isEmpty()))
-        return prefix;
-    if (uri.isEmpty()) { // only elements come here: attributes without a prefix are in no namespace
-        m_inForce.append(XmlElement::Declaration());
-        return {};
-    }
-    for (const XmlElement::Declaration &each : qAsConst(m_inForce))
-        if (each.namespaceUri == uri && !each.prefix.isEmpty() && *inForce(each.prefix) == uri)
-            return each.prefix;
-    QString made = preferredPrefix(uri);
-    for (int i = 1; inForce(made); ++i)
-        made = preferredPrefix(uri) + QString::number(i);
-    m_inForce.append({made, uri});
-    return made;
-}
-
-QString Writer::qualified(const QString &uri, const QString &prefix, const QString &name, bool isAttribute)
-{
-    if (uri == xmlNamespace())
-        return QStringLiteral("xml:") + name;
-    if (isAttribute && uri.isEmpty())
-        return name;
-    const QString chosen = prefixFor(uri, prefix, isAttribute);
-    return chosen.isEmpty() ? name : chosen + QLatin1Char(':') + name;
-}
-
-void Writer::writeText(const QString &text)
-{
-    const QStringList pieces = text.split(QLatin1Char('\r'));
-    for (int i = 0; i < pieces.size(); ++i) {
-        if (i > 0)
-            m_writer.writeEntityReference(QStringLiteral("#13")); // as it is, a reader would take it for a line's end
-        m_writer.writeCharacters(pieces.at(i));
-    }
-}
-
-void Writer::writeElement(const XmlElement &element)
-{
-    if (element.isText()) {
-        writeText(element.content);
-        return;
-    }
-    const int outer = m_inForce.size();
-    m_inForce += element.declarations;
-    const QString tag = qualified(element.namespaceUri, element.prefix, element.name, false);
-    QVector<QPair<QString, QString>> attributes;
-    for (const XmlElement::Attribute &each : element.attributes)
-        attributes.append({qualified(each.namespaceUri, each.prefix, each.name, true), each.value});
-    m_writer.writeStartElement(tag);
-    for (int i = outer; i < m_inForce.size(); ++i) {
-        const XmlElement::Declaration &each = m_inForce.at(i);
-        m_writer.writeAttribute(each.prefix.isEmpty() ? QStringLiteral("xmlns")
-                                                      : QStringLiteral("xmlns:") + each.prefix,
-                                each.namespaceUri);
-    }
-    for (const auto &[name, value] : qAsConst(attributes))
-        m_writer.writeAttribute(name, value);
-    for (const XmlElement &child : element.children)
-        writeElement(child);
-    m_writer.writeEndElement();
-    m_inForce.resize(outer);
-}
-
-void Writer::write(const XmlElement &root)
-{
-    m_writer.writeStartDocument();
-    writeElement(root);
-    m_writer.writeEndDocument();
-}
-
-} // namespace
-
-QByteArray writeXml(const XmlElement &root)
-{
-    QByteArray document;
-    Writer(&document).write(root);
-    return document;
 }
 
 } // namespace vms_sdk

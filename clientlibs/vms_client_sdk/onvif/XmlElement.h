@@ -94,6 +94,8 @@ XmlRead readXml(const QByteArray &document);
 /// its values included, when it is written elsewhere.
 /// @param path from the root to the part: each a child of the one before
 XmlElement detached(const std::vector<const XmlElement *> &path);
+/// The same of a document that is of no further use. @param part the end of the path; it is moved out of the document
+XmlElement detached(const std::vector<const XmlElement *> &path, XmlElement *part);
 
 /// Whether XML can carry the text: it has no control characters and no half characters.
 bool isXmlText(const QString &text);
