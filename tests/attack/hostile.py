@@ -365,19 +365,19 @@ def camera_rows():
         return [onvif.camera(bad, at) for bad in behaviours for at in ((), onvif.MEDIA)]
 
     for name, what, batch, each, short, hostile in (
-            ("endless", "heads, lines, chunks, bodies without end", 0, 2, None, both(onvif.ENDLESS)),
+            ("endless", "heads, lines, chunks, bodies without end", 0, 2, 0, both(onvif.ENDLESS)),
             ("drips", "of these a byte each 0.3 s", 1, 4, None, both(onvif.DRIPS)),
             ("lengths", "lengths that lie: longer, shorter, negative, 2^63, two of them", 0, 3, None, both(onvif.LENGTHS)),
             ("large", "4 MiB in answer to each read", 0, 120, None, [onvif.camera(onvif.large("x" * 4_190_000), onvif.MEDIA)]),
             ("held", "4 MiB, held until another read ends", 1, 150, None, [onvif.camera(onvif.large("x" * 4_190_000, True), onvif.MEDIA)]),
             ("held-wide", "45,000 elements, likewise", 1, 150, None, [onvif.camera(onvif.large("<a/>" * 45_000, True), onvif.MEDIA)]),
             ("xml", "XML too deep or wide, DTD, entities; other operations", 1, 3, 0, both(onvif.XML)),
-            ("pushed", "answers nobody asked for; half-closed; older answers", 0, 3, None, both((*onvif.STRAY, onvif.replay))),
+            ("pushed", "answers nobody asked for; half-closed; older answers", 0, 3, 0, both((*onvif.STRAY, onvif.replay))),
             ("moved", "sent to another host, which nobody asks", 1, 1, 0,
              [*both(onvif.MOVED), onvif.camera(None, ("",), host="%s:%d" % onvif.STRANGER), onvif.stranger]),
             ("accounts", "challenges of 100 kB, without nonce, stale for ever; all refused: few attempts", 0, 3, 0, onvif.REFUSING),
             ("clocks", "years 1 and 9999, no numbers", 0, 3, None, [onvif.camera(bad, onvif.DEVICE[:1], onvif.http(onvif.FAULT)) for bad in onvif.CLOCKS])):
-        yield Attack(f"camera-{name}", "ONVIF: " + what, "", hostile, each, short, 0, 35, "all", "audio", ("--onvif", "10"),
+        yield Attack(f"camera-{name}", "ONVIF: " + what, "—", hostile, each, short, 0, 35, "all", "audio", ("--onvif", "10"),
                      "orda_batch" if batch else "orda_client")
 
 
