@@ -73,7 +73,7 @@ DeviceFleet::~DeviceFleet() = default;
 
 QString DeviceFleet::start()
 {
-    const QString error = m_listener->start(m_options);
+    QString error = m_listener->start(m_options);
     if (!error.isEmpty())
         return error;
     m_onvif->setServer(m_listener->serverPort(), m_listener->fingerprint());

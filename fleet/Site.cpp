@@ -12,10 +12,8 @@ namespace device_fleet {
 
 namespace {
 
-constexpr int camera = 1;
 constexpr int recorder = 6;
 constexpr int decoder = 3; // an example of the other kinds
-constexpr int reachedDirectly = 1;
 constexpr int reachedThroughOthers = 2;
 
 bool happens(QRandomGenerator &random, int percent)
@@ -44,7 +42,7 @@ int drawKind(QRandomGenerator &random)
     const int kind = random.bounded(100);
     if (kind < 2)
         return decoder;
-    return kind < 18 ? recorder : camera;
+    return kind < 18 ? recorder : cameraKind;
 }
 
 } // namespace

@@ -6,6 +6,10 @@
 
 namespace device_fleet {
 
+// Of DevInfo.
+inline constexpr int cameraKind = 1;
+inline constexpr int reachedDirectly = 1;
+
 /// A device of the simulated site as it is at the beginning.
 struct SiteDevice
 {

@@ -123,7 +123,7 @@ private:
     };
 
     static QJsonObject supposed(const Exchange &exchange);
-    Answer takeWritten(int device, int exchange, const QJsonObject &answer, int code);
+    Answer takeWritten(int place, int number, const QJsonObject &answer, int code);
     std::optional<Result> resultOfRead(const Device &device, int exchange, const QJsonObject &held, int code) const;
     std::optional<Result> resultOfWrite(int device, int exchange, int code) const;
     bool isLastExchange(int device, int exchange) const;

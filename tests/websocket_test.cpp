@@ -1,7 +1,7 @@
 #include "support/OrdaTest.h"
 
-#include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/Backlog.h>
+#include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/StatusChanges.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 

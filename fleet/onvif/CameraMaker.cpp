@@ -1,5 +1,6 @@
 #include "fleet/onvif/CameraMaker.h"
 
+#include "fleet/Site.h"
 #include "fleet/SiteTexts.h"
 #include "fleet/onvif/CameraTemplates.h"
 #include "fleet/onvif/TraitDealer.h"
@@ -17,9 +18,6 @@ using namespace vms_sdk::onvif;
 
 namespace {
 
-constexpr int camera = 1;
-constexpr int reachedDirectly = 1;
-
 /// Fills a camera's configurations in.
 class Equipment
 {
@@ -31,7 +29,7 @@ public:
     void addOsd(int kind);
 
 private:
-    CameraConfiguration &add(const char *kind, const QString &fromTemplate, const TemplateValues &values);
+    CameraConfiguration &add(const char *kind, const QString &templateName, const TemplateValues &values);
     QString token(const char *what, int number) const;
     TemplateValues streamValues(int stream) const;
     void addStream(int source, int stream);
@@ -254,7 +252,7 @@ vms_sdk::DevInfo drawInfo(const Dealer &dealer, int index, QRandomGenerator &ran
     vms_sdk::DevInfo info;
     info.protocol = vms_sdk::DevProtocol::Onvif;
     info.id = QStringLiteral("onvif-%1").arg(index + 1, 4, 10, QLatin1Char('0'));
-    info.kindCode = camera;
+    info.kindCode = cameraKind;
     info.accessCode = reachedDirectly;
     info.name = drawName(random);
     info.serialNumber = QStringLiteral("OV%1%2")

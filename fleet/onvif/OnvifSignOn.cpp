@@ -129,7 +129,7 @@ QByteArray OnvifSignOn::challenges(bool isStale)
     m_nonces.append(vms_sdk::makeNonce());
     if (m_nonces.size() > maxNonces)
         m_nonces.removeFirst();
-    const QByteArray begin = QByteArray("WWW-Authenticate: Digest realm=\"") + realm + "\", qop=\"auth\", nonce=\""
+    const QByteArray begin = QByteArray("WWW-Authenticate: Digest realm=\"") + realm + R"(", qop="auth", nonce=")"
                            + m_nonces.constLast() + '"';
     const QByteArray end = isStale && m_traits.saysStale ? ", stale=true\r\n" : "\r\n";
     const QByteArray md5 = begin + ", algorithm=MD5" + end;

@@ -28,7 +28,7 @@ constexpr std::chrono::seconds idleCheckInterval{5}; // one timer for all: thous
 QString takeId(QString *path)
 {
     const int end = path->indexOf(QLatin1Char('/'), 1);
-    const QString id = path->mid(1, end < 0 ? -1 : end - 1);
+    QString id = path->mid(1, end < 0 ? -1 : end - 1);
     *path = end < 0 ? QString() : path->mid(end);
     return id;
 }
@@ -221,7 +221,7 @@ void OnvifSite::carryOut(Camera &camera, HttpServerConnection &connection, const
     }
 }
 
-void OnvifSite::askForAccount(Camera &camera, HttpServerConnection &connection, bool isStale)
+void OnvifSite::askForAccount(Camera &camera, HttpServerConnection &connection, bool isStale) const
 {
     const CameraTraits &traits = camera.device.traits();
     const OnvifReply fault = onvifFault({QStringLiteral("Sender"), QStringLiteral("NotAuthorized")},

@@ -66,7 +66,7 @@ private:
     void answer(Camera &camera, HttpServerConnection &connection, const HttpServerRequest &request,
                 const QString &path);
     void carryOut(Camera &camera, HttpServerConnection &connection, const CameraRequest &request);
-    void askForAccount(Camera &camera, HttpServerConnection &connection, bool isStale);
+    void askForAccount(Camera &camera, HttpServerConnection &connection, bool isStale) const;
     void cutIdle();
 
     FleetOptions m_options;

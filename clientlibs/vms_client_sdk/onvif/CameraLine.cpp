@@ -22,7 +22,7 @@ constexpr qint64 clockChangeMs = 5'000;
 
 // What a device service answers with takes a few KiB. Each camera is asked it every half minute: were it 4 MiB each
 // time, some of them together would hold up all others.
-constexpr qint64 maxDeviceAnswer = 256 * 1024;
+constexpr qint64 maxDeviceAnswer = 262'144;
 
 // In memory an element or attribute takes over 100 bytes, however short it is. So many bytes of text grow as large.
 constexpr qint64 elementBytes = 32;
@@ -147,13 +147,13 @@ void CameraLine::useDigest(const DigestAuth &digest)
 void CameraLine::post(OnvifService service, const XmlElement &operation, bool isRepeatable, QObject *owner,
                       const Done &done)
 {
-    m_waiting.push_back({service, operation, isRepeatable, owner, done, m_scheme});
+    m_waiting.push_back({operation, owner, done, service, m_scheme, isRepeatable});
     sendWaiting();
 }
 
 void CameraLine::postFirst(OnvifService service, const XmlElement &operation, QObject *owner, const Done &done)
 {
-    m_waiting.push_front({service, operation, true, owner, done, m_scheme});
+    m_waiting.push_front({operation, owner, done, service, m_scheme, true});
     sendWaiting();
 }
 
@@ -180,7 +180,7 @@ void CameraLine::readClock(QObject *owner, const Done &done)
             takeClock(reply.answer);
         done(reply);
     };
-    send({OnvifService::Device, operation, true, owner, take, Scheme::None});
+    send({operation, owner, take, OnvifService::Device, Scheme::None, true});
 }
 
 void CameraLine::takeClock(const XmlElement &answer)

@@ -63,18 +63,18 @@ public:
 private:
     struct Request
     {
-        OnvifService service;
         XmlElement operation;
-        bool isRepeatable;
         QPointer<QObject> owner;
         Done done;
+        OnvifService service;
         Scheme scheme;
+        bool isRepeatable;
         bool isNonceFresh = false;
+        bool isClockRead = false; ///< anew, after a refusal
+        bool hasWaited = false; ///< so that a nonce may have become too old
         int stales = 0; ///< nonces that were too old
         qint64 clockOffset = 0;
-        bool isClockRead = false; ///< anew, after a refusal
         std::optional<DigestAuth> digest = {}; ///< to be used next
-        bool hasWaited = false; ///< so that a nonce may have become too old
         std::shared_ptr<void> trial = {}; ///< of the account, while it goes on
     };
 

@@ -13,7 +13,7 @@ namespace vms_sdk {
 namespace {
 
 // What is read from one camera before it is the others' turn; a multiple of the longest header line.
-constexpr qint64 readBufferBytes = 64 * 1024;
+constexpr qint64 readBufferBytes = 65'536;
 
 } // namespace
 

@@ -65,13 +65,13 @@ public:
     void begin(const ExchangePtr &exchange);
     HttpConnection *takeResting(const Exchange &exchange);
     HttpConnection *makeConnection(const HttpConnection::Peer &peer);
-    void giveUpLongest();
+    void giveUpLongest() const;
     void onEnded(HttpConnection *connection, const HttpAnswer &answer);
     void rest(HttpConnection *connection, const QString &address);
     void onUnused(HttpConnection *connection);
     void cancel(const ExchangePtr &exchange);
     void leave(const ExchangePtr &exchange);
-    void tell(const ExchangePtr &exchange, const HttpAnswer &answer);
+    void tell(const ExchangePtr &exchange, const HttpAnswer &answer) const;
 
     HttpExchanges *const q;
     const HttpLimits m_limits;
@@ -185,7 +185,7 @@ HttpConnection *HttpExchanges::Private::makeConnection(const HttpConnection::Pee
 }
 
 /// Where there are too many bytes.
-void HttpExchanges::Private::giveUpLongest()
+void HttpExchanges::Private::giveUpLongest() const
 {
     qint64 inAll = 0;
     HttpConnection *longest = nullptr;
@@ -194,7 +194,7 @@ void HttpExchanges::Private::giveUpLongest()
         if (!longest || running.key()->bytesHeld() > longest->bytesHeld())
             longest = running.key();
     }
-    if (inAll > m_limits.maxBytesInAll)
+    if (longest && inAll > m_limits.maxBytesInAll)
         longest->giveUp();
 }
 
@@ -265,7 +265,7 @@ void HttpExchanges::Private::leave(const ExchangePtr &exchange)
     scheduleStart();
 }
 
-void HttpExchanges::Private::tell(const ExchangePtr &exchange, const HttpAnswer &answer)
+void HttpExchanges::Private::tell(const ExchangePtr &exchange, const HttpAnswer &answer) const
 {
     QObject::disconnect(exchange->ownerGone);
     exchange->isOver = true;

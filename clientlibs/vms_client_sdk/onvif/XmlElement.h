@@ -34,7 +34,7 @@ public:
 
     XmlElement() = default;
     /// Prefixes are chosen when it is written.
-    XmlElement(const char *namespaceUri, const char *name, const QString &text = {});
+    XmlElement(const char *ofNamespace, const char *called, const QString &text = {});
 
     bool isText() const { return name.isEmpty(); }
     bool is(const char *ofNamespace, const char *called) const;

@@ -323,7 +323,8 @@ void DeviceLink::lost(TroubleReason reason, const QString &why)
     ++m_losses;
     setTrouble(reason, why);
     rest(DevOffline, goingAwayCloseCode);
-    m_host.setDeadline(this, randomBackOff(m_host.options().firstBackOff, m_host.options().lastBackOff, m_losses + m_cuts));
+    m_host.setDeadline(this,
+                       randomBackOff(m_host.options().firstBackOff, m_host.options().lastBackOff, m_losses + m_cuts));
 }
 
 void DeviceLink::cut(const QString &why)

@@ -2,8 +2,8 @@
 
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/LinkTrouble.h>
-#include <vms_client_sdk/websocket/ClientSignOn.h>
 #include <vms_client_sdk/PinnedCertificate.h>
+#include <vms_client_sdk/websocket/ClientSignOn.h>
 
 #include <QElapsedTimer>
 #include <QObject>

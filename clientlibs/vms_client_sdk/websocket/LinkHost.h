@@ -1,7 +1,7 @@
 #pragma once
 
-#include <vms_client_sdk/WebSocketOptions.h>
 #include <vms_client_sdk/Backlog.h>
+#include <vms_client_sdk/WebSocketOptions.h>
 
 #include <QElapsedTimer>
 #include <QHash>
