@@ -3,6 +3,7 @@
 #include "journal/Outcome.h"
 
 #include <QHash>
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
 #include <QMap>
@@ -14,6 +15,12 @@
 #include <optional>
 
 namespace orda_journal {
+
+/// JSON in one line, as the history has it.
+inline QString jsonText(const QJsonObject &object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
 
 /// A run that is about to begin.
 struct RunStart

@@ -8,15 +8,6 @@
 
 namespace orda_journal {
 
-namespace {
-
-QString textOf(const QJsonObject &object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-} // namespace
-
 RunRows::RunRows(HistoryFile *file)
     : m_file(file)
     , m_putExchange(file->prepare(QStringLiteral(
@@ -39,7 +30,7 @@ bool RunRows::write(const RunBegin &begin)
         "INSERT INTO runs (number, id, family, kind, undoes, parameters, program, began, devices) VALUES "
         "(CASE WHEN ? THEN (SELECT min(0, ifnull(min(number), 0)) - 1 FROM runs) END, "
         "?, ?, ?, ?, ?, ?, ?, ?)"));
-    if (!m_file->run(query, begin.isFromElsewhere, run.id, run.family, run.kind, run.undoes, textOf(run.values),
+    if (!m_file->run(query, begin.isFromElsewhere, run.id, run.family, run.kind, run.undoes, jsonText(run.values),
                      begin.program, begin.began, begin.devices.size()))
         return false;
     m_number = query.lastInsertId().toLongLong();
@@ -48,7 +39,7 @@ bool RunRows::write(const RunBegin &begin)
     m_numbers.reserve(begin.devices.size());
     for (const DeviceRow &device : begin.devices) {
         if (!m_file->run(query, m_number, device.devId, device.name, device.serialNumber, device.ip,
-                         device.ownValues.isEmpty() ? QString() : textOf(device.ownValues)))
+                         device.ownValues.isEmpty() ? QString() : jsonText(device.ownValues)))
             return false;
         m_numbers.insert(device.devId, query.lastInsertId().toLongLong());
     }

@@ -32,11 +32,6 @@ QString messageIn(const QJsonObject &answer)
     return vms_sdk::escaped(objectIn(answer, "error").value(QLatin1String("message")).toString().left(longest));
 }
 
-QString textOf(const QJsonObject &object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
 } // namespace
 
 QJsonObject paramOfTaken(const CfgExchange &exchange, const QJsonObject &before, const QJsonObject &taken)
@@ -129,7 +124,7 @@ ExchangeRow TrackedRun::take(const Request &request, const QString &requestId, c
     ExchangeRow row{
         m_start.devIds.at(request.device), request.exchange, std::exchange(exchange.beforeText, {}), text, {}};
     if (!exchange.taken.isEmpty()) // at an earlier try; whether this one is answered is not known yet
-        row.taken = textOf(supposed(exchange));
+        row.taken = jsonText(supposed(exchange));
     return row;
 }
 
@@ -218,7 +213,7 @@ TrackedRun::Answer TrackedRun::takeWritten(int place, int number, const QJsonObj
     }
     exchange.sent = paramOfTaken(family, exchange.before, exchange.taken);
     exchange.changes = m_family.changesBy(number, exchange.before, exchange.sent);
-    taken.taken = textOf(exchange.taken);
+    taken.taken = jsonText(exchange.taken);
     return taken;
 }
 
