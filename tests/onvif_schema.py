@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Every request to ONVIF cameras and every answer of the fleet's, operation by operation, against the official schema: onvif_schema.py BIN.
-ORDA_ONVIF_SCHEMA names the directory that has the schema's ver10 and ver20 (the directory wsdl of the public repository onvif/specs)."""
+ORDA_ONVIF_SCHEMA names the directory that has the schema's ver10 and ver20 (the directory wsdl of the standard's public repository)."""
 import collections
 import contextlib
 import http.client

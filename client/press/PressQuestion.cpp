@@ -52,10 +52,10 @@ PressQuestion::PressQuestion(const QWidget *form, const Asked &asked, QWidget *p
     const QString hidden = PressTexts::hidden(FormTicks::of(form).hidden);
     const QString kinds = PressTexts::kinds(asked.run.devIds);
     addText(hidden.isEmpty() ? kinds : tr("%1 (%2)", "devices, remark").arg(kinds, hidden), "questionDevices");
-    addValues(form, asked.run);
-    if (!asked.complaints.isEmpty())
+    if (!asked.complaints.isEmpty()) // before the values, which all may be ticked because all are at first
         addText(tr("Looks wrong:") + QLatin1Char('\n') + asked.complaints.join(QLatin1Char('\n')),
                 "questionComplaints");
+    addValues(form, asked.run);
     addButtons();
 
     QStringList texts;
