@@ -9,6 +9,10 @@ into the headers that they share. Where that finds something, or where names of 
 BUILD is a directory that has just been built: Ninja knows there which headers each file is made of. A file is known by what it
 and these headers contain, comments included (a NOLINT is one), by its compile commands, clang-tidy's version, arguments and
 .clang-tidy. What was clean is remembered outside the tree, so that a fresh clone profits; a finding is never remembered.
+
+ORDA_LINTED may name a commit at which all files were clean (.ci/linted): what has not changed since is not looked at again, on a
+machine too that remembers nothing. Where the commit is not known, or what says how files are compiled and looked at has changed, it
+counts for nothing.
 """
 
 import collections
@@ -121,7 +125,32 @@ def lint(build, how, sources):
     return sources
 
 
+@functools.lru_cache(maxsize=None)
+def changed_since_all_were_clean():
+    """Paths; None: everything may have."""
+    commit = os.environ.get("ORDA_LINTED")
+    git = ["git", "-C", ROOT]
+    if not commit or subprocess.run([*git, "cat-file", "-e", commit + "^{commit}"], stderr=subprocess.DEVNULL).returncode != 0:
+        return None
+    names = []
+    for command in (["diff", "--name-only", commit], ["ls-files", "--others", "--exclude-standard"]):
+        names += subprocess.run([*git, *command], check=True, stdout=subprocess.PIPE, text=True).stdout.splitlines()
+    if any(name.startswith("cmake/") or name in ("CMakeLists.txt", "CMakePresets.json") or name.endswith(".clang-tidy") for name in names):
+        return None
+    return {ROOT / name for name in names}
+
+
+def is_unchanged(build, source):
+    changed = changed_since_all_were_clean()
+    if changed is None or any(directory / "CMakeLists.txt" in changed for directory in source.parents):
+        return False
+    outputs = (shlex.split(entry["command"]) for entry in build.commands[str(source)])
+    return all(changed.isdisjoint(path.resolve() for path in build.headers[arguments[arguments.index("-o") + 1]]) for arguments in outputs)
+
+
 def is_known(build, source):
+    if is_unchanged(build, source):
+        return True
     known = CACHE / key(build, source)
     if known.exists():
         known.touch()
