@@ -1,8 +1,9 @@
 #!/usr/bin/python3
 """All figures of docs/performance.md: runs the benchmark programs, each beside its floor, and prints one table.
 
-    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,batch,windows,start,onvif]
+    bench.py BIN [--sizes 100,1000,10000] [--repeat 3] [--json OUT] [--only run,list,site,engine,batch,windows,start,onvif,scale]
 
+The part scale, for docs/scale.md, is measured only when it is asked for: it takes minutes and 10 GiB of memory at 10,000.
 BIN is the directory of the built programs. A figure is the median of its repetitions; a ratio is that of the medians of
 two programs that ran in turn.
 """
@@ -19,9 +20,11 @@ import tempfile
 import time
 
 import onvif_part
+import scale_part
 
 HERE = pathlib.Path(__file__).parent
 PARTS = ("run", "list", "site", "engine", "batch", "windows", "start", "onvif")
+SCALE = "scale"  # takes long: only when it is asked for
 BATCH_SIZE = 1000  # devices, at most, for whole commands
 OSD = ("bShowOSD=false", "timeFormat=YYYY-MM-DD hh:mm:ss", "timePos=left_top", "channelName=HD IPC",
        "position=left_top", "bLargeOSD=false")
@@ -348,8 +351,10 @@ def main():
                 measure_start(options, env, table)
             elif part == "onvif":
                 onvif_part.measure_onvif(options, env, directory, table, run)
+            elif part == SCALE:
+                scale_part.measure_scale(options, env, directory, table, OSD)
             else:
-                parser.error("--only takes some of %s, not \"%s\"" % (", ".join(PARTS), part))
+                parser.error("--only takes some of %s, not \"%s\"" % (", ".join((*PARTS, SCALE)), part))
     table.print()
     if options.json:
         options.json.write_text(json.dumps(table.rows, indent=2), encoding="utf-8")

@@ -1,0 +1,155 @@
+"""The part "scale" of bench.py: what orda_batch needs on one machine, all at once and in shares that run in turn."""
+
+import collections
+import json
+import os
+import statistics
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+
+SHARES = 10
+FLEET_SHARE = 0.8  # of simulated devices can be written to; the others are off line, of another kind, or have weak passwords
+SAMPLE_S = 0.05  # between two looks at the open files of a process
+MIB = 1024 * 1024
+
+
+class Fleet:
+    """A process of simulated devices, and those of them that orda_batch configures."""
+
+    def __init__(self, options, size, seed, directory, env):
+        inventory = directory / ("fleet%d.json" % seed)
+        command = [options.bin / "orda_fleet", "--devices", int(size / FLEET_SHARE) + 20, "--seed", seed, "--inventory", inventory]
+        self.process = subprocess.Popen([str(word) for word in command], env=env, stdout=subprocess.PIPE, text=True)
+        self.process.stdout.readline()  # "listening on …"
+        read = subprocess.run([str(options.bin / "orda_batch"), "read", "osd", "--inventory", str(inventory), "--format", "json"], env=env,
+                              stdout=subprocess.PIPE, text=True)
+        reached = {line["device"] for line in map(json.loads, read.stdout.splitlines()) if line.get("outcome") == "done"}
+        with open(inventory, encoding="utf-8") as file:
+            self.devices = [dict(device, id="%d-%s" % (seed, device["id"])) for device in json.load(file)["devices"]
+                            if device["id"] in reached][:size]
+        if len(self.devices) < size:
+            sys.exit("bench.py: only %d of %d devices can be configured" % (len(self.devices), size))
+
+    def end(self):
+        self.process.terminate()
+        self.process.wait()
+
+
+def write_inventory(path, devices):
+    with open(os.open(path, os.O_CREAT | os.O_TRUNC | os.O_WRONLY, 0o600), "w", encoding="utf-8") as file:
+        json.dump({"devices": devices}, file)
+    return path
+
+
+class Watch(threading.Thread):
+    """Looks at a process from time to time, for the most open files and threads that it has."""
+
+    def __init__(self, pid):
+        super().__init__()
+        self.files, self.threads = 0, 0
+        self.pid, self.has_ended = pid, threading.Event()
+        self.start()
+
+    def run(self):
+        while not self.has_ended.wait(SAMPLE_S):
+            self.files = max(self.files, len(os.listdir("/proc/%d/fd" % self.pid)))
+            self.threads = max(self.threads, len(os.listdir("/proc/%d/task" % self.pid)))
+
+    def end(self):
+        self.has_ended.set()
+        self.join()
+
+
+def usage_of(command, env):
+    """Runs orda_batch. @return what it needed, and how many devices it was about"""
+    with tempfile.TemporaryFile("w+", encoding="utf-8") as results:
+        start = time.monotonic()
+        process = subprocess.Popen([str(word) for word in command], env=env, stdout=results)
+        watch = Watch(process.pid)
+        os.waitid(os.P_PID, process.pid, os.WEXITED | os.WNOWAIT)  # its entry in /proc stays until the watch has ended
+        seconds = time.monotonic() - start
+        watch.end()
+        _, status, usage = os.wait4(process.pid, 0)
+        process.returncode = os.waitstatus_to_exitcode(status)
+        results.seek(0)
+        summary = json.loads(results.readlines()[-1])["summary"]
+    if process.returncode != 0:
+        sys.exit("bench.py: %s: exit code %d: %s" % (command[1], process.returncode, summary))
+    return {"seconds": seconds, "cpu": usage.ru_utime + usage.ru_stime, "memory": usage.ru_maxrss / 1024, "files": watch.files,
+            "threads": watch.threads, "devices": summary["devices"]}
+
+
+class Site:
+    """orda_batch over an inventory, with a history of its own."""
+
+    def __init__(self, options, directory, inventory, values, env):
+        self.batch, self.directory, self.inventory = options.bin / "orda_batch", directory, inventory
+        self.values = [word for value in values for word in ("--set", value)]
+        self.env = dict(env, XDG_STATE_HOME=str(directory))
+
+    def apply(self, *options):
+        return usage_of([self.batch, "apply", "osd", "--inventory", self.inventory, "--format", "json", "--yes", *self.values, *options], self.env)
+
+    def read(self, *options):
+        return usage_of([self.batch, "read", "osd", "--inventory", self.inventory, "--format", "json", *options], self.env)
+
+    def history_mib(self):
+        return sum(file.stat().st_size for file in self.directory.glob("orda/history.db*")) / MIB
+
+
+def add_usage(table, what, size, figures):
+    median = lambda key: statistics.median(figures[key])
+    for name, key, unit in (("start to end", "seconds", "s"), ("processor time", "cpu", "s"), ("memory, at most", "memory", "MiB"),
+                            ("open files, at most", "files", ""), ("threads, at most", "threads", ""), ("history", "history", "MiB")):
+        if figures[key]:
+            table.add("%s: %s" % (what, name), size, median(key), unit)
+
+
+def measure_at_once(options, env, directory, table, values):
+    fleet = Fleet(options, max(options.sizes), 1, directory, env)
+    for size in options.sizes:
+        inventory = write_inventory(directory / "scale.json", fleet.devices[:size])
+        figures = collections.defaultdict(list)
+        for turn in range(options.repeat):
+            time.sleep(0.2 + size / 4000)  # the connections of the run before are gone
+            site = Site(options, directory / ("state-%d-%d" % (size, turn)), inventory, values + ("channelName=Turn %d" % turn,), env)
+            for key, value in site.apply().items():
+                figures[key].append(value)
+            figures["history"].append(site.history_mib())
+        add_usage(table, "orda_batch apply", size, figures)
+    fleet.end()
+
+
+def measure_in_turn(options, env, directory, table, values):
+    size = max(options.sizes)
+    fleets = [Fleet(options, size, number + 1, directory, env) for number in range(SHARES)]
+    devices = [device for fleet in fleets for device in fleet.devices]
+    inventory = write_inventory(directory / "scale.json", devices)
+    site = Site(options, directory / "state-in-turn", inventory, values, env)
+    figures = collections.defaultdict(list)
+    for key, value in site.read("--devices", devices[0]["id"]).items():
+        figures[key].append(value)
+    add_usage(table, "One device of an inventory of so many", len(devices), figures)
+    figures.clear()
+    for share in range(1, SHARES + 1):
+        time.sleep(0.2 + size / 4000)
+        for key, value in site.apply("--shard", "%d/%d" % (share, SHARES)).items():
+            figures[key].append(value)
+    figures["history"].append(site.history_mib())
+    if sum(figures["devices"]) != len(devices):
+        sys.exit("bench.py: the shares have %d devices of %d" % (sum(figures["devices"]), len(devices)))
+    add_usage(table, "orda_batch apply in %d shares in turn, one of them" % SHARES, len(devices), figures)
+    table.add("  all of them, start to end", len(devices), sum(figures["seconds"]), "s")
+    for fleet in fleets:
+        fleet.end()
+
+
+def measure_scale(options, env, directory, table, values):
+    directory = directory / "scale"
+    directory.mkdir()
+    values = tuple(value for value in values if not value.startswith("channelName"))
+    measure_at_once(options, env, directory, table, values)
+    measure_in_turn(options, env, directory, table, values + ("channelName=In turn",))
