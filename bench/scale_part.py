@@ -11,7 +11,7 @@ import threading
 import time
 
 SHARES = 10
-FLEET_SHARE = 0.8  # of simulated devices can be written to; the others are off line, of another kind, or have weak passwords
+FLEET_SHARE = 0.86  # of simulated devices can be written to; the others are off line, of another kind, or have weak passwords
 SAMPLE_S = 0.05  # between two looks at the open files of a process
 MIB = 1024 * 1024
 
@@ -24,8 +24,8 @@ class Fleet:
         command = [options.bin / "orda_fleet", "--devices", int(size / FLEET_SHARE) + 20, "--seed", seed, "--inventory", inventory]
         self.process = subprocess.Popen([str(word) for word in command], env=env, stdout=subprocess.PIPE, text=True)
         self.process.stdout.readline()  # "listening on …"
-        read = subprocess.run([str(options.bin / "orda_batch"), "read", "osd", "--inventory", str(inventory), "--format", "json"], env=env,
-                              stdout=subprocess.PIPE, text=True)
+        read = subprocess.run([str(options.bin / "orda_batch"), "read", "osd", "--inventory", str(inventory), "--format", "json",
+                               "--connect-timeout", "300"], env=env, stdout=subprocess.PIPE, text=True)
         reached = {line["device"] for line in map(json.loads, read.stdout.splitlines()) if line.get("outcome") == "done"}
         with open(inventory, encoding="utf-8") as file:
             self.devices = [dict(device, id="%d-%s" % (seed, device["id"])) for device in json.load(file)["devices"]

@@ -74,13 +74,14 @@ set(CPACK_DEBIAN_BATCH_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_BATCH_PACKAGE_SHLIBDEPS ON)
 # It shows nothing: no fonts, no icons. The history of runs is as the client's.
 set(CPACK_DEBIAN_BATCH_PACKAGE_DEPENDS "${libraries} ${this_version}, libqt5sql5-sqlite")
-set(CPACK_DEBIAN_BATCH_PACKAGE_SUGGESTS "orda-fleet")
+set(CPACK_DEBIAN_BATCH_PACKAGE_SUGGESTS "ansible-core, orda-fleet")
 set(CPACK_DEBIAN_BATCH_DESCRIPTION "configure many cameras and recorders from scripts
 Reads the settings of many cameras and recorders, says what a change would do
 to each of them, makes it in waves, verifies it, and takes it back, from a
 terminal, a script or a timer and without any display.
 .
-This package has the program orda_batch.")
+This package has the program orda_batch, and in /usr/share/orda-batchcfg/ansible
+a role with which Ansible runs it at many sites.")
 
 set(CPACK_DEBIAN_FLEET_PACKAGE_NAME orda-fleet)
 set(CPACK_DEBIAN_FLEET_PACKAGE_SECTION video)

@@ -1,4 +1,3 @@
-#!/usr/bin/env python3
 """Gives each device of a host's run its one line: complete_results.py HOST GROUP RESULTS OUT [RUN…]
 
 RESULTS are the JSON lines of orda_batch, which may end anywhere when it was killed or the connection was lost. What a killed run
