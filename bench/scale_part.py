@@ -47,16 +47,19 @@ def write_inventory(path, devices):
 
 
 class Watch(threading.Thread):
-    """Looks at a process from time to time, for the most open files and threads that it has."""
+    """Looks at a process from time to time, for the most memory, open files and threads that it has."""
 
     def __init__(self, pid):
         super().__init__()
-        self.files, self.threads = 0, 0
+        self.memory, self.files, self.threads = 0, 0, 0
         self.pid, self.has_ended = pid, threading.Event()
         self.start()
 
     def run(self):
         while not self.has_ended.wait(SAMPLE_S):
+            with open("/proc/%d/status" % self.pid, encoding="ascii") as file:  # wait4() would count what Python had before it
+                peaks = [int(line.split()[1]) / 1024 for line in file if line.startswith("VmHWM")]
+            self.memory = max([self.memory, *peaks])  # none is there when the process has ended
             self.files = max(self.files, len(os.listdir("/proc/%d/fd" % self.pid)))
             self.threads = max(self.threads, len(os.listdir("/proc/%d/task" % self.pid)))
 
@@ -80,7 +83,7 @@ def usage_of(command, env):
         summary = json.loads(results.readlines()[-1])["summary"]
     if process.returncode != 0:
         sys.exit("bench.py: %s: exit code %d: %s" % (command[1], process.returncode, summary))
-    return {"seconds": seconds, "cpu": usage.ru_utime + usage.ru_stime, "memory": usage.ru_maxrss / 1024, "files": watch.files,
+    return {"seconds": seconds, "cpu": usage.ru_utime + usage.ru_stime, "memory": watch.memory, "files": watch.files,
             "threads": watch.threads, "devices": summary["devices"]}
 
 
