@@ -2,7 +2,6 @@
 
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/StatusRelay.h>
-#include <vms_client_sdk/WebSocketOptions.h>
 
 #include <QObject>
 #include <QStringList>
@@ -15,21 +14,23 @@ namespace vms_sdk {
 
 class DeviceLink;
 class LinkHost;
+struct SharedLimits;
 
-/// The network thread's side of WebSocketTransport: one link per device.
+/// One network thread's side of WebSocketTransport: one link for each of its devices.
 class NetworkWorker : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit NetworkWorker(const WebSocketOptions &options);
+    explicit NetworkWorker(SharedLimits &shared); ///< which outlives it
     ~NetworkWorker() override;
 
+    /// Ends the links that are gone, releases the places once, and starts those that are new.
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
     void connectDevicesAgain(const QStringList &devIds);
     void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
-    void passedOn(const QString &requestId, int characters); ///< from any thread
+    void goOnReading(); ///< if there is room for answers now
 
 Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);

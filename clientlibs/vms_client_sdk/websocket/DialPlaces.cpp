@@ -1,0 +1,98 @@
+#include <vms_client_sdk/websocket/DialPlaces.h>
+
+#include <vms_client_sdk/websocket/LinkHost.h>
+
+#include <algorithm>
+
+namespace vms_sdk {
+
+DialPlaces::DialPlaces(int maxSettingUp, int maxWaiting)
+    : m_maxSettingUp(maxSettingUp)
+    , m_maxWaiting(maxWaiting)
+{
+}
+
+void DialPlaces::queue(LinkHost *host, DeviceLink *link, Turn turn)
+{
+    const std::lock_guard lock(m_mutex);
+    m_queues.at(std::size_t(turn)).enqueue({host, link});
+    fill();
+}
+
+bool DialPlaces::makeRoom(DeviceLink *link)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_waiting.size() >= m_maxWaiting)
+        return false;
+    m_settingUp.remove(link);
+    m_waiting.insert(link);
+    fill();
+    return true;
+}
+
+void DialPlaces::leave(LinkHost *host, DeviceLink *link)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_settingUp.remove(link) || m_waiting.remove(link)) {
+        m_turns[host].removeOne(link);
+        fill();
+        return;
+    }
+    for (QQueue<Waiting> &queue : m_queues) {
+        const auto isIt = [link](const Waiting &waiting) { return waiting.link == link; };
+        queue.erase(std::remove_if(queue.begin(), queue.end(), isIt), queue.end());
+    }
+}
+
+DeviceLink *DialPlaces::takeTurn(LinkHost *host)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto turns = m_turns.find(host);
+    if (m_holds > 0 || turns == m_turns.end() || turns->isEmpty())
+        return nullptr;
+    return turns->dequeue();
+}
+
+void DialPlaces::hold(int releases)
+{
+    const std::lock_guard lock(m_mutex);
+    m_holds += releases;
+}
+
+void DialPlaces::release()
+{
+    const std::lock_guard lock(m_mutex);
+    if (--m_holds > 0)
+        return;
+    for (auto turns = m_turns.cbegin(); turns != m_turns.cend(); ++turns)
+        if (!turns->isEmpty())
+            turns.key()->wake();
+    fill();
+}
+
+void DialPlaces::fill()
+{
+    while (m_holds == 0 && m_settingUp.size() < m_maxSettingUp) {
+        QQueue<Waiting> *queue = nextQueue();
+        if (!queue)
+            return;
+        const Waiting next = queue->dequeue();
+        m_settingUp.insert(next.link);
+        m_turns[next.host].enqueue(next.link);
+        next.host->wake(); // under the lock, so that its links cannot leave, nor the host end, before
+    }
+}
+
+QQueue<DialPlaces::Waiting> *DialPlaces::nextQueue()
+{
+    const auto hasLinks = [](const QQueue<Waiting> &queue) { return !queue.isEmpty(); };
+    constexpr quint64 lastComesFirst = 4; // every fourth time, so that the last queue is not left waiting for ever
+    if (++m_dialCount % lastComesFirst == 0) {
+        const auto last = std::find_if(m_queues.rbegin(), m_queues.rend(), hasLinks);
+        return last == m_queues.rend() ? nullptr : &*last;
+    }
+    const auto first = std::find_if(m_queues.begin(), m_queues.end(), hasLinks);
+    return first == m_queues.end() ? nullptr : &*first;
+}
+
+} // namespace vms_sdk
