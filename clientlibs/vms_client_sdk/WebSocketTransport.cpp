@@ -40,7 +40,7 @@ void WebSocketTransport::addShard()
 {
     m_shards.push_back(std::make_unique<Shard>());
     Shard &shard = *m_shards.back();
-    shard.worker = new NetworkWorker(*m_limits);
+    shard.worker = new NetworkWorker(*m_limits, int(m_shards.size()) - 1);
     shard.worker->moveToThread(&shard.thread);
     connect(&shard.thread, &QThread::finished, shard.worker, &QObject::deleteLater);
     // Direct: whoever listens to a transport queues its signals anyway, and once is enough.

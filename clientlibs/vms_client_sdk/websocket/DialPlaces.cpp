@@ -15,7 +15,9 @@ DialPlaces::DialPlaces(int maxSettingUp, int maxWaiting)
 void DialPlaces::queue(LinkHost *host, DeviceLink *link, Turn turn)
 {
     const std::lock_guard lock(m_mutex);
-    m_queues.at(std::size_t(turn)).enqueue({host, link});
+    const Order order{turn == Turn::New ? host->number() : 0, ++m_queueCount};
+    m_queues.at(std::size_t(turn)).emplace(order, Waiting{host, link});
+    m_queued.insert(link, {turn, order});
     fill();
 }
 
@@ -38,10 +40,11 @@ void DialPlaces::leave(LinkHost *host, DeviceLink *link)
         fill();
         return;
     }
-    for (QQueue<Waiting> &queue : m_queues) {
-        const auto isIt = [link](const Waiting &waiting) { return waiting.link == link; };
-        queue.erase(std::remove_if(queue.begin(), queue.end(), isIt), queue.end());
-    }
+    const auto queued = m_queued.find(link);
+    if (queued == m_queued.end())
+        return;
+    m_queues.at(std::size_t(queued->turn)).erase(queued->order);
+    m_queued.erase(queued);
 }
 
 DeviceLink *DialPlaces::takeTurn(LinkHost *host)
@@ -73,19 +76,21 @@ void DialPlaces::release()
 void DialPlaces::fill()
 {
     while (m_holds == 0 && m_settingUp.size() < m_maxSettingUp) {
-        QQueue<Waiting> *queue = nextQueue();
+        Queue *queue = nextQueue();
         if (!queue)
             return;
-        const Waiting next = queue->dequeue();
+        const Waiting next = queue->begin()->second;
+        queue->erase(queue->begin());
+        m_queued.remove(next.link);
         m_settingUp.insert(next.link);
         m_turns[next.host].enqueue(next.link);
         next.host->wake(); // under the lock, so that its links cannot leave, nor the host end, before
     }
 }
 
-QQueue<DialPlaces::Waiting> *DialPlaces::nextQueue()
+DialPlaces::Queue *DialPlaces::nextQueue()
 {
-    const auto hasLinks = [](const QQueue<Waiting> &queue) { return !queue.isEmpty(); };
+    const auto hasLinks = [](const Queue &queue) { return !queue.empty(); };
     constexpr quint64 lastComesFirst = 4; // every fourth time, so that the last queue is not left waiting for ever
     if (++m_dialCount % lastComesFirst == 0) {
         const auto last = std::find_if(m_queues.rbegin(), m_queues.rend(), hasLinks);

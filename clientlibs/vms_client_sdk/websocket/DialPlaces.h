@@ -5,7 +5,9 @@
 #include <QSet>
 
 #include <array>
+#include <map>
 #include <mutex>
+#include <utility>
 
 namespace vms_sdk {
 
@@ -20,10 +22,10 @@ public:
     /// @param maxSettingUp, maxWaiting as in WebSocketOptions
     DialPlaces(int maxSettingUp, int maxWaiting);
 
-    /// Which links are dialled first when there are more links than places.
+    /// Which links are dialled first when there are more links than places; among their like those who came first.
     enum class Turn
     {
-        New,
+        New, ///< thread by thread, so that few threads go through all their sockets for them
         WasOnline, ///< lost, but it has worked before
         HasFailed ///< it has never worked, or was cut for exceeding its limits
     };
@@ -44,23 +46,32 @@ public:
     void release();
 
 private:
+    using Order = std::pair<int, quint64>; ///< number of the thread where it counts, and of the call
     struct Waiting
     {
         LinkHost *host;
         DeviceLink *link;
     };
+    using Queue = std::map<Order, Waiting>;
+    struct Place
+    {
+        Turn turn;
+        Order order;
+    };
 
     void fill();
-    QQueue<Waiting> *nextQueue(); ///< null: all are empty
+    Queue *nextQueue(); ///< null: all are empty
 
     const int m_maxSettingUp;
     const int m_maxWaiting;
     std::mutex m_mutex; ///< for all that follows
-    std::array<QQueue<Waiting>, 3> m_queues; ///< by Turn
+    std::array<Queue, 3> m_queues; ///< by Turn
+    QHash<DeviceLink *, Place> m_queued; ///< where each of them is in the queues
     QHash<LinkHost *, QQueue<DeviceLink *>> m_turns; ///< have got a place and are not dialled yet
     QSet<DeviceLink *> m_settingUp; ///< those with a place
     QSet<DeviceLink *> m_waiting; ///< for their devices' sign-on, after makeRoom()
     int m_holds = 0;
+    quint64 m_queueCount = 0;
     quint64 m_dialCount = 0;
 };
 

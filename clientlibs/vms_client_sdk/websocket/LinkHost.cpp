@@ -9,9 +9,10 @@
 
 namespace vms_sdk {
 
-LinkHost::LinkHost(SharedLimits &shared, QObject *parent)
+LinkHost::LinkHost(SharedLimits &shared, int number, QObject *parent)
     : QObject(parent)
     , m_shared(shared)
+    , m_number(number)
     , m_timer(this)
 {
     m_clock.start();

@@ -21,8 +21,10 @@ class LinkHost : public QObject
     Q_OBJECT
 
 public:
-    LinkHost(SharedLimits &shared, QObject *parent);
+    /// @param number of its thread, from 0
+    LinkHost(SharedLimits &shared, int number, QObject *parent);
 
+    int number() const { return m_number; }
     const WebSocketOptions &options() const { return m_shared.options; }
     Backlog &backlog() { return m_shared.backlog; }
 
@@ -69,6 +71,7 @@ private:
     void cutWhatIsTooLarge();
 
     SharedLimits &m_shared;
+    const int m_number;
     QElapsedTimer m_clock;
     QTimer m_timer;
     std::set<std::pair<qint64, DeviceLink *>> m_deadlines;

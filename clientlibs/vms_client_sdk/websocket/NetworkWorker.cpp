@@ -8,9 +8,9 @@
 
 namespace vms_sdk {
 
-NetworkWorker::NetworkWorker(SharedLimits &shared)
+NetworkWorker::NetworkWorker(SharedLimits &shared, int number)
     : m_states(new StatusRelay(this))
-    , m_host(new LinkHost(shared, this))
+    , m_host(new LinkHost(shared, number, this))
 {
     connect(m_states, &StatusRelay::devStatusChanged, this, &NetworkWorker::devStatusChanged);
     connect(m_states, &StatusRelay::linkTroubled, this, &NetworkWorker::linkTroubled);

@@ -22,7 +22,8 @@ class NetworkWorker : public QObject
     Q_OBJECT
 
 public:
-    explicit NetworkWorker(SharedLimits &shared); ///< which outlives it
+    /// @param shared outlives this object @param number of the thread, from 0
+    NetworkWorker(SharedLimits &shared, int number);
     ~NetworkWorker() override;
 
     /// Ends the links that are gone, releases the places once, and starts those that are new.
