@@ -1,7 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/HttpHead.h>
 #include <vms_client_sdk/LinkTrouble.h>
-#include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketFrames.h>
 
 #include <QAbstractSocket>

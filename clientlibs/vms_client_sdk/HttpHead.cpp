@@ -1,4 +1,4 @@
-#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/HttpHead.h>
 
 #include <QIODevice>
 #include <QList>
