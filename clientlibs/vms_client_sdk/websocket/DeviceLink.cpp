@@ -118,15 +118,9 @@ WebSocketConnection *DeviceLink::makeConnection()
 void DeviceLink::onSslErrors(const QList<QSslError> &errors)
 {
     const QList<QSslError> tolerated = m_pin.tolerated(errors, m_connection->tlsSocket()->peerCertificate());
-    QStringList faults;
-    for (const QSslError &error : errors)
-        if (!tolerated.contains(error))
-            faults.append(error.errorString());
-    if (!faults.isEmpty()) {
-        m_certificateFault =
-            QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; ")));
+    m_certificateFault = PinnedCertificate::fault(errors, tolerated);
+    if (!m_certificateFault.isEmpty())
         warn(m_certificateFault);
-    }
     m_connection->tlsSocket()->ignoreSslErrors(tolerated); // the handshake goes on only if these are all the errors
 }
 

@@ -114,12 +114,9 @@ void WebSocketConnection::sendHandshake()
     for (int i = 0; i < random.size(); i += int(sizeof(quint32)))
         qToUnaligned(QRandomGenerator::global()->generate(), random.data() + i);
     m_key = random.toBase64();
-    const QByteArray path = m_url.path(QUrl::FullyEncoded).toLatin1();
-    const QByteArray query = m_url.query(QUrl::FullyEncoded).toLatin1();
     const QByteArray port = m_url.port() < 0 ? QByteArray() : ':' + QByteArray::number(m_url.port());
-    m_socket->write("GET " + (path.isEmpty() ? QByteArray("/") : path) + (query.isEmpty() ? QByteArray() : '?' + query)
-                    + " HTTP/1.1\r\nHost: " + m_url.host(QUrl::FullyEncoded).toLatin1() + port
-                    + "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Key: " + m_key
+    m_socket->write("GET " + requestTarget(m_url) + " HTTP/1.1\r\nHost: " + m_url.host(QUrl::FullyEncoded).toLatin1()
+                    + port + "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Key: " + m_key
                     + "\r\nSec-WebSocket-Version: 13\r\nSec-WebSocket-Protocol: " + deviceSubProtocol + "\r\n\r\n");
 }
 
