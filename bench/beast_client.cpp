@@ -99,7 +99,7 @@ private:
 } // namespace
 
 int main(int argc, char *argv[])
-{
+try {
     BareClient client(argc, argv);
     asio::io_context context(1); // thread
     client.start([&context](const vms_sdk::DevInfo &device,
@@ -109,4 +109,6 @@ int main(int argc, char *argv[])
                      timer->async_wait([timer, then](const Error &) { then(); });
                  });
     context.run();
+} catch (const std::exception &error) {
+    qFatal("%s", error.what());
 }
