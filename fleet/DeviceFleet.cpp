@@ -4,6 +4,7 @@
 #include "fleet/FleetShard.h"
 #include "fleet/Logging.h"
 #include "fleet/Site.h"
+#include "fleet/ThreadCall.h"
 #include "fleet/onvif/OnvifSite.h"
 #include "fleet/onvif/ProbeResponder.h"
 
@@ -19,13 +20,6 @@ namespace device_fleet {
 namespace {
 
 constexpr int maxShards = 8; // further threads gain nothing on the machines that run a fleet
-
-/// Calls on the thread of @p shard and waits. A shard never waits for the thread that calls, so this comes back.
-void callOn(FleetShard &shard, const std::function<void()> &function)
-{
-    const bool isHere = shard.thread() == QThread::currentThread();
-    QMetaObject::invokeMethod(&shard, function, isHere ? Qt::DirectConnection : Qt::BlockingQueuedConnection);
-}
 
 } // namespace
 
@@ -82,8 +76,9 @@ void DeviceFleet::makeDevices()
     m_records.reserve(std::size_t(m_options.devices));
     m_shardById.reserve(m_options.devices);
     for (int i = 0; i < m_options.devices; ++i) {
-        // In turn: clients dial and configure in the order of the inventory, so all threads have something to do.
-        FleetShard *shard = m_shards[std::size_t(i) % m_shards.size()];
+        // Neighbours together: clients dial in the order of the inventory, and a turn of an event loop costs by all
+        // sockets of its thread, so that few threads should have to do with those that are dialled.
+        FleetShard *shard = m_shards[std::size_t(i) * m_shards.size() / std::size_t(m_options.devices)];
         m_records.push_back(&shard->add(makeSiteDevice(m_options.seed, i)));
         m_shardById.insert(m_records.back()->id, shard);
     }
@@ -151,7 +146,7 @@ void DeviceFleet::handOver(const QString &path, QTcpSocket *socket, const vms_sd
 void DeviceFleet::onEachShard(const std::function<void(FleetShard &)> &function) const
 {
     for (FleetShard *shard : m_shards)
-        callOn(*shard, [shard, &function] { function(*shard); });
+        callOnThreadOf(shard, [shard, &function] { function(*shard); });
 }
 
 QJsonObject DeviceFleet::dump() const
@@ -184,7 +179,7 @@ void DeviceFleet::setOnline(const QString &deviceId, bool online)
 {
     m_onvif->setOnline(deviceId, online);
     if (FleetShard *shard = m_shardById.value(deviceId))
-        callOn(*shard, [&] { shard->setOnline(deviceId, online); });
+        callOnThreadOf(shard, [&] { shard->setOnline(deviceId, online); });
 }
 
 } // namespace device_fleet

@@ -25,7 +25,7 @@ WebSocketTransport::WebSocketTransport(QObject *parent, const WebSocketOptions &
     // The room comes back by passedOn(), on this thread.
     m_limits = std::make_unique<SharedLimits>(options, [this] {
         for (const auto &shard : m_shards)
-            QMetaObject::invokeMethod(shard->worker, &NetworkWorker::goOnReading, Qt::QueuedConnection);
+            shard->worker->post([worker = shard->worker] { worker->goOnReading(); });
     });
     addShard();
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &WebSocketTransport::shutdown);
@@ -82,10 +82,8 @@ void WebSocketTransport::setDevices(const QList<DevInfo> &devices)
         shardFor(device).devices.append(device);
     m_limits->places.hold(int(m_shards.size())); // released by each when it has ended what is gone
     for (const auto &shard : m_shards)
-        QMetaObject::invokeMethod(
-            shard->worker,
-            [worker = shard->worker, own = std::exchange(shard->devices, {})] { worker->setDevices(own); },
-            Qt::QueuedConnection);
+        shard->worker->post(
+            [worker = shard->worker, own = std::exchange(shard->devices, {})] { worker->setDevices(own); });
 }
 
 WebSocketTransport::Shard &WebSocketTransport::shardFor(const DevInfo &device)
@@ -109,14 +107,13 @@ WebSocketTransport::Shard &WebSocketTransport::shardFor(const DevInfo &device)
 void WebSocketTransport::connectAgain()
 {
     for (const auto &shard : m_shards)
-        QMetaObject::invokeMethod(shard->worker, &NetworkWorker::connectAgain, Qt::QueuedConnection);
+        shard->worker->post([worker = shard->worker] { worker->connectAgain(); });
 }
 
 void WebSocketTransport::connectDevicesAgain(const QStringList &devIds)
 {
     for (const auto &shard : m_shards)
-        QMetaObject::invokeMethod(
-            shard->worker, [=, worker = shard->worker] { worker->connectDevicesAgain(devIds); }, Qt::QueuedConnection);
+        shard->worker->post([=, worker = shard->worker] { worker->connectDevicesAgain(devIds); });
 }
 
 void WebSocketTransport::shutdown()

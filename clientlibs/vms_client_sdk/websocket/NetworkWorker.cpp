@@ -75,6 +75,22 @@ void NetworkWorker::connectDevicesAgain(const QStringList &devIds)
     }
 }
 
+void NetworkWorker::post(std::function<void()> function)
+{
+    const std::lock_guard lock(m_mutex);
+    m_calls.push_back(std::move(function));
+    QMetaObject::invokeMethod(this, &NetworkWorker::callNext, Qt::QueuedConnection);
+}
+
+void NetworkWorker::callNext()
+{
+    std::unique_lock lock(m_mutex);
+    const std::function<void()> function = std::move(m_calls.front());
+    m_calls.pop_front();
+    lock.unlock();
+    function();
+}
+
 void NetworkWorker::send(const QString &requestId, const QString &devId, const QString &text)
 {
     const std::lock_guard lock(m_mutex);

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QStringList>
 #include <QVector>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <unordered_map>
@@ -30,7 +32,11 @@ public:
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
     void connectDevicesAgain(const QStringList &devIds);
-    void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
+
+    // From any thread:
+    /// Calls the function on the worker's thread, after those posted before.
+    void post(std::function<void()> function);
+    void send(const QString &requestId, const QString &devId, const QString &text);
     void goOnReading(); ///< if there is room for answers now
 
 Q_SIGNALS:
@@ -47,10 +53,12 @@ private:
     };
 
     std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
+    void callNext();
     void sendRequests();
     void setReading(bool isReading);
 
     std::mutex m_mutex;
+    std::deque<std::function<void()>> m_calls; ///< under the mutex; one wake-up for each
     QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
     StatusRelay *m_states;
     LinkHost *m_host;
