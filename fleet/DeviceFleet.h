@@ -32,9 +32,10 @@ class OnvifSite;
 /// the path that is dialled; ONVIF cameras are in OnvifSite.
 ///
 /// Its functions are called on one thread, where the server socket and the cameras are too; EmbeddedFleet brings such a
-/// thread along. The devices of the device protocol are dealt out to shards: the first is on that thread, each further
-/// one on a thread of its own, because Qt asks the system about all sockets of a thread whenever one of them has
-/// something. The functions block until the shards have done what they are asked.
+/// thread along. The devices of the device protocol are dealt out to shards, because Qt asks the system about all
+/// sockets of a thread whenever one of them has something. A single shard is on that thread as well; where there are
+/// several, each has a thread of its own, so that those who dial are let in however busy the devices are. The functions
+/// block until the shards have done what they are asked.
 class DeviceFleet : public QObject
 {
     Q_OBJECT
@@ -80,8 +81,8 @@ private:
     FaultPlan m_faults;
     DeviceListener *m_listener;
     OnvifSite *m_onvif;
-    std::vector<std::unique_ptr<QThread>> m_threads; // of all shards but the first; each deletes its own at its end
-    std::vector<FleetShard *> m_shards; // never empty; the first is a child
+    std::vector<std::unique_ptr<QThread>> m_threads; // of the shards, by their number; none when there is one shard
+    std::vector<FleetShard *> m_shards; // never empty; deleted by their threads, a single one as a child
     // Not changed after the construction.
     std::vector<const vms_sdk::DevInfo *> m_records; // by the devices' numbers; the shards own them
     QHash<QString, FleetShard *> m_shardById;
