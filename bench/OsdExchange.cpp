@@ -67,7 +67,7 @@ bool isAccepted(const QString &writeAnswer)
     return !isRefused(parse(writeAnswer));
 }
 
-QString readAnswer()
+QString readAnswer(int transparency)
 {
     return answer(QStringLiteral("chnosd_get_param"),
                   {{QStringLiteral("bShowOSD"), true},
@@ -78,7 +78,7 @@ QString readAnswer()
                    {QStringLiteral("position"), QStringLiteral("left_bottom")},
                    {QStringLiteral("bLargeOSD"), true},
                    {QStringLiteral("fontColor"), QStringLiteral("#ffffff")},
-                   {QStringLiteral("transparency"), 20}});
+                   {QStringLiteral("transparency"), transparency}});
 }
 
 QString writeAnswer()

@@ -13,7 +13,7 @@ QString writeRequest(const QString &readAnswer);
 bool isAccepted(const QString &writeAnswer);
 
 /// What a simulated device answers to these.
-QString readAnswer();
+QString readAnswer(int transparency = 20);
 QString writeAnswer();
 
 } // namespace osd_exchange

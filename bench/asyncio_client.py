@@ -1,9 +1,10 @@
 #!/usr/bin/python3
 """What an engineer would write instead: configures the OSD of all devices of an inventory with asyncio.
 
-    asyncio_client.py INVENTORY
+    asyncio_client.py INVENTORY [--read]
 
-Prints {"runMs": …}: from the first request to the last answer, all devices connected and signed on beforehand.
+With --read it reads only, and works out what it would write. Prints {"runMs": …}: from the first request to the last
+answer, all devices connected and signed on beforehand.
 """
 
 import asyncio
@@ -55,25 +56,27 @@ class Device:
             sys.exit("a device refused to be configured")
         return answer
 
-    async def configure(self):
+    async def configure(self, only_reads):
         answer = await self.exchange(request("chnosd_get_param", {"channelid": 0}))
         merged = {key: WANTED.get(key, value) for key, value in answer["result"].items()}
+        if only_reads:
+            return
         await asyncio.sleep(PAUSE)
         await self.exchange(request("chnosd_set_param", {"attr": merged, "channelid": 0}))
 
 
-async def main(path):
+async def main(path, only_reads):
     with open(path, encoding="utf-8") as file:
         devices = [Device(record) for record in json.load(file)["devices"]]
     places = asyncio.Semaphore(SETTING_UP_AT_ONCE)
     await asyncio.gather(*(device.connect(places) for device in devices))
     start = time.perf_counter()
-    await asyncio.gather(*(device.configure() for device in devices))
+    await asyncio.gather(*(device.configure(only_reads) for device in devices))
     print(json.dumps({"runMs": (time.perf_counter() - start) * 1000}), flush=True)
     os._exit(0)  # closing the connections is not measured
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 2:
+    if len(sys.argv) < 2 or sys.argv[2:] not in ([], ["--read"]):
         sys.exit(__doc__)
-    asyncio.run(main(sys.argv[1]))
+    asyncio.run(main(sys.argv[1], "--read" in sys.argv))

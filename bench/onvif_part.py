@@ -8,12 +8,12 @@ import math
 import os
 import re
 import resource
-import statistics
 import subprocess
 import sys
 import time
 
 import asyncio_onvif
+from figures import run
 
 RUN_SIZE = 1000  # cameras, at most, for a run
 CONNECTED_SIZE = 5000  # where all that is asked is measured
@@ -143,8 +143,8 @@ def phases_of(posts):
 class Comparison:
     """The same run by three clients."""
 
-    def __init__(self, options, env, directory, devices, run):
-        self.env, self.directory, self.devices, self.run = env, directory, devices, run
+    def __init__(self, options, env, directory, devices):
+        self.env, self.directory, self.devices = env, directory, devices
         self.engine, self.bare = options.bin / "engine_client", options.bin / "bare_post_client"
         self.script = asyncio_onvif.__file__
         self.bit_rate = FIRST_BIT_RATE
@@ -180,11 +180,11 @@ class Comparison:
             for name, command in (("bare", (self.bare, texts)), ("script", (self.script, texts)),
                                   ("ours", (self.engine, "tasks", self.inventory(), self.bit_rate))):
                 time.sleep(0.2 + len(self.devices) / 4000)  # the connections of the client before are gone
-                self.figures[name].append(json.loads(self.run(command, self.env)))
+                self.figures[name].append(json.loads(run(command, self.env)))
         return sum(map(len, posts.values()))
 
-    def median(self, client, key):
-        return statistics.median(one[key] for one in self.figures[client])
+    def values(self, client, key):
+        return [one[key] for one in self.figures[client]]
 
 
 def write_json(path, content):
@@ -193,23 +193,23 @@ def write_json(path, content):
     return path
 
 
-def measure_run(options, env, directory, table, run, size):
+def measure_run(options, env, directory, table, size):
     with Fleet(options, int(size * PLAIN_SHARE) + 40, directory, env) as fleet:
-        comparison = Comparison(options, env, directory, asyncio.run(plain_ones(fleet.devices, size)), run)
+        comparison = Comparison(options, env, directory, asyncio.run(plain_ones(fleet.devices, size)))
         posts = comparison.take_turns(options.repeat)
     rates = fleet.bit_rates()
     if any(str(comparison.bit_rate) not in rates[device["id"]] for device in comparison.devices):
         sys.exit("bench.py: not all cameras have the bit rate of the last run")
-    ours = comparison.median("ours", "runMs")
+    ours = comparison.values("ours", "runMs")
     goal = "1.5x" if size == RUN_SIZE else None
-    table.add("ONVIF video run, against bare HTTP POSTs of the same texts", size, ours, "ms", comparison.median("bare", "runMs"), goal)
-    table.add("ONVIF video run, against a Python script", size, ours, "ms", comparison.median("script", "runMs"))
-    table.add("  the same, processor time, against bare HTTP POSTs", size, comparison.median("ours", "cpuMs"), "ms", comparison.median("bare", "cpuMs"))
-    table.add("  the same, posts of each", size, posts, "")
-    table.add("  the same, open files after it", size, comparison.median("ours", "openFilesAfter"), "")
+    table.add("ONVIF video run, against bare HTTP POSTs of the same texts", size, ours, "ms", comparison.values("bare", "runMs"), goal)
+    table.add("ONVIF video run, against a Python script", size, ours, "ms", comparison.values("script", "runMs"))
+    table.add("ONVIF video run, processor time, against bare HTTP POSTs", size, comparison.values("ours", "cpuMs"), "ms", comparison.values("bare", "cpuMs"))
+    table.add("ONVIF video run, posts of each client", size, [posts], "")
+    table.add("ONVIF video run, open files after it", size, comparison.values("ours", "openFilesAfter"), "")
 
 
-def measure_connected(options, env, directory, table, run, sizes):
+def measure_connected(options, env, directory, table, sizes):
     with Fleet(options, max(sizes), directory, env) as fleet:
         for size in sizes:
             inventory = write_json(directory / "connected.json", {"devices": fleet.devices[:size]})
@@ -220,17 +220,17 @@ def measure_connected(options, env, directory, table, run, sizes):
                     figures[key].append(value)
             for what, key, unit in (("started to all connected", "connectMs", "ms"), ("threads with all connected", "threads", ""),
                                     ("open files with all connected", "openFiles", ""), ("memory with all connected", "memoryKiB", "KiB")):
-                table.add("ONVIF cameras: " + what, size, statistics.median(figures[key]), unit)
+                table.add("ONVIF cameras: " + what, size, figures[key], unit)
 
 
-def measure_onvif(options, env, directory, table, run):
+def measure_onvif(options, env, directory, table):
     hard = resource.getrlimit(resource.RLIMIT_NOFILE)[1]
     resource.setrlimit(resource.RLIMIT_NOFILE, (hard, hard))  # the recorder has two for each connection
     directory = directory / "onvif"
     directory.mkdir()
     sizes = sorted({min(size, RUN_SIZE) for size in options.sizes})
     for size in sizes:
-        measure_run(options, env, directory, table, run, size)
+        measure_run(options, env, directory, table, size)
     if max(options.sizes) >= RUN_SIZE:
         sizes = [RUN_SIZE, CONNECTED_SIZE]
-    measure_connected(options, env, directory, table, run, sizes)
+    measure_connected(options, env, directory, table, sizes)

@@ -26,30 +26,47 @@ QStringList silent(const ScriptedTransport::Request &)
     return {};
 }
 
+/// What devices hold before a run.
+enum class Settings
+{
+    Same,
+    Different, ///< none holds what the one before it does, so that every write is another one
+};
+
 /// Answers each request, which the SDK raises at the next turn of the event loop.
 class InstantTransport : public vms_sdk::DeviceTransport
 {
     Q_OBJECT
 
 public:
+    explicit InstantTransport(Settings settings)
+    {
+        const int different = settings == Settings::Same ? 1 : 100;
+        for (int i = 0; i < different; ++i)
+            m_read.append(osd_exchange::readAnswer(i));
+    }
+
     void send(const QString &requestId, const QString &, const QString &text) override
     {
         ++requests;
-        emit answered(requestId, text.contains(QLatin1String("chnosd_get_param")) ? m_read : m_written);
+        if (text.contains(QLatin1String("chnosd_get_param")))
+            emit answered(requestId, m_read.at(int(requests % m_read.size())));
+        else
+            emit answered(requestId, m_written);
     }
 
     qint64 requests = 0;
 
 private:
-    QString m_read = osd_exchange::readAnswer();
+    QStringList m_read;
     QString m_written = osd_exchange::writeAnswer();
 };
 
 /// A whole run of the OSD page, from the press to the summary; the answers come at the next turn of the event loop.
-void osdRun(benchmark::State &state)
+void osdRun(benchmark::State &state, Settings settings)
 {
     const FormFixture f(int(state.range(0)), silent);
-    auto instant = std::make_unique<InstantTransport>();
+    auto instant = std::make_unique<InstantTransport>(settings);
     InstantTransport *transport = instant.get();
     vms_sdk::ClientSdk::instance().setTransport(std::move(instant));
     f.tickAll();
@@ -87,7 +104,7 @@ void osdFloor(benchmark::State &state)
 
 void registerBenchmarks()
 {
-    const auto add = [](const char *name, void (*function)(benchmark::State &)) {
+    const auto add = [](const char *name, const auto &function) {
         benchmark::RegisterBenchmark(name, function)
             ->Arg(1)
             ->Arg(100)
@@ -95,7 +112,8 @@ void registerBenchmarks()
             ->Arg(10'000)
             ->Unit(benchmark::kMillisecond);
     };
-    add("osdRun", osdRun);
+    add("osdRun", [](benchmark::State &state) { osdRun(state, Settings::Same); });
+    add("osdRunDifferent", [](benchmark::State &state) { osdRun(state, Settings::Different); });
     add("osdFloor", osdFloor);
 }
 

@@ -4,12 +4,13 @@ import collections
 import contextlib
 import json
 import os
-import statistics
 import subprocess
 import sys
 import tempfile
 import threading
 import time
+
+from site_part import OSD
 
 SHARES = 10
 FLEET_SHARE = 0.86  # of simulated devices can be written to; the others are off line, of another kind, or have weak passwords
@@ -121,7 +122,7 @@ def add_usage(table, what, size, figures):
                             ("open files, at most", "files", ""), ("threads, at most", "threads", ""), ("history", "history", "MiB"),
                             ("the run exported", "exported", "MiB"), ("exported and imported", "moved", "s")):
         if figures[key]:
-            table.add("%s: %s" % (what, name), size, statistics.median(figures[key]), unit)
+            table.add("%s: %s" % (what, name), size, figures[key], unit)
 
 
 def measure_at_once(stack, options, env, directory, table, values):
@@ -162,13 +163,13 @@ def measure_in_turn(stack, options, env, directory, table, values):
     if sum(figures["devices"]) != len(devices):
         sys.exit("bench.py: the shares have %d devices of %d" % (sum(figures["devices"]), len(devices)))
     add_usage(table, "One of %d shares in turn" % SHARES, len(devices), figures)
-    table.add("  all shares, start to end", len(devices), sum(figures["seconds"]), "s")
+    table.add("All %d shares, start to end" % SHARES, len(devices), [sum(figures["seconds"])], "s")
 
 
-def measure_scale(options, env, directory, table, values):
+def measure_scale(options, env, directory, table):
     directory = directory / "scale"
     directory.mkdir()
-    values = tuple(value for value in values if not value.startswith("channelName"))
+    values = tuple(value for value in OSD if not value.startswith("channelName"))
     with contextlib.ExitStack() as stack:
         measure_at_once(stack, options, env, directory, table, values)
     with contextlib.ExitStack() as stack:

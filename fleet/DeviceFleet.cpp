@@ -1,20 +1,17 @@
 #include "fleet/DeviceFleet.h"
 
-#include "fleet/DeviceConnection.h"
 #include "fleet/DeviceListener.h"
+#include "fleet/FleetShard.h"
 #include "fleet/Logging.h"
-#include "fleet/Reaction.h"
-#include "fleet/SimulatedDevice.h"
 #include "fleet/Site.h"
+#include "fleet/ThreadCall.h"
 #include "fleet/onvif/OnvifSite.h"
 #include "fleet/onvif/ProbeResponder.h"
 
 #include <vms_client_sdk/ForeignText.h>
-#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
-#include <QJsonDocument>
-#include <QPointer>
-#include <QTimer>
+#include <QTcpSocket>
+#include <QThread>
 
 #include <algorithm>
 
@@ -22,54 +19,74 @@ namespace device_fleet {
 
 namespace {
 
-// So many windows and scripts may use a site at a time. Older connections are those that their clients have lost.
-constexpr int maxClients = 4;
-constexpr int maxWaitingAnswers = 256; // of one connection; a task waits for one at a time
+// Each turn of a thread's event loop costs about as much as its sockets, but several threads have more turns than one,
+// which finds more to do in each of them.
+constexpr int maxShards = 8;
 
 } // namespace
-
-struct DeviceFleet::Device
-{
-    explicit Device(const SiteDevice &made)
-        : info(made.info)
-        , state(made.state)
-        , isOnline(made.online)
-        , simulated(made.info.id, made.parameters)
-    {
-    }
-
-    vms_sdk::DevInfo info;
-    vms_sdk::DevStatus state;
-    bool isOnline;
-    SimulatedDevice simulated;
-    QList<DeviceConnection *> connections; // signed on, the oldest first
-};
 
 DeviceFleet::DeviceFleet(const FleetOptions &options, const FaultPlan &faults, QObject *parent)
     : QObject(parent)
     , m_options(options)
     , m_faults(faults)
-    , m_listener(new DeviceListener([this](const QString &path) { return admission(path); }, this))
+    , m_listener(new DeviceListener([this](const QString &path) { return m_shardById.contains(path.mid(1)); }, this))
     , m_onvif(new OnvifSite(options, m_faults, this))
 {
-    connect(m_listener, &DeviceListener::dialled, this, &DeviceFleet::greet);
+    connect(m_listener, &DeviceListener::dialled, this, &DeviceFleet::handOver);
     connect(m_listener, &DeviceListener::posted, m_onvif, &OnvifSite::takeOver);
     connect(m_onvif, &OnvifSite::requestReceived, this, &DeviceFleet::requestReceived);
     connect(m_onvif, &OnvifSite::signOnRefused, this, &DeviceFleet::signOnRefused);
-    m_devices.reserve(std::size_t(options.devices));
-    m_deviceById.reserve(options.devices);
-    for (int i = 0; i < options.devices; ++i) {
-        m_devices.push_back(std::make_unique<Device>(makeSiteDevice(options.seed, i)));
-        m_deviceById.insert(m_devices.back()->info.id, m_devices.back().get());
-    }
+    makeShards();
+    makeDevices();
+    for (const auto &thread : m_threads)
+        thread->start();
     const QStringList faultyIds = faults.deviceIds();
     for (const QString &id : faultyIds)
-        if (!find(id) && !m_onvif->hasDevice(id))
+        if (!m_shardById.contains(id) && !m_onvif->hasDevice(id))
             qCWarning(fleetLog).noquote()
                 << tr("no device is called \"%1\": its faults have no effect").arg(vms_sdk::escaped(id));
 }
 
-DeviceFleet::~DeviceFleet() = default;
+DeviceFleet::~DeviceFleet()
+{
+    for (const auto &thread : m_threads)
+        thread->quit();
+    for (const auto &thread : m_threads)
+        thread->wait();
+}
+
+void DeviceFleet::makeShards()
+{
+    const int perThread = m_options.devicesPerThread;
+    const int shards = qBound(1, (m_options.devices + perThread - 1) / perThread, maxShards);
+    for (int number = 1; number <= shards; ++number) {
+        auto *shard = new FleetShard(m_options, m_faults);
+        connect(shard, &FleetShard::requestReceived, this, &DeviceFleet::requestReceived, Qt::DirectConnection);
+        m_shards.push_back(shard);
+        if (shards == 1) {
+            shard->setParent(this);
+            break;
+        }
+        m_threads.push_back(std::make_unique<QThread>());
+        QThread *thread = m_threads.back().get();
+        thread->setObjectName(QStringLiteral("fleet %1").arg(number));
+        shard->moveToThread(thread);
+        connect(thread, &QThread::finished, shard, &QObject::deleteLater);
+    }
+}
+
+void DeviceFleet::makeDevices()
+{
+    m_records.reserve(std::size_t(m_options.devices));
+    m_shardById.reserve(m_options.devices);
+    for (int i = 0; i < m_options.devices; ++i) {
+        // Neighbours together: clients dial in the order of the inventory, and a turn of an event loop costs by all
+        // sockets of its thread, so that few threads should have to do with those that are dialled.
+        FleetShard *shard = m_shards[std::size_t(i) * m_shards.size() / std::size_t(m_options.devices)];
+        m_records.push_back(&shard->add(makeSiteDevice(m_options.seed, i)));
+        m_shardById.insert(m_records.back()->id, shard);
+    }
+}
 
 QString DeviceFleet::start()
 {
@@ -90,15 +107,15 @@ QString DeviceFleet::address() const
 QList<vms_sdk::DevInfo> DeviceFleet::inventory() const
 {
     QList<vms_sdk::DevInfo> records;
-    records.reserve(int(m_devices.size()));
-    for (const auto &device : m_devices)
+    records.reserve(int(m_records.size()));
+    for (const vms_sdk::DevInfo *device : m_records)
         records.append(inventoryRecord(*device));
     return records + m_onvif->inventory();
 }
 
-vms_sdk::DevInfo DeviceFleet::inventoryRecord(const Device &device) const
+vms_sdk::DevInfo DeviceFleet::inventoryRecord(const vms_sdk::DevInfo &device) const
 {
-    vms_sdk::DevInfo record = device.info;
+    vms_sdk::DevInfo record = device;
     record.fingerprint = m_listener->fingerprint();
     const bool isSecure = !record.fingerprint.isEmpty();
     const QHostAddress shared =
@@ -119,122 +136,54 @@ vms_sdk::DevInfo DeviceFleet::inventoryRecord(const Device &device) const
     return record;
 }
 
+void DeviceFleet::handOver(const QString &path, QTcpSocket *socket, const vms_sdk::HttpHead &head)
+{
+    const QString id = path.mid(1);
+    FleetShard *shard = m_shardById.value(id);
+    socket->setParent(nullptr);
+    socket->moveToThread(shard->thread());
+    // The call owns the socket until it is carried out: a shard that ends before deletes both.
+    const auto owned = std::make_shared<std::unique_ptr<QTcpSocket>>(socket);
+    QMetaObject::invokeMethod(shard, [shard, id, owned, head] { shard->greet(id, std::move(*owned), head); });
+}
+
+void DeviceFleet::onEachShard(const std::function<void(FleetShard &)> &function) const
+{
+    for (FleetShard *shard : m_shards)
+        callOnThreadOf(shard, [shard, &function] { function(*shard); });
+}
+
 QJsonObject DeviceFleet::dump() const
 {
     QJsonObject devices = m_onvif->dump();
-    for (const auto &device : m_devices)
-        devices.insert(device->info.id, device->simulated.parameters());
+    onEachShard([&devices](FleetShard &shard) { shard.dumpTo(&devices); });
     return {{QStringLiteral("devices"), devices}};
 }
 
 int DeviceFleet::connectedDevices() const
 {
-    return int(std::count_if(m_devices.begin(), m_devices.end(),
-                             [](const auto &device) { return !device->connections.isEmpty(); }));
+    int count = 0;
+    onEachShard([&count](FleetShard &shard) { count += shard.connectedDevices(); });
+    return count;
 }
 
 void DeviceFleet::setFault(const QString &deviceId, const QString &method, const FaultRule &fault)
 {
     m_faults.set(deviceId, method, fault);
+    onEachShard([&](FleetShard &shard) { shard.setFault(deviceId, method, fault); });
 }
 
 void DeviceFleet::clearFaults()
 {
     m_faults.clear();
+    onEachShard([](FleetShard &shard) { shard.clearFaults(); });
 }
 
 void DeviceFleet::setOnline(const QString &deviceId, bool online)
 {
     m_onvif->setOnline(deviceId, online);
-    Device *device = find(deviceId);
-    if (!device)
-        return;
-    device->isOnline = online;
-    if (online)
-        return;
-    const QList<DeviceConnection *> connections = device->connections; // a copy: cutting one removes it from the list
-    for (DeviceConnection *connection : connections)
-        connection->cut();
-}
-
-DeviceFleet::Device *DeviceFleet::find(const QString &deviceId) const
-{
-    return m_deviceById.value(deviceId);
-}
-
-Admission DeviceFleet::admission(const QString &path) const
-{
-    const Device *device = find(path.mid(1));
-    if (!device)
-        return Admission::Unknown;
-    return device->isOnline ? Admission::Welcome : Admission::OffLine;
-}
-
-void DeviceFleet::greet(const QString &path, vms_sdk::WebSocketConnection *webSocket)
-{
-    Device *device = find(path.mid(1));
-    auto *connection = new DeviceConnection(webSocket, device->info, device->state, this);
-    connect(connection, &DeviceConnection::closed, connection, [connection, device] {
-        device->connections.removeOne(connection);
-        connection->deleteLater();
-    });
-    connect(connection, &DeviceConnection::signedOn, this,
-            [this, connection, device] { takeOver(*device, connection); });
-    connect(connection, &DeviceConnection::requestReceived, this,
-            [this, connection, device](const vms_sdk::DeviceFrame &request) {
-                if (device->connections.contains(connection)) // not one that has been cut
-                    handleRequest(*device, *connection, request);
-            });
-}
-
-void DeviceFleet::takeOver(Device &device, DeviceConnection *connection)
-{
-    device.connections.append(connection);
-    if (device.connections.size() > maxClients)
-        device.connections.constFirst()->cut();
-    if (!device.isOnline) // it went offline after the handshake
-        connection->cut();
-}
-
-void DeviceFleet::handleRequest(Device &device, DeviceConnection &connection, const vms_sdk::DeviceFrame &request)
-{
-    const QJsonObject json = QJsonDocument::fromJson(request.text.toUtf8()).object();
-    const QString method = json.value(QLatin1String("method")).toString();
-    emit requestReceived(device.info.id, method, request.text);
-
-    const Reaction reaction = reactTo(request.requestId, json, device.simulated, m_faults.find(device.info.id, method));
-    if (reaction.isCut) {
-        connection.cut();
-        if (reaction.offLineFor.count() > 0) {
-            setOnline(device.info.id, false);
-            QTimer::singleShot(reaction.offLineFor, this, [this, id = device.info.id] { setOnline(id, true); });
-        }
-        return;
-    }
-    const auto answer = [connection = &connection, frames = reaction.frames] {
-        for (const vms_sdk::DeviceFrame &frame : frames)
-            connection->send(frame);
-    };
-    const auto delay = m_options.latency + reaction.delay;
-    if (delay.count() == 0) {
-        answer();
-        return;
-    }
-    if (connection.findChildren<QTimer *>(QStringLiteral("answer"), Qt::FindDirectChildrenOnly).size()
-        >= maxWaitingAnswers) {
-        qCWarning(fleetLog) << device.info.id << "cut a client that asks faster than it is answered";
-        connection.cut();
-        return;
-    }
-    // A child, so that waiting answers are deleted with their connection, which QTimer::singleShot() would not do.
-    auto *timer = new QTimer(&connection);
-    timer->setObjectName(QStringLiteral("answer"));
-    timer->setSingleShot(true);
-    connect(timer, &QTimer::timeout, timer, [timer, answer] {
-        answer();
-        timer->deleteLater();
-    });
-    timer->start(delay);
+    if (FleetShard *shard = m_shardById.value(deviceId))
+        callOnThreadOf(shard, [&] { shard->setOnline(deviceId, online); });
 }
 
 } // namespace device_fleet

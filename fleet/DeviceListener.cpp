@@ -4,8 +4,6 @@
 #include "fleet/Logging.h"
 #include "fleet/TlsIdentity.h"
 
-#include <vms_client_sdk/websocket/WebSocketConnection.h>
-
 #include <QSslCertificate>
 #include <QSslSocket>
 #include <QTimer>
@@ -31,9 +29,9 @@ QString pathOf(const vms_sdk::HttpHead &head)
 
 } // namespace
 
-DeviceListener::DeviceListener(Gatekeeper gatekeeper, QObject *parent)
+DeviceListener::DeviceListener(std::function<bool(const QString &path)> isKnown, QObject *parent)
     : QTcpServer(parent)
-    , m_gatekeeper(std::move(gatekeeper))
+    , m_isKnown(std::move(isKnown))
 {
     connect(this, &QTcpServer::acceptError, this,
             [this] { qCWarning(fleetLog) << "no further connections are taken:" << errorString(); });
@@ -117,22 +115,15 @@ void DeviceListener::admit(QTcpSocket *socket, const vms_sdk::HttpHead &head)
         return;
     }
     const QString path = pathOf(head);
-    switch (m_gatekeeper(path)) {
-    case Admission::OffLine:
-        socket->abort();
-        break;
-    case Admission::Unknown:
+    if (!m_isKnown(path)) {
         socket->write("HTTP/1.1 404 Not Found\r\nConnection: close\r\nContent-Length: 0\r\n\r\n");
         socket->disconnectFromHost();
-        break;
-    case Admission::Welcome:
-        release(socket);
-        auto *connection = new vms_sdk::WebSocketConnection({}, this);
-        connect(connection, &vms_sdk::WebSocketConnection::finished, connection, &QObject::deleteLater);
-        if (connection->accept(socket, head))
-            emit dialled(path, connection);
-        break;
+        return;
     }
+    release(socket);
+    // Later, because the socket is raising a signal now: on another thread it could be used at the same time.
+    QMetaObject::invokeMethod(
+        this, [this, path, socket, head] { emit dialled(path, socket, head); }, Qt::QueuedConnection);
 }
 
 void DeviceListener::release(QTcpSocket *socket)

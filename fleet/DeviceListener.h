@@ -1,7 +1,6 @@
 #pragma once
 
-#include <vms_client_sdk/websocket/HttpHead.h>
-#include <vms_client_sdk/websocket/WebSocketConnection.h>
+#include <vms_client_sdk/HttpHead.h>
 
 #include <QSslConfiguration>
 #include <QTcpServer>
@@ -17,24 +16,15 @@ namespace device_fleet {
 
 struct FleetOptions;
 
-/// Whether a device may be dialled.
-enum class Admission
-{
-    Welcome,
-    OffLine,
-    Unknown
-};
-
-/// The server socket of all devices. Reads the path before the WebSocket handshake, so that a device that is offline
-/// does not answer at all and an unknown path gets the HTTP error for it.
+/// The server socket of all devices. Reads the head of the request, TLS included, so that it is known which device is
+/// dialled before the WebSocket handshake; an unknown path gets the HTTP error for it.
 class DeviceListener : public QTcpServer
 {
     Q_OBJECT
 
 public:
-    using Gatekeeper = std::function<Admission(const QString &path)>;
-
-    DeviceListener(Gatekeeper gatekeeper, QObject *parent);
+    /// @param isKnown tells whether there is a device at a path
+    DeviceListener(std::function<bool(const QString &path)> isKnown, QObject *parent);
 
     /// @return a text for the user, empty on success
     QString start(const FleetOptions &options);
@@ -42,8 +32,9 @@ public:
     QString fingerprint() const;
 
 signals:
-    /// A client has dialled a device that may be dialled; the receiver owns the connection.
-    void dialled(const QString &path, vms_sdk::WebSocketConnection *connection);
+    /// A client has dialled a device. The receiver owns the socket, and may move it to another thread: none of the
+    /// socket's signals is being raised. What follows the head is still in it; it may be closed already.
+    void dialled(const QString &path, QTcpSocket *socket, const vms_sdk::HttpHead &head);
     /// A client has sent the head of a POST request; the receiver owns the socket. Only with ONVIF devices.
     void posted(QTcpSocket *socket, const vms_sdk::HttpHead &head);
 
@@ -56,7 +47,7 @@ private:
     void admit(QTcpSocket *socket, const vms_sdk::HttpHead &head);
     void release(QTcpSocket *socket);
 
-    Gatekeeper m_gatekeeper;
+    std::function<bool(const QString &path)> m_isKnown;
     bool m_isLoopbackOnly = true;
     bool m_takesPosts = false;
     QSslConfiguration m_tls; // null: none

@@ -1,6 +1,7 @@
 #include "fleet/EmbeddedFleet.h"
 
 #include "fleet/DeviceFleet.h"
+#include "fleet/ThreadCall.h"
 
 #include <vms_client_sdk/OpenFiles.h>
 
@@ -82,7 +83,7 @@ void EmbeddedFleet::stop()
 
 void EmbeddedFleet::onFleetThread(const std::function<void()> &function) const
 {
-    QMetaObject::invokeMethod(m_fleet, function, Qt::BlockingQueuedConnection);
+    callOnThreadOf(m_fleet, function);
 }
 
 QList<vms_sdk::DevInfo> EmbeddedFleet::inventory() const

@@ -16,8 +16,8 @@ namespace device_fleet {
 
 class DeviceFleet;
 
-/// A fleet inside the caller's process, on a thread of its own. The functions may be called from any thread but the
-/// fleet's own, start() and stop() from one at a time; they block until the fleet has done it.
+/// A fleet inside the caller's process, on threads of its own. The functions may be called from any thread but the
+/// fleet's own ones, start() and stop() from one at a time; they block until the fleet has done it.
 class EmbeddedFleet : public QObject
 {
     Q_OBJECT
@@ -49,7 +49,7 @@ public:
     void setOnline(const QString &deviceId, bool online);
 
 signals:
-    /// As in DeviceFleet; raised on the fleet's thread.
+    /// As in DeviceFleet; raised on the fleet's threads, of which there are several where it has many devices.
     void requestReceived(const QString &deviceId, const QString &method, const QString &text);
     void signOnRefused(const QString &deviceId);
 

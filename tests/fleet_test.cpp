@@ -5,8 +5,11 @@
 #include "fleet/SimulatedDevice.h"
 #include "fleet/Site.h"
 
+#include <vms_client_sdk/DeviceProtocol.h>
 #include <vms_client_sdk/Inventory.h>
 #include <vms_client_sdk/OpenFiles.h>
+#include <vms_client_sdk/websocket/ClientSignOn.h>
+#include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QtNetwork>
 
@@ -43,6 +46,35 @@ QByteArray answerTo(const vms_sdk::DevInfo &device)
 {
     return answerTo(QHostAddress(device.ip), device.port, upgradeRequest(device.path));
 }
+
+/// Twelve devices, so few for each thread that there are several.
+FleetOptions inShards(int perThread, bool isSecure)
+{
+    FleetOptions options = fleetOf(12);
+    options.devicesPerThread = perThread;
+    options.certificateFile = options.keyFile = isSecure ? QFINDTESTDATA("support/certificates/valid.pem") : "";
+    return options;
+}
+
+/// Dials a device, signs on and asks.
+struct Client : QObject
+{
+    explicit Client(const vms_sdk::DevInfo &device)
+        : signOn(device)
+    {
+        connect(&line, &vms_sdk::WebSocketConnection::sslErrors, this, [this] { line.tlsSocket()->ignoreSslErrors(); });
+        connect(&line, &vms_sdk::WebSocketConnection::textReceived, this, [this](const QByteArray &text) {
+            if (signOn.state())
+                return answers.append(text);
+            if (const auto reply = signOn.take(QString::fromUtf8(text)).text; !reply.isEmpty())
+                line.sendText(reply.toUtf8());
+        });
+        line.open(vms_sdk::deviceUrl(device), QSslConfiguration::defaultConfiguration());
+    }
+    vms_sdk::WebSocketConnection line{{}};
+    vms_sdk::ClientSignOn signOn;
+    QList<QByteArray> answers;
+};
 
 void startFleet(QProcess &process, const QString &arguments)
 {
@@ -170,6 +202,74 @@ private slots:
     {
         EmbeddedFleet fleet(fleetOf(int(vms_sdk::raiseOpenFileLimit() / 2)));
         QVERIFY(fleet.start().contains("orda_fleet --devices"));
+    }
+
+    void shardsAreAsOneThread()
+    {
+        std::array<QByteArray, 3> told;
+        for (const std::size_t run : {0, 1, 2}) {
+            EmbeddedFleet fleet(inShards(run == 0 ? 12 : 3, run == 2));
+            QCOMPARE(fleet.start(), QString());
+            const auto devices = fleet.inventory();
+            std::vector<std::unique_ptr<Client>> clients;
+            for (const vms_sdk::DevInfo &device : devices) {
+                fleet.setOnline(device.id, true);
+                clients.push_back(std::make_unique<Client>(device));
+            }
+            QTRY_COMPARE(fleet.connectedDevices(), 12);
+            const QStringList methods = SimulatedDevice::methods();
+            fleet.setFault("*", methods[0], {Fault::ErrorCode, -77});
+            for (const int round : {1, 2}) {
+                for (const auto &client : clients)
+                    for (const QString &method : methods)
+                        client->line.sendText("1\n{\"method\": \"" + method.toUtf8() + "\", \"param\": {\"a\": 2}}");
+                for (const auto &client : clients)
+                    QTRY_COMPARE(client->answers.size(), round * methods.size());
+                fleet.clearFaults();
+            }
+            for (const auto &client : clients)
+                told.at(run) += client->answers.join();
+            QCOMPARE(told.at(run).count("-77"), 12);
+            told.at(run) += QJsonDocument(fleet.dump()).toJson();
+            for (const vms_sdk::DevInfo &device : devices)
+                fleet.setOnline(device.id, false);
+            QCOMPARE(fleet.connectedDevices(), 0);
+        }
+        QVERIFY(told[0] == told[1] && told[0] == told[2]);
+    }
+
+    void nothingIsLostOnTheWayToAShard_data() { seeds(30); }
+
+    void nothingIsLostOnTheWayToAShard()
+    {
+        QFETCH(int, seed);
+        const bool isSecure = seed % 3 == 0, isStopped = seed % 2 == 0;
+        EmbeddedFleet fleet(inShards(3, isSecure));
+        QCOMPARE(fleet.start(), QString());
+        const auto devices = fleet.inventory();
+        QRandomGenerator random{quint32(seed)};
+        std::array<QSslSocket, 48> sockets;
+        for (int i = 0; i < 48; ++i) {
+            QSslSocket &socket = sockets.at(std::size_t(i));
+            socket.setPeerVerifyMode(QSslSocket::VerifyNone);
+            isSecure ? socket.connectToHostEncrypted("127.0.0.1", devices[0].port)
+                     : socket.connectToHost("127.0.0.1", devices[0].port);
+            // A sign-on without anything in it, together with the end of the head or after it.
+            const QByteArray text = upgradeRequest(devices[i % 12].path) + QByteArray("\x81\x82\0\0\0\0{}", 8);
+            const int first = text.size() - random.bounded(12);
+            socket.write(text.left(first));
+            QTimer::singleShot(random.bounded(20), &socket, [&, rest = text.mid(first)] { socket.write(rest); });
+        }
+        const auto isGreeted = [](const QSslSocket &socket) { return socket.bytesAvailable() > 0; };
+        while (isStopped && std::count_if(sockets.begin(), sockets.end(), isGreeted) < seed)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (isStopped)
+            fleet.stop();
+        for (int i = 0; i < 48; ++i) {
+            QSslSocket &socket = sockets.at(std::size_t(i));
+            QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
+            QVERIFY(isStopped || socket.readAll().contains("nonce too short") == makeSiteDevice(1, i % 12).online);
+        }
     }
 
     void programWritesInventoryAndDump()

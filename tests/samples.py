@@ -6,7 +6,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 SAMPLES = ("tests/consumer/main.cpp", "tests/consumer/CMakeLists.txt", "tests/consumer/tree/CMakeLists.txt")
-NOT_FOR_ADOPTERS = {"ccache", "libbenchmark-dev", "libqt5websockets5-dev"}  # for tests and benchmarks
+NOT_FOR_ADOPTERS = {"ccache", "libbenchmark-dev", "libboost-dev", "libqt5websockets5-dev"}  # for tests and benchmarks
 
 
 def read(path):

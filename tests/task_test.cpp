@@ -8,6 +8,8 @@
 #include <vms_client_sdk/ClientSignals.h>
 #include <vms_client_sdk/Requests.h>
 
+#include <QJsonArray>
+
 using orda_batchCfg::AudioParamsCfgTask;
 using Request = ScriptedTransport::Request;
 
@@ -122,6 +124,32 @@ private slots:
         });
         QTRY_COMPARE(transport->requests.size(), 2);
         QVERIFY2(sinceAnswer.elapsed() >= 9, qPrintable(QString::number(sinceAnswer.elapsed())));
+    }
+
+    void everyDeviceIsToldWhatItHoldsItself()
+    {
+        // Neighbours that hold the same, almost the same, and less; the last one is like the first again.
+        const QList<QJsonObject> held{{{"encType", "aac"}, {"mask", 3}, {"list", QJsonArray{1, 2}}},
+                                      {{"encType", "aac"}, {"mask", 3}, {"list", QJsonArray{1, 2}}},
+                                      {{"encType", "aac"}, {"mask", 3}, {"list", QJsonArray{2, 1}}},
+                                      {{"encType", "aac"}, {"mask", 3}},
+                                      {{"encType", "aac"}},
+                                      {},
+                                      {{"encType", "aac"}, {"mask", 3}, {"list", QJsonArray{1, 2}}}};
+        const ScriptedTransport *transport = use([&](const Request &request) {
+            return QStringList{answer(request.method(), held.at(request.devId.toInt()))};
+        });
+        QObject page;
+        for (int i = 0; i < held.size(); ++i)
+            new AudioParamsCfgTask(QString::number(i), {{"encType", "g711u"}}, AudioParamsCfgTask::AudioIn, &page);
+        QTRY_COMPARE(transport->requests.size(), 2 * held.size());
+        for (const Request &request : transport->requests.mid(held.size())) {
+            QJsonObject expected = held.at(request.devId.toInt());
+            if (!expected.isEmpty())
+                expected["encType"] = "g711u";
+            QCOMPARE(request.method(), aiSet);
+            QCOMPARE(request.json()["param"].toObject()["audioAttr"].toObject(), expected);
+        }
     }
 
     void hearsOnlyItsOwnAnswersAndTimeOuts()

@@ -6,6 +6,7 @@
 #include <orda_base/BaseTools.h>
 #include <vms_client_sdk/Requests.h>
 
+#include <QHash>
 #include <QJsonDocument>
 #include <QTimer>
 #include <QUuid>
@@ -15,12 +16,29 @@
 namespace orda_batchCfg {
 
 namespace {
-QString requestText(const QString &method, const std::optional<QJsonObject> &param)
+QString makeRequestText(const QString &method, const std::optional<QJsonObject> &param)
 {
     QJsonObject request{{QStringLiteral("method"), method}, {QStringLiteral("level"), QStringLiteral("Operator")}};
     if (param)
         request.insert(QStringLiteral("param"), *param);
-    return QString::fromUtf8(QJsonDocument(request).toJson());
+    const QByteArray json = QJsonDocument(request).toJson();
+    return QString::fromUtf8(json.constData(), json.size());
+}
+
+/// Most devices of a run are asked the same, and many hold the same and are told the same, one after the other. The
+/// text is made for the first of them, because making it costs a multiple of comparing.
+QString requestText(const QString &method, const std::optional<QJsonObject> &param)
+{
+    struct Request
+    {
+        std::optional<QJsonObject> param;
+        QString text;
+    };
+    static QHash<QString, Request> lastByMethod; // no more than there are methods
+    Request &last = lastByMethod[method];
+    if (last.text.isEmpty() || last.param != param)
+        last = {param, makeRequestText(method, param)};
+    return last.text;
 }
 
 /// 0, success, for everything that is no whole number in the range of an int: so the protocol has it.
@@ -67,15 +85,7 @@ void ParamsCfgTask::sendRead(int exchange)
     std::optional<QJsonObject> param;
     if (e.getParam)
         param = e.getParam(m_values);
-    // All devices of a run are asked the same: the text is made for the first of them.
-    static QString lastMethod, text;
-    static std::optional<QJsonObject> lastParam;
-    if (lastMethod != e.getMethod || lastParam != param) {
-        lastMethod = e.getMethod;
-        lastParam = param;
-        text = requestText(lastMethod, lastParam);
-    }
-    send(e.getMethod, text);
+    send(e.getMethod, requestText(e.getMethod, param));
 }
 
 void ParamsCfgTask::sendWrite(int exchange)

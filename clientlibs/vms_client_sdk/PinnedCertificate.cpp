@@ -5,6 +5,7 @@
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QSslCertificate>
+#include <QStringList>
 
 namespace vms_sdk {
 
@@ -65,6 +66,17 @@ QList<QSslError> PinnedCertificate::tolerated(const QList<QSslError> &errors, co
             list.append(error);
     }
     return list;
+}
+
+QString PinnedCertificate::fault(const QList<QSslError> &errors, const QList<QSslError> &tolerated)
+{
+    QStringList faults;
+    for (const QSslError &error : errors)
+        if (!tolerated.contains(error))
+            faults.append(error.errorString());
+    return faults.isEmpty()
+             ? QString()
+             : QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; ")));
 }
 
 } // namespace vms_sdk

@@ -21,6 +21,8 @@ public:
     /// Those of @p errors that do not matter for a pinned certificate.
     /// @param leaf the device's own certificate, which the TLS layer calls the peer's
     QList<QSslError> tolerated(const QList<QSslError> &errors, const QSslCertificate &leaf) const;
+    /// What is wrong with the certificate, for a log; empty when all errors are tolerated ones.
+    static QString fault(const QList<QSslError> &errors, const QList<QSslError> &tolerated);
 
 private:
     bool m_isSet;

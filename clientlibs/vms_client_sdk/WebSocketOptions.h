@@ -17,6 +17,8 @@ struct WebSocketOptions
     std::chrono::milliseconds closeLimit{2'000}; ///< what a connection may take to close before it is cut
     int maxSettingUp = 32; ///< with more at a time, devices and switches drop handshakes
     int maxWaiting = 512; ///< connections that are up and wait for the device; each is an open file
+    int devicesPerThread = 1'000; ///< the system is handed all sockets of a thread at each turn of its event loop
+    int maxThreads = 8; ///< further devices are shared by these
 };
 
 } // namespace vms_sdk

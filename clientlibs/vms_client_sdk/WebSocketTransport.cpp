@@ -2,29 +2,54 @@
 
 #include <vms_client_sdk/Logging.h>
 #include <vms_client_sdk/websocket/NetworkWorker.h>
+#include <vms_client_sdk/websocket/SharedLimits.h>
 
 #include <QCoreApplication>
+#include <QThread>
+
+#include <algorithm>
 
 namespace vms_sdk {
 
+struct WebSocketTransport::Shard
+{
+    QThread thread;
+    NetworkWorker *worker; ///< lives in the thread and is deleted there
+    QList<DevInfo> devices; ///< only while setDevices() deals them out
+    int deviceCount = 0;
+};
+
 WebSocketTransport::WebSocketTransport(QObject *parent, const WebSocketOptions &options)
     : DeviceTransport(parent)
-    , m_worker(new NetworkWorker(options))
 {
-    m_worker->moveToThread(&m_thread);
-    connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
-    // Direct: whoever listens to a transport queues its signals anyway, and once is enough.
-    connect(m_worker, &NetworkWorker::answered, this, &DeviceTransport::answered, Qt::DirectConnection);
-    connect(m_worker, &NetworkWorker::devStatusChanged, this, &DeviceTransport::devStatusChanged, Qt::DirectConnection);
-    connect(m_worker, &NetworkWorker::linkTroubled, this, &DeviceTransport::linkTroubled, Qt::DirectConnection);
+    // The room comes back by passedOn(), on this thread.
+    m_limits = std::make_unique<SharedLimits>(options, [this] {
+        for (const auto &shard : m_shards)
+            shard->worker->post([worker = shard->worker] { worker->goOnReading(); });
+    });
+    addShard();
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &WebSocketTransport::shutdown);
-    m_thread.setObjectName(QStringLiteral("vms_sdk network"));
-    m_thread.start();
 }
 
 WebSocketTransport::~WebSocketTransport()
 {
     shutdown();
+}
+
+void WebSocketTransport::addShard()
+{
+    m_shards.push_back(std::make_unique<Shard>());
+    Shard &shard = *m_shards.back();
+    shard.worker = new NetworkWorker(*m_limits, int(m_shards.size()) - 1);
+    shard.worker->moveToThread(&shard.thread);
+    connect(&shard.thread, &QThread::finished, shard.worker, &QObject::deleteLater);
+    // Direct: whoever listens to a transport queues its signals anyway, and once is enough.
+    connect(shard.worker, &NetworkWorker::answered, this, &DeviceTransport::answered, Qt::DirectConnection);
+    connect(shard.worker, &NetworkWorker::devStatusChanged, this, &DeviceTransport::devStatusChanged,
+            Qt::DirectConnection);
+    connect(shard.worker, &NetworkWorker::linkTroubled, this, &DeviceTransport::linkTroubled, Qt::DirectConnection);
+    shard.thread.setObjectName(QStringLiteral("vms_sdk net %1").arg(m_shards.size()));
+    shard.thread.start();
 }
 
 void WebSocketTransport::send(const QString &requestId, const QString &devId, const QString &text)
@@ -33,43 +58,73 @@ void WebSocketTransport::send(const QString &requestId, const QString &devId, co
         qCWarning(sdkLog) << "request to" << devId << "dropped: its id is empty or holds a line break";
         return;
     }
-    if (m_worker)
-        m_worker->send(requestId, devId, text);
+    if (const Shard *shard = m_shardOf.value(devId))
+        shard->worker->send(requestId, devId, text);
+    else
+        qCDebug(sdkLog) << "request" << requestId << "dropped: device" << devId << "is unknown";
 }
 
 void WebSocketTransport::passedOn(const QString &requestId, const QString &text)
 {
-    if (m_worker)
-        m_worker->passedOn(requestId, text.size());
+    m_limits->backlog.passedOn(requestId, text.size());
 }
 
 void WebSocketTransport::setDevices(const QList<DevInfo> &devices)
 {
-    if (m_worker)
-        QMetaObject::invokeMethod(
-            m_worker, [=, worker = m_worker] { worker->setDevices(devices); }, Qt::QueuedConnection);
+    if (m_shards.empty())
+        return;
+    for (const auto &shard : m_shards)
+        shard->deviceCount = 0;
+    for (const DevInfo &device : devices)
+        if (Shard *shard = m_shardOf.value(device.id))
+            ++shard->deviceCount;
+    for (const DevInfo &device : devices)
+        shardFor(device).devices.append(device);
+    m_limits->places.hold(int(m_shards.size())); // released by each when it has ended what is gone
+    for (const auto &shard : m_shards)
+        shard->worker->post(
+            [worker = shard->worker, own = std::exchange(shard->devices, {})] { worker->setDevices(own); });
+}
+
+WebSocketTransport::Shard &WebSocketTransport::shardFor(const DevInfo &device)
+{
+    if (Shard *known = m_shardOf.value(device.id))
+        return *known;
+    const auto fewest = [this] {
+        return std::min_element(m_shards.begin(), m_shards.end(),
+                                [](const auto &a, const auto &b) { return a->deviceCount < b->deviceCount; })
+            ->get();
+    };
+    if (fewest()->deviceCount >= m_limits->options.devicesPerThread
+        && int(m_shards.size()) < m_limits->options.maxThreads)
+        addShard();
+    Shard *shard = fewest();
+    ++shard->deviceCount;
+    m_shardOf.insert(device.id, shard);
+    return *shard;
 }
 
 void WebSocketTransport::connectAgain()
 {
-    if (m_worker)
-        QMetaObject::invokeMethod(m_worker, &NetworkWorker::connectAgain, Qt::QueuedConnection);
+    for (const auto &shard : m_shards)
+        shard->worker->post([worker = shard->worker] { worker->connectAgain(); });
 }
 
 void WebSocketTransport::connectDevicesAgain(const QStringList &devIds)
 {
-    if (m_worker)
-        QMetaObject::invokeMethod(
-            m_worker, [=, worker = m_worker] { worker->connectDevicesAgain(devIds); }, Qt::QueuedConnection);
+    for (const auto &shard : m_shards)
+        shard->worker->post([=, worker = shard->worker] { worker->connectDevicesAgain(devIds); });
 }
 
 void WebSocketTransport::shutdown()
 {
-    if (!m_worker)
-        return;
-    m_worker = nullptr;
-    m_thread.quit();
-    m_thread.wait();
+    m_limits->places.hold(1); // for good: nobody is dialled in the going
+    m_shardOf.clear();
+    for (const auto &shard : m_shards)
+        shard->thread.quit();
+    for (const auto &shard : m_shards)
+        shard->thread.wait();
+    m_shards.clear();
 }
 
 } // namespace vms_sdk

@@ -4,16 +4,20 @@
 #include <vms_client_sdk/Export.h>
 #include <vms_client_sdk/WebSocketOptions.h>
 
+#include <QHash>
 #include <QStringList>
-#include <QThread>
+
+#include <memory>
+#include <vector>
 
 namespace vms_sdk {
 
-class NetworkWorker;
+struct SharedLimits;
 
-/// One WebSocket per device, kept up in a network thread of its own (docs/device-protocol.md). The public functions are
-/// called on the GUI thread and do not block; the signals come from the network thread. The programs set QT_NO_GLIB=1
-/// before the application object: GLib's dispatcher checks every socket on every wake-up.
+/// One WebSocket per device, kept up in network threads, one for about a thousand devices (docs/device-protocol.md).
+/// The public functions are called on the GUI thread and do not block; the signals come from the network threads, those
+/// of one device always from the same. The programs set QT_NO_GLIB=1 before the application object: GLib's dispatcher
+/// checks every socket on every wake-up.
 class VMS_CLIENT_SDK_EXPORT WebSocketTransport final : public DeviceTransport
 {
     Q_OBJECT
@@ -36,13 +40,21 @@ public:
     /// pause after a loss. Unknown ids, and devices that are being dialled, stay as they are.
     void connectDevicesAgain(const QStringList &devIds);
 
-    /// Closes all connections and ends the network thread; no signal comes after it. Called when the application is
+    /// Closes all connections and ends the network threads; no signal comes after it. Called when the application is
     /// about to quit and by the destructor; every call after the first does nothing.
     void shutdown();
 
 private:
-    QThread m_thread;
-    NetworkWorker *m_worker; ///< lives in m_thread and is deleted there; null after shutdown()
+    struct Shard; ///< a thread and its devices
+
+    Shard &shardFor(const DevInfo &device);
+    void addShard();
+
+    std::unique_ptr<SharedLimits> m_limits; ///< of all shards
+    std::vector<std::unique_ptr<Shard>> m_shards; ///< one at least; none after shutdown()
+    /// By device id, those that are gone too: a device that comes back is reported by the thread that has said it was
+    /// gone, in this order.
+    QHash<QString, Shard *> m_shardOf;
 };
 
 } // namespace vms_sdk

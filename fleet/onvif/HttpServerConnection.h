@@ -1,6 +1,6 @@
 #pragma once
 
-#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/HttpHead.h>
 
 #include <QByteArray>
 #include <QElapsedTimer>

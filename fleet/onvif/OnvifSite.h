@@ -4,7 +4,7 @@
 #include "fleet/FleetOptions.h"
 
 #include <vms_client_sdk/DevInfo.h>
-#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/HttpHead.h>
 
 #include <QHash>
 #include <QJsonObject>

@@ -1,8 +1,8 @@
 #include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/HttpHead.h>
 #include <vms_client_sdk/SignOn.h>
 #include <vms_client_sdk/websocket/AnswerCheck.h>
 #include <vms_client_sdk/websocket/ClientSignOn.h>
-#include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketFrames.h>
 
 #include <QBuffer>

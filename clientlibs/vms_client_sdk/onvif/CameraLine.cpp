@@ -1,6 +1,7 @@
 #include <vms_client_sdk/onvif/CameraLine.h>
 
 #include <vms_client_sdk/DeviceProtocol.h>
+#include <vms_client_sdk/HttpHead.h>
 #include <vms_client_sdk/onvif/OnvifNames.h>
 
 #include <QDateTime>
@@ -69,14 +70,6 @@ CameraLine::Reply replyFrom(const HttpAnswer &http)
         reply.answer = std::move(soap.body);
     reply.mayBeDone = !reply.trouble.isEmpty();
     return reply;
-}
-
-/// As the request line has them.
-QByteArray pathAndQuery(const QUrl &url)
-{
-    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
-    const QByteArray query = url.hasQuery() ? '?' + url.query(QUrl::FullyEncoded).toLatin1() : QByteArray();
-    return (path.isEmpty() ? QByteArray("/") : path) + query;
 }
 
 /// Invalid unless the camera says the whole time in UTC: what its other times mean depends on settings of its own.
@@ -206,7 +199,7 @@ void CameraLine::send(Request request)
         if (request.digest)
             useDigest(*std::exchange(request.digest, {}));
         request.isNonceFresh = std::exchange(m_isNonceFresh, false) && !request.hasWaited;
-        http.authorization = m_digest->authorization(m_userName, m_password, pathAndQuery(http.url));
+        http.authorization = m_digest->authorization(m_userName, m_password, requestTarget(http.url));
     }
     http.body = soapRequest(request.operation, token);
     m_exchanges.post(http, request.owner, [this, request](const HttpAnswer &answer) { onAnswer(request, answer); });

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/HttpHead.h>
 #include <vms_client_sdk/onvif/HttpExchanges.h>
-#include <vms_client_sdk/websocket/HttpHead.h>
 
 QT_BEGIN_NAMESPACE
 class QIODevice;

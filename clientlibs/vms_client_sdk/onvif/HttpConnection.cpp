@@ -80,13 +80,7 @@ void HttpConnection::connectToPeer()
 void HttpConnection::onSslErrors(const QList<QSslError> &errors)
 {
     const QList<QSslError> tolerated = m_pin.tolerated(errors, m_tls->peerCertificate());
-    QStringList faults;
-    for (const QSslError &error : errors)
-        if (!tolerated.contains(error))
-            faults.append(error.errorString());
-    if (!faults.isEmpty())
-        m_certificateFault = escaped(
-            QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; "))));
+    m_certificateFault = escaped(PinnedCertificate::fault(errors, tolerated));
     m_tls->ignoreSslErrors(tolerated); // the handshake goes on only if these are all the errors
 }
 

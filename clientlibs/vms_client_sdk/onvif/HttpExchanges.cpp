@@ -1,5 +1,6 @@
 #include <vms_client_sdk/onvif/HttpExchanges.h>
 
+#include <vms_client_sdk/HttpHead.h>
 #include <vms_client_sdk/onvif/HttpConnection.h>
 
 #include <QElapsedTimer>
@@ -87,10 +88,7 @@ namespace {
 QByteArray messageFor(const HttpRequest &request)
 {
     const QUrl &url = request.url;
-    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
-    QByteArray message = "POST " + (path.isEmpty() ? QByteArray("/") : path);
-    if (url.hasQuery())
-        message += '?' + url.query(QUrl::FullyEncoded).toLatin1();
+    QByteArray message = "POST " + requestTarget(url);
     message += " HTTP/1.1\r\nHost: " + url.adjusted(QUrl::RemoveUserInfo).authority(QUrl::FullyEncoded).toLatin1()
              + "\r\nUser-Agent: orda\r\nConnection: keep-alive\r\n"
                "Accept-Encoding: identity\r\n" // what is compressed could unpack to any size

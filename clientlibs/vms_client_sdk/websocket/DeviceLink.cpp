@@ -79,9 +79,9 @@ void DeviceLink::queue()
 {
     m_phase = Phase::Connecting;
     const bool hasFailed = m_losses + m_cuts > 0;
-    m_host.queueForDialling(this, m_wasOnline ? LinkHost::Turn::WasOnline
-                                  : hasFailed ? LinkHost::Turn::HasFailed
-                                              : LinkHost::Turn::New);
+    m_host.queueForDialling(this, m_wasOnline ? DialPlaces::Turn::WasOnline
+                                  : hasFailed ? DialPlaces::Turn::HasFailed
+                                              : DialPlaces::Turn::New);
 }
 
 void DeviceLink::dial()
@@ -109,7 +109,7 @@ WebSocketConnection *DeviceLink::makeConnection()
     connect(connection, &WebSocketConnection::pongReceived, this, &DeviceLink::sawTraffic);
     connect(connection, &WebSocketConnection::unfinishedChanged, this,
             [this](int bytes) { m_host.setUnfinished(this, bytes); });
-    connect(connection, &WebSocketConnection::unsentBytesLeft, this,
+    connect(connection, &WebSocketConnection::unsentChanged, this,
             [this](qint64 bytes) { m_host.setUnsent(this, bytes); });
     connect(connection, &WebSocketConnection::ended, this, &DeviceLink::onEnded);
     return connection;
@@ -118,15 +118,9 @@ WebSocketConnection *DeviceLink::makeConnection()
 void DeviceLink::onSslErrors(const QList<QSslError> &errors)
 {
     const QList<QSslError> tolerated = m_pin.tolerated(errors, m_connection->tlsSocket()->peerCertificate());
-    QStringList faults;
-    for (const QSslError &error : errors)
-        if (!tolerated.contains(error))
-            faults.append(error.errorString());
-    if (!faults.isEmpty()) {
-        m_certificateFault =
-            QStringLiteral("shows a certificate that is not accepted: %1").arg(faults.join(QLatin1String("; ")));
+    m_certificateFault = PinnedCertificate::fault(errors, tolerated);
+    if (!m_certificateFault.isEmpty())
         warn(m_certificateFault);
-    }
     m_connection->tlsSocket()->ignoreSslErrors(tolerated); // the handshake goes on only if these are all the errors
 }
 
@@ -249,11 +243,6 @@ void DeviceLink::setReading(bool isReading)
 {
     if (m_connection)
         m_connection->setReading(isReading);
-}
-
-qint64 DeviceLink::unsentBytes() const
-{
-    return m_connection ? m_connection->unsentBytes() : 0;
 }
 
 void DeviceLink::sawTraffic()

@@ -22,7 +22,7 @@ namespace vms_sdk {
 class LinkHost;
 class WebSocketConnection;
 
-/// The connection to one device: dials, signs on, keeps it alive, dials again after a loss. Lives in the network
+/// The connection to one device: dials, signs on, keeps it alive, dials again after a loss. Lives in its host's
 /// thread.
 class DeviceLink : public QObject
 {
@@ -44,7 +44,6 @@ public:
     void deadlineReached(); ///< by the host
     void setReading(bool isReading); ///< by the host
     void cut(const QString &why); ///< for what the device does; dialled again later than after a loss
-    qint64 unsentBytes() const; ///< 0 without a connection
 
 Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);

@@ -3,23 +3,17 @@
 #include <vms_client_sdk/websocket/DeviceLink.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
-#include <algorithm>
+#include <QThread>
+
+#include <utility>
 
 namespace vms_sdk {
 
-namespace {
-
-// For all devices together. Nearly all messages come and go in one piece. But a thousand devices that each hold back
-// the end of the largest one, or do not read it, would take a gigabyte.
-constexpr qint64 maxKeptBytes = 64 << 20;
-
-} // namespace
-
-LinkHost::LinkHost(const WebSocketOptions &options, QObject *parent)
+LinkHost::LinkHost(SharedLimits &shared, int number, QObject *parent)
     : QObject(parent)
-    , m_options(options)
+    , m_shared(shared)
+    , m_number(number)
     , m_timer(this)
-    , m_backlog([this] { QMetaObject::invokeMethod(this, &LinkHost::goOnReading, Qt::QueuedConnection); })
 {
     m_clock.start();
     m_timer.setSingleShot(true);
@@ -62,71 +56,52 @@ void LinkHost::startTimer()
         m_timer.start(int(qMax<qint64>(0, m_deadlines.begin()->first - m_clock.elapsed())));
 }
 
-void LinkHost::queueForDialling(DeviceLink *link, Turn turn)
+void LinkHost::queueForDialling(DeviceLink *link, DialPlaces::Turn turn)
 {
-    m_queues.at(std::size_t(turn)).enqueue(link);
-    fillPlaces();
+    m_shared.places.queue(this, link, turn);
+    dialWhoseTurnItIs();
 }
 
 bool LinkHost::makeRoom(DeviceLink *link)
 {
-    if (m_waiting.size() >= m_options.maxWaiting)
-        return false;
-    m_settingUp.remove(link);
-    m_waiting.insert(link);
-    fillPlaces();
-    return true;
+    const bool hasRoom = m_shared.places.makeRoom(link);
+    dialWhoseTurnItIs();
+    return hasRoom;
 }
 
 void LinkHost::leave(DeviceLink *link)
 {
-    if (m_settingUp.remove(link) || m_waiting.remove(link)) {
-        fillPlaces();
-        return;
-    }
-    for (QQueue<DeviceLink *> &queue : m_queues)
-        queue.removeOne(link);
+    m_shared.places.leave(this, link);
+    dialWhoseTurnItIs();
 }
 
-void LinkHost::holdDialling()
+void LinkHost::releaseDialling()
 {
-    m_isFilling = true;
+    m_shared.places.release();
+    dialWhoseTurnItIs();
 }
 
-void LinkHost::goOnDialling()
-{
-    m_isFilling = false;
-    fillPlaces();
-}
-
-void LinkHost::fillPlaces()
+void LinkHost::dialWhoseTurnItIs()
 {
     // Dialling can fail at once and come back here: thousands of such failures must not pile up on the stack. A loop
-    // and not a posted call: with thousands of sockets one turn of the event loop costs as much as setting up a
-    // connection.
-    if (std::exchange(m_isFilling, true))
+    // and not a posted call: with many sockets one turn of the event loop costs as much as setting up a connection.
+    if (std::exchange(m_isDialling, true))
         return;
-    while (m_settingUp.size() < m_options.maxSettingUp) {
-        QQueue<DeviceLink *> *queue = nextQueue();
-        if (!queue)
-            break;
-        DeviceLink *link = queue->dequeue();
-        m_settingUp.insert(link);
+    while (DeviceLink *link = m_shared.places.takeTurn(this))
         link->dial();
-    }
-    m_isFilling = false;
+    m_isDialling = false;
 }
 
-QQueue<DeviceLink *> *LinkHost::nextQueue()
+void LinkHost::wake()
 {
-    const auto hasLinks = [](const QQueue<DeviceLink *> &queue) { return !queue.isEmpty(); };
-    constexpr quint64 lastComesFirst = 4; // every fourth time, so that the last queue is not left waiting for ever
-    if (++m_dialCount % lastComesFirst == 0) {
-        const auto last = std::find_if(m_queues.rbegin(), m_queues.rend(), hasLinks);
-        return last == m_queues.rend() ? nullptr : &*last;
-    }
-    const auto first = std::find_if(m_queues.begin(), m_queues.end(), hasLinks);
-    return first == m_queues.end() ? nullptr : &*first;
+    if (QThread::currentThread() != thread())
+        QMetaObject::invokeMethod(this, &LinkHost::catchUp, Qt::QueuedConnection);
+}
+
+void LinkHost::catchUp()
+{
+    cutWhatIsTooLarge();
+    dialWhoseTurnItIs();
 }
 
 void LinkHost::holdReading()
@@ -137,53 +112,35 @@ void LinkHost::holdReading()
 
 void LinkHost::goOnReading()
 {
-    if (!m_backlog.isFull() && std::exchange(m_isReadingHeld, false))
+    if (!m_shared.backlog.isFull() && std::exchange(m_isReadingHeld, false))
         emit readingHeld(false);
 }
 
 void LinkHost::setUnfinished(DeviceLink *link, qint64 bytes)
 {
-    m_unfinished.set(link, bytes);
-    while (m_unfinished.isTooMuch())
-        m_unfinished.largest()->cut(QStringLiteral("does not finish its message"));
+    m_shared.unfinished.set(this, link, bytes);
+    cutWhatIsTooLarge();
 }
 
 void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
 {
-    m_unsent.set(link, bytes);
-    if (!m_unsent.isTooMuch())
-        return;
-    const QList<DeviceLink *> links = m_unsent.links();
-    for (DeviceLink *known : links) // most devices have taken theirs meanwhile
-        m_unsent.set(known, known->unsentBytes());
-    while (m_unsent.isTooMuch())
-        m_unsent.largest()->cut(QStringLiteral("does not take what is sent to it"));
+    m_shared.unsent.set(this, link, bytes);
+    cutWhatIsTooLarge();
 }
 
-void LinkHost::Kept::set(DeviceLink *link, qint64 bytes)
+void LinkHost::cutWhatIsTooLarge()
 {
-    m_bytes += bytes - m_parts.value(link);
-    if (bytes > 0)
-        m_parts.insert(link, bytes);
-    else
-        m_parts.remove(link);
-}
-
-bool LinkHost::Kept::isTooMuch() const
-{
-    return m_bytes > maxKeptBytes;
-}
-
-DeviceLink *LinkHost::Kept::largest() const
-{
-    return std::max_element(m_parts.begin(), m_parts.end()).key();
+    while (DeviceLink *link = m_shared.unfinished.takeTooLarge(this))
+        link->cut(QStringLiteral("does not finish its message"));
+    while (DeviceLink *link = m_shared.unsent.takeTooLarge(this))
+        link->cut(QStringLiteral("does not take what is sent to it"));
 }
 
 void LinkHost::closeConnection(WebSocketConnection *connection, int closeCode)
 {
     connection->setParent(this); // deleted with this object when the thread ends before it is closed
     connect(connection, &WebSocketConnection::finished, connection, &QObject::deleteLater);
-    QTimer::singleShot(m_options.closeLimit, connection, [connection] {
+    QTimer::singleShot(options().closeLimit, connection, [connection] {
         connection->abort(); // closing waits without limit until all is sent
         connection->deleteLater();
     });

@@ -8,19 +8,16 @@
 
 namespace vms_sdk {
 
-NetworkWorker::NetworkWorker(const WebSocketOptions &options)
+NetworkWorker::NetworkWorker(SharedLimits &shared, int number)
     : m_states(new StatusRelay(this))
-    , m_host(new LinkHost(options, this))
+    , m_host(new LinkHost(shared, number, this))
 {
     connect(m_states, &StatusRelay::devStatusChanged, this, &NetworkWorker::devStatusChanged);
     connect(m_states, &StatusRelay::linkTroubled, this, &NetworkWorker::linkTroubled);
     connect(m_host, &LinkHost::readingHeld, this, [this](bool isHeld) { setReading(!isHeld); });
 }
 
-NetworkWorker::~NetworkWorker()
-{
-    m_host->holdDialling();
-}
+NetworkWorker::~NetworkWorker() = default;
 
 void NetworkWorker::setDevices(const QList<DevInfo> &devices)
 {
@@ -30,11 +27,10 @@ void NetworkWorker::setDevices(const QList<DevInfo> &devices)
         if (known != previous.end() && known->second->device() == device)
             m_links.insert(previous.extract(known));
     }
-    m_host->holdDialling();
     for (const auto &[id, link] : previous)
         link->end();
     previous.clear();
-    m_host->goOnDialling();
+    m_host->releaseDialling();
     for (const DevInfo &device : devices) {
         std::unique_ptr<DeviceLink> &link = m_links[device.id];
         if (!link) {
@@ -59,9 +55,9 @@ void NetworkWorker::setReading(bool isReading)
         link->setReading(isReading && !m_host->isReadingHeld());
 }
 
-void NetworkWorker::passedOn(const QString &requestId, int characters)
+void NetworkWorker::goOnReading()
 {
-    m_host->backlog().passedOn(requestId, characters);
+    m_host->goOnReading();
 }
 
 void NetworkWorker::connectAgain()
@@ -77,6 +73,22 @@ void NetworkWorker::connectDevicesAgain(const QStringList &devIds)
         if (known != m_links.end())
             known->second->dialNow();
     }
+}
+
+void NetworkWorker::post(std::function<void()> function)
+{
+    const std::lock_guard lock(m_mutex);
+    m_calls.push_back(std::move(function));
+    QMetaObject::invokeMethod(this, &NetworkWorker::callNext, Qt::QueuedConnection);
+}
+
+void NetworkWorker::callNext()
+{
+    std::unique_lock lock(m_mutex);
+    const std::function<void()> function = std::move(m_calls.front());
+    m_calls.pop_front();
+    lock.unlock();
+    function();
 }
 
 void NetworkWorker::send(const QString &requestId, const QString &devId, const QString &text)

@@ -2,11 +2,12 @@
 
 #include <vms_client_sdk/DevInfo.h>
 #include <vms_client_sdk/StatusRelay.h>
-#include <vms_client_sdk/WebSocketOptions.h>
 
 #include <QObject>
 #include <QStringList>
 #include <QVector>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <unordered_map>
@@ -15,21 +16,28 @@ namespace vms_sdk {
 
 class DeviceLink;
 class LinkHost;
+struct SharedLimits;
 
-/// The network thread's side of WebSocketTransport: one link per device.
+/// One network thread's side of WebSocketTransport: one link for each of its devices.
 class NetworkWorker : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit NetworkWorker(const WebSocketOptions &options);
+    /// @param shared outlives this object @param number of the thread, from 0
+    NetworkWorker(SharedLimits &shared, int number);
     ~NetworkWorker() override;
 
+    /// Ends the links that are gone, releases the places once, and starts those that are new.
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
     void connectDevicesAgain(const QStringList &devIds);
-    void send(const QString &requestId, const QString &devId, const QString &text); ///< from any thread
-    void passedOn(const QString &requestId, int characters); ///< from any thread
+
+    // From any thread:
+    /// Calls the function on the worker's thread, after those posted before.
+    void post(std::function<void()> function);
+    void send(const QString &requestId, const QString &devId, const QString &text);
+    void goOnReading(); ///< if there is room for answers now
 
 Q_SIGNALS:
     void answered(const QString &requestId, const QString &text);
@@ -45,10 +53,12 @@ private:
     };
 
     std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
+    void callNext();
     void sendRequests();
     void setReading(bool isReading);
 
     std::mutex m_mutex;
+    std::deque<std::function<void()>> m_calls; ///< under the mutex; one wake-up for each
     QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
     StatusRelay *m_states;
     LinkHost *m_host;

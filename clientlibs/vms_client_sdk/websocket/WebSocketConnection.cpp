@@ -29,7 +29,8 @@ bool isUtf8(const QByteArray &text)
 {
     QTextCodec::ConverterState state;
     constexpr int utf8Mib = 106;
-    QTextCodec::codecForMib(utf8Mib)->toUnicode(text.constData(), text.size(), &state);
+    static QTextCodec *const utf8 = QTextCodec::codecForMib(utf8Mib); // asked for once: it takes a lock of the process
+    utf8->toUnicode(text.constData(), text.size(), &state);
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
@@ -86,6 +87,9 @@ void WebSocketConnection::use(QTcpSocket *socket, bool isClient)
     connect(m_socket, &QTcpSocket::readyRead, this, &WebSocketConnection::onReadyRead);
     connect(m_socket, &QTcpSocket::disconnected, this, &WebSocketConnection::onDisconnected);
     connect(m_socket, &QTcpSocket::errorOccurred, this, &WebSocketConnection::onError);
+    connect(m_socket, &QTcpSocket::bytesWritten, this, &WebSocketConnection::onBytesWritten);
+    if (const QSslSocket *tls = tlsSocket())
+        connect(tls, &QSslSocket::encryptedBytesWritten, this, &WebSocketConnection::onBytesWritten);
     m_frames.emplace(*m_socket, isClient);
 }
 
@@ -110,12 +114,9 @@ void WebSocketConnection::sendHandshake()
     for (int i = 0; i < random.size(); i += int(sizeof(quint32)))
         qToUnaligned(QRandomGenerator::global()->generate(), random.data() + i);
     m_key = random.toBase64();
-    const QByteArray path = m_url.path(QUrl::FullyEncoded).toLatin1();
-    const QByteArray query = m_url.query(QUrl::FullyEncoded).toLatin1();
     const QByteArray port = m_url.port() < 0 ? QByteArray() : ':' + QByteArray::number(m_url.port());
-    m_socket->write("GET " + (path.isEmpty() ? QByteArray("/") : path) + (query.isEmpty() ? QByteArray() : '?' + query)
-                    + " HTTP/1.1\r\nHost: " + m_url.host(QUrl::FullyEncoded).toLatin1() + port
-                    + "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Key: " + m_key
+    m_socket->write("GET " + requestTarget(m_url) + " HTTP/1.1\r\nHost: " + m_url.host(QUrl::FullyEncoded).toLatin1()
+                    + port + "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Key: " + m_key
                     + "\r\nSec-WebSocket-Version: 13\r\nSec-WebSocket-Protocol: " + deviceSubProtocol + "\r\n\r\n");
 }
 
@@ -317,8 +318,20 @@ void WebSocketConnection::send(WebSocketFrames::Opcode opcode, const QByteArray 
         return;
     m_socket->write(m_frames->encode(opcode, payload));
     m_socket->flush(); // now: the event loop would come back to it only after all other sockets
-    if (const qint64 left = unsentBytes(); left > 0)
-        emit unsentBytesLeft(left);
+    reportUnsent();
+}
+
+void WebSocketConnection::onBytesWritten()
+{
+    if (m_unsentReported > 0)
+        reportUnsent();
+}
+
+void WebSocketConnection::reportUnsent()
+{
+    const qint64 bytes = unsentBytes();
+    if (std::exchange(m_unsentReported, bytes) != bytes)
+        emit unsentChanged(bytes);
 }
 
 void WebSocketConnection::close(int code, const QString &reason)

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <vms_client_sdk/HttpHead.h>
 #include <vms_client_sdk/LinkTrouble.h>
-#include <vms_client_sdk/websocket/HttpHead.h>
 #include <vms_client_sdk/websocket/WebSocketFrames.h>
 
 #include <QAbstractSocket>
@@ -72,8 +72,8 @@ Q_SIGNALS:
     void textReceived(const QByteArray &utf8); ///< valid UTF-8
     void binaryReceived(); ///< it is dropped
     void pongReceived();
-    /// The peer has not taken all that was sent to it at once.
-    void unsentBytesLeft(qint64 bytes);
+    /// What the peer has not taken yet; 0: it has taken all.
+    void unsentChanged(qint64 bytes);
     /// What is kept of a message whose end has not come; 0: there is none.
     void unfinishedChanged(int bytes);
     /// The connection is of no more use: no signal but finished() follows. Raised once, not after close() or abort().
@@ -96,6 +96,7 @@ private:
     QString handshakeFault() const;
     void onReadyRead();
     void onDisconnected();
+    void onBytesWritten();
     void onError(QAbstractSocket::SocketError error);
     void readFrames();
     bool isWithinRate();
@@ -104,6 +105,7 @@ private:
     void takeControl(int opcode);
     void takeMessage();
     void reportUnfinished();
+    void reportUnsent();
     void send(WebSocketFrames::Opcode opcode, const QByteArray &payload);
     void fail(int code, const QString &why);
     void end(const QString &why, TroubleReason reason);
@@ -124,6 +126,7 @@ private:
     int m_messageOpcode = 0; // 0: none is under way
     QElapsedTimer m_messageAge;
     int m_unfinishedReported = 0;
+    qint64 m_unsentReported = 0;
     QByteArray m_control; // payload of a ping, pong or close
     QElapsedTimer m_second; // in which are counted:
     int m_framesInSecond = 0;

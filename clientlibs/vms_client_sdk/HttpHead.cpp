@@ -1,7 +1,8 @@
-#include <vms_client_sdk/websocket/HttpHead.h>
+#include <vms_client_sdk/HttpHead.h>
 
 #include <QIODevice>
 #include <QList>
+#include <QUrl>
 
 #include <algorithm>
 #include <array>
@@ -65,6 +66,13 @@ bool HttpHead::hasWord(const QByteArray &lowerCaseName, const QByteArray &lowerC
     const QList<QByteArray> words = field(lowerCaseName).toLower().split(',');
     return std::any_of(words.begin(), words.end(),
                        [&](const QByteArray &word) { return word.trimmed() == lowerCaseWord; });
+}
+
+QByteArray requestTarget(const QUrl &url)
+{
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    const QByteArray query = url.hasQuery() ? '?' + url.query(QUrl::FullyEncoded).toLatin1() : QByteArray();
+    return (path.isEmpty() ? QByteArray("/") : path) + query;
 }
 
 } // namespace vms_sdk

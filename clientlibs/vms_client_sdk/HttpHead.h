@@ -5,6 +5,7 @@
 
 QT_BEGIN_NAMESPACE
 class QIODevice;
+class QUrl;
 QT_END_NAMESPACE
 
 namespace vms_sdk {
@@ -41,5 +42,8 @@ private:
     QHash<QByteArray, QByteArray> m_fields;
     int m_bytes = 0;
 };
+
+/// What the first line of a request names: path and query, "/" where there is none.
+QByteArray requestTarget(const QUrl &url);
 
 } // namespace vms_sdk
