@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <QPointer>
 
+#include <utility>
+
 namespace vms_sdk {
 
 namespace {
@@ -10,6 +12,7 @@ namespace {
 // About half a frame of a 60 Hz display.
 constexpr qint64 sliceMs = 8;
 constexpr int statusDelayMs = 10; // how long a status change waits for others
+constexpr int maxStatusWaits = 4; // while others keep coming
 
 } // namespace
 
@@ -17,7 +20,7 @@ Inbox::Inbox(std::function<void(const Item &)> consumer)
     : m_consumer(std::move(consumer))
 {
     m_next.setSingleShot(true);
-    connect(&m_next, &QTimer::timeout, this, &Inbox::passOn);
+    connect(&m_next, &QTimer::timeout, this, &Inbox::passOnWhenQuiet);
 }
 
 void Inbox::put(Item item)
@@ -36,6 +39,7 @@ void Inbox::noticeArrived()
 {
     std::unique_lock lock(m_mutex);
     const bool isUrgent = m_isUrgent;
+    m_putBefore = m_put;
     lock.unlock();
     wakeUp(isUrgent);
 }
@@ -50,6 +54,20 @@ quint64 Inbox::putCount()
 {
     const std::lock_guard lock(m_mutex);
     return m_put;
+}
+
+void Inbox::passOnWhenQuiet()
+{
+    if (m_next.interval() > 0 && hasMoreToWaitFor())
+        return m_next.start(statusDelayMs);
+    m_waits = 0;
+    passOn();
+}
+
+bool Inbox::hasMoreToWaitFor()
+{
+    const std::lock_guard lock(m_mutex);
+    return !m_isUrgent && std::exchange(m_putBefore, m_put) != m_put && ++m_waits < maxStatusWaits;
 }
 
 bool Inbox::takeArrived()

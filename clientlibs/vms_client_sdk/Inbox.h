@@ -14,8 +14,8 @@ namespace vms_sdk {
 
 /// Carries what a transport raises to the GUI thread, in the same order. Thousands of answers that arrive at once are
 /// passed on in slices of a few milliseconds, so that the event loop handles timers, input and painting in between. A
-/// status change waits 10 ms for others, which nobody notices: when a site comes online, the GUI thread is not woken
-/// for each device.
+/// status change waits until no other has come for 10 ms, and 40 ms at most, which nobody notices: when a site comes
+/// online, the GUI thread is not woken for each device, and its list is drawn 25 times a second.
 class Inbox : public QObject
 {
     Q_OBJECT
@@ -53,6 +53,8 @@ public:
 private:
     void noticeArrived();
     void wakeUp(bool isUrgent);
+    void passOnWhenQuiet();
+    bool hasMoreToWaitFor();
     void passOn();
     bool takeArrived();
 
@@ -63,6 +65,8 @@ private:
     bool m_isUrgent = false; ///< under the mutex: there is an answer among them
     std::deque<Item> m_items; ///< taken over from m_arrived
     quint64 m_passedOn = 0;
+    quint64 m_putBefore = 0; ///< what m_put was when the status changes were looked at last
+    int m_waits = 0; ///< how often they have waited for others
     QTimer m_next; ///< starts the next slice; posted events would leave the event loop no time for anything else
 };
 

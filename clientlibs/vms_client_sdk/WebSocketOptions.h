@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QThread>
+
 #include <chrono>
 
 namespace vms_sdk {
@@ -18,7 +20,9 @@ struct WebSocketOptions
     int maxSettingUp = 32; ///< with more at a time, devices and switches drop handshakes
     int maxWaiting = 512; ///< connections that are up and wait for the device; each is an open file
     int devicesPerThread = 1'000; ///< the system is handed all sockets of a thread at each turn of its event loop
-    int maxThreads = 8; ///< further devices are shared by these
+    /// Further devices are shared by these. More threads than processors take them from the window's thread; more than
+    /// eight gain nothing with 10,000 devices.
+    int maxThreads = qBound(1, QThread::idealThreadCount(), 8);
 };
 
 } // namespace vms_sdk

@@ -17,6 +17,7 @@ struct WebSocketTransport::Shard
     NetworkWorker *worker; ///< lives in the thread and is deleted there
     QList<DevInfo> devices; ///< only while setDevices() deals them out
     int deviceCount = 0;
+    QVector<DeviceRequest> requests; ///< for the end of this turn of the GUI thread
 };
 
 WebSocketTransport::WebSocketTransport(QObject *parent, const WebSocketOptions &options)
@@ -58,10 +59,25 @@ void WebSocketTransport::send(const QString &requestId, const QString &devId, co
         qCWarning(sdkLog) << "request to" << devId << "dropped: its id is empty or holds a line break";
         return;
     }
-    if (const Shard *shard = m_shardOf.value(devId))
-        shard->worker->send(requestId, devId, text);
-    else
+    Shard *shard = m_shardOf.value(devId);
+    if (!shard) {
         qCDebug(sdkLog) << "request" << requestId << "dropped: device" << devId << "is unknown";
+        return;
+    }
+    // A run asks thousands of devices in one turn of the event loop. Their answers would come in the middle of it, and
+    // the network threads would take the processors from it that it needs to end.
+    shard->requests.append({requestId, devId, text});
+    if (!std::exchange(m_hasWaiting, true))
+        QMetaObject::invokeMethod(this, &WebSocketTransport::sendWaiting, Qt::QueuedConnection);
+}
+
+void WebSocketTransport::sendWaiting()
+{
+    m_hasWaiting = false;
+    for (const auto &shard : m_shards)
+        if (!shard->requests.isEmpty())
+            shard->worker->post(
+                [worker = shard->worker, requests = std::exchange(shard->requests, {})] { worker->send(requests); });
 }
 
 void WebSocketTransport::passedOn(const QString &requestId, const QString &text)
@@ -73,6 +89,7 @@ void WebSocketTransport::setDevices(const QList<DevInfo> &devices)
 {
     if (m_shards.empty())
         return;
+    sendWaiting();
     for (const auto &shard : m_shards)
         shard->deviceCount = 0;
     for (const DevInfo &device : devices)

@@ -49,12 +49,14 @@ private:
 
     Shard &shardFor(const DevInfo &device);
     void addShard();
+    void sendWaiting();
 
     std::unique_ptr<SharedLimits> m_limits; ///< of all shards
     std::vector<std::unique_ptr<Shard>> m_shards; ///< one at least; none after shutdown()
     /// By device id, those that are gone too: a device that comes back is reported by the thread that has said it was
     /// gone, in this order.
     QHash<QString, Shard *> m_shardOf;
+    bool m_hasWaiting = false; ///< requests
 };
 
 } // namespace vms_sdk

@@ -91,20 +91,9 @@ void NetworkWorker::callNext()
     function();
 }
 
-void NetworkWorker::send(const QString &requestId, const QString &devId, const QString &text)
+void NetworkWorker::send(const QVector<DeviceRequest> &requests)
 {
-    const std::lock_guard lock(m_mutex);
-    m_requests.append({requestId, devId, text});
-    if (m_requests.size() == 1)
-        QMetaObject::invokeMethod(this, &NetworkWorker::sendRequests, Qt::QueuedConnection);
-}
-
-void NetworkWorker::sendRequests()
-{
-    std::unique_lock lock(m_mutex);
-    const QVector<Request> requests = std::exchange(m_requests, {});
-    lock.unlock();
-    for (const Request &request : requests) {
+    for (const DeviceRequest &request : requests) {
         const auto known = m_links.find(request.devId);
         if (known != m_links.end())
             known->second->send(request.requestId, request.text);

@@ -18,6 +18,11 @@ class DeviceLink;
 class LinkHost;
 struct SharedLimits;
 
+struct DeviceRequest
+{
+    QString requestId, devId, text;
+};
+
 /// One network thread's side of WebSocketTransport: one link for each of its devices.
 class NetworkWorker : public QObject
 {
@@ -32,11 +37,10 @@ public:
     void setDevices(const QList<DevInfo> &devices);
     void connectAgain();
     void connectDevicesAgain(const QStringList &devIds);
+    void send(const QVector<DeviceRequest> &requests);
 
-    // From any thread:
-    /// Calls the function on the worker's thread, after those posted before.
+    /// From any thread: calls the function on the worker's thread, after those posted before.
     void post(std::function<void()> function);
-    void send(const QString &requestId, const QString &devId, const QString &text);
     void goOnReading(); ///< if there is room for answers now
 
 Q_SIGNALS:
@@ -47,19 +51,12 @@ Q_SIGNALS:
 private:
     using Links = std::unordered_map<QString, std::unique_ptr<DeviceLink>>;
 
-    struct Request
-    {
-        QString requestId, devId, text;
-    };
-
     std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
     void callNext();
-    void sendRequests();
     void setReading(bool isReading);
 
     std::mutex m_mutex;
     std::deque<std::function<void()>> m_calls; ///< under the mutex; one wake-up for each
-    QVector<Request> m_requests; ///< under the mutex; on their way into this thread, with one wake-up for all of them
     StatusRelay *m_states;
     LinkHost *m_host;
     Links m_links; ///< by device id; deleted before the host
