@@ -143,7 +143,8 @@ private slots:
         for (int i = 0; i < held.size(); ++i)
             new AudioParamsCfgTask(QString::number(i), {{"encType", "g711u"}}, AudioParamsCfgTask::AudioIn, &page);
         QTRY_COMPARE(transport->requests.size(), 2 * held.size());
-        for (const Request &request : transport->requests.mid(held.size())) {
+        const auto writes = transport->requests.mid(held.size());
+        for (const Request &request : writes) {
             QJsonObject expected = held.at(request.devId.toInt());
             if (!expected.isEmpty())
                 expected["encType"] = "g711u";
