@@ -5,6 +5,7 @@
 #include <vms_client_sdk/websocket/LinkHost.h>
 
 #include <QRandomGenerator>
+#include <array>
 #include <mutex>
 
 using namespace vms_sdk;
@@ -169,7 +170,10 @@ private slots:
     {
         SharedLimits shared({}, [] {});
         LinkHost one(shared, 0, nullptr), other(shared, 1, nullptr);
-        const auto name = [](quintptr number) { return reinterpret_cast<DeviceLink *>(number); }; // never looked at
+        std::array<int, 6> names{};
+        const auto name = [&](int number) {
+            return reinterpret_cast<DeviceLink *>(&names.at(number));
+        }; // not looked at
         KeptMemory kept;
         constexpr qint64 quarter = KeptMemory::maxBytes / 4;
         kept.set(&one, name(1), 2 * quarter);
