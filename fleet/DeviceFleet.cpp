@@ -142,9 +142,7 @@ void DeviceFleet::handOver(const QString &path, QTcpSocket *socket, const vms_sd
     FleetShard *shard = m_shardById.value(id);
     socket->setParent(nullptr);
     socket->moveToThread(shard->thread());
-    // The call owns the socket until it is carried out: a shard that ends before deletes both.
-    const auto owned = std::make_shared<std::unique_ptr<QTcpSocket>>(socket);
-    QMetaObject::invokeMethod(shard, [shard, id, owned, head] { shard->greet(id, std::move(*owned), head); });
+    shard->handOver(id, std::unique_ptr<QTcpSocket>(socket), head);
 }
 
 void DeviceFleet::onEachShard(const std::function<void(FleetShard &)> &function) const

@@ -6,6 +6,7 @@
 #include "fleet/SimulatedDevice.h"
 #include "fleet/Site.h"
 
+#include <vms_client_sdk/PostedCalls.h>
 #include <vms_client_sdk/websocket/WebSocketConnection.h>
 
 #include <QJsonDocument>
@@ -44,6 +45,7 @@ struct FleetShard::Device
 FleetShard::FleetShard(const FleetOptions &options, const FaultPlan &faults, QObject *parent)
     : QObject(parent)
     , m_latency(options.latency)
+    , m_calls(new vms_sdk::PostedCalls(this))
     , m_faults(faults)
 {
 }
@@ -56,6 +58,13 @@ const vms_sdk::DevInfo &FleetShard::add(const SiteDevice &device)
     Device *added = m_devices.back().get();
     m_deviceById.insert(added->info.id, added);
     return added->info;
+}
+
+void FleetShard::handOver(const QString &deviceId, std::unique_ptr<QTcpSocket> socket, const vms_sdk::HttpHead &head)
+{
+    // The call owns the socket until it is carried out: a shard that ends before deletes both.
+    const auto owned = std::make_shared<std::unique_ptr<QTcpSocket>>(std::move(socket));
+    m_calls->post([this, deviceId, owned, head] { greet(deviceId, std::move(*owned), head); });
 }
 
 void FleetShard::greet(const QString &deviceId, std::unique_ptr<QTcpSocket> socket, const vms_sdk::HttpHead &head)

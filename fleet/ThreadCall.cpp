@@ -10,6 +10,7 @@ namespace device_fleet {
 
 void callOnThreadOf(QObject *object, const std::function<void()> &function)
 {
+    Q_ASSERT(object); // nobody would ever answer
     if (object->thread() == QThread::currentThread())
         return function();
     std::mutex mutex;

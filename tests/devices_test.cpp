@@ -51,6 +51,7 @@ private slots:
         options.maxSettingUp = 2;
         options.maxWaiting = 3;
         options.devicesPerThread = 1; // what holds for one thread holds for many
+        options.maxThreads = 4;
         use(options);
         m_states.clear();
         m_troubles.clear();
@@ -322,6 +323,7 @@ private slots:
         WebSocketOptions options; // which wait for seconds
         options.maxSettingUp = 2;
         options.devicesPerThread = 5;
+        options.maxThreads = 4;
         use(options);
         const SilentDevices silent(40); // two are being set up, the others wait
         m_transport->setDevices(silent.infos);

@@ -1,7 +1,9 @@
 #include "fleet/EmbeddedFleet.h"
+#include "fleet/ThreadCall.h"
 #include "support/OrdaTest.h"
 
 #include <vms_client_sdk/WebSocketTransport.h>
+#include <vms_client_sdk/websocket/DeviceLink.h>
 #include <vms_client_sdk/websocket/LinkHost.h>
 
 #include <QRandomGenerator>
@@ -191,6 +193,30 @@ private slots:
         QCOMPARE(kept.takeTooLarge(&other), nullptr);
         kept.set(&one, name(4), 0); // gone before it was cut
         QCOMPARE(kept.takeTooLarge(&one), nullptr);
+    }
+
+    void aLinkOfAnotherThreadIsCut()
+    {
+        SharedLimits shared({}, [] {});
+        LinkHost one(shared, 0, nullptr);
+        QThread thread;
+        auto *other = new LinkHost(shared, 1, nullptr);
+        auto *link = new DeviceLink(m_site.constFirst(), *other); // never dialled
+        other->moveToThread(&thread);
+        link->moveToThread(&thread);
+        connect(&thread, &QThread::finished, link, [=] {
+            delete link;
+            delete other;
+        });
+        thread.start();
+        int name = 0;
+        shared.unfinished.set(other, link, KeptMemory::maxBytes);
+        expectWarning("does not finish its message");
+        one.setUnfinished(reinterpret_cast<DeviceLink *>(&name), 1);
+        device_fleet::callOnThreadOf(other, [] {}); // what was posted before is done
+        QCOMPARE(shared.unfinished.takeTooLarge(other), nullptr);
+        thread.quit();
+        thread.wait();
     }
 
 private:

@@ -25,17 +25,26 @@ QString makeRequestText(const QString &method, const std::optional<QJsonObject> 
     return QString::fromUtf8(json.constData(), json.size());
 }
 
+struct LastRequest
+{
+    std::optional<QJsonObject> param;
+    QString text;
+};
+
+int livingTasks = 0;
+
+/// By method; cleared when no task is left, because settings may be passwords.
+QHash<QString, LastRequest> &lastRequests()
+{
+    static QHash<QString, LastRequest> last;
+    return last;
+}
+
 /// Most devices of a run are asked the same, and many hold the same and are told the same, one after the other. The
 /// text is made for the first of them, because making it costs a multiple of comparing.
 QString requestText(const QString &method, const std::optional<QJsonObject> &param)
 {
-    struct Request
-    {
-        std::optional<QJsonObject> param;
-        QString text;
-    };
-    static QHash<QString, Request> lastByMethod; // no more than there are methods
-    Request &last = lastByMethod[method];
+    LastRequest &last = lastRequests()[method];
     if (last.text.isEmpty() || last.param != param)
         last = {param, makeRequestText(method, param)};
     return last.text;
@@ -58,6 +67,7 @@ ParamsCfgTask::ParamsCfgTask(const CfgFamily &family, const QString &devId, cons
     , m_flags(flags)
     , m_values(values)
 {
+    ++livingTasks;
     sendRead(m_family.exchangesOf(m_flags).constFirst());
     TaskRouter::instance().add(this);
 }
@@ -76,6 +86,8 @@ ParamsCfgTask::~ParamsCfgTask()
 {
     if (!m_finished)
         TaskRouter::instance().remove(this);
+    if (--livingTasks == 0)
+        lastRequests().clear();
 }
 
 void ParamsCfgTask::sendRead(int exchange)

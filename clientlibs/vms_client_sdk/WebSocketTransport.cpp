@@ -5,6 +5,7 @@
 #include <vms_client_sdk/websocket/SharedLimits.h>
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QThread>
 
 #include <algorithm>
@@ -67,8 +68,17 @@ void WebSocketTransport::send(const QString &requestId, const QString &devId, co
     // A run asks thousands of devices in one turn of the event loop. Their answers would come in the middle of it, and
     // the network threads would take the processors from it that it needs to end.
     shard->requests.append({requestId, devId, text});
+    // Before the drawing that the turn has asked for: the network goes on meanwhile.
     if (!std::exchange(m_hasWaiting, true))
-        QMetaObject::invokeMethod(this, &WebSocketTransport::sendWaiting, Qt::QueuedConnection);
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
+}
+
+bool WebSocketTransport::event(QEvent *event)
+{
+    if (event->type() != QEvent::User)
+        return DeviceTransport::event(event);
+    sendWaiting();
+    return true;
 }
 
 void WebSocketTransport::sendWaiting()
@@ -135,6 +145,8 @@ void WebSocketTransport::connectDevicesAgain(const QStringList &devIds)
 
 void WebSocketTransport::shutdown()
 {
+    if (m_shards.empty())
+        return;
     m_limits->places.hold(1); // for good: nobody is dialled in the going
     m_shardOf.clear();
     for (const auto &shard : m_shards)

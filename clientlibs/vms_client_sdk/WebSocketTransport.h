@@ -44,6 +44,9 @@ public:
     /// about to quit and by the destructor; every call after the first does nothing.
     void shutdown();
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     struct Shard; ///< a thread and its devices
 

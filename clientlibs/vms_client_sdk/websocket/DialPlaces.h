@@ -25,7 +25,9 @@ public:
     /// Which links are dialled first when there are more links than places; among their like those who came first.
     enum class Turn
     {
-        New, ///< thread by thread, so that few threads go through all their sockets for them
+        /// Thread by thread, and in a thread as they came, so that few threads go through all their sockets for them.
+        /// Devices that a site gets later may so be dialled before older ones of the next thread.
+        New,
         WasOnline, ///< lost, but it has worked before
         HasFailed ///< it has never worked, or was cut for exceeding its limits
     };

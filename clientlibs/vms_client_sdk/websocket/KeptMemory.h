@@ -10,7 +10,8 @@ class DeviceLink;
 class LinkHost;
 
 /// Memory that links use for their devices, over all network threads. When it is too much, the links with the most are
-/// to be cut. Knows the links as names only. Thread-safe.
+/// to be cut; until their threads have done so, they have a little time in which others may fill the room. Knows the
+/// links as names only. Thread-safe.
 class KeptMemory
 {
 public:

@@ -130,10 +130,13 @@ void LinkHost::setUnsent(DeviceLink *link, qint64 bytes)
 
 void LinkHost::cutWhatIsTooLarge()
 {
+    if (std::exchange(m_isCutting, true)) // a link that is cut comes back here
+        return;
     while (DeviceLink *link = m_shared.unfinished.takeTooLarge(this))
         link->cut(QStringLiteral("does not finish its message"));
     while (DeviceLink *link = m_shared.unsent.takeTooLarge(this))
         link->cut(QStringLiteral("does not take what is sent to it"));
+    m_isCutting = false;
 }
 
 void LinkHost::closeConnection(WebSocketConnection *connection, int closeCode)

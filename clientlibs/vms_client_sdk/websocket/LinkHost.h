@@ -77,6 +77,7 @@ private:
     std::set<std::pair<qint64, DeviceLink *>> m_deadlines;
     QHash<DeviceLink *, qint64> m_deadlineOf;
     bool m_isDialling = false;
+    bool m_isCutting = false;
     bool m_isReadingHeld = false;
 };
 

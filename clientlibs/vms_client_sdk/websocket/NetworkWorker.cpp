@@ -9,7 +9,8 @@
 namespace vms_sdk {
 
 NetworkWorker::NetworkWorker(SharedLimits &shared, int number)
-    : m_states(new StatusRelay(this))
+    : m_calls(new PostedCalls(this))
+    , m_states(new StatusRelay(this))
     , m_host(new LinkHost(shared, number, this))
 {
     connect(m_states, &StatusRelay::devStatusChanged, this, &NetworkWorker::devStatusChanged);
@@ -73,22 +74,6 @@ void NetworkWorker::connectDevicesAgain(const QStringList &devIds)
         if (known != m_links.end())
             known->second->dialNow();
     }
-}
-
-void NetworkWorker::post(std::function<void()> function)
-{
-    const std::lock_guard lock(m_mutex);
-    m_calls.push_back(std::move(function));
-    QMetaObject::invokeMethod(this, &NetworkWorker::callNext, Qt::QueuedConnection);
-}
-
-void NetworkWorker::callNext()
-{
-    std::unique_lock lock(m_mutex);
-    const std::function<void()> function = std::move(m_calls.front());
-    m_calls.pop_front();
-    lock.unlock();
-    function();
 }
 
 void NetworkWorker::send(const QVector<DeviceRequest> &requests)

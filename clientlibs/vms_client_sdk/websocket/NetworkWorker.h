@@ -1,15 +1,14 @@
 #pragma once
 
 #include <vms_client_sdk/DevInfo.h>
+#include <vms_client_sdk/PostedCalls.h>
 #include <vms_client_sdk/StatusRelay.h>
 
 #include <QObject>
 #include <QStringList>
 #include <QVector>
-#include <deque>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <unordered_map>
 
 namespace vms_sdk {
@@ -40,7 +39,7 @@ public:
     void send(const QVector<DeviceRequest> &requests);
 
     /// From any thread: calls the function on the worker's thread, after those posted before.
-    void post(std::function<void()> function);
+    void post(std::function<void()> function) { m_calls->post(std::move(function)); }
     void goOnReading(); ///< if there is room for answers now
 
 Q_SIGNALS:
@@ -52,11 +51,9 @@ private:
     using Links = std::unordered_map<QString, std::unique_ptr<DeviceLink>>;
 
     std::unique_ptr<DeviceLink> makeLink(const DevInfo &device);
-    void callNext();
     void setReading(bool isReading);
 
-    std::mutex m_mutex;
-    std::deque<std::function<void()>> m_calls; ///< under the mutex; one wake-up for each
+    PostedCalls *m_calls;
     StatusRelay *m_states;
     LinkHost *m_host;
     Links m_links; ///< by device id; deleted before the host
