@@ -9,6 +9,12 @@ PostedCalls::PostedCalls(QObject *parent)
 {
 }
 
+PostedCalls::~PostedCalls()
+{
+    const std::lock_guard lock(m_mutex); // the last post() was on another thread
+    m_calls.clear();
+}
+
 void PostedCalls::post(std::function<void()> function)
 {
     const std::lock_guard lock(m_mutex);

@@ -17,6 +17,7 @@ class PostedCalls : public QObject
 
 public:
     explicit PostedCalls(QObject *parent);
+    ~PostedCalls() override;
 
     void post(std::function<void()> function); ///< from any thread
 
