@@ -184,7 +184,7 @@ def unreadable(control):
     results.write_text(f'[1\n{{"device": 2}}\n{json.dumps(line)}\n{{"run')
     run.touch()
     script = PACKAGING / "roles" / "orda_site" / "files" / "complete_results.py"
-    told = json.loads(subprocess.run([sys.executable, script, "host", "site", results, out, run], check=True, stdout=subprocess.PIPE).stdout)
+    told = json.loads(subprocess.check_output([sys.executable, script, "host", "site", results, out, run]))
     yield from differing("faults", [fault.split(": ")[0] for fault in told["faults"]], [f"{results}:1", f"{results}:2", str(run)])
     yield from differing("lines", [json.loads(text) for text in out.read_text().splitlines()], [{"host": "host", "group": "site", **line}])
 
