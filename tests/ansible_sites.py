@@ -20,10 +20,11 @@ SITES = {"north": ["north-1"], "south": ["south-1", "south-2"], "west": ["west-1
 DEVICES = [f"dev-{number:04}" for number in range(1, 29) if number != 16]  # of 28, which is reached through others only
 FIRST_WAVE, SECOND_WAVE, OTHERS = DEVICES[:6], DEVICES[6:12], DEVICES[12:]
 # The west takes what it is sent in the second wave, and is killed before it answers.
-SLOW = {"devices": SECOND_WAVE, "methods": ["chnosd_set_param"], "fault": "late-answer", "delayMs": 4000}
+SLOW = {"devices": SECOND_WAVE, "methods": ["chnosd_set_param"], "fault": "late-answer", "delayMs": 12000}
 NAME = "Gate \"$HOME\" ~ 'a b' %"  # what a shell or Ansible would change
 PLAYBOOK = [{"hosts": "sites", "gather_facts": False, "roles": ["orda_site"]}]
 LIMIT = 60  # seconds
+SKIPPED = 77
 
 
 class Site:
@@ -117,9 +118,10 @@ def differing(what, found, expected):
 
 def kill_in_the_second_wave(control):
     """The west's orda_batch, when its devices hold what they were sent and the first wave has been told."""
-    west, told = control.sites["west"], control.directory / "west-1" / "result.jsonl"
-    wait_for(lambda: told.exists() and told.read_text().count("\n") == len(FIRST_WAVE) and west.named() == FIRST_WAVE + SECOND_WAVE)
-    os.kill(int(control.directory.joinpath("west-1", "pid").read_text()), signal.SIGKILL)
+    west, own = control.sites["west"], lambda name: control.directory.glob(f"west-1/play-*/{name}")
+    told = lambda: sum(path.read_text().count("\n") for path in own("result.jsonl"))
+    wait_for(lambda: told() == len(FIRST_WAVE) and west.named() == FIRST_WAVE + SECOND_WAVE)
+    os.kill(int(next(own("pid")).read_text()), signal.SIGKILL)
 
 
 def unconfirmed(control):
@@ -145,18 +147,46 @@ def killed(control):
     yield from differing("whether the west's run is among them", [found == set(west) for found, _ in runs].count(True), 1)
     shares = [sent for _, sent in runs if len(sent) < len(DEVICES) and not sent == set(FIRST_WAVE + SECOND_WAVE)]
     yield from differing("devices of both shares of the south", sorted(device for share in shares for device in share), DEVICES)
-    private = control.directory.joinpath("west-1", "site.json").stat().st_mode & 0o777
-    yield from differing("mode of the west's inventory", private, 0o600)
+    kept = [path.name for site in SITES.values() for host in site for path in control.directory.joinpath(host).iterdir()]
+    yield from differing("left on the hosts", kept, ["lock", "state"] * 4)
+    mine = control.directory.joinpath("results").rglob("*")
+    yield from differing("results that others may read", [path for path in mine if path.stat().st_mode & 0o077], [])
 
 
 def again(control):
-    said, code = control.play("-e", '{"orda_site_confirmed": true, "orda_site_devices": ["failed:last"]}', "--limit", "@sites.retry")
+    said, code = control.play("-e", '{"orda_site_confirmed": true, "orda_site_devices": ["failed:last-play"]}', "--limit", "@sites.retry")
     yield from differing("exit code", (code, said), (0, said))
     west = all_of("unchanged", SECOND_WAVE) + all_of("done", OTHERS)
     yield from differing("results", control.results(), {"north": all_of("done"), "south": all_of("done"), "west": west})
     yield from differing("devices of the west that were configured", control.sites["west"].named(), DEVICES)
     yield from differing("number of runs in the history", len(control.runs()), 5)
     yield from differing("devices that something was sent to", control.runs()[0][1], set(SECOND_WAVE + OTHERS))
+
+
+def never_begun(control):
+    said, code = control.play("-e", "orda_site_confirmed=true orda_site_command=undo orda_site_run=last-play")
+    yield from differing("exit code, hosts without a run", (code, said.count("Nothing is done")), (0, 4))
+
+
+def undone(control):
+    """Twice: the second one finds that all is taken back, and does not take back the first."""
+    undo = ("-e", "orda_site_confirmed=true orda_site_command=undo orda_site_run=last-play", "--limit", "west")
+    for _ in range(2):
+        said, code = control.play(*undo)
+        yield from differing("exit code", (code, said), (0, said))
+        yield from differing("devices of the west that keep the name", control.sites["west"].named(), FIRST_WAVE + SECOND_WAVE)
+
+
+def unreadable(control):
+    """A line and a run that are broken are told, and cost no other line."""
+    results, run, out = (control.directory / name for name in ("broken.jsonl", "run-empty.json", "out.jsonl"))
+    line = {"run": "1", "device": "dev-1", "outcome": "done"}
+    results.write_text(f'[1\n{{"device": 2}}\n{json.dumps(line)}\n{{"run')
+    run.touch()
+    script = PACKAGING / "roles" / "orda_site" / "files" / "complete_results.py"
+    told = json.loads(subprocess.check_output([sys.executable, script, "host", "site", results, out, run]))
+    yield from differing("faults", [fault.split(": ")[0] for fault in told["faults"]], [f"{results}:1", f"{results}:2", str(run)])
+    yield from differing("lines", [json.loads(text) for text in out.read_text().splitlines()], [{"host": "host", "group": "site", **line}])
 
 
 def main():
@@ -166,7 +196,7 @@ def main():
     found = []
     with tempfile.TemporaryDirectory() as name, contextlib.ExitStack() as stack:
         control = Control(stack, pathlib.Path(name))
-        for check in (unconfirmed, killed, again):
+        for check in (unreadable, unconfirmed, never_begun, killed, again, undone):
             began = time.monotonic()
             found += [f"{check.__name__}: {fault}" for fault in check(control)]
             print(f"{check.__name__}: {time.monotonic() - began:.1f} s")
