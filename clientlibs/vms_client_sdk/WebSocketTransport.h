@@ -26,7 +26,8 @@ public:
     explicit WebSocketTransport(QObject *parent = nullptr, const WebSocketOptions &options = {});
     ~WebSocketTransport() override;
 
-    /// A request to a device that is not online is dropped, never sent later.
+    /// Requests leave when the present turn of the event loop ends, those of a device in their order. One to a device
+    /// that is not online then is dropped, never sent later.
     void send(const QString &requestId, const QString &devId, const QString &text) override;
 
     void passedOn(const QString &requestId, const QString &text) override;
